@@ -1,0 +1,61 @@
+#pragma once
+
+// Points and rectangles in window pixels, and the distinct type for pixels of a tile.
+// Only the canvas view converts between the two.
+
+namespace quadrelle {
+
+struct Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
+// A pixel of a tile; may lie outside of it.
+struct Tile_Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Tile_Point&) const = default;
+};
+
+struct Size {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Size&) const = default;
+};
+
+// Contains its left and top edges, not its right and bottom edges.
+struct Rectangle {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const Rectangle&) const = default;
+
+    [[nodiscard]] constexpr int right() const { return x + width; }
+    [[nodiscard]] constexpr int bottom() const { return y + height; }
+    [[nodiscard]] constexpr bool is_empty() const { return width <= 0 || height <= 0; }
+    [[nodiscard]] constexpr bool contains(Point point) const {
+        return point.x >= x && point.y >= y && point.x < right() && point.y < bottom();
+    }
+    [[nodiscard]] constexpr bool intersects(const Rectangle& other) const {
+        return x < other.right() && other.x < right() && y < other.bottom() && other.y < bottom();
+    }
+    // Shrunk on all four sides; a negative amount grows it.
+    [[nodiscard]] constexpr Rectangle inset(int amount) const {
+        return {x + amount, y + amount, width - 2 * amount, height - 2 * amount};
+    }
+    [[nodiscard]] constexpr Rectangle moved(int dx, int dy) const { return {x + dx, y + dy, width, height}; }
+};
+
+// A size centred in an area, both halves rounded toward zero.
+[[nodiscard]] constexpr Rectangle centred(Size size, const Rectangle& area) {
+    return {area.x + (area.width - size.width) / 2, area.y + (area.height - size.height) / 2, size.width,
+            size.height};
+}
+
+} // namespace quadrelle
