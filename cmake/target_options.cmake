@@ -1,0 +1,23 @@
+# Warnings and link options of our own targets; libraries that we only use are not held to them.
+if(QUADRELLE_LEAN)
+    include(CheckIPOSupported)
+    check_ipo_supported(RESULT link_time_optimisation OUTPUT ignored LANGUAGES CXX)
+endif()
+
+function(quadrelle_options target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+    if(QUADRELLE_LEAN)
+        target_compile_options(${target} PRIVATE -ffunction-sections -fdata-sections)
+        set_target_properties(${target} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ${link_time_optimisation})
+        if(NOT APPLE)
+            target_link_options(${target} PRIVATE -Wl,--gc-sections -Wl,--as-needed)
+        endif()
+        if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT APPLE)
+            target_link_options(${target} PRIVATE -static-libgcc -static-libstdc++)
+        endif()
+    endif()
+    if(MINGW)
+        # The program stands alone: no runtime library has to lie beside it.
+        target_link_options(${target} PRIVATE -static)
+    endif()
+endfunction()

@@ -1,0 +1,39 @@
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS tests/*.cpp tests/*.h)
+if(test_sources)
+    add_executable(quadrelle_tests ${test_sources})
+    target_include_directories(quadrelle_tests PRIVATE ${CMAKE_SOURCE_DIR})
+    target_link_libraries(quadrelle_tests PRIVATE quadrelle_core GTest::gmock GTest::gtest_main)
+    target_compile_definitions(quadrelle_tests PRIVATE QUADRELLE_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_precompile_headers(quadrelle_tests PRIVATE <gtest/gtest.h>)
+    quadrelle_options(quadrelle_tests)
+    if(TARGET quadrelle)
+        # Some tests start the program itself.
+        target_compile_definitions(quadrelle_tests PRIVATE QUADRELLE_PROGRAM="$<TARGET_FILE:quadrelle>")
+        add_dependencies(quadrelle_tests quadrelle)
+    endif()
+    gtest_discover_tests(quadrelle_tests
+        DISCOVERY_MODE PRE_TEST
+        WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
+        PROPERTIES TIMEOUT 60 ENVIRONMENT "SDL_VIDEO_DRIVER=dummy;SDL_RENDER_DRIVER=software")
+endif()
+
+# Whole sessions on an X server of their own with a real pointer; files named common* are parts of the others.
+file(GLOB desktop_tests CONFIGURE_DEPENDS tests/desktop/*.sh)
+list(FILTER desktop_tests EXCLUDE REGEX "/common[^/]*$")
+find_program(XVFB_RUN xvfb-run)
+if(desktop_tests AND NOT XVFB_RUN)
+    message(WARNING "The desktop tests are left out: there is no xvfb-run")
+elseif(desktop_tests AND TARGET quadrelle)
+    foreach(script ${desktop_tests})
+        get_filename_component(name ${script} NAME_WE)
+        add_test(NAME desktop.${name}
+            COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x800x24" bash ${script}
+            WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
+        set_tests_properties(desktop.${name} PROPERTIES
+            LABELS desktop TIMEOUT 120 RESOURCE_LOCK display
+            ENVIRONMENT "QUADRELLE_PROGRAM=$<TARGET_FILE:quadrelle>;QUADRELLE_SOURCE_DIR=${CMAKE_SOURCE_DIR}")
+    endforeach()
+endif()
