@@ -1,17 +1,13 @@
 #include "app/streaming_texture.h"
 
 #include "app/fatal.h"
+#include "app/float_rectangle.h"
 
 #include <SDL3/SDL.h>
 
 namespace quadrelle {
 
 namespace {
-
-SDL_FRect to_float(const Rectangle& area) {
-    return {static_cast<float>(area.x), static_cast<float>(area.y), static_cast<float>(area.width),
-            static_cast<float>(area.height)};
-}
 
 // Red in the highest byte: alpha, blue, green, red in memory on a little-endian machine.
 Uint32 rgba8888(Color color) {
@@ -66,8 +62,8 @@ void Streaming_Texture::draw_part(const Rectangle& source, const Rectangle& dest
     if (!texture_) {
         return;
     }
-    const SDL_FRect from = to_float(source);
-    const SDL_FRect to = to_float(destination);
+    const SDL_FRect from = float_rectangle(source);
+    const SDL_FRect to = float_rectangle(destination);
     SDL_RenderTexture(renderer_, texture_.get(), &from, &to);
 }
 

@@ -1,0 +1,66 @@
+#include "app/events.h"
+
+#include <SDL3/SDL.h>
+
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+// Long enough to keep the processor free, short enough that nobody notices.
+constexpr Uint32 idle_milliseconds = 10;
+
+Wait_Watcher& watcher() {
+    static Wait_Watcher the_watcher;
+    return the_watcher;
+}
+
+void tell_watcher(std::string_view loop) {
+    if (watcher()) {
+        watcher()(loop);
+    }
+}
+
+} // namespace
+
+void set_wait_watcher(Wait_Watcher new_watcher) { watcher() = std::move(new_watcher); }
+
+SDL_Event wait_event(std::string_view loop) {
+    tell_watcher(loop);
+    SDL_Event event{};
+    while (!SDL_WaitEvent(&event)) {
+        SDL_Delay(idle_milliseconds);
+    }
+    return event;
+}
+
+void run_modal(const Modal_Loop& loop) {
+    Loop_Step step = Loop_Step::go_on;
+    while (step == Loop_Step::go_on) {
+        loop.draw();
+        step = loop.handle(wait_event(loop.name));
+    }
+}
+
+void idle(std::string_view loop) {
+    tell_watcher(loop);
+    SDL_Event event{};
+    while (SDL_PollEvent(&event)) {
+    }
+    SDL_Delay(idle_milliseconds);
+}
+
+Pointer_State pointer_of(const SDL_MouseButtonEvent& event) {
+    return {event.x, event.y, mouse_button(event.button)};
+}
+
+Pointer_State pointer_of(const SDL_MouseMotionEvent& event) { return {event.x, event.y, Mouse_Button::none}; }
+
+Key_Chord key_chord_of(const SDL_KeyboardEvent& event) {
+    const Held_Modifiers held{(event.mod & SDL_KMOD_SHIFT) != 0, (event.mod & SDL_KMOD_CTRL) != 0,
+                              (event.mod & SDL_KMOD_ALT) != 0};
+    return make_key_chord(event.key, held);
+}
+
+} // namespace quadrelle

@@ -1,0 +1,39 @@
+#pragma once
+
+// The one place where events are taken, and the one loop that every modal view runs.
+
+#include "app/input.h"
+
+#include <SDL3/SDL_events.h>
+
+#include <functional>
+#include <string_view>
+
+namespace quadrelle {
+
+// Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
+[[nodiscard]] SDL_Event wait_event(std::string_view loop);
+
+enum class Loop_Step { go_on, end };
+
+// Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event like
+// the others: a modal loop consumes it.
+struct Modal_Loop {
+    std::string_view name;
+    std::function<void()> draw;
+    std::function<Loop_Step(const SDL_Event&)> handle;
+};
+void run_modal(const Modal_Loop& loop);
+
+// Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
+void idle(std::string_view loop);
+
+// Called with the loop's name before each wait; a test feeds its next event from here.
+using Wait_Watcher = std::function<void(std::string_view loop)>;
+void set_wait_watcher(Wait_Watcher watcher);
+
+[[nodiscard]] Pointer_State pointer_of(const SDL_MouseButtonEvent& event);
+[[nodiscard]] Pointer_State pointer_of(const SDL_MouseMotionEvent& event);
+[[nodiscard]] Key_Chord key_chord_of(const SDL_KeyboardEvent& event);
+
+} // namespace quadrelle
