@@ -2,7 +2,9 @@
 
 // The one colour value of tiles, tools, palettes and the interface, and its arithmetic.
 
-#include <array>
+#include "color/bounded_value.h"
+
+#include <algorithm>
 #include <cstdint>
 
 namespace quadrelle {
@@ -19,8 +21,128 @@ struct Color {
         : b(static_cast<std::uint8_t>(blue)), g(static_cast<std::uint8_t>(green)),
           r(static_cast<std::uint8_t>(red)), a(static_cast<std::uint8_t>(alpha)) {}
 
+    // From and to 0xAARRGGBB.
+    [[nodiscard]] static constexpr Color from_word(std::uint32_t word);
+    [[nodiscard]] constexpr std::uint32_t word() const;
+
     // All four channels; `same_rgb` is the comparison that ignores alpha.
     constexpr bool operator==(const Color&) const = default;
+    [[nodiscard]] constexpr bool same_rgb(Color other) const {
+        return r == other.r && g == other.g && b == other.b;
+    }
+
+    constexpr void set(int red, int green, int blue, int alpha) { *this = Color(red, green, blue, alpha); }
+    constexpr void set_rgb(int red, int green, int blue) { *this = Color(red, green, blue, a); }
+    // Transparent black.
+    constexpr void clear() { *this = Color(0, 0, 0, 0); }
+
+    // 0 red, 1 green, 2 blue; every other index is alpha.
+    [[nodiscard]] constexpr std::uint8_t channel(int index) const;
+    [[nodiscard]] constexpr std::uint8_t& channel(int index);
+    [[nodiscard]] constexpr std::uint8_t max_channel() const { return std::max({r, g, b}); }
+    [[nodiscard]] constexpr std::uint8_t min_channel() const { return std::min({r, g, b}); }
+    [[nodiscard]] constexpr bool is_grey() const { return r == g && g == b; }
+
+    // Modulo 256: these wrap around on purpose.
+    constexpr void add(int red, int green, int blue, int alpha);
+    constexpr void add_rgb(int red, int green, int blue) { add(red, green, blue, 0); }
+    // Adds to the channel of that index within 0 to 255: 0, or -1 when it met a bound.
+    constexpr int add_clamped(int index, int amount);
+
+    constexpr void invert() { set_rgb(255 - r, 255 - g, 255 - b); }
+
+    // Red, green and blue by the same amount within 0 to 255. Sums of real numbers are truncated.
+    constexpr void brighten(int amount) { shift(std::clamp(amount, -255, 255)); }
+    constexpr void darken(int amount) { shift(-std::clamp(amount, -255, 255)); }
+    constexpr void brighten(double amount) { shift(amount, amount, amount); }
+    constexpr void darken(double amount) { brighten(-amount); }
+    // By the weight of each channel in the eye. The weight of blue is no misprint of 0.114: the weights
+    // sum to 1.03 deliberately.
+    constexpr void brighten_weighted(double amount) { shift(0.299 * amount, 0.587 * amount, 0.144 * amount); }
+    constexpr void darken_weighted(double amount) { brighten_weighted(-amount); }
+
+    // Half this and half the other, truncated, with the other's alpha.
+    constexpr void average(Color other);
+    // The share `own` (0 to 1) of this and the rest of the other, truncated, with the other's alpha.
+    constexpr void blend(Color other, double own);
+    // Keeps the length of (red, green, blue) and takes the other's direction; black as other gives black.
+    void match_direction(Color other);
+    // Keeps the value and alpha and takes the other's hue and saturation.
+    void take_hue(Color other);
+
+    // Relative luminance as sRGB defines it, 0 to 1.
+    [[nodiscard]] double luminance() const;
+    // Darker to the eye than the middle between black and white.
+    [[nodiscard]] bool is_dark() const;
+
+private:
+    constexpr void shift(int amount);
+    constexpr void shift(double red, double green, double blue);
 };
+
+static_assert(sizeof(Color) == 4);
+
+constexpr Color Color::from_word(std::uint32_t word) {
+    return {static_cast<int>(word >> 16U & 255U), static_cast<int>(word >> 8U & 255U),
+            static_cast<int>(word & 255U), static_cast<int>(word >> 24U)};
+}
+
+constexpr std::uint32_t Color::word() const {
+    return std::uint32_t{a} << 24U | std::uint32_t{r} << 16U | std::uint32_t{g} << 8U | std::uint32_t{b};
+}
+
+constexpr std::uint8_t Color::channel(int index) const {
+    return Color(*this).channel(index);
+}
+
+constexpr std::uint8_t& Color::channel(int index) {
+    switch (index) {
+    case 0: return r;
+    case 1: return g;
+    case 2: return b;
+    default: return a;
+    }
+}
+
+constexpr void Color::add(int red, int green, int blue, int alpha) {
+    const auto wrapped = [](std::uint8_t channel, int amount) {
+        return static_cast<std::uint8_t>(channel + static_cast<unsigned>(amount));
+    };
+    r = wrapped(r, red);
+    g = wrapped(g, green);
+    b = wrapped(b, blue);
+    a = wrapped(a, alpha);
+}
+
+constexpr int Color::add_clamped(int index, int amount) {
+    std::uint8_t& target = channel(index);
+    const int sum = target + std::clamp(amount, -256, 256);
+    target = clamped_channel(sum);
+    return sum == target ? 0 : -1;
+}
+
+constexpr void Color::average(Color other) {
+    *this = {(r + other.r) / 2, (g + other.g) / 2, (b + other.b) / 2, other.a};
+}
+
+constexpr void Color::blend(Color other, double own) {
+    const double rest = 1.0 - own;
+    r = truncated_channel(r * own + other.r * rest);
+    g = truncated_channel(g * own + other.g * rest);
+    b = truncated_channel(b * own + other.b * rest);
+    a = other.a;
+}
+
+constexpr void Color::shift(int amount) {
+    r = clamped_channel(r + amount);
+    g = clamped_channel(g + amount);
+    b = clamped_channel(b + amount);
+}
+
+constexpr void Color::shift(double red, double green, double blue) {
+    r = truncated_channel(r + red);
+    g = truncated_channel(g + green);
+    b = truncated_channel(b + blue);
+}
 
 } // namespace quadrelle

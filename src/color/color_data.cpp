@@ -1,0 +1,50 @@
+#include "color/color_data.h"
+
+#include "app/fatal.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdio>
+
+namespace quadrelle {
+
+namespace {
+
+std::span<const Named_Color> up_to_the_end_row(std::span<const Named_Color> table) {
+    const auto is_end = [](const Named_Color& row) { return row.name.starts_with('$'); };
+    const auto end = std::ranges::find_if(table, is_end);
+    return table.first(static_cast<std::size_t>(end - table.begin()));
+}
+
+} // namespace
+
+Color_Data::Color_Data(std::span<const Named_Color> table) : rows_(up_to_the_end_row(table)) {
+    for (const Named_Color& row : rows_) {
+        if (!names_.emplace(row.color.word(), row.name).second) {
+            fatal("Matching id found in color data.");
+        }
+    }
+}
+
+std::optional<std::string_view> Color_Data::name_of(Color color) const {
+    const auto found = names_.find(color.word());
+    return found == names_.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::string_view Color_Data::shown_name(Color color) const {
+    return name_of(color).value_or("---");
+}
+
+void Color_Data::all(std::vector<Named_Color>& list) const {
+    list.insert(list.end(), rows_.begin(), rows_.end());
+}
+
+std::string color_information(Color color) {
+    std::array<char, 96> text{};
+    std::snprintf(text.data(), text.size(), "R: %u, G: %u, B: %u\rAlpha: %u\rLuminance: %.1f",
+                  unsigned{color.r}, unsigned{color.g}, unsigned{color.b}, unsigned{color.a},
+                  color.luminance() * 100.0);
+    return text.data();
+}
+
+} // namespace quadrelle

@@ -1,0 +1,26 @@
+#pragma once
+
+// A colour as hue, saturation and value.
+
+#include "color/bounded_value.h"
+#include "color/color.h"
+
+namespace quadrelle {
+
+struct HSV_Color {
+    // Degrees, 0 to below 360 after `from_rgb`; not a number when the colour and its reference are grey.
+    double hue = 0.0;
+    Bounded_Value saturation{0.0, 1.0};
+    // On the scale of the channels, not a fraction.
+    Bounded_Value value{0.0, 255.0};
+
+    HSV_Color() = default;
+    HSV_Color(Color color, Color reference) { from_rgb(color, reference); }
+
+    // The reference gives the hue when the colour is grey.
+    void from_rgb(Color color, Color reference);
+    // Opaque. A hue that is not a number or is outside 0 to 420 gives the grey of the value.
+    [[nodiscard]] Color to_rgb() const;
+};
+
+} // namespace quadrelle
