@@ -1,0 +1,31 @@
+#pragma once
+
+// Whether the process stands in the program's folder or in "data" below it.
+
+#include <string>
+
+namespace quadrelle {
+
+class Data_Directory {
+public:
+    // Rows of the table of folders: 0 is the program's folder, 1 is "data".
+    static constexpr int outside = 0;
+    static constexpr int inside = 1;
+
+    // False when already there or when the folder cannot be entered; deliberately, the row counts as entered
+    // in the second case too.
+    bool enter(int row);
+    void leave();
+    [[nodiscard]] int index() const { return index_; }
+
+    // How to open a data file from where the process stands.
+    [[nodiscard]] std::string path(const std::string& file_name) const;
+
+private:
+    int index_ = outside;
+};
+
+// The one of this process.
+[[nodiscard]] Data_Directory& data_directory();
+
+} // namespace quadrelle

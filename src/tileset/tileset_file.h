@@ -1,0 +1,30 @@
+#pragma once
+
+// Tilesets in ".qdl" files: 11 bytes of header, then the pixels of all tiles.
+
+#include "tileset/tileset.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace quadrelle {
+
+constexpr std::int64_t tileset_header_size = 11;
+
+// Bytes written, or -1 with the old file, if any, unchanged and nothing left behind. Through a symbolic link
+// it is the file that it points to which is replaced.
+[[nodiscard]] std::int64_t save_tileset(const Tileset& tileset, const std::string& path);
+
+enum class Load_Outcome { loaded, not_a_tileset };
+
+struct Loaded_Tileset {
+    Load_Outcome outcome = Load_Outcome::not_a_tileset;
+    // Null unless loaded. With the first tile as the current one, or with no tile at all.
+    std::unique_ptr<Tileset> tileset;
+};
+
+// A file that cannot be opened is no tileset; one that ends before its last tile does is a fatal error.
+[[nodiscard]] Loaded_Tileset load_tileset(const std::string& path);
+
+} // namespace quadrelle
