@@ -24,7 +24,9 @@ void tell_watcher(std::string_view loop) {
 
 } // namespace
 
-void set_wait_watcher(Wait_Watcher new_watcher) { watcher() = std::move(new_watcher); }
+void set_wait_watcher(Wait_Watcher new_watcher) {
+    watcher() = std::move(new_watcher);
+}
 
 SDL_Event wait_event(std::string_view loop) {
     tell_watcher(loop);
@@ -46,8 +48,7 @@ void run_modal(const Modal_Loop& loop) {
 void idle(std::string_view loop) {
     tell_watcher(loop);
     SDL_Event event{};
-    while (SDL_PollEvent(&event)) {
-    }
+    while (SDL_PollEvent(&event)) {}
     SDL_Delay(idle_milliseconds);
 }
 
@@ -55,7 +56,9 @@ Pointer_State pointer_of(const SDL_MouseButtonEvent& event) {
     return {event.x, event.y, mouse_button(event.button)};
 }
 
-Pointer_State pointer_of(const SDL_MouseMotionEvent& event) { return {event.x, event.y, Mouse_Button::none}; }
+Pointer_State pointer_of(const SDL_MouseMotionEvent& event) {
+    return {event.x, event.y, Mouse_Button::none};
+}
 
 Key_Chord key_chord_of(const SDL_KeyboardEvent& event) {
     const Held_Modifiers held{(event.mod & SDL_KMOD_SHIFT) != 0, (event.mod & SDL_KMOD_CTRL) != 0,

@@ -16,8 +16,8 @@ namespace quadrelle {
 
 enum class Loop_Step { go_on, end };
 
-// Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event like
-// the others: a modal loop consumes it.
+// Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event
+// like the others: a modal loop consumes it.
 struct Modal_Loop {
     std::string_view name;
     std::function<void()> draw;

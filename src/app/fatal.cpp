@@ -17,7 +17,9 @@ namespace {
 
 } // namespace
 
-void fatal(std::string_view message) { print_and_exit("Error: " + std::string(message) + "!\n"); }
+void fatal(std::string_view message) {
+    print_and_exit("Error: " + std::string(message) + "!\n");
+}
 
 void fatal(std::string_view message, std::string_view detail) {
     print_and_exit("Error: " + std::string(message) + " " + std::string(detail) + "!\n");

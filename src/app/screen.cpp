@@ -21,7 +21,8 @@ namespace {
 constexpr char line_break = '\r';
 
 // Calls `use` with every line of the text, from the top.
-template <typename Use> void for_each_line(std::string_view text, Use use) {
+template <typename Use>
+void for_each_line(std::string_view text, Use use) {
     for (;;) {
         const std::size_t end = text.find(line_break);
         use(text.substr(0, end));
@@ -41,7 +42,9 @@ void prefer_fast_presents() {
 
 } // namespace
 
-void Screen::Window_Deleter::operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
+void Screen::Window_Deleter::operator()(SDL_Window* window) const {
+    SDL_DestroyWindow(window);
+}
 
 void Screen::Renderer_Deleter::operator()(SDL_Renderer* renderer) const {
     set_active_renderer(nullptr);
@@ -74,7 +77,9 @@ void Screen::clear() {
     SDL_RenderClear(renderer_.get());
 }
 
-void Screen::present() { SDL_RenderPresent(renderer_.get()); }
+void Screen::present() {
+    SDL_RenderPresent(renderer_.get());
+}
 
 // An opaque colour needs no blending, which the software renderer does pixel by pixel.
 void Screen::set_draw_color(Color color) {
@@ -156,7 +161,9 @@ void Screen::draw_sprite_sized(Sprite sprite, const Rectangle& destination) {
     sprites_->draw_sprite(sprite, destination);
 }
 
-void Screen::draw_texture(const Texture& texture, Point position) { texture.draw_at(position); }
+void Screen::draw_texture(const Texture& texture, Point position) {
+    texture.draw_at(position);
+}
 
 Point Screen::draw_text(Font font, Point position, std::string_view text) {
     const int left = position.x;
@@ -172,7 +179,8 @@ Point Screen::draw_text(Font font, Point position, std::string_view text) {
 
 int Screen::text_width(Font font, std::string_view text) const {
     int width = 0;
-    for_each_line(text, [&](std::string_view line) { width = std::max(width, sprites_->text_width(font, line)); });
+    for_each_line(text,
+                  [&](std::string_view line) { width = std::max(width, sprites_->text_width(font, line)); });
     return width;
 }
 
@@ -202,7 +210,9 @@ void Screen::set_title(std::string_view text) {
     SDL_SetWindowTitle(window_.get(), title.c_str());
 }
 
-void Screen::set_relative_mouse_mode(bool on) { SDL_SetWindowRelativeMouseMode(window_.get(), on); }
+void Screen::set_relative_mouse_mode(bool on) {
+    SDL_SetWindowRelativeMouseMode(window_.get(), on);
+}
 
 void Screen::show_cursor(bool visible) {
     if (visible) {
@@ -227,6 +237,8 @@ std::string Screen::renderer_name() const {
     return name == nullptr ? "" : name;
 }
 
-int Screen::text_rows() const { return size_.height / line_height(Font::regular); }
+int Screen::text_rows() const {
+    return size_.height / line_height(Font::regular);
+}
 
 } // namespace quadrelle

@@ -17,7 +17,9 @@ Uint32 rgba8888(Color color) {
 
 } // namespace
 
-void Texture_Deleter::operator()(SDL_Texture* texture) const { SDL_DestroyTexture(texture); }
+void Texture_Deleter::operator()(SDL_Texture* texture) const {
+    SDL_DestroyTexture(texture);
+}
 
 Streaming_Texture::Streaming_Texture(std::span<const Color> pixels, Size size, SDL_Renderer* renderer)
     : size_(size), renderer_(renderer) {
@@ -42,7 +44,8 @@ void Streaming_Texture::upload(std::span<const Color> pixels) {
     }
     auto source = pixels.begin();
     for (int y = 0; y < size_.height; ++y) {
-        auto* row = reinterpret_cast<Uint32*>(static_cast<std::byte*>(memory) + static_cast<std::ptrdiff_t>(y) * pitch);
+        auto* row = reinterpret_cast<Uint32*>(static_cast<std::byte*>(memory) +
+                                              static_cast<std::ptrdiff_t>(y) * pitch);
         for (int x = 0; x < size_.width; ++x) {
             row[x] = rgba8888(*source++);
         }

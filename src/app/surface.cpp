@@ -21,13 +21,19 @@ Rgba_Quad to_quad(std::uint32_t word) {
             static_cast<std::uint8_t>(word), static_cast<std::uint8_t>(word >> 24U)};
 }
 
-SDL_Rect to_sdl(const Rectangle& area) { return {area.x, area.y, area.width, area.height}; }
+SDL_Rect to_sdl(const Rectangle& area) {
+    return {area.x, area.y, area.width, area.height};
+}
 
 } // namespace
 
-void Surface::Deleter::operator()(SDL_Surface* surface) const { SDL_DestroySurface(surface); }
+void Surface::Deleter::operator()(SDL_Surface* surface) const {
+    SDL_DestroySurface(surface);
+}
 
-Surface::Surface(Size size) { make(size); }
+Surface::Surface(Size size) {
+    make(size);
+}
 
 Surface::Surface(const std::string& file_name, std::optional<Rgba_Quad> key) {
     const Handle bitmap(SDL_LoadBMP(file_name.c_str()));
@@ -80,7 +86,9 @@ void Surface::blit_to(Surface& destination, const Rectangle& from, const Rectang
     SDL_BlitSurface(surface_.get(), &source, destination.surface_.get(), &target);
 }
 
-void Surface::fill(Rgba_Quad color) { SDL_FillSurfaceRect(surface_.get(), nullptr, to_word(color)); }
+void Surface::fill(Rgba_Quad color) {
+    SDL_FillSurfaceRect(surface_.get(), nullptr, to_word(color));
+}
 
 void Surface::fill_rect(const Rectangle& area, Rgba_Quad color) {
     const SDL_Rect rect = to_sdl(area);
@@ -92,7 +100,8 @@ bool Surface::contains(int x, int y) const {
 }
 
 std::uint32_t* Surface::pixel(int x, int y) const {
-    auto* row = static_cast<std::uint8_t*>(surface_->pixels) + static_cast<std::ptrdiff_t>(y) * surface_->pitch;
+    auto* row =
+        static_cast<std::uint8_t*>(surface_->pixels) + static_cast<std::ptrdiff_t>(y) * surface_->pitch;
     return reinterpret_cast<std::uint32_t*>(row) + x;
 }
 

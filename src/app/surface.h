@@ -26,7 +26,9 @@ struct Rgba_Quad {
     bool operator==(const Rgba_Quad&) const = default;
 };
 
-[[nodiscard]] constexpr Rgba_Quad to_rgba(Color color) { return {color.r, color.g, color.b, color.a}; }
+[[nodiscard]] constexpr Rgba_Quad to_rgba(Color color) {
+    return {color.r, color.g, color.b, color.a};
+}
 
 constexpr Rgba_Quad default_color_key{255, 0, 255, 255};
 
@@ -34,8 +36,8 @@ class Surface {
 public:
     // An empty, transparent surface. Fatal when it cannot be made.
     explicit Surface(Size size);
-    // A bitmap file (name in UTF-8) whose pixels become opaque, or transparent where red, green and blue equal
-    // those of the key. A bitmap that cannot be loaded is fatal.
+    // A bitmap file (name in UTF-8) whose pixels become opaque, or transparent where red, green and blue
+    // equal those of the key. A bitmap that cannot be loaded is fatal.
     explicit Surface(const std::string& file_name, std::optional<Rgba_Quad> key = std::nullopt);
 
     void set_color_key(std::uint8_t r, std::uint8_t g, std::uint8_t b);

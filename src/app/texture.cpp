@@ -22,7 +22,9 @@ void Texture::draw(const Rectangle& destination) const {
     draw_part({0, 0, size_.width, size_.height}, destination);
 }
 
-void Texture::draw_at(Point position) const { draw({position.x, position.y, size_.width, size_.height}); }
+void Texture::draw_at(Point position) const {
+    draw({position.x, position.y, size_.width, size_.height});
+}
 
 void Texture::draw_part(const Rectangle& source, const Rectangle& destination) const {
     const SDL_FRect from = float_rectangle(source);
