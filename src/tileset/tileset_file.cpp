@@ -1,0 +1,100 @@
+#include "tileset/tileset_file.h"
+
+#include "app/atomic_file.h"
+#include "app/fatal.h"
+#include "tileset/block_file.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle {
+
+namespace {
+
+using Header_Bytes = std::array<std::uint8_t, tileset_header_size>;
+
+constexpr std::string_view magic = "QDL";
+constexpr std::size_t width_offset = 5;
+constexpr std::size_t height_offset = 6;
+constexpr std::size_t count_offset = 7;
+
+struct Header {
+    Size tile_size;
+    std::uint32_t count = 0;
+};
+
+Header_Bytes packed(const Tileset& tileset) {
+    Header_Bytes bytes = {'Q', 'D', 'L', '\n', 0};
+    bytes[width_offset] = static_cast<std::uint8_t>(tileset.tile_width());
+    bytes[height_offset] = static_cast<std::uint8_t>(tileset.tile_height());
+    for (std::size_t i = 0; i < 4; ++i) {
+        bytes[count_offset + i] =
+            static_cast<std::uint8_t>(static_cast<std::uint32_t>(tileset.count()) >> (8 * i));
+    }
+    return bytes;
+}
+
+Header unpacked(const Header_Bytes& bytes) {
+    Header header{{bytes[width_offset], bytes[height_offset]}, 0};
+    for (std::size_t i = 0; i < 4; ++i) {
+        header.count |= static_cast<std::uint32_t>(bytes[count_offset + i]) << (8 * i);
+    }
+    return header;
+}
+
+// Neither the line feed nor the zero after it is looked at.
+bool has_magic(const Header_Bytes& bytes) {
+    return std::equal(magic.begin(), magic.end(), bytes.begin());
+}
+
+void load_tiles(Tileset& tileset, Block_File& file, std::uint32_t count) {
+    std::vector<std::uint8_t> buffer(static_cast<std::size_t>(tileset.tile_bytes()));
+    for (std::uint32_t i = 0; i < count; ++i) {
+        file.read_block(buffer);
+        auto tile = std::make_unique<Tile>(tileset.tile_width(), tileset.tile_height());
+        tile->read_pixels(buffer);
+        tileset.append_loaded(std::move(tile));
+    }
+}
+
+} // namespace
+
+std::int64_t save_tileset(const Tileset& tileset, const std::string& path) {
+    Atomic_File file(path);
+    file.write(packed(tileset));
+    std::vector<std::uint8_t> buffer(static_cast<std::size_t>(tileset.tile_bytes()));
+    for (int i = 0; i < tileset.count(); ++i) {
+        tileset.tile_at(i).write_pixels(buffer);
+        if (!file.write(buffer)) {
+            return -1;
+        }
+    }
+    return file.commit() ? tileset_header_size + tileset.total_bytes() : -1;
+}
+
+Loaded_Tileset load_tileset(const std::string& path) {
+    Block_File file(path);
+    if (!file.open_read()) {
+        return {};
+    }
+    Header_Bytes bytes = {};
+    file.read_block(bytes);
+    if (!has_magic(bytes)) {
+        return {};
+    }
+    Header header = unpacked(bytes);
+    auto tileset = std::make_unique<Tileset>(header.tile_size);
+    if (tileset->tile_bytes() == 0) {
+        // A count of tiles without pixels is backed by no data: it could be any number.
+        header.count = 0;
+    }
+    if (header.count * tileset->tile_bytes() > file.remaining()) {
+        fatal("Unable to load block from ", path);
+    }
+    load_tiles(*tileset, file, header.count);
+    return {Load_Outcome::loaded, std::move(tileset)};
+}
+
+} // namespace quadrelle
