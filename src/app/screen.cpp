@@ -194,7 +194,7 @@ std::unique_ptr<Texture> Screen::make_text_texture(std::string_view text, Text_S
     if (width == 0) {
         return nullptr;
     }
-    Surface surface({width, line_height(font)});
+    Surface surface(Size{width, line_height(font)});
     sprites_->draw_text(font, text, {0, 0}, surface);
     return std::make_unique<Texture>(surface, renderer_.get());
 }

@@ -118,7 +118,7 @@ std::unique_ptr<Texture> Sprite_Sheet::make_header(Header_Ends ends, int width, 
     const Rectangle start = sprite_rect(ends.start);
     const Rectangle end = sprite_rect(ends.end);
     const Rectangle band{start.width, 0, width, start.height};
-    Surface header({start.width + width + end.width, start.height});
+    Surface header(Size{start.width + width + end.width, start.height});
     surface_.blit_to(header, start, {0, 0, start.width, start.height});
     header.fill_rect(band, header_outline);
     header.fill_rect({band.x, 1, band.width, band.height - 2}, standard_color(Standard_Color::pane_frame));
