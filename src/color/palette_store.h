@@ -1,0 +1,49 @@
+#pragma once
+
+// The named palettes and their file. Draws nothing.
+
+#include "color/color.h"
+
+#include <string>
+#include <vector>
+
+namespace quadrelle {
+
+struct Palette {
+    std::string name;
+    std::vector<Color> colors;
+
+    Palette(std::string palette_name, int count);
+};
+
+// Never without a palette, and no palette without an entry. Palettes and entries outside of the store
+// read as "" and opaque black, and are not set.
+class Palette_Store {
+public:
+    // Reads the file in the current directory; without one, or with one that holds no palette, the
+    // built-in palettes. A file that is shorter than it says is fatal.
+    explicit Palette_Store(std::string file_name = "palette.dat");
+    // Writes the file when a colour was set; says nothing when it cannot.
+    ~Palette_Store();
+    Palette_Store(const Palette_Store&) = delete;
+    Palette_Store& operator=(const Palette_Store&) = delete;
+
+    // The number of palettes.
+    [[nodiscard]] int size() const { return static_cast<int>(palettes_.size()); }
+    [[nodiscard]] int count(int palette) const;
+    [[nodiscard]] std::string name(int palette) const;
+    [[nodiscard]] Color color(int palette, int entry) const;
+    void set_color(int palette, int entry, Color color);
+    [[nodiscard]] bool changed() const { return changed_; }
+
+private:
+    void load();
+    void save();
+    [[nodiscard]] const Palette* find(int palette) const;
+
+    std::string file_name_;
+    bool changed_ = false;
+    std::vector<Palette> palettes_;
+};
+
+} // namespace quadrelle
