@@ -45,11 +45,15 @@ void run_modal(const Modal_Loop& loop) {
     }
 }
 
-void idle(std::string_view loop) {
+Idle_Outcome idle(std::string_view loop) {
     tell_watcher(loop);
+    Idle_Outcome outcome = Idle_Outcome::nothing_happened;
     SDL_Event event{};
-    while (SDL_PollEvent(&event)) {}
+    while (SDL_PollEvent(&event)) {
+        outcome = Idle_Outcome::events_taken;
+    }
     SDL_Delay(idle_milliseconds);
+    return outcome;
 }
 
 Pointer_State pointer_of(const SDL_MouseButtonEvent& event) {

@@ -25,8 +25,10 @@ struct Modal_Loop {
 };
 void run_modal(const Modal_Loop& loop);
 
+enum class Idle_Outcome { nothing_happened, events_taken };
+
 // Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
-void idle(std::string_view loop);
+Idle_Outcome idle(std::string_view loop);
 
 // Called with the loop's name before each wait; a test feeds its next event from here.
 using Wait_Watcher = std::function<void(std::string_view loop)>;

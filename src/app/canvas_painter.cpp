@@ -1,0 +1,107 @@
+#include "app/canvas_painter.h"
+
+#include "color/standard_colors.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+// How the renderer multiplies channels.
+constexpr unsigned scaled(unsigned channel, unsigned factor) { return channel * factor / 255; }
+
+constexpr std::uint8_t blended(std::uint8_t channel, std::uint8_t background, std::uint8_t alpha) {
+    return static_cast<std::uint8_t>(scaled(channel, alpha) + scaled(background, 255U - alpha));
+}
+
+// The cells that reach into `extent` pixels when the first one starts at `start`.
+int first_cell(int start, int pixel_size) { return start >= 0 ? 0 : -start / pixel_size; }
+
+int end_cell(int start, int pixel_size, int extent, int count) {
+    return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
+}
+
+} // namespace
+
+Color blended_over(Color color, Color background) {
+    if (color.a == 255) {
+        return color;
+    }
+    return {blended(color.r, background.r, color.a), blended(color.g, background.g, color.a),
+            blended(color.b, background.b, color.a)};
+}
+
+Color grid_color(Color shown, int intensity) {
+    if (shown.is_dark()) {
+        shown.brighten(intensity);
+    } else {
+        shown.darken(intensity);
+    }
+    return shown;
+}
+
+Color checker_color(Tile_Point pixel, Size checker) {
+    const bool is_light = (pixel.x / checker.width + pixel.y / checker.height) % 2 != 0;
+    return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
+}
+
+void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& target) {
+    const auto width = static_cast<std::size_t>(target.size.width);
+    cell_line_.assign(width, picture.surround);
+    grid_line_.assign(width, picture.surround);
+    const int tile_rows = picture.tile == nullptr ? 0 : picture.tile->height();
+    const int tile_columns = picture.tile == nullptr ? 0 : picture.tile->width();
+    const Range columns{first_cell(picture.origin.x, picture.pixel_size),
+                        end_cell(picture.origin.x, picture.pixel_size, target.size.width, tile_columns)};
+    const Range rows{first_cell(picture.origin.y, picture.pixel_size),
+                     end_cell(picture.origin.y, picture.pixel_size, target.size.height, tile_rows)};
+
+    const int top = std::clamp(picture.origin.y + rows.first * picture.pixel_size, 0, target.size.height);
+    const int bottom = rows.end <= rows.first
+                           ? top
+                           : std::min(picture.origin.y + rows.end * picture.pixel_size, target.size.height);
+    for (int y = 0; y < top; ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    for (int y = bottom; y < target.size.height; ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    for (int row = rows.first; row < rows.end; ++row) {
+        paint_row(picture, columns, row, target);
+    }
+}
+
+void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target) {
+    compose_lines(picture, columns, row);
+    const int top = picture.origin.y + row * picture.pixel_size;
+    const int grid_y = top + picture.pixel_size - 1;
+    for (int y = std::max(top, 0); y < std::min(grid_y, target.size.height); ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    if (grid_y >= 0 && grid_y < target.size.height) {
+        std::ranges::copy(grid_line_, target.row(grid_y));
+    }
+}
+
+void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns, int row) {
+    const int width = static_cast<int>(cell_line_.size());
+    for (int column = columns.first; column < columns.end; ++column) {
+        const Color background = checker_color({column, row}, picture.checker);
+        const Color cell = blended_over(picture.tile->get_pixel(column, row), background);
+        const int left = picture.origin.x + column * picture.pixel_size;
+        const int right = left + picture.pixel_size;
+        fill_cell(std::max(left, 0), std::min(right, width), cell, grid_color(cell, picture.grid_intensity),
+                  right <= width);
+    }
+}
+
+void Canvas_Painter::fill_cell(int left, int right, Color cell, Color grid, bool shows_right_line) {
+    std::fill(cell_line_.begin() + left, cell_line_.begin() + right, cell);
+    std::fill(grid_line_.begin() + left, grid_line_.begin() + right, grid);
+    if (shows_right_line) {
+        cell_line_[static_cast<std::size_t>(right) - 1] = grid;
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,62 @@
+#pragma once
+
+// Composes the picture of the canvas viewport in memory: one coloured square a tile pixel over a checkerboard,
+// with a grid. Knows neither window nor events.
+
+#include "app/geometry.h"
+#include "color/color.h"
+#include "tileset/tile.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace quadrelle {
+
+// Rows of pixels in memory that somebody else owns, `pitch` bytes apart.
+struct Pixel_Rows {
+    Color* first = nullptr;
+    std::ptrdiff_t pitch = 0;
+    Size size;
+
+    [[nodiscard]] Color* row(int y) const {
+        return reinterpret_cast<Color*>(reinterpret_cast<std::byte*>(first) + y * pitch);
+    }
+};
+
+struct Canvas_Picture {
+    const Tile* tile = nullptr; // null shows nothing but the surround
+    int pixel_size = 1;         // edge of one cell
+    Point origin;               // of the tile's first cell, from the viewport's top-left corner
+    int grid_intensity = 0;
+    Size checker{1, 1}; // in tile pixels
+    Color surround;
+};
+
+// The colour that shows when an area of the second colour is filled with the first one, as the renderer blends.
+[[nodiscard]] Color blended_over(Color color, Color background);
+// Of the grid lines along a cell that shows this opaque colour.
+[[nodiscard]] Color grid_color(Color shown, int intensity);
+// Of the checkerboard square that the tile pixel lies on.
+[[nodiscard]] Color checker_color(Tile_Point pixel, Size checker);
+
+class Canvas_Painter {
+public:
+    // Writes every pixel of `target`, all opaque.
+    void paint(const Canvas_Picture& picture, const Pixel_Rows& target);
+
+private:
+    struct Range {
+        int first = 0;
+        int end = 0;
+    };
+    void paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target);
+    void compose_lines(const Canvas_Picture& picture, Range columns, int row);
+    void fill_cell(int left, int right, Color cell, Color grid, bool shows_right_line);
+
+    // One line of pixels through the cells of a row, and one along their bottom.
+    std::vector<Color> cell_line_;
+    std::vector<Color> grid_line_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,66 @@
+#pragma once
+
+// The current tile magnified in the viewport: where its cells lie, which pixel is under the pointer, zoom and
+// pan. The tools that draw on it are driven by `Canvas_Stroke`.
+
+#include "app/canvas_painter.h"
+#include "app/geometry.h"
+
+#include <functional>
+#include <memory>
+
+namespace quadrelle {
+
+class Viewport_Texture;
+
+constexpr Rectangle canvas_viewport{264, 64, 512, 512};
+constexpr int smallest_pixel_size = 3;
+constexpr int largest_pixel_size = 32;
+
+enum class Zoom_Step : int { out = -1, in = 1 };
+
+class Canvas_View {
+public:
+    explicit Canvas_View(int pixel_size);
+    ~Canvas_View();
+
+    // Borrowed; null shows an empty canvas.
+    void set_tile(Tile* tile);
+    [[nodiscard]] Tile* tile() const { return tile_; }
+
+    // False, with nothing changed, outside of the smallest and the largest size.
+    bool set_pixel_size(int pixel_size);
+    [[nodiscard]] int pixel_size() const { return pixel_size_; }
+    // By one pixel size, about the tile's centre.
+    bool zoom(Zoom_Step step);
+    // A tile larger than the viewport shows its top-left corner.
+    void centre();
+    void scroll_origin(int dx, int dy);
+    // The tile follows the pointer until a button is released; `redraw` draws and presents the window.
+    void pan(const std::function<void()>& redraw);
+
+    // In window pixels.
+    [[nodiscard]] Point origin() const { return origin_; }
+    [[nodiscard]] Size magnified_size() const;
+    // The cell under a window position, truncated toward zero: the strip one cell wide just left of or above the
+    // tile deliberately counts as its first column or row. Not limited to the tile.
+    [[nodiscard]] int tile_column(int x) const { return (x - origin_.x) / pixel_size_; }
+    [[nodiscard]] int tile_row(int y) const { return (y - origin_.y) / pixel_size_; }
+    [[nodiscard]] Tile_Point tile_point(Point position) const {
+        return {tile_column(position.x), tile_row(position.y)};
+    }
+    // The nearest cell boundary.
+    [[nodiscard]] int nearest_column(int x) const { return tile_column(x + pixel_size_ / 2); }
+    [[nodiscard]] int nearest_row(int y) const { return tile_row(y + pixel_size_ / 2); }
+
+    void draw();
+
+private:
+    Tile* tile_ = nullptr;
+    int pixel_size_;
+    Point origin_{canvas_viewport.x, canvas_viewport.y};
+    Canvas_Painter painter_;
+    std::unique_ptr<Viewport_Texture> texture_;
+};
+
+} // namespace quadrelle

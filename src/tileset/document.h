@@ -1,0 +1,49 @@
+#pragma once
+
+// One open tileset: its tiles, the file they belong to, and whether they are saved.
+
+#include "app/command.h"
+#include "app/screen.h"
+#include "tileset/tileset.h"
+
+#include <memory>
+#include <string>
+
+namespace quadrelle {
+
+class Texture;
+
+class Tileset_Document {
+public:
+    // The name is UTF-8: that of an untitled tileset, or the path of its file.
+    Tileset_Document(std::string file_name, Tileset tileset);
+    ~Tileset_Document();
+
+    [[nodiscard]] Tileset& tileset() { return tileset_; }
+    [[nodiscard]] const Tileset& tileset() const { return tileset_; }
+    [[nodiscard]] const std::string& file_name() const { return file_name_; }
+    // The document has a file of its own from now on.
+    void set_file(const std::string& path);
+
+    // False when it was set already.
+    bool set_modified();
+    void clear_modified();
+    [[nodiscard]] bool is_modified() const { return is_modified_; }
+    // It has a file of its own.
+    [[nodiscard]] bool is_named() const { return is_named_; }
+
+    // The file name, followed by "*" while modified.
+    [[nodiscard]] std::string title() const;
+
+    // Commands on the current tile and the order of tiles: the command to record, or none when it is not one
+    // of these or was refused.
+    Command handle_command(Command command);
+
+private:
+    std::string file_name_;
+    Tileset tileset_;
+    bool is_modified_ = false;
+    bool is_named_ = false;
+};
+
+} // namespace quadrelle
