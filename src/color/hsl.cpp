@@ -46,7 +46,7 @@ double channel_at(double turn, double low, double high) {
 }
 
 int rounded_channel(double fraction) {
-    return truncated_channel(fraction * 255.0 + 0.5);
+    return truncated_channel(std::round(fraction * 255.0));
 }
 
 } // namespace
