@@ -87,6 +87,10 @@ private:
     bool inside_block_ = false;
 };
 
+bool is_licence(const std::filesystem::path& path) {
+    return path.stem().string().starts_with("LICENSE");
+}
+
 template <typename Take_Line>
 void read_lines(const std::filesystem::path& path, Problems& problems, Take_Line take_line) {
     std::ifstream stream(path, std::ios::binary);
@@ -131,7 +135,7 @@ std::vector<std::filesystem::path> text_files(const std::filesystem::path& folde
     std::vector<std::filesystem::path> paths;
     std::error_code error;
     for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-        if (entry.path().extension() == ".txt")
+        if (entry.path().extension() == ".txt" && !is_licence(entry.path()))
             paths.push_back(entry.path());
     if (error)
         problems.add(folder.generic_string() + ": " + error.message());

@@ -38,7 +38,7 @@ Palette read_palette(const std::filesystem::path& path, Problems& problems);
 // The file's own palette lines add to the shared ones or replace them.
 Source_File read_source(const std::filesystem::path& path, const Palette& shared, Problems& problems);
 
-// The .txt files of a folder in the order of their names.
+// The .txt files of a folder in the order of their names, without the licences.
 std::vector<std::filesystem::path> text_files(const std::filesystem::path& folder, Problems& problems);
 
 std::vector<std::string> split_words(const std::string& text);
