@@ -14,10 +14,10 @@ void Cells::draw(const Cells& other, int x, int y) {
         }
 }
 
-void Cells::recolour(const std::string& from, const std::string& to, const Palette& palette) {
+void Cells::recolour(const std::map<char, Cell>& changes) {
     for (Cell& cell : cells_)
-        if (const std::size_t i = from.find(cell.character); i != std::string::npos)
-            cell = {to[i], palette.colour(to[i]).value_or(transparent_colour)};
+        if (const auto change = changes.find(cell.character); change != changes.end())
+            cell = change->second;
 }
 
 Cells read_cells(const Block& block, const Palette& palette, Problems& problems) {
@@ -47,15 +47,15 @@ void apply_recolour(Cells& cells, const Block& block, const Palette& palette, Pr
     const auto clause = block.clauses.find("recolour");
     if (clause == block.clauses.end())
         return;
-    const auto words = split_words(clause->second);
-    if (words.size() != 2 || words[0].size() != words[1].size()) {
-        problems.add(block.place, "\"recolour\" takes two words of one length");
-        return;
+    std::map<char, Cell> changes;
+    for (const std::string& word : split_words(clause->second)) {
+        const auto colour = palette.colour(word.back());
+        if (word.size() != 2 || !colour)
+            problems.add(block.place, "\"recolour\" takes pairs of characters of the palette: " + word);
+        else
+            changes[word[0]] = {word[1], *colour};
     }
-    for (const char character : words[1])
-        if (!palette.colour(character))
-            problems.add(block.place, std::string("the palette has no '") + character + "'");
-    cells.recolour(words[0], words[1], palette);
+    cells.recolour(changes);
 }
 
 } // namespace quadrelle

@@ -5,7 +5,7 @@
 #include "palette.h"
 #include "source_file.h"
 
-#include <string>
+#include <map>
 #include <vector>
 
 namespace quadrelle {
@@ -33,8 +33,8 @@ public:
     // Transparent cells of `other` leave what is there; what falls outside is dropped.
     void draw(const Cells& other, int x, int y);
 
-    // The i-th character of `from` becomes the i-th of `to`, in the palette's colour.
-    void recolour(const std::string& from, const std::string& to, const Palette& palette);
+    // Each cell with one of the characters becomes the cell given for it.
+    void recolour(const std::map<char, Cell>& changes);
 
 private:
     std::size_t index(int x, int y) const { return static_cast<std::size_t>(y * width_ + x); }
@@ -47,7 +47,7 @@ private:
 // Rows of unequal length and unknown characters are problems; their cells stay transparent.
 Cells read_cells(const Block& block, const Palette& palette, Problems& problems);
 
-// Applies the block's "recolour XY ZW", if it has one.
+// Applies the block's "recolour XY ZW": X becomes Y and Z becomes W.
 void apply_recolour(Cells& cells, const Block& block, const Palette& palette, Problems& problems);
 
 } // namespace quadrelle

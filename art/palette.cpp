@@ -16,7 +16,7 @@ bool stands_for_a_colour(char character) {
 } // namespace
 
 Palette::Palette() {
-    colours_[static_cast<std::size_t>(transparent_character)] = transparent_colour;
+    colours_[static_cast<unsigned char>(transparent_character)] = transparent_colour;
 }
 
 bool Palette::define(std::string_view entry) {
@@ -35,7 +35,7 @@ bool Palette::define(std::string_view entry) {
                      static_cast<std::uint8_t>(value)};
     if (colour == transparent_colour)
         return false;
-    colours_[static_cast<std::size_t>(entry[0])] = colour;
+    colours_[static_cast<unsigned char>(entry[0])] = colour;
     return true;
 }
 

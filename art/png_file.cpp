@@ -11,11 +11,11 @@ namespace {
 constexpr int enlargement = 2;
 constexpr int checker_size = 8;
 constexpr Rgb checker_light{137, 137, 137};
-constexpr Rgb checker_dark{112, 112, 112};
+constexpr Rgb checker_dark{122, 122, 122};
 constexpr std::size_t row_size = 1 + 3 * static_cast<std::size_t>(sheet_width) * enlargement;
 
-// Matches reach a pixel back or a row up, which is all that flat and enlarged pictures ask for.
-constexpr std::size_t pixel_distance = 3;
+// Matches reach a pixel or two squares of the checkerboard back or a row up, all that this picture asks for.
+constexpr std::array<std::size_t, 3> match_distances{3, std::size_t{3} * 2 * checker_size, row_size};
 constexpr std::size_t shortest_match = 3;
 constexpr std::size_t longest_match = 258;
 
@@ -80,15 +80,20 @@ Ranged_Symbol ranged_symbol(unsigned value, unsigned symbols_a_step) {
     return result;
 }
 
-void put_match(Bit_Writer& bits, std::size_t length, std::size_t distance) {
+struct Match {
+    std::size_t length = 0;
+    std::size_t distance = 0;
+};
+
+void put_match(Bit_Writer& bits, const Match& match) {
     // The longest length has a symbol of its own.
     Ranged_Symbol size{28, 0, 0};
-    if (length < longest_match)
-        size = ranged_symbol(static_cast<unsigned>(length - shortest_match), 4);
+    if (match.length < longest_match)
+        size = ranged_symbol(static_cast<unsigned>(match.length - shortest_match), 4);
     put_symbol(bits, 257 + size.symbol);
     bits.put(size.rest, size.rest_bits);
 
-    const Ranged_Symbol back = ranged_symbol(static_cast<unsigned>(distance - 1), 2);
+    const Ranged_Symbol back = ranged_symbol(static_cast<unsigned>(match.distance - 1), 2);
     bits.put_code(back.symbol, 5);
     bits.put(back.rest, back.rest_bits);
 }
@@ -103,19 +108,26 @@ std::size_t match_length(const Bytes& bytes, std::size_t position, std::size_t d
     return length;
 }
 
+Match longest_match_at(const Bytes& bytes, std::size_t position) {
+    Match best;
+    for (const std::size_t distance : match_distances)
+        if (const std::size_t length = match_length(bytes, position, distance); length > best.length)
+            best = {length, distance};
+    return best;
+}
+
+// One block in the fixed code.
 Bytes deflated(const Bytes& bytes) {
     Bit_Writer bits;
     bits.put(0b011, 3);
     for (std::size_t position = 0; position < bytes.size();) {
-        const std::size_t across = match_length(bytes, position, pixel_distance);
-        const std::size_t above = match_length(bytes, position, row_size);
-        const std::size_t length = std::max(across, above);
-        if (length < shortest_match) {
+        const Match match = longest_match_at(bytes, position);
+        if (match.length < shortest_match) {
             put_symbol(bits, bytes[position++]);
             continue;
         }
-        put_match(bits, length, across >= above ? pixel_distance : row_size);
-        position += length;
+        put_match(bits, match);
+        position += match.length;
     }
     put_symbol(bits, 256);
     return bits.bytes();

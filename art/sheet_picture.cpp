@@ -17,7 +17,7 @@ std::string Sheet_Picture::draw(int x, int y, Rgb colour, const std::string& own
         owner_names_.push_back(owner);
     const std::size_t i = index(x, y);
     const bool conflict = owners_[i] != nobody && pixels_[i] != colour;
-    const std::string former = conflict ? owner_names_[owners_[i]] : "";
+    std::string former = conflict ? owner_names_[owners_[i]] : "";
     pixels_[i] = colour;
     owners_[i] = owner_names_.size() - 1;
     return former;

@@ -82,8 +82,10 @@ private:
                 if (former.empty() || former == reported)
                     continue;
                 reported = former;
-                problems_.add(place, name + " and " + former + " differ in their common pixel " +
-                                         std::to_string(row.x + x) + ", " + std::to_string(row.y + y));
+                std::ostringstream text;
+                text << name << " and " << former << " differ in their common pixel " << row.x + x << ", "
+                     << row.y + y;
+                problems_.add(place, text.str());
             }
     }
 
@@ -132,7 +134,7 @@ private:
 
     Cells whole_cells(const Grid_Source& source, int depth) {
         const Block& block = *source.block;
-        const Cells own = own_cells(source, depth);
+        Cells own = own_cells(source, depth);
         const auto on = block.clauses.find("on");
         if (on == block.clauses.end())
             return own;

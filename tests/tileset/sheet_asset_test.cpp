@@ -46,7 +46,7 @@ public:
 
     Pixel at(int x, int y) const {
         const std::size_t row = start() + row_size() * static_cast<std::size_t>(height() - 1 - y);
-        const std::size_t place = row + static_cast<std::size_t>(x * depth() / 8);
+        const std::size_t place = row + static_cast<std::size_t>(x) * static_cast<std::size_t>(depth()) / 8;
         const std::size_t colour = depth() == 8 ? 54 + std::size_t{4} * bytes_.at(place) : place;
         return {bytes_.at(colour + 2), bytes_.at(colour + 1), bytes_.at(colour)};
     }
@@ -60,7 +60,9 @@ private:
     }
     int depth() const { return number(28, 2); }
     std::size_t start() const { return static_cast<std::size_t>(number(10, 4)); }
-    std::size_t row_size() const { return static_cast<std::size_t>((width() * depth() / 8 + 3) / 4 * 4); }
+    std::size_t row_size() const {
+        return (static_cast<std::size_t>(width()) * static_cast<std::size_t>(depth()) / 8 + 3) / 4 * 4;
+    }
 
     testing::Bytes bytes_;
 };
@@ -139,6 +141,7 @@ std::vector<int> intended_widths(const std::string& file_name) {
 
 std::vector<int> widths_of(const std::vector<Glyph>& glyphs) {
     std::vector<int> widths;
+    widths.reserve(glyphs.size());
     for (const Glyph& glyph : glyphs)
         widths.push_back(glyph.width);
     return widths;
@@ -310,7 +313,7 @@ TEST_F(Composer, draws_plates_and_derived_grids) {
     EXPECT_EQ(drawn("background aligner"), "aaabbbbb\n" + repeated("bbbbbbbb", 7));
 
     EXPECT_EQ(complaints_about(colours + "@ mark\naaa.....\n" + repeated("........", 7) +
-                               "= background aligner from mark shift 1 6 recolour a b\n"),
+                               "= background aligner from mark shift 1 6 recolour ab\n"),
               "");
     EXPECT_EQ(drawn("background aligner"), repeated("........", 6) + ".bbb....\n........\n");
 }
