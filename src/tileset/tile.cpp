@@ -13,10 +13,6 @@ namespace {
 
 constexpr std::size_t bytes_per_pixel = 4;
 
-bool is_white(Color color) {
-    return color.same_rgb({255, 255, 255});
-}
-
 std::size_t checked_pixel_count(int width, int height) {
     const std::int64_t count = static_cast<std::int64_t>(width) * height;
     if (width < 0 || height < 0 || count > std::numeric_limits<int>::max()) {
@@ -43,10 +39,6 @@ std::size_t Tile::memory_size() const {
 Color Tile::get_pixel_clamped(int x, int y) const {
     // Not std::clamp, whose bounds must not cross: they do without pixels.
     return get_pixel(std::min(std::max(x, 0), width_ - 1), std::min(std::max(y, 0), height_ - 1));
-}
-
-bool Tile::is_white_at(int x, int y) const {
-    return is_white(get_pixel(x, y));
 }
 
 void Tile::fill(Color color) {

@@ -64,7 +64,7 @@ public:
         }
     }
     // Alpha is not looked at.
-    [[nodiscard]] bool is_white_at(int x, int y) const;
+    [[nodiscard]] bool is_white_at(int x, int y) const { return get_pixel(x, y).same_rgb({255, 255, 255}); }
     // Black with alpha 0.
     [[nodiscard]] bool is_empty_at(int x, int y) const { return get_pixel(x, y) == Color{0, 0, 0, 0}; }
     [[nodiscard]] std::uint8_t alpha_at(int x, int y) const { return get_pixel(x, y).a; }

@@ -43,10 +43,8 @@ std::vector<Sample> sample_axis(int source_length, int target_length) {
     const float step = target / span;
     std::vector<Sample> samples(static_cast<std::size_t>(target_length));
     for (int i = 0; i < target_length; ++i) {
-        float position = static_cast<float>(i) / step;
-        if (position >= source) {
-            position = source - 1;
-        }
+        // Below the source's length whatever the two lengths are.
+        const float position = static_cast<float>(i) / step;
         const float below = std::floor(position);
         const auto inside = [&](float whole) {
             return std::clamp(static_cast<int>(whole), 0, source_length - 1);

@@ -1,7 +1,6 @@
 #include "tileset/tileset_file.h"
 
 #include "app/atomic_file.h"
-#include "app/fatal.h"
 #include "tileset/block_file.h"
 
 #include <algorithm>
@@ -49,6 +48,7 @@ bool has_magic(const Header_Bytes& bytes) {
     return std::equal(magic.begin(), magic.end(), bytes.begin());
 }
 
+// Takes memory tile by tile as the file turns out to hold them: the count alone is not to be trusted.
 void load_tiles(Tileset& tileset, Block_File& file, std::uint32_t count) {
     std::vector<std::uint8_t> buffer(static_cast<std::size_t>(tileset.tile_bytes()));
     for (std::uint32_t i = 0; i < count; ++i) {
@@ -89,9 +89,6 @@ Loaded_Tileset load_tileset(const std::string& path) {
     if (tileset->tile_bytes() == 0) {
         // A count of tiles without pixels is backed by no data: it could be any number.
         header.count = 0;
-    }
-    if (header.count * tileset->tile_bytes() > file.remaining()) {
-        fatal("Unable to load block from ", path);
     }
     load_tiles(*tileset, file, header.count);
     return {Load_Outcome::loaded, std::move(tileset)};

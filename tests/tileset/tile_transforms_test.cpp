@@ -71,6 +71,13 @@ void expect_near_reference(const Tile& source, const Tile& target) {
     }
 }
 
+// The four pixels that replace the middle one of three by three.
+std::array<Color, 4> scaled_middle(const Tile& source) {
+    Tile target(6, 6);
+    source.scale2x_into(target);
+    return {target.get_pixel(2, 2), target.get_pixel(3, 2), target.get_pixel(2, 3), target.get_pixel(3, 3)};
+}
+
 Tile grey_row(std::initializer_list<int> values) {
     Tile tile(static_cast<int>(values.size()), 1);
     std::ranges::transform(values, tile.pixels().begin(), [](int value) {
@@ -121,14 +128,28 @@ TEST(Tile_Transforms, scale2x_rounds_corners_only) {
               (Art{"aaaabb", "aaaabb", "aaaabb", "aaabbb", "bbbbbb", "bbbbbb"}));
 }
 
-TEST(Tile_Transforms, scale2x_compares_without_alpha) {
-    Tile source = make_tile({".#.", "#ab", ".b."});
-    source.set_pixel(1, 0, {255, 255, 255, 40});
-    Tile target(6, 6);
-    source.scale2x_into(target);
-    EXPECT_EQ(target.get_pixel(2, 2), art_color('#'));
-    EXPECT_EQ(target.get_pixel(3, 2), art_color('a'));
-    EXPECT_EQ(target.get_pixel(3, 3), art_color('b'));
+TEST(Tile_Transforms, scale2x_leaves_ends_and_crossings_alone) {
+    const std::array<Color, 4> plain = {art_color('a'), art_color('a'), art_color('a'), art_color('a')};
+    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a#", "..."})), plain);
+    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a.", ".#."})), plain);
+    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a#", ".#."})), plain);
+}
+
+TEST(Tile_Transforms, scale2x_compares_without_alpha_but_keeps_it) {
+    const auto faint = [](char mark, int alpha) {
+        const Color color = art_color(mark);
+        return Color{color.r, color.g, color.b, alpha};
+    };
+    Tile falling = make_tile({".#.", "#ab", ".b."});
+    falling.set_pixel(1, 0, faint('#', 40));
+    falling.set_pixel(1, 2, faint('b', 50));
+    EXPECT_EQ(scaled_middle(falling),
+              (std::array{art_color('#'), art_color('a'), art_color('a'), faint('b', 50)}));
+    Tile rising = make_tile({".#.", "ba#", ".b."});
+    rising.set_pixel(1, 0, faint('#', 40));
+    rising.set_pixel(1, 2, faint('b', 50));
+    EXPECT_EQ(scaled_middle(rising),
+              (std::array{art_color('a'), faint('#', 40), art_color('b'), art_color('a')}));
 }
 
 TEST(Tile_Transforms, resampling_to_the_same_size_copies_alpha_too) {
