@@ -9,14 +9,18 @@ namespace quadrelle {
 namespace {
 
 // How the renderer multiplies channels.
-constexpr unsigned scaled(unsigned channel, unsigned factor) { return channel * factor / 255; }
+constexpr unsigned scaled(unsigned channel, unsigned factor) {
+    return channel * factor / 255;
+}
 
 constexpr std::uint8_t blended(std::uint8_t channel, std::uint8_t background, std::uint8_t alpha) {
     return static_cast<std::uint8_t>(scaled(channel, alpha) + scaled(background, 255U - alpha));
 }
 
 // The cells that reach into `extent` pixels when the first one starts at `start`.
-int first_cell(int start, int pixel_size) { return start >= 0 ? 0 : -start / pixel_size; }
+int first_cell(int start, int pixel_size) {
+    return start >= 0 ? 0 : -start / pixel_size;
+}
 
 int end_cell(int start, int pixel_size, int extent, int count) {
     return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
@@ -72,7 +76,8 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
     }
 }
 
-void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target) {
+void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int row,
+                               const Pixel_Rows& target) {
     compose_lines(picture, columns, row);
     const int top = picture.origin.y + row * picture.pixel_size;
     const int grid_y = top + picture.pixel_size - 1;

@@ -1,7 +1,7 @@
 #pragma once
 
-// Composes the picture of the canvas viewport in memory: one coloured square a tile pixel over a checkerboard,
-// with a grid. Knows neither window nor events.
+// Composes the picture of the canvas viewport in memory: one coloured square a tile pixel over a
+// checkerboard, with a grid. Knows neither window nor events.
 
 #include "app/geometry.h"
 #include "color/color.h"
@@ -33,7 +33,8 @@ struct Canvas_Picture {
     Color surround;
 };
 
-// The colour that shows when an area of the second colour is filled with the first one, as the renderer blends.
+// The colour that shows when an area of the second colour is filled with the first one, as the renderer
+// blends.
 [[nodiscard]] Color blended_over(Color color, Color background);
 // Of the grid lines along a cell that shows this opaque colour.
 [[nodiscard]] Color grid_color(Color shown, int intensity);

@@ -43,7 +43,9 @@ Canvas_View::Canvas_View(int pixel_size)
 
 Canvas_View::~Canvas_View() = default;
 
-void Canvas_View::set_tile(Tile* tile) { tile_ = tile; }
+void Canvas_View::set_tile(Tile* tile) {
+    tile_ = tile;
+}
 
 Size Canvas_View::magnified_size() const {
     return tile_ == nullptr ? Size{} : Size{tile_->width() * pixel_size_, tile_->height() * pixel_size_};
@@ -83,7 +85,8 @@ void Canvas_View::pan(const std::function<void()>& redraw) {
     run_modal({"pan", redraw, [&](const SDL_Event& event) {
                    // The first motion only tells where the pointer was.
                    if (event.type == SDL_EVENT_MOUSE_MOTION && std::exchange(has_moved, true)) {
-                       scroll_origin(static_cast<int>(event.motion.xrel), static_cast<int>(event.motion.yrel));
+                       scroll_origin(static_cast<int>(event.motion.xrel),
+                                     static_cast<int>(event.motion.yrel));
                    }
                    return ends_pan(event) ? Loop_Step::end : Loop_Step::go_on;
                }});

@@ -42,8 +42,8 @@ public:
     // In window pixels.
     [[nodiscard]] Point origin() const { return origin_; }
     [[nodiscard]] Size magnified_size() const;
-    // The cell under a window position, truncated toward zero: the strip one cell wide just left of or above the
-    // tile deliberately counts as its first column or row. Not limited to the tile.
+    // The cell under a window position, truncated toward zero: the strip one cell wide just left of or above
+    // the tile deliberately counts as its first column or row. Not limited to the tile.
     [[nodiscard]] int tile_column(int x) const { return (x - origin_.x) / pixel_size_; }
     [[nodiscard]] int tile_row(int y) const { return (y - origin_.y) / pixel_size_; }
     [[nodiscard]] Tile_Point tile_point(Point position) const {

@@ -179,6 +179,9 @@ constexpr const std::array<Command_Row, command_count>& command_table = command_
 
 // The first command with exactly this key and modifier, or none.
 [[nodiscard]] Command find_command(Key_Chord chord);
+// Whether a finished command becomes a step that can be undone, and marks the tileset changed. Strokes of
+// the tools are recorded where they end.
+[[nodiscard]] bool is_recorded(Command command);
 // The name, followed by the key label in parentheses when there is a key.
 [[nodiscard]] std::string menu_text(Command command);
 // The help text; "dsc" where a command has none.

@@ -13,8 +13,8 @@ Viewport_Texture::Viewport_Texture(Size size, SDL_Renderer* renderer) : size_(si
     if (renderer_ == nullptr) {
         return;
     }
-    texture_.reset(SDL_CreateTexture(renderer_, SDL_PIXELFORMAT_XRGB8888, SDL_TEXTUREACCESS_STREAMING, size.width,
-                                     size.height));
+    texture_.reset(SDL_CreateTexture(renderer_, SDL_PIXELFORMAT_XRGB8888, SDL_TEXTUREACCESS_STREAMING,
+                                     size.width, size.height));
     if (!texture_) {
         fatal("Could not set SDL texture from pixel data.");
     }

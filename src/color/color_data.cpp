@@ -8,6 +8,8 @@
 
 namespace quadrelle {
 
+std::unique_ptr<Color_Data> color_data;
+
 namespace {
 
 std::span<const Named_Color> up_to_the_end_row(std::span<const Named_Color> table) {

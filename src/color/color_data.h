@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -72,5 +73,8 @@ private:
 
 // Channels, alpha and luminance in per cent: three lines, broken by "\r".
 [[nodiscard]] std::string color_information(Color color);
+
+// Built at start-up.
+extern std::unique_ptr<Color_Data> color_data;
 
 } // namespace quadrelle

@@ -12,6 +12,8 @@
 
 namespace quadrelle {
 
+std::unique_ptr<Palette_Store> palette_store;
+
 namespace {
 
 // What a file may ask for: beyond this it is no file of ours.

@@ -4,6 +4,7 @@
 
 #include "color/color.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -45,5 +46,8 @@ private:
     bool changed_ = false;
     std::vector<Palette> palettes_;
 };
+
+// Built at start-up inside the data directory, destroyed there too.
+extern std::unique_ptr<Palette_Store> palette_store;
 
 } // namespace quadrelle

@@ -3,21 +3,16 @@
 // One open tileset: its tiles, the file they belong to, and whether they are saved.
 
 #include "app/command.h"
-#include "app/screen.h"
 #include "tileset/tileset.h"
 
-#include <memory>
 #include <string>
 
 namespace quadrelle {
-
-class Texture;
 
 class Tileset_Document {
 public:
     // The name is UTF-8: that of an untitled tileset, or the path of its file.
     Tileset_Document(std::string file_name, Tileset tileset);
-    ~Tileset_Document();
 
     [[nodiscard]] Tileset& tileset() { return tileset_; }
     [[nodiscard]] const Tileset& tileset() const { return tileset_; }
@@ -27,7 +22,7 @@ public:
 
     // False when it was set already.
     bool set_modified();
-    void clear_modified();
+    void clear_modified() { is_modified_ = false; }
     [[nodiscard]] bool is_modified() const { return is_modified_; }
     // It has a file of its own.
     [[nodiscard]] bool is_named() const { return is_named_; }
@@ -35,11 +30,13 @@ public:
     // The file name, followed by "*" while modified.
     [[nodiscard]] std::string title() const;
 
-    // Commands on the current tile and the order of tiles: the command to record, or none when it is not one
-    // of these or was refused.
+    // Commands on the current tile and the order of tiles: the command to record, "Skip command" where it was
+    // refused, or none for every other command.
     Command handle_command(Command command);
 
 private:
+    bool delete_tile();
+
     std::string file_name_;
     Tileset tileset_;
     bool is_modified_ = false;

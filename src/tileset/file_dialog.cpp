@@ -52,7 +52,9 @@ struct Shared_Answer {
 };
 
 // Some systems answer a cancelled dialog with a list that holds one empty name.
-bool holds_a_name(const char* const* files) { return *files != nullptr && **files != '\0'; }
+bool holds_a_name(const char* const* files) {
+    return *files != nullptr && **files != '\0';
+}
 
 // Owns its share of the answer, so that a dialog which outlives the wait writes to no dead object.
 void SDLCALL take_answer(void* user_data, const char* const* files, int /*filter*/) {
@@ -104,7 +106,9 @@ std::size_t extension_start(const std::string& path) {
 
 } // namespace
 
-void set_file_chooser(File_Chooser new_chooser) { chooser() = new_chooser ? std::move(new_chooser) : ask_system; }
+void set_file_chooser(File_Chooser new_chooser) {
+    chooser() = new_chooser ? std::move(new_chooser) : ask_system;
+}
 
 std::string with_extension(const std::string& path, const std::string& extension) {
     return path.substr(0, extension_start(path)) + "." + extension;

@@ -18,9 +18,9 @@ enum class File_Dialog_Kind : std::int32_t {
     count
 };
 
-// Shows the dialog and waits for its end. True with the chosen path (UTF-8, absolute, with the kind's extension
-// where one is forced); false, with `path` unchanged, when it was cancelled or failed. A failure is told to the
-// user here.
+// Shows the dialog and waits for its end. True with the chosen path (UTF-8, absolute, with the kind's
+// extension where one is forced); false, with `path` unchanged, when it was cancelled or failed. A failure is
+// told to the user here.
 [[nodiscard]] bool choose_file(File_Dialog_Kind kind, std::string& path);
 
 // The path with its extension, if any, replaced.

@@ -41,7 +41,8 @@ enum class Shape_Type : std::int32_t { outline, filled, filled_outline };
 // The stroke of a tool's command; rectangles and circles come in one kind a shape type.
 [[nodiscard]] constexpr Canvas_Action canvas_action_of(Command command, Shape_Type shape) {
     const auto of_shape = [shape](Canvas_Action outline) {
-        return static_cast<Canvas_Action>(static_cast<std::int32_t>(outline) + static_cast<std::int32_t>(shape));
+        return static_cast<Canvas_Action>(static_cast<std::int32_t>(outline) +
+                                          static_cast<std::int32_t>(shape));
     };
     switch (command) {
     case Command::line: return Canvas_Action::line;

@@ -90,7 +90,9 @@ static_assert(follow_their_ids());
 constexpr const std::array<Tool_Row, tool_count>& tool_table = tool_rows::table;
 
 // Not for `Tool::none`.
-[[nodiscard]] constexpr const Tool_Row& row_of(Tool tool) { return tool_table.at(static_cast<std::size_t>(tool)); }
+[[nodiscard]] constexpr const Tool_Row& row_of(Tool tool) {
+    return tool_table.at(static_cast<std::size_t>(tool));
+}
 
 // The tool that the command selects, or none.
 [[nodiscard]] constexpr Tool tool_of(Command command) {

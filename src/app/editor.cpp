@@ -1,0 +1,177 @@
+#include "app/editor.h"
+
+#include "app/command_table.h"
+#include "app/events.h"
+#include "app/options.h"
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+#include "ui/dialogs.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quadrelle {
+
+std::unique_ptr<Editor> editor;
+
+namespace {
+
+constexpr Size first_tile_size{24, 24};
+
+// Around the canvas viewport, and what they leave out of the window: together with the viewport every pixel.
+constexpr std::array frame_areas{
+    Rectangle{0, 0, 264, 632},   Rectangle{264, 0, 512, 64}, Rectangle{264, 576, 512, 56},
+    Rectangle{776, 0, 455, 632}, Rectangle{1231, 0, 1, 632}, Rectangle{0, 632, 1232, 32},
+};
+
+// Columns or rows of the preview that fit into its 192 pixels.
+int fitting_repeat(int tile_extent, int repeat) {
+    if (tile_extent <= 0) {
+        return 0;
+    }
+    return tile_extent * repeat > 191 ? 192 / tile_extent : repeat;
+}
+
+} // namespace
+
+Editor::Editor()
+    : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
+      menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })) {
+    dialogs->set_backdrop([this] { redraw(Present::no); });
+}
+
+Editor::~Editor() {
+    dialogs->set_backdrop({});
+}
+
+void Editor::run() {
+    if (!show_first_frame()) {
+        return;
+    }
+    while (!quit_requested_) {
+        handle_one_event();
+        redraw(Present::yes);
+    }
+}
+
+bool Editor::show_first_frame() {
+    if (!documents_.new_document(first_tile_size)) {
+        return false;
+    }
+    prepare_for_tile();
+    tool_colors->reset();
+    redraw(Present::yes);
+    return true;
+}
+
+void Editor::handle_one_event() {
+    handle(wait_event("main"));
+}
+
+void Editor::prepare_for_tile() {
+    toolbox->prepare_for_tile();
+    size_preview();
+}
+
+void Editor::size_preview() {
+    const Size tile = documents_.current().tileset().tile_size();
+    dialogs->preview().set_repeat(fitting_repeat(tile.width, options->value(Option::repeat_x_tiles)),
+                                  fitting_repeat(tile.height, options->value(Option::repeat_y_tiles)));
+}
+
+void Editor::take_current_tile() {
+    Tileset& tileset = documents_.current().tileset();
+    canvas_.set_tile(tileset.current_tile());
+    dialogs->preview().set_tile(tileset.current_tile());
+    if (tileset.tile_size() != shown_tile_size_) {
+        shown_tile_size_ = tileset.tile_size();
+        canvas_.centre();
+        size_preview();
+    }
+}
+
+void Editor::redraw(Present present) {
+    canvas_.draw();
+    toolbox->draw(pointer_);
+    for (const Rectangle& area : frame_areas) {
+        screen->fill_rect(area, standard_color(Standard_Color::frame));
+    }
+    menu_bar_->draw(pointer_);
+    dialogs->draw(canvas_.pixel_size());
+    documents_.draw_tabs();
+    toolbox->draw_foreground();
+    if (present == Present::yes) {
+        screen->present();
+    }
+}
+
+void Editor::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: static_cast<void>(perform(Command::quit)); break;
+    case SDL_EVENT_KEY_DOWN: handle_key(event.key); break;
+    case SDL_EVENT_KEY_UP: control_held_ = false; break;
+    case SDL_EVENT_MOUSE_MOTION: handle_motion(event.motion); break;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: handle_press(event.button); break;
+    case SDL_EVENT_MOUSE_WHEEL:
+        if (event.wheel.y != 0) {
+            canvas_.zoom(event.wheel.y > 0 ? Zoom_Step::in : Zoom_Step::out);
+        }
+        break;
+    default: break;
+    }
+}
+
+void Editor::handle_key(const SDL_KeyboardEvent& event) {
+    const Key_Chord chord = key_chord_of(event);
+    control_held_ = control_held_ || chord.modifier == Modifier::control;
+    const Command command = find_command(chord);
+    if (command != Command::none) {
+        execute(command);
+    }
+}
+
+void Editor::handle_motion(const SDL_MouseMotionEvent& event) {
+    pointer_ = {event.x, event.y, pointer_.button};
+    if (!canvas_viewport.contains(pointer_.point()) && cursor_hidden_) {
+        show_cursor();
+    }
+}
+
+void Editor::show_cursor() {
+    screen->show_cursor(true);
+    cursor_hidden_ = false;
+}
+
+void Editor::handle_press(const SDL_MouseButtonEvent& event) {
+    pointer_ = pointer_of(event);
+    if (control_held_ && pointer_.button == Mouse_Button::right) {
+        canvas_.pan([this] { redraw(Present::yes); });
+        control_held_ = false;
+    } else if (pointer_.button != Mouse_Button::none) {
+        route_click();
+    }
+}
+
+void Editor::route_click() {
+    if (canvas_viewport.contains(pointer_.point())) {
+        draw_on_canvas();
+        return;
+    }
+    if (toolbox->click(pointer_)) {
+        return;
+    }
+    if (documents_.click_tab(pointer_.point())) {
+        return;
+    }
+    const Command command = menu_bar_->click(pointer_);
+    if (command != Command::none) {
+        // Nothing under the closed menu reacts to where it was clicked.
+        pointer_.x = -1;
+        pointer_.y = -1;
+        execute(command);
+    }
+}
+
+} // namespace quadrelle

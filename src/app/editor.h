@@ -1,0 +1,88 @@
+#pragma once
+
+// The program at work: takes events, routes them, carries out commands and draws the whole window.
+
+#include "app/canvas_view.h"
+#include "app/command.h"
+#include "app/input.h"
+#include "app/menu_bar.h"
+#include "tileset/documents.h"
+
+#include <SDL3/SDL_events.h>
+
+#include <memory>
+
+namespace quadrelle {
+
+enum class Present { no, yes };
+
+class Editor {
+public:
+    Editor();
+    ~Editor();
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    // Returns when the user has confirmed quitting.
+    void run();
+    // The two halves of `run`: the first tileset in view, and one event answered.
+    bool show_first_frame();
+    void handle_one_event();
+    // Carries the command out and records it.
+    void execute(Command command);
+    void redraw(Present present);
+
+    [[nodiscard]] Documents& documents() { return documents_; }
+    [[nodiscard]] Canvas_View& canvas() { return canvas_; }
+
+private:
+    struct Handler;
+
+    // Events.
+    void handle(const SDL_Event& event);
+    void handle_key(const SDL_KeyboardEvent& event);
+    void handle_motion(const SDL_MouseMotionEvent& event);
+    void handle_press(const SDL_MouseButtonEvent& event);
+    void route_click();
+    void draw_on_canvas();
+    void show_cursor();
+
+    // Commands. Each answers with the command to record, or none when it failed.
+    [[nodiscard]] Command perform(Command command);
+    [[nodiscard]] Command dispatch(Command command);
+    void follow_up(Command done);
+    Command do_nothing(Command command);
+    Command select_tool(Command command);
+    Command swap_tool_colors(Command command);
+    Command select_brush_size(Command command);
+    Command zoom(Command command);
+    Command centre(Command command);
+    Command close(Command command);
+    Command make_new(Command command);
+    Command load(Command command);
+    Command save(Command command);
+    Command quit(Command command);
+    Command edit_options(Command command);
+    Command show_about(Command command);
+    Command show_debug_monitor(Command command);
+    Command run_test(Command command);
+
+    // After another tile, or a set of another size, came into view.
+    void take_current_tile();
+    void prepare_for_tile();
+    void size_preview();
+
+    Pointer_State pointer_;
+    bool quit_requested_ = false;
+    bool cursor_hidden_ = false;
+    bool control_held_ = false;
+    Size shown_tile_size_;
+    Canvas_View canvas_;
+    Documents documents_;
+    std::unique_ptr<Menu_Bar> menu_bar_;
+};
+
+// Built at start-up, when everything it works with is there.
+extern std::unique_ptr<Editor> editor;
+
+} // namespace quadrelle

@@ -1,0 +1,181 @@
+#include "app/command_table.h"
+#include "app/editor.h"
+#include "app/options.h"
+#include "app/screen.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+#include "ui/debug_monitor.h"
+#include "ui/dialogs.h"
+#include "views/about.h"
+#include "views/new_tileset_dialog.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace quadrelle {
+
+struct Editor::Handler {
+    Command first;
+    Command last;
+    Command (Editor::*handle)(Command command);
+};
+
+// Commands that are not in this table go to the document.
+Command Editor::dispatch(Command command) {
+    // clang-format off
+    static constexpr std::array handlers = std::to_array<Handler>({
+        {Command::pen,                 Command::pen,                 &Editor::select_tool},
+        {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
+        {Command::select_brush_size_1, Command::select_brush_size_6, &Editor::select_brush_size},
+        {Command::change_tile,         Command::change_tile,         &Editor::do_nothing},
+        {Command::close,               Command::close,               &Editor::close},
+        {Command::new_tileset,         Command::new_tileset,         &Editor::make_new},
+        {Command::load,                Command::load,                &Editor::load},
+        {Command::import_from_bmp,     Command::import_from_bmp,     &Editor::do_nothing},
+        {Command::save_as,             Command::save,                &Editor::save},
+        {Command::quit,                Command::quit,                &Editor::quit},
+        {Command::center_tile_on_view, Command::center_tile_on_view, &Editor::centre},
+        {Command::zoom_tile_up,        Command::zoom_tile_down,      &Editor::zoom},
+        {Command::options,             Command::options,             &Editor::edit_options},
+        {Command::about,               Command::about,               &Editor::show_about},
+        {Command::debug_monitor,       Command::debug_monitor,       &Editor::show_debug_monitor},
+        {Command::skip_command,        Command::skip_command,        &Editor::do_nothing},
+        {Command::test,                Command::test,                &Editor::run_test},
+    });
+    // clang-format on
+    const auto handler = std::ranges::find_if(
+        handlers, [command](const Handler& row) { return row.first <= command && command <= row.last; });
+    if (handler != handlers.end()) {
+        return (this->*handler->handle)(command);
+    }
+    const Command result = documents_.current().handle_command(command);
+    if (result == Command::none) {
+        dialogs->message("Note", "Unhandled command " + std::string(row_of(command).name));
+    }
+    return result;
+}
+
+Command Editor::perform(Command command) {
+    const bool was_hidden = cursor_hidden_;
+    if (was_hidden) {
+        screen->show_cursor(true);
+    }
+    const Command result = dispatch(command);
+    follow_up(result);
+    if (was_hidden && cursor_hidden_) {
+        screen->show_cursor(false);
+    }
+    return result;
+}
+
+void Editor::follow_up(Command done) {
+    if (done == Command::none) {
+        return;
+    }
+    const Command_Category category = row_of(done).category;
+    if (category == Command_Category::structure || category == Command_Category::tile_switch) {
+        take_current_tile();
+    }
+    if (category == Command_Category::structure) {
+        documents_.mark_changed();
+    }
+}
+
+void Editor::execute(Command command) {
+    if (is_recorded(perform(command))) {
+        documents_.mark_changed();
+    }
+}
+
+Command Editor::do_nothing(Command command) {
+    return command;
+}
+
+Command Editor::select_tool(Command command) {
+    toolbox->select(command);
+    return command;
+}
+
+Command Editor::swap_tool_colors(Command command) {
+    tool_colors->swap();
+    return command;
+}
+
+Command Editor::select_brush_size(Command command) {
+    toolbox->select_brush_size(index_of(command) - index_of(Command::select_brush_size_1));
+    return command;
+}
+
+Command Editor::zoom(Command command) {
+    const bool has_zoomed = canvas_.zoom(command == Command::zoom_tile_up ? Zoom_Step::in : Zoom_Step::out);
+    return has_zoomed ? command : Command::skip_command;
+}
+
+Command Editor::centre(Command command) {
+    canvas_.centre();
+    return command;
+}
+
+Command Editor::close(Command command) {
+    if (!documents_.close_document()) {
+        return Command::skip_command;
+    }
+    prepare_for_tile();
+    return command;
+}
+
+Command Editor::make_new(Command command) {
+    const auto choice = new_tileset_dialog->run();
+    if (!choice) {
+        return Command::skip_command;
+    }
+    if (choice->keep_and_resize) {
+        documents_.resize_current(choice->size);
+        documents_.mark_changed();
+    } else if (!documents_.new_document(choice->size)) {
+        return Command::skip_command;
+    }
+    prepare_for_tile();
+    return command;
+}
+
+Command Editor::load(Command command) {
+    return documents_.load_document() ? command : Command::skip_command;
+}
+
+Command Editor::save(Command command) {
+    const Save_As save_as = command == Command::save_as ? Save_As::yes : Save_As::no;
+    return documents_.save_document(save_as) ? command : Command::skip_command;
+}
+
+Command Editor::quit(Command command) {
+    quit_requested_ = new_tileset_dialog->confirm_quit(documents_.has_unsaved());
+    return command;
+}
+
+Command Editor::edit_options(Command command) {
+    if (options->edit()) {
+        prepare_for_tile();
+    }
+    return command;
+}
+
+Command Editor::show_about(Command command) {
+    dialogs->message("About", about_text());
+    return command;
+}
+
+Command Editor::show_debug_monitor(Command command) {
+    debug_monitor->show();
+    return command;
+}
+
+// What a developer wants to see first when something looks wrong on another machine.
+Command Editor::run_test(Command command) {
+    debug_monitor->write("Renderer: " + screen->renderer_name());
+    debug_monitor->show();
+    return command;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,45 @@
+#include "tileset/document.h"
+
+#include <utility>
+
+namespace quadrelle {
+
+Tileset_Document::Tileset_Document(std::string file_name, Tileset tileset)
+    : file_name_(std::move(file_name)), tileset_(std::move(tileset)) {}
+
+void Tileset_Document::set_file(const std::string& path) {
+    file_name_ = path;
+    is_named_ = true;
+}
+
+bool Tileset_Document::set_modified() {
+    return !std::exchange(is_modified_, true);
+}
+
+std::string Tileset_Document::title() const {
+    return file_name_ + (is_modified_ ? "*" : "");
+}
+
+Command Tileset_Document::handle_command(Command command) {
+    const auto done = [command](bool is_done) { return is_done ? command : Command::skip_command; };
+    switch (command) {
+    case Command::next_tile: return done(tileset_.next());
+    case Command::previous_tile: return done(tileset_.previous());
+    case Command::add_new_tile: return done(tileset_.add_tile());
+    case Command::insert_new_tile: return done(tileset_.insert_tile());
+    case Command::delete_tile: return done(delete_tile());
+    default: return Command::none;
+    }
+}
+
+// The last tile left stays, blank: that is a change too.
+bool Tileset_Document::delete_tile() {
+    if (!tileset_.has_tiles()) {
+        return false;
+    }
+    tileset_.delete_current();
+    tileset_.current_tile()->update_texture();
+    return true;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,38 @@
+#pragma once
+
+// The row of tabs above the canvas, one for each open document.
+
+#include "app/geometry.h"
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quadrelle {
+
+class Texture;
+
+class Document_Tabs {
+public:
+    Document_Tabs();
+    ~Document_Tabs();
+
+    // In the order of the documents. Tabs that do not fit beside the current one are left out.
+    void set_titles(std::span<const std::string> titles, std::size_t current);
+    void draw() const;
+    // The document whose tab is there, or -1.
+    [[nodiscard]] int tab_at(Point point) const;
+
+private:
+    struct Tab {
+        int document = 0;
+        Rectangle area;
+        std::unique_ptr<Texture> label;
+    };
+
+    std::vector<Tab> tabs_;
+};
+
+} // namespace quadrelle
