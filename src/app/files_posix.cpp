@@ -101,7 +101,8 @@ std::string resolve_links(const std::string& name) {
         if (target.empty()) {
             break;
         }
-        resolved = target.front() == '/' ? target : folder_part(resolved) + target;
+        // A relative one starts from the link's own folder.
+        resolved = (target.front() == '/' ? std::string() : folder_part(resolved)).append(target);
     }
     return resolved;
 }
