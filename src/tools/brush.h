@@ -40,6 +40,8 @@ public:
         return pixels_[static_cast<std::size_t>(x) +
                        static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(y)];
     }
+    // Of brushes laid side by side without end, one of them with its corner on (0, 0).
+    [[nodiscard]] std::optional<Color> wallpaper_pixel(std::int64_t x, std::int64_t y) const;
     // Paints the set pixels; a stamp keeps its own colours.
     void recolor(Color color);
 

@@ -43,6 +43,7 @@ public:
 private:
     // 0: not reached; 1 to the limit: the wave that reached it, the seed's being 1; above: blocked.
     [[nodiscard]] static bool is_reached(std::int32_t cell) { return cell >= 1 && cell <= flood_wave_limit; }
+    [[nodiscard]] bool is_inside(Tile_Point position) const;
     void flood(Tile_Point seed);
 
     Size size_;
