@@ -14,6 +14,9 @@ if(test_sources)
         target_compile_definitions(quadrelle_tests PRIVATE QUADRELLE_PROGRAM="$<TARGET_FILE:quadrelle>")
         add_dependencies(quadrelle_tests quadrelle)
     endif()
+    if(TARGET compose_sheet)
+        add_dependencies(quadrelle_tests compose_sheet)
+    endif()
     # Two properties, because gtest_discover_tests keeps only the first entry of a list.
     gtest_discover_tests(quadrelle_tests
         DISCOVERY_MODE PRE_TEST
