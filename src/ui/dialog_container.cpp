@@ -1,0 +1,175 @@
+#include "ui/dialog_container.h"
+
+#include "app/data_directory.h"
+#include "app/screen.h"
+#include "tileset/block_file.h"
+#include "tileset/data_stream.h"
+#include "ui/button_dialog_item.h"
+#include "ui/dialogs.h"
+#include "ui/text_dialog.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int narrowest = 100;
+constexpr int button_row_height = 27;
+
+Dialog_Row make_button_row() {
+    Dialog_Row row;
+    row.add<Button_Dialog_Item>(Item_Id{}, Button_Type::ok);
+    return row;
+}
+
+} // namespace
+
+Dialog_Container::Dialog_Container(std::string_view title, std::string data_file)
+    : title_(title), data_file_(std::move(data_file)), frame_(title) {}
+
+Dialog_Row& Dialog_Container::add_text_row(std::string_view text) {
+    Dialog_Row row;
+    row.add<Text_Dialog>(Item_Id{}, text);
+    return add_row(std::move(row));
+}
+
+Dialog_Row& Dialog_Container::add_image_row(Sprite sprite) {
+    Dialog_Row row;
+    row.add<Image_Dialog_Item>(Item_Id{}, sprite);
+    return add_row(std::move(row));
+}
+
+void Dialog_Container::finish_ok() {
+    finish(make_button_row());
+}
+
+void Dialog_Container::finish_ok_cancel() {
+    Dialog_Row buttons = make_button_row();
+    buttons.add<Button_Dialog_Item>(Item_Id{}, Button_Type::cancel);
+    finish(std::move(buttons));
+}
+
+void Dialog_Container::finish(Dialog_Row buttons) {
+    add_row(std::move(buttons));
+    load_and_size();
+    place_buttons();
+}
+
+void Dialog_Container::load_and_size() {
+    load_file();
+    Size size{narrowest, 2 * dialog_margin};
+    for (Dialog_Row& row : rows_.rows()) {
+        row.measure();
+        size.width = std::max(size.width, row.area.width);
+        size.height += row.area.height;
+    }
+    size.width += 2 * dialog_margin;
+    frame_.set_size(size);
+    rows_.stack({frame_.area().x + dialog_margin, frame_.area().y + dialog_title_height + dialog_margin},
+                Dialog_Rows::Extent::all_but_last);
+}
+
+void Dialog_Container::place_buttons() {
+    const Rectangle& box = frame_.area();
+    Dialog_Row& row = rows_.rows().back();
+    row.area = {box.x, box.bottom() - button_row_height - dialog_margin, box.width, button_row_height};
+    Dialog_Item& first = *row.items().front();
+    const int y = box.bottom() - first.area.height - dialog_margin;
+    if (row.items().size() == 1) {
+        first.set_position({box.x + (box.width - first.area.width) / 2, y});
+        return;
+    }
+    Dialog_Item& second = *row.items().back();
+    first.set_position({box.x + dialog_margin, y});
+    second.set_position({box.right() - second.area.width - dialog_margin, y});
+}
+
+bool Dialog_Container::run() {
+    result_ = {};
+    pointer_ = {};
+    rows_.begin();
+    {
+        const Dialog_Layer layer([this] { draw_frame_and_items(); });
+        const std::string name = "dialog \"" + title_ + "\"";
+        run_modal({name, [] { dialogs->show_backdrop(); },
+                   [this](const SDL_Event& event) { return handle(event); }});
+    }
+    if (result_.kind == Dialog_Event_Kind::cancel) {
+        rows_.revert();
+    }
+    if (result_.kind != Dialog_Event_Kind::accept) {
+        return false;
+    }
+    save_file();
+    return true;
+}
+
+Loop_Step Dialog_Container::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
+    default: return Loop_Step::go_on;
+    }
+}
+
+// Escape deliberately is no Cancel: the items stay as they are.
+Loop_Step Dialog_Container::handle_key(Keycode pressed) {
+    if (pressed == key::enter || pressed == 'y') {
+        result_ = {Dialog_Event_Kind::accept};
+        return Loop_Step::end;
+    }
+    return pressed == key::escape ? Loop_Step::end : Loop_Step::go_on;
+}
+
+Loop_Step Dialog_Container::press(const Pointer_State& pointer) {
+    pointer_ = pointer;
+    if (pointer_.button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    result_ = rows_.item_at(pointer_.point());
+    rows_.notify(result_);
+    return result_.closes() ? Loop_Step::end : Loop_Step::go_on;
+}
+
+void Dialog_Container::draw() {
+    dialogs->draw_backdrop();
+    draw_frame_and_items();
+    screen->present();
+}
+
+void Dialog_Container::draw_frame_and_items() const {
+    frame_.draw();
+    rows_.draw();
+}
+
+int Dialog_Container::value(int id) const {
+    const Dialog_Item* const found = item(id);
+    return found == nullptr ? -1 : found->value();
+}
+
+void Dialog_Container::load_file() {
+    if (data_file_.empty()) {
+        return;
+    }
+    Block_File file(data_directory().path(data_file_));
+    if (file.open_read()) {
+        Data_Stream stream;
+        stream.load_from(file);
+        rows_.load(stream);
+    }
+}
+
+void Dialog_Container::save_file() {
+    if (data_file_.empty()) {
+        return;
+    }
+    Data_Stream stream;
+    rows_.save(stream);
+    if (!stream.save_to(data_directory().path(data_file_))) {
+        dialogs->message("Note", "Can't save dialog data.");
+    }
+}
+
+} // namespace quadrelle

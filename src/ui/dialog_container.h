@@ -1,0 +1,61 @@
+#pragma once
+
+// A dialog: its layout, its modal loop, and the file that keeps what was chosen.
+
+#include "app/events.h"
+#include "app/input.h"
+#include "tileset/sprite_table.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialog_rows.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace quadrelle {
+
+class Dialog_Container {
+public:
+    // `data_file` is a name in the data directory, or empty.
+    explicit Dialog_Container(std::string_view title, std::string data_file = {});
+
+    Dialog_Row& add_row(Dialog_Row row) { return rows_.add_row(std::move(row)); }
+    // The text must outlive the dialog.
+    Dialog_Row& add_text_row(std::string_view text);
+    Dialog_Row& add_image_row(Sprite sprite);
+    // The last row: everything else is added before.
+    void finish_ok();
+    void finish_ok_cancel();
+
+    // True when accepted; the items are then saved. Cancel restores numbers and choices, but deliberately not
+    // ticks; every other end leaves all items as they are.
+    bool run();
+    // Editor, frame and items, presented.
+    void draw();
+
+    [[nodiscard]] Dialog_Item* item(int id) const { return rows_.item(id); }
+    // Of the item with that id; -1 without one.
+    [[nodiscard]] int value(int id) const;
+    [[nodiscard]] const Dialog_Frame& frame() const { return frame_; }
+    [[nodiscard]] Dialog_Rows& rows() { return rows_; }
+
+private:
+    void finish(Dialog_Row buttons);
+    void load_and_size();
+    void place_buttons();
+    void draw_frame_and_items() const;
+    void load_file();
+    void save_file();
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(Keycode pressed);
+    Loop_Step press(const Pointer_State& pointer);
+
+    std::string title_;
+    std::string data_file_;
+    Dialog_Frame frame_;
+    Dialog_Rows rows_;
+    Dialog_Event result_;
+    Pointer_State pointer_;
+};
+
+} // namespace quadrelle

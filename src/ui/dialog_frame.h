@@ -1,0 +1,35 @@
+#pragma once
+
+// The box that a dialog is shown in.
+
+#include "app/geometry.h"
+#include "app/texture.h"
+
+#include <memory>
+#include <string_view>
+
+namespace quadrelle {
+
+// The part of a frame above its contents.
+constexpr int dialog_title_height = 24;
+constexpr int dialog_margin = 7;
+
+class Dialog_Frame {
+public:
+    // Centred on the screen.
+    explicit Dialog_Frame(std::string_view title);
+
+    // Of the part below the title; centres the frame.
+    void set_size(Size below_title);
+    void draw() const;
+    [[nodiscard]] int title_width() const;
+
+    // With the title.
+    [[nodiscard]] const Rectangle& area() const { return area_; }
+
+private:
+    Rectangle area_{100, 100, 100, 100};
+    std::unique_ptr<Texture> title_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,56 @@
+#pragma once
+
+// One thing in a row of a dialog: it draws itself, answers clicks with events, and can be kept in a file.
+
+#include "app/geometry.h"
+#include "tileset/font_table.h"
+#include "ui/dialog_event.h"
+
+#include <cstdint>
+
+namespace quadrelle {
+
+class Data_Stream;
+
+constexpr int no_id = -1;
+
+struct Item_Id {
+    std::int32_t id = no_id;
+    std::int32_t host = no_id; // the item that this one acts on
+};
+
+class Dialog_Item {
+public:
+    explicit Dialog_Item(Item_Id ids, Font item_font = Font::regular)
+        : id(ids.id), host(ids.host), font(item_font) {}
+    Dialog_Item(const Dialog_Item&) = delete;
+    Dialog_Item& operator=(const Dialog_Item&) = delete;
+    virtual ~Dialog_Item() = default;
+
+    [[nodiscard]] virtual int value() const { return -1; }
+    // Takes on the size of what it shows, where that can change.
+    virtual void measure() {}
+    // The item compares the point with its own area. The base class logs that nobody answers.
+    virtual Dialog_Event click(Point point);
+    virtual void notify(Dialog_Event_Kind kind);
+    virtual void set_position(Point position);
+    virtual void draw() const {}
+    // At the start of a modal dialog, and at its end with Cancel.
+    virtual void begin() { saved = 0; }
+    virtual void revert() {}
+    virtual void save(Data_Stream& stream) const;
+    virtual void load(Data_Stream& stream);
+
+    // Writes ids and area to the log.
+    void describe() const;
+    // Where a content of that width starts; deliberately 8 pixels left of the middle.
+    [[nodiscard]] int centred_x(int width) const { return (area.width - width) / 2 + area.x - 8; }
+
+    Rectangle area;
+    std::int32_t id;
+    std::int32_t host;
+    std::int32_t saved = 0;
+    Font font;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,34 @@
+#pragma once
+
+// The root of every rectangular thing on the screen.
+
+#include "app/geometry.h"
+
+namespace quadrelle {
+
+// Room between two elements that stand below each other.
+constexpr int element_gap = 4;
+
+class Element {
+public:
+    Element() = default;
+    explicit Element(const Rectangle& outer) : area(outer) {}
+    Element(const Element&) = delete;
+    Element& operator=(const Element&) = delete;
+    virtual ~Element() = default;
+
+    [[nodiscard]] virtual Rectangle client_area() const { return area; }
+    // Recomputes what depends on the area, after a move or a resize.
+    virtual void layout() {}
+    virtual void draw() const {}
+    // Moves, lays out and draws; the y for the next element below.
+    virtual int place(int x, int y);
+
+    void move(int x, int y);
+    void resize(int width, int height);
+
+    // In window pixels.
+    Rectangle area;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,134 @@
+#include "ui/number_prompt.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tileset/sprite_sheet.h"
+#include "ui/dialogs.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <optional>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Font font = Font::regular;
+constexpr int margin = 7;
+constexpr int narrowest = 90;
+constexpr int distance = 12;
+constexpr int field_padding = 3;
+// As many as every 32-bit number has; more could only lie outside of the bounds.
+constexpr std::size_t most_digits = 10;
+
+constexpr std::optional<char> digit_of(Keycode pressed) {
+    if (pressed >= '0' && pressed <= '9') {
+        return static_cast<char>(pressed);
+    }
+    if (pressed >= key::keypad_1 && pressed < key::keypad_0) {
+        return static_cast<char>('1' + (pressed - key::keypad_1));
+    }
+    return pressed == key::keypad_0 ? std::optional('0') : std::nullopt;
+}
+
+int pulled_inside(int position, int extent, int limit) {
+    return std::clamp(position, 0, std::max(limit - extent, 0));
+}
+
+} // namespace
+
+Number_Prompt::Number_Prompt(Point position, int value, int low, int high)
+    : low_(low), high_(high), typed_(std::to_string(value)), result_(no_number) {
+    box_.width = std::max(narrowest, screen->text_width(font, hint()) + 2 * margin);
+    box_.height = 2 * line_height(font) + 2 * field_padding + 2 * margin;
+    box_.x = pulled_inside(position.x + distance, box_.width, screen->size().width);
+    box_.y = pulled_inside(position.y + distance, box_.height, screen->size().height);
+}
+
+std::string Number_Prompt::hint() const {
+    return std::to_string(low_) + " to " + std::to_string(high_);
+}
+
+int Number_Prompt::run() {
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"number prompt", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    return result_;
+}
+
+void Number_Prompt::draw() const {
+    const Color edge = standard_color(is_refused_ ? Standard_Color::red : Standard_Color::dark_frame);
+    screen->fill_rect(box_.inset(-1), standard_color(Standard_Color::dark_frame));
+    screen->draw_panel(box_, standard_color(Standard_Color::pane_background));
+    const Rectangle field{box_.x + margin, box_.y + margin, box_.width - 2 * margin,
+                          line_height(font) + 2 * field_padding};
+    screen->fill_rect(field, standard_color(Standard_Color::dark_frame));
+    screen->draw_outline(field, edge);
+
+    const int text_y = field.y + field_padding;
+    const Point start{field.x + 2 * field_padding, text_y};
+    if (is_untouched_) {
+        screen->fill_rect(
+            {start.x - 1, text_y + 1, screen->text_width(font, typed_) + 2, line_height(font) - 2},
+            standard_color(Standard_Color::highlight_deep));
+    }
+    const Point end = screen->draw_text(font, start, typed_);
+    screen->fill_rect({end.x + 1, text_y + 2, 1, line_height(font) - 4},
+                      standard_color(Standard_Color::white));
+    if (is_refused_) {
+        screen->fill_rect({field.x, field.bottom() + 1, field.width, line_height(font)}, edge);
+    }
+    screen->draw_text(font, {start.x, field.bottom() + 1}, hint());
+}
+
+Loop_Step Number_Prompt::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+    case SDL_EVENT_MOUSE_BUTTON_DOWN:
+        return box_.contains(pointer_of(event.button).point()) ? Loop_Step::go_on : Loop_Step::end;
+    default: return Loop_Step::go_on;
+    }
+}
+
+Loop_Step Number_Prompt::handle_key(Keycode pressed) {
+    if (pressed == key::escape) {
+        return Loop_Step::end;
+    }
+    if (pressed == key::enter || pressed == key::keypad_enter) {
+        return accept();
+    }
+    if (pressed == key::backspace) {
+        is_untouched_ = is_refused_ = false;
+        if (!typed_.empty()) {
+            typed_.pop_back();
+        }
+    } else if (const std::optional<char> digit = digit_of(pressed)) {
+        append(*digit);
+    }
+    return Loop_Step::go_on;
+}
+
+void Number_Prompt::append(char digit) {
+    if (is_untouched_) {
+        typed_.clear();
+    }
+    is_untouched_ = is_refused_ = false;
+    if (typed_.size() < most_digits) {
+        typed_ += digit;
+    }
+}
+
+Loop_Step Number_Prompt::accept() {
+    std::int64_t number = no_number;
+    std::from_chars(typed_.data(), typed_.data() + typed_.size(), number);
+    is_refused_ = typed_.empty() || number < low_ || number > high_;
+    if (is_refused_) {
+        return Loop_Step::go_on;
+    }
+    result_ = static_cast<int>(number);
+    return Loop_Step::end;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,39 @@
+#pragma once
+
+// A small box in which the user types a number between two bounds.
+
+#include "app/events.h"
+#include "app/geometry.h"
+#include "app/input.h"
+
+#include <string>
+
+namespace quadrelle {
+
+class Number_Prompt {
+public:
+    // Shows `value` until something is typed. The box lies near `position`, inside the window.
+    Number_Prompt(Point position, int value, int low, int high);
+
+    // The number, or `no_number` after Escape, a click outside of the box, or the window's close button.
+    int run();
+
+private:
+    [[nodiscard]] std::string hint() const;
+    void draw() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(Keycode pressed);
+    Loop_Step accept();
+    void append(char digit);
+
+    int low_;
+    int high_;
+    std::string typed_;
+    // The first digit replaces the value that is shown at the start.
+    bool is_untouched_ = true;
+    bool is_refused_ = false;
+    int result_;
+    Rectangle box_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,44 @@
+#include "ui/pane.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+
+namespace quadrelle {
+
+Pane::Pane(const Rectangle& below_title, std::string_view title) : Element(below_title) {
+    // Qualified: a derived class is not there yet to lay itself out.
+    area.height += pane_title_height;
+    Pane::layout();
+    set_title(title);
+}
+
+Pane::~Pane() = default;
+
+void Pane::layout() {
+    const int above = pane_title_height + pane_border;
+    client_ = {area.x + pane_border, area.y + above, area.width - 2 * pane_border,
+               area.height - above - pane_border};
+}
+
+void Pane::draw() const {
+    if (title_) {
+        screen->draw_texture(*title_, {area.x, area.y});
+    }
+    screen->fill_rect({area.x, area.y + pane_title_height, area.width, area.height - pane_title_height},
+                      standard_color(Standard_Color::pane_background));
+}
+
+void Pane::set_title(std::string_view title) {
+    title_ = screen->make_header(title, Header_Style::active);
+}
+
+void Pane::draw_frame() const {
+    screen->draw_outline(client_area(), standard_color(Standard_Color::pane_frame));
+}
+
+void Pane::clear(Color color) const {
+    screen->fill_rect(client_area(), color);
+    screen->draw_outline(client_area(), color);
+}
+
+} // namespace quadrelle

@@ -1,0 +1,42 @@
+#pragma once
+
+// An element with a title bar and a framed client area below it.
+
+#include "app/input.h"
+#include "app/texture.h"
+#include "color/color.h"
+#include "ui/element.h"
+
+#include <memory>
+#include <string_view>
+
+namespace quadrelle {
+
+constexpr int pane_title_height = 21;
+constexpr int pane_border = 5;
+
+class Pane : public Element {
+public:
+    // The height given is the one below the title bar. The screen must be there.
+    Pane(const Rectangle& below_title, std::string_view title);
+    ~Pane() override;
+
+    [[nodiscard]] Rectangle client_area() const override { return client_; }
+    void layout() override;
+    void draw() const override;
+
+    void set_title(std::string_view title);
+    // The client area's outline.
+    void draw_frame() const;
+    // Fills the client area.
+    void clear(Color color) const;
+    [[nodiscard]] bool contains(int x, int y) const { return client_.contains({x, y}); }
+    [[nodiscard]] bool contains(Point point) const { return client_.contains(point); }
+    [[nodiscard]] bool contains(const Pointer_State& pointer) const { return contains(pointer.point()); }
+
+private:
+    std::unique_ptr<Texture> title_;
+    Rectangle client_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,39 @@
+#pragma once
+
+// One text out of a list, stepped through by other items.
+
+#include "ui/cyclic_int.h"
+#include "ui/dialog_item.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle {
+
+// "a,b,c$" gives three entries. The first character of an entry is always taken, even a comma. Throws
+// std::invalid_argument for a text without "$".
+[[nodiscard]] std::vector<std::string> parse_choices(std::string_view choices);
+
+class Textlist_Dialog_Item : public Dialog_Item {
+public:
+    Textlist_Dialog_Item(Item_Id ids, std::string_view choices, int index, Font item_font = Font::regular);
+
+    [[nodiscard]] int value() const override { return index_.value(); }
+    [[nodiscard]] const std::vector<std::string>& entries() const { return entries_; }
+    // As wide as the widest entry.
+    void measure() override;
+    void notify(Dialog_Event_Kind kind) override;
+    void draw() const override;
+    void begin() override { saved = index_.value(); }
+    void revert() override { index_.set(saved); }
+    void save(Data_Stream& stream) const override;
+    // An index that has no entry is not taken; the file's bounds never are.
+    void load(Data_Stream& stream) override;
+
+private:
+    std::vector<std::string> entries_;
+    Cyclic_Int index_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,28 @@
+#pragma once
+
+// Asks for the tile size of a new tileset, and whether the program may end.
+
+#include "app/geometry.h"
+
+#include <memory>
+#include <optional>
+
+namespace quadrelle {
+
+struct New_Tileset_Choice {
+    Size size;
+    bool keep_and_resize = false; // the current tileset gets the size instead
+
+    bool operator==(const New_Tileset_Choice&) const = default;
+};
+
+class New_Tileset_Dialog {
+public:
+    // Nothing when it was given up.
+    [[nodiscard]] std::optional<New_Tileset_Choice> run() const;
+    [[nodiscard]] bool confirm_quit(bool has_unsaved_tiles) const;
+};
+
+extern std::unique_ptr<New_Tileset_Dialog> new_tileset_dialog;
+
+} // namespace quadrelle
