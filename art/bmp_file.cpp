@@ -17,7 +17,9 @@ void put_number(Bytes& bytes, std::size_t value, int count) {
 }
 
 void put_colour(Bytes& bytes, Rgb colour) {
-    bytes.insert(bytes.end(), {colour.b, colour.g, colour.r});
+    bytes.push_back(colour.b);
+    bytes.push_back(colour.g);
+    bytes.push_back(colour.r);
 }
 
 // In the order of their first pixels, the colour key first.
@@ -33,7 +35,8 @@ std::vector<Rgb> colours_of(const Sheet_Picture& sheet) {
 void put_headers(Bytes& bytes, std::size_t palette_size, int bits_a_pixel) {
     const std::size_t pixels_start = file_header_size + picture_header_size + 4 * palette_size;
     const std::size_t pixels_size = static_cast<std::size_t>(sheet_width * sheet_height * bits_a_pixel / 8);
-    bytes.insert(bytes.end(), {'B', 'M'});
+    bytes.push_back('B');
+    bytes.push_back('M');
     put_number(bytes, pixels_start + pixels_size, 4);
     put_number(bytes, 0, 4);
     put_number(bytes, pixels_start, 4);
