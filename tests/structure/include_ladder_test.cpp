@@ -53,7 +53,6 @@ constexpr std::array places{
 
     Place{"app/data_directory",           Level::screen},
     Place{"app/events",                   Level::screen},
-    Place{"app/options",                  Level::screen},
     Place{"app/screen",                   Level::screen},
     Place{"app/surface",                  Level::screen},
     Place{"app/texture",                  Level::screen},
@@ -62,9 +61,13 @@ constexpr std::array places{
 
     Place{"ui/",                          Level::widgets},
 
+    Place{"app/canvas_stroke",            Level::panes},
     Place{"app/canvas_view",              Level::panes},
     Place{"app/menu",                     Level::panes},
-    Place{"tools/tool_colors",            Level::panes},
+    Place{"app/options",                  Level::panes},
+    Place{"color/palette_area",           Level::panes},
+    Place{"tools/brush_selector",         Level::panes},
+    Place{"tools/tool_color",             Level::panes},
     Place{"tools/toolbox",                Level::panes},
     Place{"views/",                       Level::panes},
 
