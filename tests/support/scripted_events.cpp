@@ -1,0 +1,164 @@
+#include "tests/support/scripted_events.h"
+
+#include "app/events.h"
+
+#include <SDL3/SDL.h>
+
+#include <stdexcept>
+#include <utility>
+
+namespace quadrelle::testing {
+
+namespace {
+
+Uint8 number_of(Mouse_Button button) {
+    switch (button) {
+    case Mouse_Button::left: return SDL_BUTTON_LEFT;
+    case Mouse_Button::right: return SDL_BUTTON_RIGHT;
+    case Mouse_Button::none: break;
+    }
+    return SDL_BUTTON_MIDDLE;
+}
+
+SDL_Keymod held_keys(Modifier modifier) {
+    switch (modifier) {
+    case Modifier::shift: return SDL_KMOD_LSHIFT;
+    case Modifier::control: return SDL_KMOD_LCTRL;
+    case Modifier::alt: return SDL_KMOD_LALT;
+    case Modifier::none: break;
+    }
+    return SDL_KMOD_NONE;
+}
+
+SDL_Event key_event(Uint32 type, Keycode code, Modifier modifier) {
+    SDL_Event event{};
+    event.type = type;
+    event.key.key = code;
+    event.key.mod = held_keys(modifier);
+    event.key.down = type == SDL_EVENT_KEY_DOWN;
+    return event;
+}
+
+SDL_Event button_event(Uint32 type, Point position, int number) {
+    SDL_Event event{};
+    event.type = type;
+    event.button.button = static_cast<Uint8>(number);
+    event.button.down = type == SDL_EVENT_MOUSE_BUTTON_DOWN;
+    event.button.clicks = 1;
+    event.button.x = static_cast<float>(position.x);
+    event.button.y = static_cast<float>(position.y);
+    return event;
+}
+
+} // namespace
+
+Script::Script() {
+    SDL_PumpEvents();
+    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+    set_wait_watcher([this](std::string_view loop) { feed(loop); });
+}
+
+Script::~Script() {
+    set_wait_watcher({});
+    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+}
+
+Script& Script::key(Keycode pressed, Modifier modifier) {
+    return add_event(key_event(SDL_EVENT_KEY_DOWN, pressed, modifier));
+}
+
+Script& Script::key_up(Keycode released, Modifier modifier) {
+    return add_event(key_event(SDL_EVENT_KEY_UP, released, modifier));
+}
+
+Script& Script::type(std::string_view characters) {
+    for (const char character : characters) {
+        const auto code = static_cast<Keycode>(static_cast<unsigned char>(character));
+        key(code).key_up(code);
+    }
+    return *this;
+}
+
+Script& Script::press(Point position, Mouse_Button button) {
+    return press_number(position, number_of(button));
+}
+
+Script& Script::press_number(Point position, int button_number) {
+    return add_event(button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, position, button_number));
+}
+
+Script& Script::release(Point position, Mouse_Button button) {
+    return add_event(button_event(SDL_EVENT_MOUSE_BUTTON_UP, position, number_of(button)));
+}
+
+Script& Script::motion(Point position) {
+    SDL_Event event{};
+    event.type = SDL_EVENT_MOUSE_MOTION;
+    event.motion.x = static_cast<float>(position.x);
+    event.motion.y = static_cast<float>(position.y);
+    return add_event(event);
+}
+
+Script& Script::click(Point position, Mouse_Button button) {
+    return press(position, button).release(position, button);
+}
+
+Script& Script::drag(const std::vector<Point>& points, Mouse_Button button) {
+    press(points.front(), button);
+    for (std::size_t i = 1; i < points.size(); ++i) {
+        motion(points[i]);
+    }
+    return release(points.back(), button);
+}
+
+Script& Script::wheel(float amount) {
+    SDL_Event event{};
+    event.type = SDL_EVENT_MOUSE_WHEEL;
+    event.wheel.y = amount;
+    return add_event(event);
+}
+
+Script& Script::quit() {
+    SDL_Event event{};
+    event.type = SDL_EVENT_QUIT;
+    return add_event(event);
+}
+
+Script& Script::event(const SDL_Event& event) {
+    return add_event(event);
+}
+
+Script& Script::check(std::function<void()> function) {
+    return check_loop([run = std::move(function)](std::string_view) { run(); });
+}
+
+Script& Script::check_loop(std::function<void(std::string_view)> function) {
+    steps_.push_back({false, std::move(function)});
+    return *this;
+}
+
+Script& Script::add_event(const SDL_Event& event) {
+    steps_.push_back({true, [event](std::string_view) {
+                          SDL_Event copy = event;
+                          SDL_PushEvent(&copy);
+                      }});
+    return *this;
+}
+
+void Script::feed(std::string_view loop) {
+    SDL_PumpEvents();
+    if (SDL_HasEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST)) {
+        return;
+    }
+    while (next_ < steps_.size()) {
+        // A copy: a check may add steps.
+        const Entry step = steps_[next_++];
+        step.run(loop);
+        if (step.is_event) {
+            return;
+        }
+    }
+    throw std::runtime_error("the script is played, but a loop still waits: " + std::string(loop));
+}
+
+} // namespace quadrelle::testing

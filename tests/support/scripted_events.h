@@ -1,0 +1,64 @@
+#pragma once
+
+// Plays a user: a list of events and checks that the program's own loops are fed with.
+
+#include "app/geometry.h"
+#include "app/input.h"
+
+#include <SDL3/SDL_events.h>
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle::testing {
+
+// While it lives, each loop that waits takes the next event from here, and the checks before it are run. A
+// loop that goes on waiting when all is played throws, with its name in the message. Steps may still be added
+// by a check.
+class Script {
+public:
+    Script();
+    ~Script();
+    Script(const Script&) = delete;
+    Script& operator=(const Script&) = delete;
+
+    Script& key(Keycode pressed, Modifier modifier = Modifier::none);
+    Script& key_up(Keycode released, Modifier modifier = Modifier::none);
+    // Every character a key that is pressed and released.
+    Script& type(std::string_view characters);
+    Script& press(Point position, Mouse_Button button = Mouse_Button::left);
+    Script& press_number(Point position, int button_number);
+    Script& release(Point position, Mouse_Button button = Mouse_Button::left);
+    Script& motion(Point position);
+    // Press and release.
+    Script& click(Point position, Mouse_Button button = Mouse_Button::left);
+    // Pressed at the first point, moved to each of the others, and released at the last one.
+    Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
+    Script& wheel(float amount);
+    Script& quit();
+    Script& event(const SDL_Event& event);
+    // Run when every event before it has been answered and the loop has drawn.
+    Script& check(std::function<void()> function);
+    // The same with the name of the loop that waits.
+    Script& check_loop(std::function<void(std::string_view loop)> function);
+
+    [[nodiscard]] bool is_played() const { return next_ == steps_.size(); }
+
+private:
+    using Step = std::function<void(std::string_view loop)>;
+
+    void feed(std::string_view loop);
+    Script& add_event(const SDL_Event& event);
+
+    struct Entry {
+        bool is_event;
+        Step run;
+    };
+    std::vector<Entry> steps_;
+    std::size_t next_ = 0;
+};
+
+} // namespace quadrelle::testing

@@ -1,0 +1,37 @@
+#pragma once
+
+// Tests with a window that nobody sees: the screen, the dialogs and the log are there, nothing else is.
+
+#include "app/geometry.h"
+#include "color/color.h"
+#include "tests/support/program_folder.h"
+#include "tests/support/scripted_events.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+namespace quadrelle::testing {
+
+// What the renderer holds at that point now.
+[[nodiscard]] Color pixel_at(Point point);
+// Whether a rectangle holds more than one colour.
+[[nodiscard]] bool has_picture(const Rectangle& area);
+// The window's picture as a bitmap file, for looking at.
+void save_picture(const std::string& path);
+// The program is to take no real window system, whatever the environment says.
+void use_dummy_video();
+
+class Window_Test : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    [[nodiscard]] Program_Folder& folder() { return *folder_; }
+
+private:
+    std::optional<Program_Folder> folder_;
+};
+
+} // namespace quadrelle::testing
