@@ -170,7 +170,7 @@ static_assert(have_distinct_chords());
 
 } // namespace command_rows
 
-constexpr const std::array<Command_Row, command_count>& command_table = command_rows::table;
+inline constexpr const std::array<Command_Row, command_count>& command_table = command_rows::table;
 
 // Not for `Command::none`.
 [[nodiscard]] constexpr const Command_Row& row_of(Command command) {

@@ -1,5 +1,6 @@
 #include "app/editor.h"
 
+#include "app/canvas_stroke.h"
 #include "app/command_table.h"
 #include "app/events.h"
 #include "app/options.h"
@@ -26,6 +27,12 @@ constexpr std::array frame_areas{
     Rectangle{776, 0, 455, 632}, Rectangle{1231, 0, 1, 632}, Rectangle{0, 632, 1232, 32},
 };
 
+constexpr Point palette_position{31, 427};
+
+Point below(const Element& element) {
+    return {element.area.x, element.area.bottom() + element_gap};
+}
+
 // Columns or rows of the preview that fit into its 192 pixels.
 int fitting_repeat(int tile_extent, int repeat) {
     if (tile_extent <= 0) {
@@ -38,6 +45,7 @@ int fitting_repeat(int tile_extent, int repeat) {
 
 Editor::Editor()
     : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
+      palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
       menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })) {
     dialogs->set_backdrop([this] { redraw(Present::no); });
 }
@@ -60,7 +68,7 @@ bool Editor::show_first_frame() {
     if (!documents_.new_document(first_tile_size)) {
         return false;
     }
-    prepare_for_tile();
+    size_preview();
     tool_colors->reset();
     redraw(Present::yes);
     return true;
@@ -68,11 +76,6 @@ bool Editor::show_first_frame() {
 
 void Editor::handle_one_event() {
     handle(wait_event("main"));
-}
-
-void Editor::prepare_for_tile() {
-    toolbox->prepare_for_tile();
-    size_preview();
 }
 
 void Editor::size_preview() {
@@ -94,14 +97,15 @@ void Editor::take_current_tile() {
 
 void Editor::redraw(Present present) {
     canvas_.draw();
-    toolbox->draw(pointer_);
     for (const Rectangle& area : frame_areas) {
         screen->fill_rect(area, standard_color(Standard_Color::frame));
     }
     menu_bar_->draw(pointer_);
     dialogs->draw(canvas_.pixel_size());
+    palette_.draw();
+    selected_color_.draw();
     documents_.draw_tabs();
-    toolbox->draw_foreground();
+    toolbox->draw();
     if (present == Present::yes) {
         screen->present();
     }
@@ -159,10 +163,7 @@ void Editor::route_click() {
         draw_on_canvas();
         return;
     }
-    if (toolbox->click(pointer_)) {
-        return;
-    }
-    if (documents_.click_tab(pointer_.point())) {
+    if (toolbox->click(pointer_) || click_pane()) {
         return;
     }
     const Command command = menu_bar_->click(pointer_);
@@ -171,6 +172,26 @@ void Editor::route_click() {
         pointer_.x = -1;
         pointer_.y = -1;
         execute(command);
+    }
+}
+
+bool Editor::click_pane() {
+    const std::optional<Color> color = palette_.click(pointer_.point());
+    if (color) {
+        tool_colors->set_color(pointer_.button, *color);
+        return true;
+    }
+    return documents_.click_tab(pointer_.point());
+}
+
+void Editor::draw_on_canvas() {
+    if (canvas_.tile() == nullptr) {
+        return;
+    }
+    const Stroke_Outcome outcome =
+        apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
+    if (outcome == Stroke_Outcome::tile_changed) {
+        documents_.mark_changed();
     }
 }
 

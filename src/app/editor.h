@@ -6,6 +6,7 @@
 #include "app/command.h"
 #include "app/input.h"
 #include "app/menu_bar.h"
+#include "color/palette_area.h"
 #include "tileset/documents.h"
 
 #include <SDL3/SDL_events.h>
@@ -44,6 +45,7 @@ private:
     void handle_motion(const SDL_MouseMotionEvent& event);
     void handle_press(const SDL_MouseButtonEvent& event);
     void route_click();
+    [[nodiscard]] bool click_pane();
     void draw_on_canvas();
     void show_cursor();
 
@@ -55,6 +57,7 @@ private:
     Command select_tool(Command command);
     Command swap_tool_colors(Command command);
     Command select_brush_size(Command command);
+    Command move_palette_selection(Command command);
     Command zoom(Command command);
     Command centre(Command command);
     Command close(Command command);
@@ -69,7 +72,6 @@ private:
 
     // After another tile, or a set of another size, came into view.
     void take_current_tile();
-    void prepare_for_tile();
     void size_preview();
 
     Pointer_State pointer_;
@@ -79,6 +81,8 @@ private:
     Size shown_tile_size_;
     Canvas_View canvas_;
     Documents documents_;
+    Palette_Area palette_;
+    Selected_Color_Area selected_color_;
     std::unique_ptr<Menu_Bar> menu_bar_;
 };
 

@@ -28,6 +28,7 @@ Command Editor::dispatch(Command command) {
         {Command::pen,                 Command::pen,                 &Editor::select_tool},
         {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
         {Command::select_brush_size_1, Command::select_brush_size_6, &Editor::select_brush_size},
+        {Command::color_left,          Command::color_up,            &Editor::move_palette_selection},
         {Command::change_tile,         Command::change_tile,         &Editor::do_nothing},
         {Command::close,               Command::close,               &Editor::close},
         {Command::new_tileset,         Command::new_tileset,         &Editor::make_new},
@@ -107,6 +108,17 @@ Command Editor::select_brush_size(Command command) {
     return command;
 }
 
+Command Editor::move_palette_selection(Command command) {
+    // In the order of the commands: left, right, down, up.
+    static constexpr std::array<Point, 4> steps{{{-1, 0}, {1, 0}, {0, 1}, {0, -1}}};
+    if (row_of(toolbox->current_tool()).uses_tool_colors) {
+        const Point step =
+            steps.at(static_cast<std::size_t>(index_of(command) - index_of(Command::color_left)));
+        tool_colors->set_color(Mouse_Button::left, palette_.move_selection(step.x, step.y));
+    }
+    return command;
+}
+
 Command Editor::zoom(Command command) {
     const bool has_zoomed = canvas_.zoom(command == Command::zoom_tile_up ? Zoom_Step::in : Zoom_Step::out);
     return has_zoomed ? command : Command::skip_command;
@@ -121,7 +133,7 @@ Command Editor::close(Command command) {
     if (!documents_.close_document()) {
         return Command::skip_command;
     }
-    prepare_for_tile();
+    size_preview();
     return command;
 }
 
@@ -136,7 +148,7 @@ Command Editor::make_new(Command command) {
     } else if (!documents_.new_document(choice->size)) {
         return Command::skip_command;
     }
-    prepare_for_tile();
+    size_preview();
     return command;
 }
 
@@ -156,7 +168,7 @@ Command Editor::quit(Command command) {
 
 Command Editor::edit_options(Command command) {
     if (options->edit()) {
-        prepare_for_tile();
+        size_preview();
     }
     return command;
 }

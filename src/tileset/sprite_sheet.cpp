@@ -114,7 +114,8 @@ std::unique_ptr<Texture> Sprite_Sheet::make_passive_pane_header(int width, std::
     return make_header({Sprite::passive_pane_header_start, Sprite::passive_pane_header_end}, width, title);
 }
 
-std::unique_ptr<Texture> Sprite_Sheet::make_header(Header_Ends ends, int width, std::string_view title) const {
+std::unique_ptr<Texture> Sprite_Sheet::make_header(Header_Ends ends, int width,
+                                                   std::string_view title) const {
     const Rectangle start = sprite_rect(ends.start);
     const Rectangle end = sprite_rect(ends.end);
     const Rectangle band{start.width, 0, width, start.height};

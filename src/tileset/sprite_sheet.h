@@ -54,7 +54,8 @@ private:
         Sprite start;
         Sprite end;
     };
-    [[nodiscard]] std::unique_ptr<Texture> make_header(Header_Ends ends, int width, std::string_view title) const;
+    [[nodiscard]] std::unique_ptr<Texture> make_header(Header_Ends ends, int width,
+                                                       std::string_view title) const;
 
     SDL_Renderer* renderer_;
     Surface surface_;

@@ -61,8 +61,8 @@ void fill_column(Drawing_Target& target, std::int64_t x, std::int64_t top, std::
     }
 }
 
-// Calls visit(x, y) from the left end (-a, 0) until x, which is never above 0, reaches 0. Returns the next row,
-// which a very narrow ellipse has before its tip.
+// Calls visit(x, y) from the left end (-a, 0) until x, which is never above 0, reaches 0. Returns the next
+// row, which a very narrow ellipse has before its tip.
 template <typename Visit>
 std::int64_t walk_quadrant(Radii radii, Visit visit) {
     const std::int64_t a = radii.x;

@@ -3,6 +3,7 @@
 // The 17 drawing tools: what each is called, which command selects it, and which controls it shows.
 
 #include "app/command.h"
+#include "tileset/sprite_table.h"
 
 #include <array>
 #include <cstddef>
@@ -37,6 +38,7 @@ struct Tool_Row {
     Tool id;
     std::string_view name;
     Command command; // the one that selects it
+    Sprite icon;     // the plain one; its lit twin is the next sprite
     bool uses_tool_colors;
     bool uses_brush; // deliberately not the stamp brush: the flag is about the brush selector
     bool shows_location;
@@ -53,23 +55,23 @@ constexpr bool _ = false;
 
 // clang-format off
 constexpr std::array<Tool_Row, tool_count> table{{
-    {Tool::pen,                "Pen",                Command::pen,                colors, brush, _},
-    {Tool::lightness_pen,      "Lightness pen",      Command::lightness_pen,      _,      brush, _},
-    {Tool::colorize_pen,       "Colorize pen",       Command::colorize_pen,       colors, brush, _},
-    {Tool::smudge_brush,       "Smudge brush",       Command::smudge_brush,       _,      brush, _},
-    {Tool::dropper,            "Dropper",            Command::dropper,            _,      _,     location},
-    {Tool::flood_fill,         "Flood fill",         Command::flood_fill,         colors, _,     _},
-    {Tool::line,               "Line",               Command::line,               colors, _,     location},
-    {Tool::rectangle,          "Rectangle",          Command::rectangle,          colors, _,     location},
-    {Tool::ellipse,            "Ellipse",            Command::circle,             colors, _,     location},
-    {Tool::rectangle_selector, "Rectangle selector", Command::rectangle_selector, _,      _,     location},
-    {Tool::circle_selector,    "Circle selector",    Command::circle_selector,    _,      _,     location},
-    {Tool::brush_selector,     "Brush selector",     Command::brush_selector,     _,      brush, _},
-    {Tool::wand_selector,      "Wand selector",      Command::wand_selector,      _,      _,     _},
-    {Tool::stamp_brush,        "Stamp brush",        Command::stamp_brush,        _,      _,     _},
-    {Tool::scroll,             "Scroll",             Command::scroll,             _,      _,     location},
-    {Tool::rotate,             "Rotate",             Command::free_rotate,        _,      _,     _},
-    {Tool::selection,          "Selection",          Command::work_selection,     _,      _,     _},
+    {Tool::pen,                "Pen",                Command::pen,                Sprite::icon_pen,                colors, brush, _},
+    {Tool::lightness_pen,      "Lightness pen",      Command::lightness_pen,      Sprite::icon_lighten_darken,     _,      brush, _},
+    {Tool::colorize_pen,       "Colorize pen",       Command::colorize_pen,       Sprite::icon_colorize,           colors, brush, _},
+    {Tool::smudge_brush,       "Smudge brush",       Command::smudge_brush,       Sprite::icon_smudge,             _,      brush, _},
+    {Tool::dropper,            "Dropper",            Command::dropper,            Sprite::icon_dropper,            _,      _,     location},
+    {Tool::flood_fill,         "Flood fill",         Command::flood_fill,         Sprite::icon_flood_fill,         colors, _,     _},
+    {Tool::line,               "Line",               Command::line,               Sprite::icon_line,               colors, _,     location},
+    {Tool::rectangle,          "Rectangle",          Command::rectangle,          Sprite::icon_rectangle,          colors, _,     location},
+    {Tool::ellipse,            "Ellipse",            Command::circle,             Sprite::icon_circle,             colors, _,     location},
+    {Tool::rectangle_selector, "Rectangle selector", Command::rectangle_selector, Sprite::icon_rectangle_selector, _,      _,     location},
+    {Tool::circle_selector,    "Circle selector",    Command::circle_selector,    Sprite::icon_circle_selector,    _,      _,     location},
+    {Tool::brush_selector,     "Brush selector",     Command::brush_selector,     Sprite::icon_pen_selector,       _,      brush, _},
+    {Tool::wand_selector,      "Wand selector",      Command::wand_selector,      Sprite::icon_magic_wand,         _,      _,     _},
+    {Tool::stamp_brush,        "Stamp brush",        Command::stamp_brush,        Sprite::icon_clone_brush,        _,      _,     _},
+    {Tool::scroll,             "Scroll",             Command::scroll,             Sprite::icon_mover,              _,      _,     location},
+    {Tool::rotate,             "Rotate",             Command::free_rotate,        Sprite::icon_rotate,             _,      _,     _},
+    {Tool::selection,          "Selection",          Command::work_selection,     Sprite::icon_sel_actions,        _,      _,     _},
 }};
 // clang-format on
 
@@ -87,7 +89,7 @@ static_assert(follow_their_ids());
 
 } // namespace tool_rows
 
-constexpr const std::array<Tool_Row, tool_count>& tool_table = tool_rows::table;
+inline constexpr const std::array<Tool_Row, tool_count>& tool_table = tool_rows::table;
 
 // Not for `Tool::none`.
 [[nodiscard]] constexpr const Tool_Row& row_of(Tool tool) {

@@ -1,0 +1,20 @@
+#pragma once
+
+// A stroke of the current tool on the canvas: the loop from the press of a button to its release.
+
+#include "app/canvas_view.h"
+#include "app/input.h"
+#include "tools/canvas_action.h"
+
+#include <functional>
+
+namespace quadrelle {
+
+enum class Stroke_Outcome { nothing_changed, tile_changed };
+
+// Draws at the pointer and on, along its motions, until a button is released or the window is closed, which
+// ends the stroke only. `redraw` draws and presents the window. The canvas must show a tile.
+[[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action,
+                                        const Pointer_State& pressed, const std::function<void()>& redraw);
+
+} // namespace quadrelle

@@ -1,0 +1,29 @@
+#pragma once
+
+// A pane that shows one colour: a swatch, its numbers and its name.
+
+#include "color/color.h"
+#include "ui/pane.h"
+
+#include <string_view>
+
+namespace quadrelle {
+
+class Tool_Color : public Pane {
+public:
+    // `position` is the top-left corner of the pane, 202 pixels wide.
+    Tool_Color(Point position, std::string_view title, Color color);
+
+    void draw() const override;
+
+    [[nodiscard]] Color color() const { return color_; }
+    void set_color(Color color) { color_ = color; }
+    // A lit frame around the swatch.
+    void set_lit(bool is_lit) { is_lit_ = is_lit; }
+
+private:
+    Color color_;
+    bool is_lit_ = false;
+};
+
+} // namespace quadrelle
