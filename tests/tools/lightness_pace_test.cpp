@@ -1,0 +1,34 @@
+#include "tools/lightness_pace.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace quadrelle {
+
+TEST(Lightness_Pace, waits_longer_than_its_interval) {
+    const Lightness_Pace moderate;
+    EXPECT_FALSE(lightness_step(1008, 1000, moderate, 6, Mouse_Button::left));
+    EXPECT_TRUE(lightness_step(1009, 1000, moderate, 6, Mouse_Button::left));
+    EXPECT_FALSE(lightness_step(999, 1000, moderate, 6, Mouse_Button::left));
+    const Lightness_Pace compensated{Lightness_Speed::moderate, Size_Compensation::on, {}};
+    EXPECT_FALSE(lightness_step(1020, 1000, compensated, 6, Mouse_Button::left));
+    EXPECT_TRUE(lightness_step(1021, 1000, compensated, 6, Mouse_Button::left));
+    EXPECT_EQ(lightness_interval({Lightness_Speed::extremely_slow, {}, {}}, 1), 14);
+    EXPECT_EQ(lightness_interval({Lightness_Speed::extremely_fast, Size_Compensation::on, {}}, 1), 4);
+}
+
+TEST(Lightness_Pace, gives_each_button_a_direction) {
+    const Lightness_Pace left_lightens;
+    const Lightness_Pace left_darkens{{}, {}, Button_Order::left_darkens};
+    const auto step = [](const Lightness_Pace& pace, Mouse_Button button) {
+        return lightness_step(100, 0, pace, 1, button);
+    };
+    EXPECT_EQ(step(left_lightens, Mouse_Button::left), Pixel_Operation::lighten);
+    EXPECT_EQ(step(left_lightens, Mouse_Button::right), Pixel_Operation::darken);
+    EXPECT_EQ(step(left_darkens, Mouse_Button::left), Pixel_Operation::darken);
+    EXPECT_EQ(step(left_darkens, Mouse_Button::right), Pixel_Operation::lighten);
+    EXPECT_EQ(step(left_lightens, Mouse_Button::none), std::nullopt);
+}
+
+} // namespace quadrelle
