@@ -5,13 +5,10 @@
 #include "app/events.h"
 #include "app/options.h"
 #include "app/screen.h"
-#include "color/standard_colors.h"
 #include "tools/tool_colors.h"
 #include "tools/toolbox.h"
 #include "ui/dialogs.h"
 
-#include <algorithm>
-#include <array>
 
 namespace quadrelle {
 
@@ -20,12 +17,6 @@ std::unique_ptr<Editor> editor;
 namespace {
 
 constexpr Size first_tile_size{24, 24};
-
-// Around the canvas viewport, and what they leave out of the window: together with the viewport every pixel.
-constexpr std::array frame_areas{
-    Rectangle{0, 0, 264, 632},   Rectangle{264, 0, 512, 64}, Rectangle{264, 576, 512, 56},
-    Rectangle{776, 0, 455, 632}, Rectangle{1231, 0, 1, 632}, Rectangle{0, 632, 1232, 32},
-};
 
 constexpr Point palette_position{31, 427};
 
@@ -96,10 +87,9 @@ void Editor::take_current_tile() {
 }
 
 void Editor::redraw(Present present) {
+    // The canvas draws nothing outside its viewport, so the frame around it can be there first.
+    screen->clear();
     canvas_.draw();
-    for (const Rectangle& area : frame_areas) {
-        screen->fill_rect(area, standard_color(Standard_Color::frame));
-    }
     menu_bar_->draw(pointer_);
     dialogs->draw(canvas_.pixel_size());
     palette_.draw();
