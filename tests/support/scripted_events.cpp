@@ -50,6 +50,12 @@ SDL_Event button_event(Uint32 type, Point position, int number) {
     return event;
 }
 
+// The marks that the library itself puts into its queue do not count.
+bool has_events() {
+    return SDL_HasEvents(SDL_EVENT_FIRST, SDL_EVENT_POLL_SENTINEL - 1) ||
+           SDL_HasEvents(SDL_EVENT_USER, SDL_EVENT_LAST);
+}
+
 } // namespace
 
 Script::Script() {
@@ -147,7 +153,7 @@ Script& Script::add_event(const SDL_Event& event) {
 
 void Script::feed(std::string_view loop) {
     SDL_PumpEvents();
-    if (SDL_HasEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST)) {
+    if (has_events()) {
         return;
     }
     while (next_ < steps_.size()) {
