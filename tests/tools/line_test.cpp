@@ -41,6 +41,7 @@ TEST(Line, visits_one_point_a_step_in_order) {
     EXPECT_EQ(points({0, 0}, {2, 1}), (Points{{0, 0}, {1, 1}, {2, 1}}));
     EXPECT_EQ(points({2, 1}, {0, 0}), (Points{{2, 1}, {1, 1}, {0, 0}}));
     EXPECT_EQ(points({0, 0}, {-2, -1}), (Points{{0, 0}, {-1, -1}, {-2, -1}}));
+    EXPECT_EQ(points({0, 0}, {-1, -2}), (Points{{0, 0}, {-1, -1}, {-1, -2}}));
 }
 
 TEST(Line, steps_in_single_precision) {

@@ -189,6 +189,12 @@ TEST(Pens, smudge_half_of_the_source_into_each_pixel) {
     EXPECT_EQ(tile.get_pixel(1, 0), (Color{0, 0, 9, 10}));
 }
 
+TEST(Pens, smudge_under_the_mask_and_inside_the_selection) {
+    const Brush stamp = stamp_brush(make_tile({"####"}), make_tile({"#.##"}));
+    const auto smear = [&](Drawing_Target& target) { smudge(target, stamp, {0, 0}, {0, 1}); };
+    EXPECT_EQ(drawn({"....", "####"}, {"##.#", "...."}, smear), (Art{"?..?", "####"}));
+}
+
 TEST(Pens, smudge_along_a_segment_pixel_by_pixel) {
     Tile tile(4, 1);
     tile.set_pixel(0, 0, {128, 64, 32});
