@@ -174,7 +174,7 @@ Command Editor::edit_options(Command command) {
 }
 
 Command Editor::show_about(Command command) {
-    dialogs->message("About", about_text());
+    quadrelle::show_about();
     return command;
 }
 

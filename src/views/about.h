@@ -2,11 +2,9 @@
 
 // What the program says about itself.
 
-#include <string>
-
 namespace quadrelle {
 
-// Lines separated by "\r": version, renderer and licences.
-[[nodiscard]] std::string about_text();
+// Logo, version, renderer and licences in a dialog; waits until it is dismissed.
+void show_about();
 
 } // namespace quadrelle
