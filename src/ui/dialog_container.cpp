@@ -26,7 +26,7 @@ Dialog_Row make_button_row() {
 } // namespace
 
 Dialog_Container::Dialog_Container(std::string_view title, std::string data_file)
-    : title_(title), data_file_(std::move(data_file)), frame_(title) {}
+    : data_file_(std::move(data_file)), frame_(title) {}
 
 Dialog_Row& Dialog_Container::add_text_row(std::string_view text) {
     Dialog_Row row;
@@ -91,7 +91,7 @@ bool Dialog_Container::run() {
     rows_.begin();
     {
         const Dialog_Layer layer([this] { draw_frame_and_items(); });
-        const std::string name = "dialog \"" + title_ + "\"";
+        const std::string name = "dialog \"" + frame_.title() + "\"";
         run_modal({name, [] { dialogs->show_backdrop(); },
                    [this](const SDL_Event& event) { return handle(event); }});
     }

@@ -50,7 +50,6 @@ private:
     Loop_Step handle_key(Keycode pressed);
     Loop_Step press(const Pointer_State& pointer);
 
-    std::string title_;
     std::string data_file_;
     Dialog_Frame frame_;
     Dialog_Rows rows_;

@@ -7,6 +7,7 @@ namespace quadrelle {
 
 namespace {
 
+constexpr Font title_font = Font::pane_header;
 constexpr int shadow_width = 4;
 constexpr Color shadow{0, 0, 0, 70};
 
@@ -17,28 +18,29 @@ void draw_shadow(const Rectangle& box) {
 
 } // namespace
 
-Dialog_Frame::Dialog_Frame(std::string_view title)
-    : title_(screen->make_text_texture(title, Text_Style::highlighted)) {
-    area_ = centred({area_.width, area_.height}, {0, 0, screen->size().width, screen->size().height});
+Dialog_Frame::Dialog_Frame(std::string_view title) : title_(title) {
+    centre({area_.width, area_.height});
 }
 
 void Dialog_Frame::set_size(Size below_title) {
-    area_ = centred({below_title.width, below_title.height + dialog_title_height},
-                    {0, 0, screen->size().width, screen->size().height});
+    centre({below_title.width, below_title.height + dialog_title_height});
+}
+
+void Dialog_Frame::centre(Size size) {
+    area_ = centred(size, {0, 0, screen->size().width, screen->size().height});
 }
 
 int Dialog_Frame::title_width() const {
-    return title_ ? title_->size().width : 0;
+    return screen->text_width(title_font, title_);
 }
 
 void Dialog_Frame::draw() const {
     draw_shadow(area_);
     screen->draw_panel(area_, standard_color(Standard_Color::pane_background));
-    screen->fill_rect({area_.x + 1, area_.y + 1, area_.width - 2, dialog_title_height - 2},
-                      standard_color(Standard_Color::dark_frame));
-    if (title_) {
-        screen->draw_texture(*title_, {area_.x + dialog_margin, area_.y + 1});
-    }
+    const Rectangle bar{area_.x + 1, area_.y + 1, area_.width - 2, dialog_title_height - 2};
+    screen->fill_rect(bar, standard_color(Standard_Color::dark_frame));
+    screen->fill_rect({bar.x + 1, bar.y + 2, 2, bar.height - 4}, standard_color(Standard_Color::highlight));
+    screen->draw_text(title_font, {area_.x + dialog_margin, bar.y + 1}, title_);
 }
 
 } // namespace quadrelle

@@ -3,9 +3,8 @@
 // The box that a dialog is shown in.
 
 #include "app/geometry.h"
-#include "app/texture.h"
 
-#include <memory>
+#include <string>
 #include <string_view>
 
 namespace quadrelle {
@@ -24,12 +23,15 @@ public:
     void draw() const;
     [[nodiscard]] int title_width() const;
 
+    [[nodiscard]] const std::string& title() const { return title_; }
     // With the title.
     [[nodiscard]] const Rectangle& area() const { return area_; }
 
 private:
+    void centre(Size size);
+
     Rectangle area_{100, 100, 100, 100};
-    std::unique_ptr<Texture> title_;
+    std::string title_;
 };
 
 } // namespace quadrelle

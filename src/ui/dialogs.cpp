@@ -15,10 +15,11 @@ namespace {
 constexpr Rectangle preview_area{31, 32, 202, 202};
 constexpr Rectangle magnification_area{31, 259, 202, 26};
 
-// A dialog of one text, wide enough for its title.
+// The text leaves a margin above the buttons, and is wide enough for the title.
 void add_text(Dialog_Container& dialog, std::string_view text) {
     Dialog_Item& item = *dialog.add_text_row(text).items().front();
     item.area.width = std::max(item.area.width, dialog.frame().title_width());
+    item.area.height += dialog_margin;
 }
 
 } // namespace

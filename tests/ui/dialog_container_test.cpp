@@ -1,0 +1,267 @@
+#include "ui/dialog_container.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tests/support/window_test.h"
+#include "ui/dialogs.h"
+
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+namespace quadrelle {
+
+using testing::Bytes;
+using ::testing::HasSubstr;
+using testing::pixel_at;
+using testing::Script;
+using testing::store;
+using testing::stored;
+
+namespace {
+
+constexpr int number_id = 11;
+constexpr int choice_id = 21;
+constexpr int tick_id = 30;
+
+// A dialog with one item of each kind that can be changed.
+class Dialog_Container_Test : public testing::Window_Test {
+protected:
+    void make(const std::string& data_file = {}) {
+        dialog.emplace("Dialog", data_file);
+        dialog->add_row(make_number_row(number_id, "Number:", {24, 6, 64}));
+        dialog->add_row(make_choice_row(choice_id, "One,Two,Three$", 0));
+        dialog->add_row(make_tick_row(tick_id, "Tick", Tick::off));
+        dialog->finish_ok_cancel();
+    }
+
+    [[nodiscard]] Point middle_of(std::size_t row, std::size_t item) {
+        const Rectangle& area = dialog->rows().rows().at(row).items().at(item)->area;
+        return {area.x + area.width / 2, area.y + area.height / 2};
+    }
+    [[nodiscard]] Point more(std::size_t row) { return middle_of(row, 1); }
+    [[nodiscard]] Point tick() { return middle_of(2, 0); }
+    [[nodiscard]] Point ok() { return middle_of(3, 0); }
+    [[nodiscard]] Point cancel() { return middle_of(3, 1); }
+
+    // Changes every item.
+    Script& change_all(Script& script) { return script.click(more(0)).click(more(1)).click(tick()); }
+    void expect_values(int number, int choice, int is_ticked) {
+        EXPECT_EQ(dialog->value(number_id), number);
+        EXPECT_EQ(dialog->value(choice_id), choice);
+        EXPECT_EQ(dialog->value(tick_id), is_ticked);
+    }
+
+    std::optional<Dialog_Container> dialog;
+};
+
+Bytes record(const std::string& text) {
+    const auto length = static_cast<std::uint32_t>(text.size() + 1);
+    Bytes bytes;
+    for (unsigned shift = 0; shift < 32; shift += 8) {
+        bytes.push_back(static_cast<std::uint8_t>(length >> shift & 255U));
+    }
+    bytes.insert(bytes.end(), text.begin(), text.end());
+    bytes.push_back(':');
+    return bytes;
+}
+
+const std::string record_as_built = "4,2,3,10,24,6,64,2,3,0,0,2,4,-1,0,1";
+
+} // namespace
+
+TEST_F(Dialog_Container_Test, is_sized_by_its_rows_and_centred) {
+    Dialog_Container narrow("Narrow");
+    narrow.add_text_row("i");
+    narrow.finish_ok();
+    const Rectangle& box = narrow.frame().area();
+    const int height = 24 + 7 + 23 + 27 + 7;
+    EXPECT_EQ(box, (Rectangle{(1232 - 114) / 2, (664 - height) / 2, 114, height}));
+    const auto& rows = narrow.rows().rows();
+    EXPECT_EQ(rows[0].area.x, box.x + 7);
+    EXPECT_EQ(rows[0].area.y, box.y + 31);
+    EXPECT_EQ(rows[1].area, (Rectangle{box.x, box.bottom() - 34, 114, 27}));
+    EXPECT_EQ(rows[1].items()[0]->area, (Rectangle{box.x + 27, box.bottom() - 34, 60, 27}));
+
+    Dialog_Container wide("Wide");
+    wide.add_image_row(Sprite::logo);
+    wide.finish_ok_cancel();
+    const Rectangle& wide_box = wide.frame().area();
+    EXPECT_EQ(wide_box.width, 310 + 14);
+    const auto& buttons = wide.rows().rows().back().items();
+    EXPECT_EQ(buttons[0]->area.x, wide_box.x + 7);
+    EXPECT_EQ(buttons[1]->area.right(), wide_box.right() - 7);
+    EXPECT_EQ(buttons[1]->area.y, buttons[0]->area.y);
+    // The rows end where the buttons begin.
+    EXPECT_EQ(wide.rows().rows()[0].area.bottom(), buttons[0]->area.y);
+}
+
+TEST_F(Dialog_Container_Test, return_y_and_ok_accept) {
+    make();
+    Script script;
+    script.key(key::enter);
+    EXPECT_TRUE(dialog->run());
+    script.key('y');
+    EXPECT_TRUE(dialog->run());
+    script.press(ok());
+    EXPECT_TRUE(dialog->run());
+    script.press(ok(), Mouse_Button::right);
+    EXPECT_TRUE(dialog->run());
+    EXPECT_TRUE(script.is_played());
+}
+
+TEST_F(Dialog_Container_Test, cancel_restores_numbers_and_choices_but_not_ticks) {
+    make();
+    Script script;
+    change_all(script).check([&] { expect_values(25, 1, 1); }).press(cancel());
+    EXPECT_FALSE(dialog->run());
+    expect_values(24, 0, 1);
+}
+
+TEST_F(Dialog_Container_Test, escape_and_closing_the_window_leave_the_items_as_they_are) {
+    make();
+    Script script;
+    change_all(script).key(key::escape);
+    EXPECT_FALSE(dialog->run());
+    expect_values(25, 1, 1);
+    change_all(script).quit();
+    EXPECT_FALSE(dialog->run());
+    expect_values(26, 2, 0);
+}
+
+TEST_F(Dialog_Container_Test, everything_else_changes_nothing) {
+    make();
+    Script script;
+    const Rectangle& row = dialog->rows().rows().front().area;
+    const Point between{row.x + 15 + 3, row.y + 10};
+    script.press(between).press({3, 3}).key('n').key(' ').key(key::keypad_enter).key_up(key::enter);
+    script.motion(ok()).release(ok()).wheel(1).press_number(ok(), 2).press_number(ok(), 0);
+    script.check([&] { expect_values(24, 0, 0); }).key(key::escape);
+    EXPECT_FALSE(dialog->run());
+    EXPECT_TRUE(script.is_played());
+}
+
+TEST_F(Dialog_Container_Test, more_and_less_step_a_number_that_grows) {
+    make();
+    Script script;
+    Dialog_Item& number = *dialog->item(number_id);
+    for (int i = 0; i < 41; ++i) {
+        script.click(more(0));
+    }
+    script.check([&] { EXPECT_EQ(number.value(), 6); });
+    for (int i = 0; i < 4; ++i) {
+        script.click(more(0));
+    }
+    // The second digit is part of the number too, and opens the prompt.
+    script.check([&] {
+        EXPECT_EQ(number.value(), 10);
+        script.click({number.area.right() - 1, number.area.y + 4}).type("33").key(key::enter);
+        script.key(key::enter);
+    });
+    EXPECT_TRUE(dialog->run());
+    EXPECT_EQ(number.value(), 33);
+}
+
+TEST_F(Dialog_Container_Test, is_drawn_over_the_backdrop) {
+    make();
+    int backdrops = 0;
+    dialogs->set_backdrop([&] {
+        ++backdrops;
+        screen->fill_rect({0, 0, 1232, 664}, {1, 2, 3});
+    });
+    const Rectangle box = dialog->frame().area();
+    Script script;
+    script.check([&] {
+        EXPECT_EQ(pixel_at({5, 5}), Color(1, 2, 3));
+        EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 3}), standard_color(Standard_Color::pane_background));
+        EXPECT_TRUE(testing::has_picture(dialog->item(number_id)->area));
+        script.press({dialog->item(number_id)->area.x, dialog->item(number_id)->area.y});
+        // The dialog stays in sight behind the prompt.
+        script.check([&] {
+            EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 3}),
+                      standard_color(Standard_Color::pane_background));
+        });
+        script.key(key::escape).key(key::escape);
+    });
+    dialog->run();
+    EXPECT_EQ(backdrops, 3);
+    dialogs->show_backdrop();
+    EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 3}), Color(1, 2, 3));
+}
+
+TEST_F(Dialog_Container_Test, a_loop_that_waits_too_long_is_named) {
+    make();
+    const Script script;
+    try {
+        dialog->run();
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_THAT(error.what(), HasSubstr("dialog \"Dialog\""));
+    }
+    dialogs->draw_backdrop();
+}
+
+TEST_F(Dialog_Container_Test, keeps_its_items_in_the_data_file_once_accepted) {
+    make("test.dlg");
+    Script script;
+    script.key(key::escape);
+    dialog->run();
+    EXPECT_TRUE(stored(folder().data_path("test.dlg")).empty());
+    script.key(key::enter);
+    EXPECT_TRUE(dialog->run());
+    EXPECT_EQ(stored(folder().data_path("test.dlg")), record(record_as_built));
+    change_all(script).press(ok());
+    EXPECT_TRUE(dialog->run());
+    make("test.dlg");
+    expect_values(25, 1, 1);
+}
+
+TEST_F(Dialog_Container_Test, tells_when_the_data_file_cannot_be_written) {
+    make("missing/test.dlg");
+    Script script;
+    script.key(key::enter);
+    script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Note\""); }).key(key::escape);
+    EXPECT_TRUE(dialog->run());
+    EXPECT_TRUE(script.is_played());
+}
+
+TEST_F(Dialog_Container_Test, no_data_file_breaks_it) {
+    const auto loads = [&](const std::string& text) {
+        SCOPED_TRACE(text);
+        store(folder().data_path("test.dlg"), record(text));
+        make("test.dlg");
+        ASSERT_NE(dialog->item(number_id), nullptr);
+        EXPECT_GE(dialog->value(number_id), 6);
+        EXPECT_LE(dialog->value(number_id), 64);
+        EXPECT_GE(dialog->value(choice_id), 0);
+        EXPECT_LE(dialog->value(choice_id), 2);
+        EXPECT_GE(dialog->value(tick_id), 0);
+        dialog->draw();
+        Script script;
+        script.click(more(0)).click(more(1)).press(ok());
+        EXPECT_TRUE(dialog->run());
+    };
+    for (std::size_t length = 0; length < record_as_built.size(); ++length) {
+        loads(record_as_built.substr(0, length));
+    }
+    for (std::size_t i = 0; i < record_as_built.size(); ++i) {
+        for (const char byte : {'9', '-', ',', ':', '\0', 'x', '\xff'}) {
+            std::string text = record_as_built;
+            text[i] = byte;
+            loads(text);
+        }
+    }
+    loads("2147483647");
+    loads("-2147483648");
+    loads("4" + std::string(100000, ','));
+    loads(std::string(100000, '9'));
+    // What a file leaves out keeps what was built.
+    loads("1,2,3,10,50,6,64");
+    store(folder().data_path("test.dlg"), record("1,2,3,10,50,6,64"));
+    make("test.dlg");
+    expect_values(50, 0, 0);
+}
+
+} // namespace quadrelle

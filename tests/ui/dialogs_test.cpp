@@ -1,0 +1,182 @@
+#include "ui/dialogs.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tests/support/window_test.h"
+#include "ui/debug_monitor.h"
+#include "views/new_tileset_dialog.h"
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace quadrelle {
+
+using testing::pixel_at;
+using testing::Script;
+
+namespace {
+
+class Dialogs_Test : public testing::Window_Test {};
+
+constexpr Point middle{616, 332};
+
+// Where the button row of a dialog with that many lines of text is; its frame is centred.
+constexpr int button_y(int lines) {
+    const int height = 24 + 7 + 23 * lines + 7 + 27 + 7;
+    return (664 - height) / 2 + height - 7 - 13;
+}
+
+class Number_Prompt_Test : public Dialogs_Test {
+protected:
+    int answer(const std::function<void(Script&)>& user, Point position = middle) {
+        Script script;
+        user(script);
+        const int number = dialogs->ask_number(position, 24, 6, 64);
+        EXPECT_TRUE(script.is_played());
+        return number;
+    }
+};
+
+} // namespace
+
+TEST_F(Dialogs_Test, message_waits_until_it_is_dismissed) {
+    Script script;
+    for (const Keycode pressed : {key::enter, Keycode{'y'}, key::escape}) {
+        script.motion(middle).key('n').key(pressed);
+        dialogs->message("Note", "One line\rand a second one");
+        EXPECT_TRUE(script.is_played());
+    }
+    script.quit();
+    dialogs->message("Note", "");
+    script.press({middle.x, button_y(2) - 27}).press({middle.x, button_y(2)});
+    dialogs->message("Note", "One line\rand a second one");
+    EXPECT_TRUE(script.is_played());
+}
+
+TEST_F(Dialogs_Test, ask_takes_only_an_explicit_yes) {
+    const std::string question = "Save over existing file?";
+    const int half_width = screen->text_width(Font::regular, question) / 2;
+    const auto answer = [&](const std::function<void(Script&)>& user) {
+        Script script;
+        user(script);
+        const bool is_yes = dialogs->ask("Save", question);
+        EXPECT_TRUE(script.is_played());
+        return is_yes;
+    };
+    EXPECT_TRUE(answer([](Script& user) { user.key(key::enter); }));
+    EXPECT_TRUE(answer([](Script& user) { user.key('y'); }));
+    EXPECT_TRUE(answer([&](Script& user) { user.press({middle.x - half_width + 10, button_y(1)}); }));
+    EXPECT_FALSE(answer([](Script& user) { user.key('n').key(key::escape); }));
+    EXPECT_FALSE(answer([](Script& user) { user.quit(); }));
+    EXPECT_FALSE(answer([&](Script& user) { user.press({middle.x + half_width - 10, button_y(1)}); }));
+}
+
+TEST_F(Dialogs_Test, debug_monitor_fits_into_the_window) {
+    for (int i = 0; i < 100; ++i) {
+        trace(std::string(500, 'x'));
+    }
+    Script script;
+    script.check([] {
+        EXPECT_EQ(pixel_at({616, 2}), standard_color(Standard_Color::frame));
+        EXPECT_EQ(pixel_at({2, 332}), standard_color(Standard_Color::frame));
+        EXPECT_TRUE(testing::has_picture({100, 30, 1000, 60}));
+    });
+    script.key(key::escape);
+    debug_monitor->show();
+}
+
+TEST_F(Number_Prompt_Test, return_accepts_what_was_typed) {
+    EXPECT_EQ(answer([](Script& user) { user.type("32").key(key::enter); }), 32);
+    EXPECT_EQ(answer([](Script& user) { user.type("6").key(key::keypad_enter); }), 6);
+    EXPECT_EQ(answer([](Script& user) { user.type("064").key(key::enter); }), 64);
+    EXPECT_EQ(answer([](Script& user) { user.key(key::enter); }), 24);
+    const Keycode keypad_5 = key::keypad_1 + 4;
+    EXPECT_EQ(answer([&](Script& user) { user.key(keypad_5).key(key::keypad_0).key(key::enter); }), 50);
+    EXPECT_EQ(answer([](Script& user) { user.type("3a-.5y").key(key::enter); }), 35);
+}
+
+TEST_F(Number_Prompt_Test, backspace_takes_back_a_digit) {
+    EXPECT_EQ(answer([](Script& user) { user.type("327").key(key::backspace).key(key::enter); }), 32);
+    EXPECT_EQ(answer([](Script& user) { user.key(key::backspace).type("5").key(key::enter); }), 25);
+    EXPECT_EQ(answer([](Script& user) {
+                  user.key(key::backspace).key(key::backspace).key(key::backspace).type("7").key(key::enter);
+              }),
+              7);
+}
+
+TEST_F(Number_Prompt_Test, stays_open_outside_of_the_bounds) {
+    const auto refuses = [this](std::string_view digits) {
+        return answer([&](Script& user) {
+            user.type(digits).key(key::enter).check_loop([](std::string_view loop) {
+                EXPECT_EQ(loop, "number prompt");
+            });
+            user.key(key::escape);
+        });
+    };
+    EXPECT_EQ(refuses("5"), no_number);
+    EXPECT_EQ(refuses("65"), no_number);
+    EXPECT_EQ(refuses("99999999999999999999999999"), no_number);
+    EXPECT_EQ(answer([](Script& user) {
+                  user.key(key::backspace).key(key::backspace).key(key::enter).type("9").key(key::enter);
+              }),
+              9);
+}
+
+TEST_F(Number_Prompt_Test, can_be_given_up) {
+    EXPECT_EQ(answer([](Script& user) { user.type("32").key(key::escape); }), no_number);
+    EXPECT_EQ(answer([](Script& user) { user.type("32").quit(); }), no_number);
+    EXPECT_EQ(answer([](Script& user) { user.type("32").press({10, 10}); }), no_number);
+    const Point inside{middle.x + 30, middle.y + 30};
+    EXPECT_EQ(answer([&](Script& user) { user.press(inside).type("32").key(key::enter); }), 32);
+}
+
+TEST_F(Number_Prompt_Test, stays_inside_the_window) {
+    for (const Point position : {Point{0, 0}, Point{1231, 663}, Point{1231, 0}, Point{-50, 900}}) {
+        const Point inside{std::clamp(position.x, 20, 1212), std::clamp(position.y, 20, 644)};
+        EXPECT_EQ(answer([&](Script& user) { user.press(inside).type("7").key(key::enter); }, position), 7);
+    }
+}
+
+TEST_F(Dialogs_Test, new_tileset_gives_size_and_mode) {
+    const New_Tileset_Dialog dialog;
+    const auto answer = [&](const std::function<void(Script&)>& user) {
+        Script script;
+        user(script);
+        const std::optional<New_Tileset_Choice> choice = dialog.run();
+        EXPECT_TRUE(script.is_played());
+        return choice;
+    };
+    EXPECT_EQ(answer([](Script& user) { user.key(key::enter); }), (New_Tileset_Choice{{24, 24}, false}));
+    EXPECT_EQ(answer([](Script& user) { user.key(key::escape); }), std::nullopt);
+    EXPECT_EQ(answer([](Script& user) { user.quit(); }), std::nullopt);
+
+    const int width = 7 + 60 + 7 + 85 + 7; // the buttons are the widest row
+    const int height = 24 + 3 * 23 + 27 + 14;
+    const Point first{(1232 - width) / 2 + 7, (664 - height) / 2 + 31};
+    const auto change_all = [&](Script& user) {
+        user.press({first.x + 30, first.y + 10}).press({first.x + 7, first.y + 23 + 10});
+        user.press({first.x + 7, first.y + 46 + 10});
+    };
+    EXPECT_EQ(answer([&](Script& user) {
+                  change_all(user);
+                  user.key('y');
+              }),
+              (New_Tileset_Choice{{25, 23}, true}));
+    // Every run starts afresh.
+    EXPECT_EQ(answer([](Script& user) { user.key(key::enter); }), (New_Tileset_Choice{{24, 24}, false}));
+}
+
+TEST_F(Dialogs_Test, quitting_is_confirmed) {
+    const New_Tileset_Dialog dialog;
+    Script script;
+    for (const bool has_unsaved : {false, true}) {
+        script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Quit\""); }).key('y');
+        EXPECT_TRUE(dialog.confirm_quit(has_unsaved));
+        script.quit();
+        EXPECT_FALSE(dialog.confirm_quit(has_unsaved));
+    }
+}
+
+} // namespace quadrelle
