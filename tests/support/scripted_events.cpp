@@ -90,6 +90,7 @@ Script& Script::press(Point position, Mouse_Button button) {
 }
 
 Script& Script::press_number(Point position, int button_number) {
+    pointer_ = position;
     return add_event(button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, position, button_number));
 }
 
@@ -102,6 +103,9 @@ Script& Script::motion(Point position) {
     event.type = SDL_EVENT_MOUSE_MOTION;
     event.motion.x = static_cast<float>(position.x);
     event.motion.y = static_cast<float>(position.y);
+    event.motion.xrel = static_cast<float>(position.x - pointer_.x);
+    event.motion.yrel = static_cast<float>(position.y - pointer_.y);
+    pointer_ = position;
     return add_event(event);
 }
 

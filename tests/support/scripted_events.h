@@ -59,6 +59,7 @@ private:
     };
     std::vector<Entry> steps_;
     std::size_t next_ = 0;
+    Point pointer_;
 };
 
 } // namespace quadrelle::testing

@@ -1,0 +1,70 @@
+#pragma once
+
+// Tests of the whole program: everything is started as it is for a user, with a window that nobody sees, and
+// is driven by events.
+
+#include "app/command.h"
+#include "app/editor.h"
+#include "tests/support/window_test.h"
+#include "tileset/file_dialog.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle::testing {
+
+// The middle of a pixel of the first tile: 24 x 24 cells of ten window pixels in the middle of the viewport.
+[[nodiscard]] constexpr Point cell(int column, int row) {
+    return {400 + 10 * column + 5, 200 + 10 * row + 5};
+}
+
+class Program_Test : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Until every event of the script is answered and the window is drawn again.
+    void play();
+    // One command, and the events of the script while it asks something.
+    void execute(Command command);
+
+    [[nodiscard]] Script& script() { return *script_; }
+    [[nodiscard]] Program_Folder& folder() { return *folder_; }
+    [[nodiscard]] static Tileset_Document& document() { return editor->documents().current(); }
+    [[nodiscard]] static Color tile_pixel(int x, int y);
+    [[nodiscard]] static std::string window_title();
+
+    // At this step of the script the window shows a dialog with exactly this title and text.
+    Script& expect_message(const std::string& title, const std::string& text);
+    Script& expect_question(const std::string& title, const std::string& text);
+    // At this step the loop with that name waits.
+    Script& expect_loop(const std::string& name);
+
+    // What the system's file dialog answers from now on, and whether it was asked since.
+    void answer_files(File_Answer_State state, const std::string& path = {});
+    [[nodiscard]] std::optional<File_Dialog_Kind> asked_file() const { return asked_file_; }
+
+private:
+    using Picture = std::vector<std::uint32_t>;
+    struct Shown_Dialog {
+        std::string title;
+        std::string text;
+        bool is_question = false;
+        Picture window;
+    };
+
+    [[nodiscard]] static Picture window_picture();
+    Script& expect_dialog(Shown_Dialog expected);
+    void compare_shown_dialogs();
+    void compare(const Shown_Dialog& shown);
+
+    std::optional<Program_Folder> folder_;
+    std::optional<Script> script_;
+    std::vector<Shown_Dialog> shown_dialogs_;
+    std::optional<File_Dialog_Kind> asked_file_;
+};
+
+} // namespace quadrelle::testing

@@ -1,0 +1,110 @@
+#include "tests/whole/program_test.h"
+#include "tools/tool_colors.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color white(255, 255, 255);
+constexpr Color black(0, 0, 0);
+
+class Stroke_Test : public Program_Test {
+protected:
+    static int count_of(Color color) {
+        return static_cast<int>(std::ranges::count(document().tileset().current_tile()->pixels(), color));
+    }
+};
+
+TEST_F(Stroke_Test, shows_the_pixels_it_paints_in_tile_window_and_title) {
+    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl");
+    script().drag({cell(2, 3), cell(6, 3), cell(6, 5)});
+    play();
+    EXPECT_EQ(count_of(white), 7);
+    for (const Tile_Point painted : {Tile_Point{2, 3}, {4, 3}, {6, 3}, {6, 4}, {6, 5}}) {
+        EXPECT_EQ(tile_pixel(painted.x, painted.y), white);
+        EXPECT_EQ(pixel_at(cell(painted.x, painted.y)), white);
+    }
+    EXPECT_EQ(pixel_at(cell(7, 5)), black);
+    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
+}
+
+TEST_F(Stroke_Test, shows_each_segment_before_the_release) {
+    script().press(cell(2, 3)).check([] { EXPECT_EQ(pixel_at(cell(2, 3)), white); });
+    script().motion(cell(9, 3)).check([] {
+        EXPECT_EQ(pixel_at(cell(9, 3)), white);
+        EXPECT_EQ(pixel_at(cell(10, 3)), black);
+    });
+    expect_loop("stroke").release(cell(9, 3));
+    play();
+}
+
+TEST_F(Stroke_Test, paints_with_the_colour_of_the_button) {
+    tool_colors->set_color(Mouse_Button::left, {10, 20, 30});
+    tool_colors->set_color(Mouse_Button::right, {40, 50, 60, 70});
+    script().click(cell(1, 1)).click(cell(3, 1), Mouse_Button::right).key('x').click(cell(5, 1));
+    play();
+    EXPECT_EQ(tile_pixel(1, 1), Color(10, 20, 30));
+    EXPECT_EQ(tile_pixel(3, 1), Color(40, 50, 60, 70));
+    EXPECT_EQ(tile_pixel(5, 1), Color(40, 50, 60, 70));
+    // Blended over the checkerboard.
+    EXPECT_NE(pixel_at(cell(3, 1)), Color(40, 50, 60));
+}
+
+TEST_F(Stroke_Test, takes_the_brush_size_from_the_keys) {
+    // Discs; the corner of an even brush lies half of it, rounded down, left of and above the pointer.
+    constexpr std::array painted = {1, 4, 5, 12, 21, 24};
+    for (std::size_t i = 0; i < painted.size(); ++i) {
+        document().tileset().current_tile()->fill(black);
+        script().key('1' + static_cast<Keycode>(i)).click(cell(12, 12));
+        play();
+        EXPECT_EQ(count_of(white), painted.at(i)) << "size " << i + 1;
+    }
+}
+
+TEST_F(Stroke_Test, leaves_the_tileset_unmarked_when_nothing_changes) {
+    script().drag({cell(2, 3), cell(9, 3)}, Mouse_Button::right).click({270, 70});
+    play();
+    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl");
+    EXPECT_FALSE(document().is_modified());
+}
+
+TEST_F(Stroke_Test, begins_on_the_strip_left_of_and_above_the_tile_but_not_beyond) {
+    script().click({399, 205}).click({405, 191}).click({390, 225}).click({640, 225}).click({525, 440});
+    play();
+    EXPECT_EQ(tile_pixel(0, 0), white);
+    EXPECT_EQ(count_of(white), 1);
+}
+
+TEST_F(Stroke_Test, ends_with_the_window_close_and_the_program_goes_on) {
+    script().press(cell(2, 3)).quit();
+    expect_loop("main").motion(cell(9, 9));
+    play();
+    EXPECT_EQ(count_of(white), 1);
+    EXPECT_TRUE(document().is_modified());
+}
+
+TEST_F(Stroke_Test, takes_no_keys_and_wheels_meanwhile) {
+    script().press(cell(2, 3)).key('x').key(key::escape).wheel(1).motion(cell(3, 3)).release(cell(3, 3));
+    play();
+    EXPECT_EQ(editor->canvas().pixel_size(), 10);
+    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+    EXPECT_EQ(count_of(white), 2);
+}
+
+TEST_F(Stroke_Test, no_other_button_does_anything_anywhere) {
+    for (const int number : {2, 4, 5}) {
+        for (const Point point :
+             {cell(5, 5), Point{20, 12}, Point{60, 500}, Point{900, 90}, Point{1100, 90}}) {
+            script().press_number(point, number).release(point, Mouse_Button::none);
+            expect_loop("main").motion(point);
+        }
+    }
+    play();
+    EXPECT_EQ(count_of(white), 0);
+    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+}
+
+} // namespace
+} // namespace quadrelle::testing
