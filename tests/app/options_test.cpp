@@ -144,6 +144,9 @@ TEST_F(Options_Test, a_file_shorter_than_it_says_is_fatal) {
     }
     store(file(), {0, 0, 0, 0});
     EXPECT_EQ(loaded_values(), initial_values);
+    // Fourteen rows are announced, and none is there.
+    store(file(), {3, 0, 0, 0, '1', '4', ':'});
+    EXPECT_EQ(loaded_values(), initial_values);
 }
 
 } // namespace quadrelle

@@ -253,6 +253,8 @@ TEST_F(Dialog_Container_Test, no_data_file_breaks_it) {
             loads(text);
         }
     }
+    loads("4,2,3,30,24,6,64,2,3,0,0,2,5,21,0,1"); // labels with the ids of other items
+    EXPECT_EQ(dialog->value(tick_id), 1);
     loads("2147483647");
     loads("-2147483648");
     loads("4" + std::string(100000, ','));

@@ -223,10 +223,8 @@ TEST_F(Dialog_Item_Test, loaded_values_stay_inside_the_bounds) {
     for (const std::string text : {"3,0,3", "-1,-1,5", "99999999999,0,0", "x"}) {
         Data_Stream stream(text);
         list.load(stream);
-        list.notify(Dialog_Event_Kind::increase);
+        EXPECT_EQ(list.value(), text == "x" ? 0 : 1) << text;
         list.draw();
-        EXPECT_LT(list.value(), 3) << text;
-        EXPECT_GE(list.value(), 0) << text;
     }
 
     Radiobutton_Dialog_Item radio({5}, true);
