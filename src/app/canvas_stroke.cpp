@@ -83,8 +83,10 @@ void run_stroke(Stroke& stroke, const std::function<void()>& redraw) {
     stroke.press();
     run_modal({"stroke", redraw, [&](const SDL_Event& event) {
                    switch (event.type) {
-                   case SDL_EVENT_QUIT:
-                   case SDL_EVENT_MOUSE_BUTTON_UP: return Loop_Step::end;
+                   case SDL_EVENT_QUIT: return Loop_Step::end;
+                   case SDL_EVENT_MOUSE_BUTTON_UP:
+                       return pointer_of(event.button).button == Mouse_Button::none ? Loop_Step::go_on
+                                                                                    : Loop_Step::end;
                    case SDL_EVENT_MOUSE_MOTION: stroke.move_to(pointer_of(event.motion)); break;
                    default: break;
                    }

@@ -31,7 +31,9 @@ Canvas_Picture picture_of(const Canvas_View& view) {
 }
 
 bool ends_pan(const SDL_Event& event) {
-    return event.type == SDL_EVENT_MOUSE_BUTTON_UP || event.type == SDL_EVENT_QUIT;
+    const bool is_release = event.type == SDL_EVENT_MOUSE_BUTTON_UP &&
+                            pointer_of(event.button).button != Mouse_Button::none;
+    return is_release || event.type == SDL_EVENT_QUIT;
 }
 
 } // namespace

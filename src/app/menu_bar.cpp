@@ -132,6 +132,9 @@ Loop_Step Menu_Bar::handle(const SDL_Event& event, Pointer_State& pointer, Comma
         return Loop_Step::go_on;
     }
     case SDL_EVENT_MOUSE_BUTTON_DOWN:
+        if (mouse_button(event.button.button) == Mouse_Button::none) {
+            return Loop_Step::go_on;
+        }
         pointer = pointer_of(event.button);
         return press(pointer.point(), chosen);
     default: return Loop_Step::go_on;
