@@ -147,6 +147,10 @@ Script& Script::check_loop(std::function<void(std::string_view)> function) {
     return *this;
 }
 
+void Script::set_afterwards(std::function<void(std::string_view)> function) {
+    afterwards_ = std::move(function);
+}
+
 Script& Script::add_event(const SDL_Event& event) {
     steps_.push_back({true, [event](std::string_view) {
                           SDL_Event copy = event;
@@ -159,6 +163,9 @@ void Script::feed(std::string_view loop) {
     SDL_PumpEvents();
     if (has_events()) {
         return;
+    }
+    if (is_played() && afterwards_) {
+        afterwards_(loop);
     }
     while (next_ < steps_.size()) {
         // A copy: a check may add steps.

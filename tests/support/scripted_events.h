@@ -45,6 +45,9 @@ public:
     // The same with the name of the loop that waits.
     Script& check_loop(std::function<void(std::string_view loop)> function);
 
+    // Called when all is played and a loop waits: it may add steps. None at first.
+    void set_afterwards(std::function<void(std::string_view loop)> function);
+
     [[nodiscard]] bool is_played() const { return next_ == steps_.size(); }
 
 private:
@@ -60,6 +63,7 @@ private:
     std::vector<Entry> steps_;
     std::size_t next_ = 0;
     Point pointer_;
+    Step afterwards_;
 };
 
 } // namespace quadrelle::testing

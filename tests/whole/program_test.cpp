@@ -12,6 +12,35 @@
 
 namespace quadrelle::testing {
 
+namespace {
+
+// What is drawn on a window that otherwise is of one colour.
+Rectangle covered_area(const std::vector<std::uint32_t>& window, int width) {
+    int left = width;
+    int top = static_cast<int>(window.size());
+    int right = 0;
+    int bottom = 0;
+    for (std::size_t i = 0; i < window.size(); ++i) {
+        if (window[i] != window.front()) {
+            const int x = static_cast<int>(i) % width;
+            const int y = static_cast<int>(i) / width;
+            left = std::min(left, x);
+            top = std::min(top, y);
+            right = std::max(right, x + 1);
+            bottom = std::max(bottom, y + 1);
+        }
+    }
+    return {left, top, right - left, bottom - top};
+}
+
+// It is translucent, to the right and below.
+Rectangle without_shadow(Rectangle dialog) {
+    constexpr int shadow_width = 4;
+    return {dialog.x, dialog.y, dialog.width - shadow_width, dialog.height - shadow_width};
+}
+
+} // namespace
+
 void Program_Test::SetUp() {
     use_dummy_video();
     folder_.emplace();
@@ -109,24 +138,11 @@ void Program_Test::compare(const Shown_Dialog& shown) {
     }
     dialogs->set_backdrop([] { editor->redraw(Present::no); });
 
-    // The shadow to the right and below is translucent; the corner above it is the dialog's own.
-    constexpr int shadow_width = 4;
     const int width = screen->size().width;
-    const auto covered = [&](std::size_t i) { return expected.at(i) != expected.front(); };
-    Rectangle dialog{width, 0, 0, 0};
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        if (covered(i)) {
-            const Point point{static_cast<int>(i) % width, static_cast<int>(i) / width};
-            dialog.y = dialog.is_empty() ? point.y : dialog.y;
-            const int right = std::max(dialog.right(), point.x + 1);
-            dialog.x = std::min(dialog.x, point.x);
-            dialog.width = right - dialog.x;
-            dialog.height = point.y + 1 - dialog.y;
-        }
-    }
     int differing = 0;
-    for (int y = dialog.y; y < dialog.bottom() - shadow_width; ++y) {
-        for (int x = dialog.x; x < dialog.right() - shadow_width; ++x) {
+    const Rectangle dialog = without_shadow(covered_area(expected, width));
+    for (int y = dialog.y; y < dialog.bottom(); ++y) {
+        for (int x = dialog.x; x < dialog.right(); ++x) {
             const auto i = static_cast<std::size_t>(y * width + x);
             differing += shown.window.at(i) != expected.at(i) ? 1 : 0;
         }

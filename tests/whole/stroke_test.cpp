@@ -104,6 +104,11 @@ TEST_F(Stroke_Test, no_other_button_does_anything_anywhere) {
     play();
     EXPECT_EQ(count_of(white), 0);
     EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+
+    script().press(cell(2, 2)).press_number(cell(3, 2), 2).release(cell(4, 2), Mouse_Button::none);
+    expect_loop("stroke").motion(cell(5, 2)).release(cell(5, 2));
+    play();
+    EXPECT_EQ(count_of(white), 4);
 }
 
 } // namespace

@@ -1,0 +1,157 @@
+#include "app/command_table.h"
+#include "color/palette_store.h"
+#include "tests/whole/program_test.h"
+#include "tools/tool_colors.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+class Command_Test : public Program_Test {
+protected:
+    // Every question is given up with Escape; the names of the loops that asked.
+    std::vector<std::string> execute_and_escape(Command command) {
+        std::vector<std::string> asked;
+        script().set_afterwards([&](std::string_view loop) {
+            asked.emplace_back(loop);
+            script().key(key::escape);
+        });
+        execute(command);
+        script().set_afterwards({});
+        return asked;
+    }
+
+    void execute_every_command() {
+        for (const Command_Row& row : command_table) {
+            SCOPED_TRACE(row.name);
+            EXPECT_LE(execute_and_escape(row.id).size(), 1U);
+        }
+    }
+
+    // A file that is all header.
+    void load_empty_tileset(std::uint8_t width, std::uint8_t height) {
+        const std::string path = folder().data_path("empty.qdl");
+        store(path, {'Q', 'D', 'L', '\n', 0, width, height, 0, 0, 0, 0});
+        answer_files(File_Answer_State::chosen, path);
+        execute(Command::load);
+        answer_files(File_Answer_State::cancelled);
+    }
+};
+
+TEST_F(Command_Test, every_one_leaves_the_program_usable) {
+    execute_every_command();
+    tool_colors->reset();
+    script().click(cell(3, 3));
+    play();
+    EXPECT_EQ(tile_pixel(3, 3), Color(255, 255, 255));
+}
+
+TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
+    const std::vector<Size> sizes{{24, 24}, {255, 255}, {24, 0}, {0, 24}, {0, 0}};
+    for (const Size& size : sizes) {
+        SCOPED_TRACE(size.width * 1000 + size.height);
+        load_empty_tileset(static_cast<std::uint8_t>(size.width), static_cast<std::uint8_t>(size.height));
+        ASSERT_FALSE(document().tileset().has_tiles());
+        EXPECT_FALSE(has_picture({264, 64, 512, 512}));
+        script().drag({cell(3, 3), cell(5, 5)}).wheel(1).wheel(-1);
+        play();
+        execute_every_command();
+        execute(Command::add_new_tile);
+        EXPECT_EQ(document().tileset().count() > 0, true);
+        execute_every_command();
+    }
+}
+
+TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
+    for (const Command_Row& row : command_table) {
+        if (execute_and_escape(row.id) == std::vector<std::string>{"dialog \"Note\""}) {
+            expect_message("Note", "Unhandled command " + std::string(row.name)).key(key::escape);
+            document().clear_modified();
+            execute(row.id);
+            EXPECT_FALSE(document().is_modified()) << row.name;
+        }
+    }
+}
+
+TEST_F(Command_Test, that_do_nothing_say_nothing) {
+    script().drag({cell(1, 1), cell(4, 4)}).motion({5, 5});
+    play();
+    document().clear_modified();
+    const auto before = std::vector<Color>(document().tileset().current_tile()->pixels().begin(),
+                                           document().tileset().current_tile()->pixels().end());
+    for (const Command inert : {Command::import_from_bmp, Command::skip_command, Command::change_tile}) {
+        execute(inert);
+        EXPECT_EQ(asked_file(), std::nullopt);
+        EXPECT_TRUE(std::ranges::equal(before, document().tileset().current_tile()->pixels()));
+    }
+    EXPECT_EQ(editor->documents().count(), 1);
+}
+
+TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
+    for (const Command_Row& row : command_table) {
+        if (row.key != key::none) {
+            const std::vector<std::string> from_menu = execute_and_escape(row.id);
+            std::vector<std::string> by_key;
+            script().set_afterwards([&](std::string_view loop) {
+                by_key.emplace_back(loop);
+                script().key(key::escape);
+            });
+            script().key(row.key, row.modifier).key_up(row.key);
+            play();
+            EXPECT_EQ(by_key, from_menu) << row.name;
+            script().set_afterwards({});
+        }
+    }
+}
+
+TEST_F(Command_Test, palette_keys_choose_the_left_colour) {
+    script().key('l').key('l').key('j').key('h').key('k').key('k').key(key::left_shift, Modifier::shift);
+    play();
+    EXPECT_EQ(tool_colors->color(Mouse_Button::left), palette_store->color(0, 1));
+    script().click(cell(0, 0));
+    play();
+    EXPECT_EQ(tile_pixel(0, 0), palette_store->color(0, 1));
+}
+
+TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
+    script().click(cell(2, 2));
+    play();
+    const auto shown = [](Command command, Color expected, const std::string& title) {
+        editor->execute(command);
+        editor->redraw(Present::yes);
+        EXPECT_EQ(pixel_at(cell(2, 2)), expected);
+        EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl" + title);
+    };
+    constexpr Color white(255, 255, 255);
+    constexpr Color black(0, 0, 0);
+    document().clear_modified();
+    shown(Command::add_new_tile, black, "*");
+    shown(Command::previous_tile, white, "*");
+    shown(Command::previous_tile, white, "*");
+    shown(Command::insert_new_tile, black, "*");
+    shown(Command::next_tile, white, "*");
+    shown(Command::delete_tile, black, "*");
+    shown(Command::delete_tile, black, "*");
+    EXPECT_EQ(document().tileset().count(), 1);
+    shown(Command::next_tile, black, "*");
+}
+
+TEST_F(Command_Test, quit_asks_and_only_a_yes_ends_the_program) {
+    script().quit();
+    expect_question("Quit", "Quit Quadrelle?").key(key::escape);
+    expect_loop("main").key(key::escape);
+    expect_question("Quit", "Quit Quadrelle?").quit();
+    expect_loop("main").click(cell(1, 1)).quit();
+    const std::string warning = "Quit Quadrelle without saving tiles?\r(Progress will be lost.)";
+    expect_question("Quit", warning).key(key::escape).key(key::escape);
+    expect_question("Quit", warning).key(key::enter);
+    editor->run();
+    EXPECT_TRUE(script().is_played());
+    EXPECT_EQ(tile_pixel(1, 1), Color(255, 255, 255));
+}
+
+} // namespace
+} // namespace quadrelle::testing
