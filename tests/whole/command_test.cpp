@@ -60,7 +60,7 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
         play();
         execute_every_command();
         execute(Command::add_new_tile);
-        EXPECT_EQ(document().tileset().count() > 0, true);
+        EXPECT_GT(document().tileset().count(), 0);
         execute_every_command();
     }
 }
