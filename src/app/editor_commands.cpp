@@ -94,7 +94,9 @@ Command Editor::do_nothing(Command command) {
 }
 
 Command Editor::select_tool(Command command) {
-    toolbox->select(command);
+    if (tool_of(command) != toolbox->current_tool()) {
+        toolbox->select(command);
+    }
     return command;
 }
 
