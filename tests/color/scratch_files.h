@@ -60,7 +60,7 @@ template <typename Action>
             action();
         }
     };
-    EXPECT_EXIT(redirected(), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(redirected(), ::testing::ExitedWithCode(1), "");
     return bytes_of_file(path);
 }
 

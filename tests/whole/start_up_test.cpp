@@ -1,0 +1,153 @@
+// From start to end: the program as a process of its own, and start and end within the test.
+
+#include "app/application.h"
+#include "app/editor.h"
+#include "app/options.h"
+#include "color/palette_store.h"
+#include "tests/app/temporary_folder.h"
+#include "tests/color/scratch_files.h"
+#include "tests/support/window_test.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+#ifdef QUADRELLE_PROGRAM
+
+std::string text_of(const std::string& path) {
+    const Bytes bytes = stored(path);
+    return {bytes.begin(), bytes.end()};
+}
+
+class Start_Up_Process : public ::testing::Test {
+protected:
+    void SetUp() override { use_real_sheet(); }
+
+    void use_real_sheet() {
+        std::filesystem::create_directory(folder_.native_path() / "data");
+        std::filesystem::copy_file(std::filesystem::path(QUADRELLE_SOURCE_DIR) / "data" / "pool.bmp",
+                                   folder_.native_path() / "data" / "pool.bmp");
+    }
+    [[nodiscard]] std::string path(const std::string& name) const { return folder_.path(name); }
+    void put(const std::string& name, const std::string& bytes) const { test::put_bytes(path(name), bytes); }
+
+    // The exit status; 137 when it had to be killed because it went on running.
+    [[nodiscard]] int run() const {
+        const std::string command = "cd '" + path("") +
+                                    "' && SDL_VIDEO_DRIVER=dummy timeout --signal=KILL 2 '" QUADRELLE_PROGRAM
+                                    "' > output 2> errors";
+        return std::system(command.c_str()) / 256;
+    }
+    void expect_fatal(const std::string& text) const {
+        EXPECT_EQ(run(), 1);
+        EXPECT_EQ(text_of(path("output")), "Error: " + text + "!\n");
+        EXPECT_EQ(text_of(path("errors")), "");
+    }
+
+private:
+    Temporary_Folder folder_;
+};
+
+TEST_F(Start_Up_Process, ends_without_the_data_folder) {
+    std::filesystem::remove_all(native(path("data")));
+    expect_fatal("Unable to open 'data' directory.");
+    put("data", "a file in its place");
+    expect_fatal("Unable to open 'data' directory.");
+}
+
+TEST_F(Start_Up_Process, ends_without_a_usable_sheet) {
+    put("data/pool.bmp", "BM, but nothing else");
+    expect_fatal("Could not load SDL surface from %s. pool.bmp");
+    std::filesystem::remove(native(path("data/pool.bmp")));
+    expect_fatal("Could not load SDL surface from %s. pool.bmp");
+}
+
+TEST_F(Start_Up_Process, ends_when_a_data_file_is_shorter_than_it_says) {
+    for (const std::string& cut :
+         {std::string("\x20\0\0\0"
+                      "1,2,",
+                      8),
+          std::string("\xff\xff\xff\xff:", 5), std::string("\1\0", 2), std::string()}) {
+        put("data/palette.dat", cut);
+        expect_fatal("Unable to load block from  palette.dat");
+        std::filesystem::remove(native(path("data/palette.dat")));
+        put("data/options.dlg", cut);
+        expect_fatal("Unable to load block from  " +
+                     std::filesystem::canonical(native(path("data/options.dlg"))).string());
+        std::filesystem::remove(native(path("data/options.dlg")));
+    }
+}
+
+TEST_F(Start_Up_Process, runs_until_it_is_told_otherwise) {
+    EXPECT_EQ(run(), 137);
+    EXPECT_EQ(text_of(path("output")), "");
+}
+
+#endif
+
+// Complete files that no program of ours wrote.
+TEST(Start_Up, takes_data_files_with_any_content) {
+    const std::vector<std::string> records{
+        "",
+        ",,,,,,,,",
+        ":::::",
+        "2147483647,2147483647,x,-1",
+        "-2147483648,-2147483648,",
+        "3,0,a,-5,b,99999999999999999999,c",
+        "999999,1,2,3,4,5,6,7,8,9",
+        std::string(5000, '9'),
+        std::string("\0\xff\0\xff,\0", 6),
+        "14," + std::string(400, ','),
+        "14,1,30,-1,0,0,2147483647,0,2147483647,-7,99,99,99,99,99,99,99,99,99,99,99,99,99,99,99,99,99,99,99",
+    };
+    use_dummy_video();
+    for (const std::string& record : records) {
+        SCOPED_TRACE(record.substr(0, 60));
+        const Program_Folder folder;
+        test::put_bytes(folder.data_path("palette.dat"), test::record_bytes(record));
+        test::put_bytes(folder.data_path("options.dlg"), test::record_bytes(record));
+        start_application();
+        EXPECT_TRUE(editor->show_first_frame());
+        EXPECT_GE(palette_store->count(0), 1);
+        for (const Option_Row& row : option_table) {
+            EXPECT_GE(options->value(row.id), row.low + row.offset) << row.key;
+            EXPECT_LE(options->value(row.id), row.high + row.offset) << row.key;
+        }
+        editor->redraw(Present::yes);
+        shut_down_application();
+    }
+}
+
+TEST(Start_Up, leaves_no_file_and_no_changed_folder_behind) {
+    use_dummy_video();
+    const Program_Folder folder;
+    const std::string before = current_directory();
+    start_application();
+    EXPECT_EQ(current_directory(), before);
+    ASSERT_TRUE(editor->show_first_frame());
+    shut_down_application();
+    EXPECT_EQ(current_directory(), before);
+    EXPECT_EQ(folder.folder().entry_count(), 1);
+    EXPECT_FALSE(std::filesystem::exists(folder.data_path("palette.dat")));
+    EXPECT_FALSE(std::filesystem::exists(folder.data_path("options.dlg")));
+}
+
+TEST(Start_Up, can_start_again) {
+    use_dummy_video();
+    const Program_Folder folder;
+    for (int i = 0; i < 3; ++i) {
+        start_application();
+        ASSERT_TRUE(editor->show_first_frame());
+        EXPECT_EQ(editor->documents().current().file_name(), "untitled0.qdl");
+        shut_down_application();
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing
