@@ -204,6 +204,7 @@ TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     draw_pixel(3, 3);
     script().press(layout.item(11)).type("12").key(key::enter).press(layout.item(21)).type("12");
     script().key(key::enter).press(layout.item(30)).key(key::enter);
+    document().clear_modified();
     execute(Command::new_tileset);
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(document().tileset().tile_size(), (Size{12, 12}));

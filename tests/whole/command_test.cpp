@@ -123,6 +123,7 @@ TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
         editor->execute(command);
         editor->redraw(Present::yes);
         EXPECT_EQ(pixel_at(cell(2, 2)), expected);
+        EXPECT_EQ(count_in_preview({255, 255, 255}) > 0, expected == Color(255, 255, 255));
         EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl" + title);
     };
     constexpr Color white(255, 255, 255);
@@ -137,6 +138,10 @@ TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
     shown(Command::delete_tile, black, "*");
     EXPECT_EQ(document().tileset().count(), 1);
     shown(Command::next_tile, black, "*");
+    // The last tile stays, blank.
+    script().click(cell(2, 2));
+    play();
+    shown(Command::delete_tile, black, "*");
 }
 
 TEST_F(Command_Test, quit_asks_and_only_a_yes_ends_the_program) {

@@ -79,6 +79,17 @@ std::string Program_Test::window_title() {
     return SDL_GetWindowTitle(SDL_GetRenderWindow(screen->renderer()));
 }
 
+int Program_Test::count_in_preview(Color color) {
+    const Rectangle area = dialogs->preview().client_area();
+    const Picture window = window_picture();
+    int count = 0;
+    for (int y = area.y; y < area.bottom(); ++y) {
+        const auto row = window.begin() + y * screen->size().width;
+        count += static_cast<int>(std::count(row + area.x, row + area.right(), color.word()));
+    }
+    return count;
+}
+
 Script& Program_Test::expect_message(const std::string& title, const std::string& text) {
     return expect_dialog({title, text, false, {}});
 }

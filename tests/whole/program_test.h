@@ -36,6 +36,8 @@ protected:
     [[nodiscard]] static Tileset_Document& document() { return editor->documents().current(); }
     [[nodiscard]] static Color tile_pixel(int x, int y);
     [[nodiscard]] static std::string window_title();
+    // How many pixels of the preview have that colour; it repeats the tile twice each way.
+    [[nodiscard]] static int count_in_preview(Color color);
 
     // At this step of the script the window shows a dialog with exactly this title and text.
     Script& expect_message(const std::string& title, const std::string& text);

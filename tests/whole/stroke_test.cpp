@@ -31,7 +31,10 @@ TEST_F(Stroke_Test, shows_the_pixels_it_paints_in_tile_window_and_title) {
 }
 
 TEST_F(Stroke_Test, shows_each_segment_before_the_release) {
-    script().press(cell(2, 3)).check([] { EXPECT_EQ(pixel_at(cell(2, 3)), white); });
+    script().press(cell(2, 3)).check([] {
+        EXPECT_EQ(pixel_at(cell(2, 3)), white);
+        EXPECT_EQ(count_in_preview(white), 4);
+    });
     script().motion(cell(9, 3)).check([] {
         EXPECT_EQ(pixel_at(cell(9, 3)), white);
         EXPECT_EQ(pixel_at(cell(10, 3)), black);

@@ -106,6 +106,9 @@ TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
              s.event(event);
          },
          false},
+        {"control and then shift",
+         [](Script& s) { s.key(key::left_control, Modifier::control).key(key::left_shift, Modifier::shift); },
+         true},
         {"alt", [](Script& s) { s.key(key::left_alt, Modifier::alt); }, false},
         {"control with an unused key", [](Script& s) { s.key('q', Modifier::control); }, true},
     };
