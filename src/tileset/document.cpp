@@ -38,7 +38,6 @@ bool Tileset_Document::delete_tile() {
         return false;
     }
     tileset_.delete_current();
-    tileset_.current_tile()->update_texture();
     return true;
 }
 
