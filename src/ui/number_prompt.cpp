@@ -86,8 +86,11 @@ Loop_Step Number_Prompt::handle(const SDL_Event& event) {
     switch (event.type) {
     case SDL_EVENT_QUIT: return Loop_Step::end;
     case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN:
-        return box_.contains(pointer_of(event.button).point()) ? Loop_Step::go_on : Loop_Step::end;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: {
+        const Pointer_State pointer = pointer_of(event.button);
+        const bool is_outside = pointer.button != Mouse_Button::none && !box_.contains(pointer.point());
+        return is_outside ? Loop_Step::end : Loop_Step::go_on;
+    }
     default: return Loop_Step::go_on;
     }
 }

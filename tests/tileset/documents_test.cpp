@@ -182,7 +182,7 @@ struct New_Dialog_Layout {
 TEST_F(Documents_Test, new_takes_the_size_that_is_typed) {
     const New_Dialog_Layout layout;
     draw_pixel(1, 1);
-    script().press(layout.item(11)).type("40").key(key::enter);
+    script().press(layout.item(11)).press_number({5, 5}, 2).type("40").key(key::enter);
     script().press(layout.item(21)).type("8").key(key::enter).key(key::enter);
     execute(Command::new_tileset);
     EXPECT_EQ(window_title(), product + "untitled1.qdl");
