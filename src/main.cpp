@@ -12,4 +12,6 @@ int run(int /*argument_count*/, char** /*arguments*/) {
 
 } // namespace
 
-int main(int argument_count, char** arguments) { return SDL_RunApp(argument_count, arguments, run, nullptr); }
+int main(int argument_count, char** arguments) {
+    return SDL_RunApp(argument_count, arguments, run, nullptr);
+}

@@ -36,13 +36,13 @@ Color blended_over(Color color, Color background) {
             blended(color.b, background.b, color.a)};
 }
 
-Color grid_color(Color shown, int intensity) {
-    if (shown.is_dark()) {
-        shown.brighten(intensity);
+Color grid_color(Color pixel, int intensity) {
+    if (pixel.is_dark()) {
+        pixel.brighten(intensity);
     } else {
-        shown.darken(intensity);
+        pixel.darken(intensity);
     }
-    return shown;
+    return pixel;
 }
 
 Color checker_color(Tile_Point pixel, Size checker) {
@@ -90,22 +90,41 @@ void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int
 }
 
 void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns, int row) {
+    const auto pixels = picture.tile->pixels().subspan(static_cast<std::size_t>(row) *
+                                                       static_cast<std::size_t>(picture.tile->width()));
     const int width = static_cast<int>(cell_line_.size());
+    // Neighbours often show the same colour.
+    Color pixel;
+    Color background;
+    Color cell;
+    Color grid;
+    bool is_known = false;
     for (int column = columns.first; column < columns.end; ++column) {
-        const Color background = checker_color({column, row}, picture.checker);
-        const Color cell = blended_over(picture.tile->get_pixel(column, row), background);
+        const Color next_pixel = pixels[static_cast<std::size_t>(column)];
+        const Color next_background =
+            next_pixel.a == 255 ? background : checker_color({column, row}, picture.checker);
+        if (!is_known || next_pixel != pixel || next_background != background) {
+            pixel = next_pixel;
+            background = next_background;
+            cell = blended_over(pixel, background);
+            grid = blended_over(grid_color(pixel, picture.grid_intensity), cell);
+            is_known = true;
+        }
         const int left = picture.origin.x + column * picture.pixel_size;
-        const int right = left + picture.pixel_size;
-        fill_cell(std::max(left, 0), std::min(right, width), cell, grid_color(cell, picture.grid_intensity),
-                  right <= width);
+        fill_cell({std::max(left, 0), std::min(left + picture.pixel_size, width)}, {cell, grid},
+                  left + picture.pixel_size <= width);
     }
 }
 
-void Canvas_Painter::fill_cell(int left, int right, Color cell, Color grid, bool shows_right_line) {
-    std::fill(cell_line_.begin() + left, cell_line_.begin() + right, cell);
-    std::fill(grid_line_.begin() + left, grid_line_.begin() + right, grid);
+void Canvas_Painter::fill_cell(Range extent, Cell_Colors colors, bool shows_right_line) {
+    Color* const cell = cell_line_.data();
+    Color* const grid = grid_line_.data();
+    for (int x = extent.first; x < extent.end; ++x) {
+        cell[x] = colors.cell;
+        grid[x] = colors.grid;
+    }
     if (shows_right_line) {
-        cell_line_[static_cast<std::size_t>(right) - 1] = grid;
+        cell[extent.end - 1] = colors.grid;
     }
 }
 

@@ -4,25 +4,13 @@
 // checkerboard, with a grid. Knows neither window nor events.
 
 #include "app/geometry.h"
+#include "app/pixel_rows.h"
 #include "color/color.h"
 #include "tileset/tile.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <vector>
 
 namespace quadrelle {
-
-// Rows of pixels in memory that somebody else owns, `pitch` bytes apart.
-struct Pixel_Rows {
-    Color* first = nullptr;
-    std::ptrdiff_t pitch = 0;
-    Size size;
-
-    [[nodiscard]] Color* row(int y) const {
-        return reinterpret_cast<Color*>(reinterpret_cast<std::byte*>(first) + y * pitch);
-    }
-};
 
 struct Canvas_Picture {
     const Tile* tile = nullptr; // null shows nothing but the surround
@@ -36,8 +24,8 @@ struct Canvas_Picture {
 // The colour that shows when an area of the second colour is filled with the first one, as the renderer
 // blends.
 [[nodiscard]] Color blended_over(Color color, Color background);
-// Of the grid lines along a cell that shows this opaque colour.
-[[nodiscard]] Color grid_color(Color shown, int intensity);
+// Of the grid lines along a pixel, as translucent as the pixel itself.
+[[nodiscard]] Color grid_color(Color pixel, int intensity);
 // Of the checkerboard square that the tile pixel lies on.
 [[nodiscard]] Color checker_color(Tile_Point pixel, Size checker);
 
@@ -51,9 +39,13 @@ private:
         int first = 0;
         int end = 0;
     };
+    struct Cell_Colors {
+        Color cell;
+        Color grid;
+    };
     void paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target);
     void compose_lines(const Canvas_Picture& picture, Range columns, int row);
-    void fill_cell(int left, int right, Color cell, Color grid, bool shows_right_line);
+    void fill_cell(Range extent, Cell_Colors colors, bool shows_right_line);
 
     // One line of pixels through the cells of a row, and one along their bottom.
     std::vector<Color> cell_line_;

@@ -1,9 +1,9 @@
 #include "app/canvas_view.h"
 
 #include "app/events.h"
+#include "app/opaque_texture.h"
 #include "app/options.h"
 #include "app/renderer.h"
-#include "app/viewport_texture.h"
 #include "color/standard_colors.h"
 
 #include <algorithm>
@@ -31,8 +31,8 @@ Canvas_Picture picture_of(const Canvas_View& view) {
 }
 
 bool ends_pan(const SDL_Event& event) {
-    const bool is_release = event.type == SDL_EVENT_MOUSE_BUTTON_UP &&
-                            pointer_of(event.button).button != Mouse_Button::none;
+    const bool is_release =
+        event.type == SDL_EVENT_MOUSE_BUTTON_UP && pointer_of(event.button).button != Mouse_Button::none;
     return is_release || event.type == SDL_EVENT_QUIT;
 }
 
@@ -40,8 +40,8 @@ bool ends_pan(const SDL_Event& event) {
 
 Canvas_View::Canvas_View(int pixel_size)
     : pixel_size_(std::clamp(pixel_size, smallest_pixel_size, largest_pixel_size)),
-      texture_(std::make_unique<Viewport_Texture>(Size{canvas_viewport.width, canvas_viewport.height},
-                                                  active_renderer())) {}
+      texture_(std::make_unique<Opaque_Texture>(Size{canvas_viewport.width, canvas_viewport.height},
+                                                active_renderer())) {}
 
 Canvas_View::~Canvas_View() = default;
 
@@ -83,12 +83,16 @@ void Canvas_View::scroll_origin(int dx, int dy) {
 }
 
 void Canvas_View::pan(const std::function<void()>& redraw) {
+    const Point start = origin_;
     bool has_moved = false;
+    float dx = 0;
+    float dy = 0;
     run_modal({"pan", redraw, [&](const SDL_Event& event) {
                    // The first motion only tells where the pointer was.
                    if (event.type == SDL_EVENT_MOUSE_MOTION && std::exchange(has_moved, true)) {
-                       scroll_origin(static_cast<int>(event.motion.xrel),
-                                     static_cast<int>(event.motion.yrel));
+                       dx += event.motion.xrel;
+                       dy += event.motion.yrel;
+                       origin_ = {start.x + static_cast<int>(dx), start.y + static_cast<int>(dy)};
                    }
                    return ends_pan(event) ? Loop_Step::end : Loop_Step::go_on;
                }});

@@ -11,7 +11,7 @@
 
 namespace quadrelle {
 
-class Viewport_Texture;
+class Opaque_Texture;
 
 constexpr Rectangle canvas_viewport{264, 64, 512, 512};
 constexpr int smallest_pixel_size = 3;
@@ -60,7 +60,7 @@ private:
     int pixel_size_;
     Point origin_{canvas_viewport.x, canvas_viewport.y};
     Canvas_Painter painter_;
-    std::unique_ptr<Viewport_Texture> texture_;
+    std::unique_ptr<Opaque_Texture> texture_;
 };
 
 } // namespace quadrelle

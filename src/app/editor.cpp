@@ -9,7 +9,6 @@
 #include "tools/toolbox.h"
 #include "ui/dialogs.h"
 
-
 namespace quadrelle {
 
 std::unique_ptr<Editor> editor;
@@ -67,6 +66,10 @@ bool Editor::show_first_frame() {
 
 void Editor::handle_one_event() {
     handle(wait_event("main"));
+    // Also when the release came while a dialog or a stroke was running.
+    if (take_key_release()) {
+        control_held_ = false;
+    }
 }
 
 void Editor::size_preview() {
@@ -79,7 +82,8 @@ void Editor::take_current_tile() {
     Tileset& tileset = documents_.current().tileset();
     canvas_.set_tile(tileset.current_tile());
     dialogs->preview().set_tile(tileset.current_tile());
-    if (tileset.tile_size() != shown_tile_size_) {
+    // Without a tile there is nothing to centre yet.
+    if (tileset.has_tiles() && tileset.tile_size() != shown_tile_size_) {
         shown_tile_size_ = tileset.tile_size();
         canvas_.centre();
         size_preview();
@@ -105,7 +109,6 @@ void Editor::handle(const SDL_Event& event) {
     switch (event.type) {
     case SDL_EVENT_QUIT: static_cast<void>(perform(Command::quit)); break;
     case SDL_EVENT_KEY_DOWN: handle_key(event.key); break;
-    case SDL_EVENT_KEY_UP: control_held_ = false; break;
     case SDL_EVENT_MOUSE_MOTION: handle_motion(event.motion); break;
     case SDL_EVENT_MOUSE_BUTTON_DOWN: handle_press(event.button); break;
     case SDL_EVENT_MOUSE_WHEEL:
@@ -128,14 +131,6 @@ void Editor::handle_key(const SDL_KeyboardEvent& event) {
 
 void Editor::handle_motion(const SDL_MouseMotionEvent& event) {
     pointer_ = {event.x, event.y, pointer_.button};
-    if (!canvas_viewport.contains(pointer_.point()) && cursor_hidden_) {
-        show_cursor();
-    }
-}
-
-void Editor::show_cursor() {
-    screen->show_cursor(true);
-    cursor_hidden_ = false;
 }
 
 void Editor::handle_press(const SDL_MouseButtonEvent& event) {

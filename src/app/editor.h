@@ -47,7 +47,6 @@ private:
     void route_click();
     [[nodiscard]] bool click_pane();
     void draw_on_canvas();
-    void show_cursor();
 
     // Commands. Each answers with the command to record, or none when it failed.
     [[nodiscard]] Command perform(Command command);
@@ -66,6 +65,7 @@ private:
     Command save(Command command);
     Command quit(Command command);
     Command edit_options(Command command);
+    Command show_help(Command command);
     Command show_about(Command command);
     Command show_debug_monitor(Command command);
     Command run_test(Command command);
@@ -76,7 +76,6 @@ private:
 
     Pointer_State pointer_;
     bool quit_requested_ = false;
-    bool cursor_hidden_ = false;
     bool control_held_ = false;
     Size shown_tile_size_;
     Canvas_View canvas_;

@@ -39,6 +39,7 @@ Command Editor::dispatch(Command command) {
         {Command::center_tile_on_view, Command::center_tile_on_view, &Editor::centre},
         {Command::zoom_tile_up,        Command::zoom_tile_down,      &Editor::zoom},
         {Command::options,             Command::options,             &Editor::edit_options},
+        {Command::context_info,        Command::context_info,        &Editor::show_help},
         {Command::about,               Command::about,               &Editor::show_about},
         {Command::debug_monitor,       Command::debug_monitor,       &Editor::show_debug_monitor},
         {Command::skip_command,        Command::skip_command,        &Editor::do_nothing},
@@ -58,15 +59,8 @@ Command Editor::dispatch(Command command) {
 }
 
 Command Editor::perform(Command command) {
-    const bool was_hidden = cursor_hidden_;
-    if (was_hidden) {
-        screen->show_cursor(true);
-    }
     const Command result = dispatch(command);
     follow_up(result);
-    if (was_hidden && cursor_hidden_) {
-        screen->show_cursor(false);
-    }
     return result;
 }
 
@@ -172,6 +166,13 @@ Command Editor::edit_options(Command command) {
     if (options->edit()) {
         size_preview();
     }
+    return command;
+}
+
+// Of the tool in use.
+Command Editor::show_help(Command command) {
+    const Command tool = toolbox->current_command();
+    dialogs->message(menu_text(tool), description(tool));
     return command;
 }
 

@@ -22,7 +22,17 @@ void tell_watcher(std::string_view loop) {
     }
 }
 
+bool key_was_released = false;
+
+void note(const SDL_Event& event) {
+    key_was_released = key_was_released || event.type == SDL_EVENT_KEY_UP;
+}
+
 } // namespace
+
+bool take_key_release() {
+    return std::exchange(key_was_released, false);
+}
 
 void set_wait_watcher(Wait_Watcher new_watcher) {
     watcher() = std::move(new_watcher);
@@ -34,6 +44,7 @@ SDL_Event wait_event(std::string_view loop) {
     while (!SDL_WaitEvent(&event)) {
         SDL_Delay(idle_milliseconds);
     }
+    note(event);
     return event;
 }
 
@@ -50,6 +61,7 @@ Idle_Outcome idle(std::string_view loop) {
     Idle_Outcome outcome = Idle_Outcome::nothing_happened;
     SDL_Event event{};
     while (SDL_PollEvent(&event)) {
+        note(event);
         outcome = Idle_Outcome::events_taken;
     }
     SDL_Delay(idle_milliseconds);

@@ -79,7 +79,7 @@ void Menu_Bar::draw_header(const Menu& menu, bool is_highlighted) const {
     }
     const auto& header = is_highlighted ? menu.highlighted_header : menu.header;
     if (header) {
-        screen->draw_texture(*header, {menu.header_area.x, text_offset.y});
+        screen->draw_texture(*header, {menu.header_area.x + text_offset.x, text_offset.y});
     }
 }
 
@@ -123,8 +123,10 @@ Command Menu_Bar::click(Pointer_State& pointer) {
 
 Loop_Step Menu_Bar::handle(const SDL_Event& event, Pointer_State& pointer, Command& chosen) {
     switch (event.type) {
-    case SDL_EVENT_QUIT:
-    case SDL_EVENT_KEY_DOWN: return Loop_Step::end;
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    // A modifier by itself is no key: the menu takes the whole chord.
+    case SDL_EVENT_KEY_DOWN:
+        return key_chord_of(event.key).key == key::none ? Loop_Step::go_on : Loop_Step::end;
     case SDL_EVENT_MOUSE_MOTION: {
         pointer = pointer_of(event.motion);
         const int header = header_at(pointer.point());

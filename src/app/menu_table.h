@@ -26,8 +26,8 @@ constexpr std::array file = std::to_array<Menu_Row>({
     {" Load ", Command::load},
     menu_separator,
     {" Save ", Command::save},
-    {" Save as... ", Command::save_as},
-    {" Export as .bmp ", Command::export_bitmap},
+    {" Save as...", Command::save_as},
+    {" Export as .bmp", Command::export_bitmap},
     menu_separator,
     {" Close ", Command::close},
     menu_separator,
@@ -106,5 +106,16 @@ constexpr std::array<Menu_Column, 6> menu_table{{
     {" Tools ", menus::tools},
     {" Help ", menus::help},
 }};
+
+static_assert([] {
+    for (const Menu_Column& column : menu_table) {
+        for (const Menu_Row& row : column.rows) {
+            if (row.command == Command::none && row.text != menu_separator.text) {
+                return false;
+            }
+        }
+    }
+    return true;
+}());
 
 } // namespace quadrelle

@@ -17,6 +17,7 @@ struct SDL_Window;
 
 namespace quadrelle {
 
+class Opaque_Texture;
 class Sprite_Sheet;
 
 enum class Text_Style { normal, highlighted };
@@ -81,11 +82,13 @@ private:
         void operator()(SDL_Renderer* renderer) const;
     };
     void open_window();
+    void make_frame_block();
     void set_draw_color(Color color);
 
     Size size_;
     std::unique_ptr<SDL_Window, Window_Deleter> window_;
     std::unique_ptr<SDL_Renderer, Renderer_Deleter> renderer_;
+    std::unique_ptr<Opaque_Texture> frame_block_; // a block of the frame colour
     std::unique_ptr<Sprite_Sheet> sprites_;
 };
 

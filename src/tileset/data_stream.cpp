@@ -116,8 +116,8 @@ std::int32_t Data_Stream::read_int() {
     std::int32_t number = 0;
     const auto result = std::from_chars(token.data(), token.data() + token.size(), number);
     if (result.ec == std::errc::result_out_of_range) {
-        using limits = std::numeric_limits<std::int32_t>;
-        return token.front() == '-' ? limits::min() : limits::max();
+        using Limits = std::numeric_limits<std::int32_t>;
+        return token.front() == '-' ? Limits::min() : Limits::max();
     }
     return number;
 }

@@ -2,6 +2,7 @@
 
 #include "app/screen.h"
 #include "app/texture.h"
+#include "tileset/sprite_sheet.h"
 
 #include <algorithm>
 
@@ -12,6 +13,25 @@ namespace {
 // Above the canvas viewport and as wide.
 constexpr Rectangle row{264, 43, 512, 21};
 constexpr int longest_title = 320;
+constexpr Rectangle arrow = sprite_rect(Sprite::button_less);
+constexpr int arrow_gap = 1;
+constexpr Rectangle left_arrow{row.x - arrow_gap - arrow.width, row.y + 3, arrow.width, arrow.height};
+constexpr Rectangle right_arrow{row.right() + arrow_gap, row.y + 3, arrow.width, arrow.height};
+
+// The letters are ASCII: every other character shows as one question mark.
+std::string printable(const std::string& title) {
+    std::string text;
+    for (const char byte : title) {
+        const auto code = static_cast<unsigned char>(byte);
+        const bool continues_a_character = (code & 0xc0U) == 0x80U;
+        if (code < 0x80U) {
+            text += byte;
+        } else if (!continues_a_character) {
+            text += '?';
+        }
+    }
+    return text;
+}
 
 // The end of a long path says more than its start.
 std::string shortened(const std::string& title) {
@@ -28,35 +48,56 @@ Document_Tabs::Document_Tabs() = default;
 Document_Tabs::~Document_Tabs() = default;
 
 void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t current) {
-    std::vector<Tab> tabs;
+    tabs_.clear();
+    document_count_ = static_cast<int>(titles.size());
     int x = row.x;
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const Header_Style style = i == current ? Header_Style::active : Header_Style::passive;
-        auto label = screen->make_header(shortened(titles[i]), style);
+        auto label = screen->make_header(shortened(printable(titles[i])), style);
         const Rectangle area{x, row.y, label->size().width, row.height};
         x = area.right();
-        tabs.push_back({static_cast<int>(i), area, std::move(label)});
+        tabs_.push_back({static_cast<int>(i), area, std::move(label)});
     }
     // Scrolled left, tab by tab, until the current one shows.
-    while (tabs.at(current - static_cast<std::size_t>(tabs.front().document)).area.right() > row.right() &&
-           tabs.front().document < static_cast<int>(current)) {
-        const int width = tabs.front().area.width;
-        tabs.erase(tabs.begin());
-        for (Tab& tab : tabs) {
-            tab.area.x -= width;
-        }
+    std::size_t hidden = 0;
+    while (hidden < current && tabs_[current].area.right() - tabs_[hidden].area.x > row.width) {
+        ++hidden;
     }
-    std::erase_if(tabs, [](const Tab& tab) { return tab.area.right() > row.right(); });
-    tabs_ = std::move(tabs);
+    const int shift = tabs_[hidden].area.x - row.x;
+    tabs_.erase(tabs_.begin(), tabs_.begin() + static_cast<std::ptrdiff_t>(hidden));
+    for (Tab& tab : tabs_) {
+        tab.area.x -= shift;
+    }
+    std::erase_if(tabs_, [](const Tab& tab) { return tab.area.right() > row.right(); });
+}
+
+bool Document_Tabs::hides_first() const {
+    return !tabs_.empty() && tabs_.front().document > 0;
+}
+
+bool Document_Tabs::hides_last() const {
+    return !tabs_.empty() && tabs_.back().document < document_count_ - 1;
 }
 
 void Document_Tabs::draw() const {
     for (const Tab& tab : tabs_) {
         screen->draw_texture(*tab.label, {tab.area.x, tab.area.y});
     }
+    if (hides_first()) {
+        screen->draw_sprite(Sprite::button_less, {left_arrow.x, left_arrow.y});
+    }
+    if (hides_last()) {
+        screen->draw_sprite(Sprite::button_more, {right_arrow.x, right_arrow.y});
+    }
 }
 
 int Document_Tabs::tab_at(Point point) const {
+    if (hides_first() && left_arrow.contains(point)) {
+        return tabs_.front().document - 1;
+    }
+    if (hides_last() && right_arrow.contains(point)) {
+        return tabs_.back().document + 1;
+    }
     const auto found = std::ranges::find_if(tabs_, [&](const Tab& tab) { return tab.area.contains(point); });
     return found == tabs_.end() ? -1 : found->document;
 }

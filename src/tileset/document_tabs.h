@@ -19,10 +19,11 @@ public:
     Document_Tabs();
     ~Document_Tabs();
 
-    // In the order of the documents. Tabs that do not fit beside the current one are left out.
+    // In the order of the documents. Tabs that do not fit beside the current one are left out; an arrow at
+    // either end of the row stands for them.
     void set_titles(std::span<const std::string> titles, std::size_t current);
     void draw() const;
-    // The document whose tab is there, or -1.
+    // The document whose tab is there, the next hidden one for an arrow, or -1.
     [[nodiscard]] int tab_at(Point point) const;
 
 private:
@@ -31,8 +32,11 @@ private:
         Rectangle area;
         std::unique_ptr<Texture> label;
     };
+    [[nodiscard]] bool hides_first() const;
+    [[nodiscard]] bool hides_last() const;
 
-    std::vector<Tab> tabs_;
+    std::vector<Tab> tabs_; // those that show
+    int document_count_ = 0;
 };
 
 } // namespace quadrelle

@@ -47,9 +47,10 @@ int Dialogs::ask_number(Point position, int value, int low, int high) {
 }
 
 void Dialogs::draw_backdrop() const {
-    screen->clear();
     if (backdrop_) {
         backdrop_();
+    } else {
+        screen->clear();
     }
     for (const Draw_Function& draw_layer : layers_) {
         draw_layer();

@@ -44,7 +44,7 @@ void show_about() {
     const std::string text = about_text();
     Dialog_Container dialog("About");
     dialog.add_image_row(Sprite::logo);
-    dialog.add_text_row(text);
+    dialog.add_text_row(text).items().front()->area.height += dialog_margin;
     dialog.finish_ok();
     dialog.run();
 }

@@ -84,7 +84,7 @@ private:
             const Color pixel = picture.tile->get_pixel(column, row);
             fill({x, y, edge, edge}, background);
             fill({x, y, edge, edge}, pixel);
-            const Color grid = grid_color(blended_over(pixel, background), picture.grid_intensity);
+            const Color grid = grid_color(pixel, picture.grid_intensity);
             fill({x, y + edge - 1, edge, 1}, grid);
             fill({x + edge - 1, y, 1, edge - 1}, grid);
             if (++column_counter == picture.checker.width) {

@@ -1,18 +1,18 @@
 #pragma once
 
-// The texture that a picture composed in memory reaches the window through.
+// The texture that an opaque picture composed in memory reaches the window through.
 
-#include "app/canvas_painter.h"
+#include "app/pixel_rows.h"
 #include "app/streaming_texture.h"
 
 #include <functional>
 
 namespace quadrelle {
 
-class Viewport_Texture {
+class Opaque_Texture {
 public:
     // Fatal when the renderer cannot make it. Without a renderer nothing is ever drawn.
-    Viewport_Texture(Size size, SDL_Renderer* renderer);
+    Opaque_Texture(Size size, SDL_Renderer* renderer);
 
     // `paint` writes every pixel; opaque ones only.
     void update(const std::function<void(const Pixel_Rows&)>& paint);

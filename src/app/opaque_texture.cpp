@@ -1,4 +1,4 @@
-#include "app/viewport_texture.h"
+#include "app/opaque_texture.h"
 
 #include "app/fatal.h"
 #include "app/float_rectangle.h"
@@ -9,7 +9,7 @@ namespace quadrelle {
 
 // The layout of `Color` without alpha, which is also the window's on most machines: nothing is converted
 // or blended on the way.
-Viewport_Texture::Viewport_Texture(Size size, SDL_Renderer* renderer) : size_(size), renderer_(renderer) {
+Opaque_Texture::Opaque_Texture(Size size, SDL_Renderer* renderer) : size_(size), renderer_(renderer) {
     if (renderer_ == nullptr) {
         return;
     }
@@ -22,7 +22,7 @@ Viewport_Texture::Viewport_Texture(Size size, SDL_Renderer* renderer) : size_(si
     SDL_SetTextureBlendMode(texture_.get(), SDL_BLENDMODE_NONE);
 }
 
-void Viewport_Texture::update(const std::function<void(const Pixel_Rows&)>& paint) {
+void Opaque_Texture::update(const std::function<void(const Pixel_Rows&)>& paint) {
     void* memory = nullptr;
     int pitch = 0;
     if (texture_ && SDL_LockTexture(texture_.get(), nullptr, &memory, &pitch)) {
@@ -31,7 +31,7 @@ void Viewport_Texture::update(const std::function<void(const Pixel_Rows&)>& pain
     }
 }
 
-void Viewport_Texture::draw_at(Point position) const {
+void Opaque_Texture::draw_at(Point position) const {
     if (texture_) {
         const SDL_FRect to = float_rectangle({position.x, position.y, size_.width, size_.height});
         SDL_RenderTexture(renderer_, texture_.get(), nullptr, &to);
