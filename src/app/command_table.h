@@ -4,6 +4,7 @@
 
 #include "app/command.h"
 #include "app/input.h"
+#include "app/table.h"
 
 #include <array>
 #include <cstddef>
@@ -140,15 +141,6 @@ constexpr std::array<Command_Row, command_count> table{{
 }};
 // clang-format on
 
-constexpr bool follow_their_ids() {
-    for (std::size_t i = 0; i < table.size(); ++i) {
-        if (static_cast<std::size_t>(table[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}
-
 constexpr bool share_a_chord(const Command_Row& first, const Command_Row& second) {
     return first.key != key::none && first.key == second.key && first.modifier == second.modifier;
 }
@@ -165,7 +157,7 @@ constexpr bool have_distinct_chords() {
 }
 
 static_assert(command_count == static_cast<std::size_t>(Command::count));
-static_assert(follow_their_ids());
+static_assert(rows_follow_their_ids(table));
 static_assert(have_distinct_chords());
 
 } // namespace command_rows

@@ -2,6 +2,9 @@
 
 // The user's settings: one table, the dialog that offers them, and the values that everyone reads.
 
+#include "app/table.h"
+
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -69,15 +72,10 @@ constexpr std::array<Option_Row, option_count> option_table{{
 // clang-format on
 
 static_assert(option_table.size() == static_cast<std::size_t>(Option::count));
-static_assert([] {
-    for (std::size_t i = 0; i < option_table.size(); ++i) {
-        const Option_Row& row = option_table[i];
-        if (static_cast<std::size_t>(row.id) != i || row.initial < row.low || row.initial > row.high) {
-            return false;
-        }
-    }
-    return true;
-}());
+static_assert(rows_follow_their_ids(option_table));
+static_assert(std::ranges::all_of(option_table, [](const Option_Row& row) {
+    return row.initial >= row.low && row.initial <= row.high;
+}));
 
 class Options {
 public:

@@ -2,6 +2,7 @@
 
 // The twenty fixed colours that the interface is drawn with.
 
+#include "app/table.h"
 #include "color/color.h"
 
 #include <array>
@@ -63,14 +64,7 @@ constexpr std::array standard_colors = {
 // clang-format on
 
 static_assert(standard_colors.size() == 20);
-static_assert([] {
-    for (std::size_t i = 0; i < standard_colors.size(); ++i) {
-        if (static_cast<std::size_t>(standard_colors[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}());
+static_assert(rows_follow_their_ids(standard_colors));
 
 [[nodiscard]] constexpr Color standard_color(Standard_Color id) {
     return standard_colors[static_cast<std::size_t>(id)].color;

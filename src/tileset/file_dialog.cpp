@@ -1,6 +1,7 @@
 #include "tileset/file_dialog.h"
 
 #include "app/events.h"
+#include "app/table.h"
 #include "ui/dialogs.h"
 
 #include <SDL3/SDL_dialog.h>
@@ -36,14 +37,7 @@ constexpr std::array<File_Dialog_Row, 6> file_dialog_table{{
 // clang-format on
 
 static_assert(file_dialog_table.size() == static_cast<std::size_t>(File_Dialog_Kind::count));
-static_assert([] {
-    for (std::size_t i = 0; i < file_dialog_table.size(); ++i) {
-        if (static_cast<std::size_t>(file_dialog_table[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}());
+static_assert(rows_follow_their_ids(file_dialog_table));
 
 // Written by the system's callback, which may run on another thread: first the path, then the state.
 struct Shared_Answer {

@@ -3,6 +3,7 @@
 // Where the glyph rows of the four fonts lie on the sheet "pool.bmp". The glyphs themselves are found by
 // their marker pixels.
 
+#include "app/table.h"
 #include "tileset/sprite_table.h"
 
 #include <array>
@@ -38,22 +39,17 @@ constexpr std::array<Font_Row, font_count> font_table{{
 }};
 // clang-format on
 
-constexpr bool font_rows_follow_their_ids() {
-    for (std::size_t i = 0; i < font_table.size(); ++i)
-        if (static_cast<std::size_t>(font_table[i].id) != i)
-            return false;
-    return true;
-}
-
 constexpr bool fonts_lie_inside_the_sheet() {
-    for (const Font_Row& row : font_table)
-        if (row.marker_y < 0 || row.marker_y + row.glyph_rows * (row.glyph_height + 1) > sheet_height)
+    for (const Font_Row& row : font_table) {
+        if (row.marker_y < 0 || row.marker_y + row.glyph_rows * (row.glyph_height + 1) > sheet_height) {
             return false;
+        }
+    }
     return true;
 }
 
 static_assert(font_table.size() == static_cast<std::size_t>(Font::count));
-static_assert(font_rows_follow_their_ids());
+static_assert(rows_follow_their_ids(font_table));
 static_assert(fonts_lie_inside_the_sheet());
 
 } // namespace quadrelle

@@ -2,6 +2,8 @@
 
 // Where each picture of the interface lies on the sheet "pool.bmp". Knows nothing of files or of drawing.
 
+#include "app/table.h"
+
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -269,24 +271,18 @@ constexpr std::array<Sprite_Row, sprite_count> sprite_table{{
 }};
 // clang-format on
 
-constexpr bool sprite_rows_follow_their_ids() {
-    for (std::size_t i = 0; i < sprite_table.size(); ++i)
-        if (static_cast<std::size_t>(sprite_table[i].id) != i)
-            return false;
-    return true;
-}
-
 constexpr bool sprites_lie_inside_the_sheet() {
     for (const Sprite_Row& row : sprite_table) {
         const bool starts_inside = row.x >= 0 && row.y >= 0 && row.width > 0 && row.height > 0;
-        if (!starts_inside || row.x + row.width > sheet_width || row.y + row.height > sheet_height)
+        if (!starts_inside || row.x + row.width > sheet_width || row.y + row.height > sheet_height) {
             return false;
+        }
     }
     return true;
 }
 
 static_assert(sprite_table.size() == static_cast<std::size_t>(Sprite::count));
-static_assert(sprite_rows_follow_their_ids());
+static_assert(rows_follow_their_ids(sprite_table));
 static_assert(sprites_lie_inside_the_sheet());
 
 } // namespace quadrelle

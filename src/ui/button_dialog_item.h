@@ -2,6 +2,7 @@
 
 // Buttons with a label or a sprite, and the one that is checked and unchecked.
 
+#include "app/table.h"
 #include "tileset/sprite_sheet.h"
 #include "ui/dialog_item.h"
 
@@ -69,14 +70,7 @@ constexpr std::array button_table = {
 // clang-format on
 
 static_assert(button_table.size() == static_cast<std::size_t>(Button_Type::count));
-static_assert([] {
-    for (std::size_t i = 0; i < button_table.size(); ++i) {
-        if (static_cast<std::size_t>(button_table[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}());
+static_assert(rows_follow_their_ids(button_table));
 
 class Button_Dialog_Item : public Dialog_Item {
 public:

@@ -2,6 +2,8 @@
 
 // What a dialog item answers to a click: a kind, and the item that it is meant for.
 
+#include "app/table.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -46,14 +48,7 @@ constexpr std::array dialog_event_table = {
 // clang-format on
 
 static_assert(dialog_event_table.size() == static_cast<std::size_t>(Dialog_Event_Kind::count));
-static_assert([] {
-    for (std::size_t i = 0; i < dialog_event_table.size(); ++i) {
-        if (static_cast<std::size_t>(dialog_event_table[i].id) != i) {
-            return false;
-        }
-    }
-    return true;
-}());
+static_assert(rows_follow_their_ids(dialog_event_table));
 
 [[nodiscard]] constexpr const Dialog_Event_Row& row_of(Dialog_Event_Kind kind) {
     return dialog_event_table.at(static_cast<std::size_t>(kind));
