@@ -5,7 +5,9 @@
 #include "color/standard_colors.h"
 #include "tools/tool_colors.h"
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
 
 namespace quadrelle {
 
@@ -19,8 +21,19 @@ constexpr int color_panel_offset = 210;
 // The tools that can be chosen, from the top of the list.
 constexpr std::array listed_tools = {Tool::pen};
 
+constexpr int icon_edge = 24;
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
+
+// The twins stand side by side on the sheet.
+constexpr bool has_lit_twin(const Tool_Row& tool) {
+    const auto index = static_cast<std::size_t>(tool.icon);
+    const Sprite_Row& plain = sprite_table.at(index);
+    const Sprite_Row& lit = sprite_table.at(index + 1);
+    return lit.x == plain.x + icon_edge && lit.y == plain.y;
+}
+
+static_assert(std::ranges::all_of(tool_table, has_lit_twin));
 
 void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
