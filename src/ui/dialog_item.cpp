@@ -35,7 +35,8 @@ void Dialog_Item::save(Data_Stream& stream) const {
 }
 
 void Dialog_Item::load(Data_Stream& stream) {
-    id = stream.read_int();
+    // Ids are how a dialog finds its items: a file cannot change them.
+    static_cast<void>(stream.read_int());
 }
 
 void Dialog_Item::describe() const {

@@ -90,10 +90,7 @@ void Dialog_Rows::load(Data_Stream& stream) {
             if (stream.is_at_end()) {
                 return;
             }
-            // Ids are how the dialog finds its items: a file cannot change them.
-            const std::int32_t id = item->id;
             item->load(stream);
-            item->id = id;
         }
     }
 }
