@@ -38,18 +38,13 @@ struct Rectangle {
 
     [[nodiscard]] constexpr int right() const { return x + width; }
     [[nodiscard]] constexpr int bottom() const { return y + height; }
-    [[nodiscard]] constexpr bool is_empty() const { return width <= 0 || height <= 0; }
     [[nodiscard]] constexpr bool contains(Point point) const {
         return point.x >= x && point.y >= y && point.x < right() && point.y < bottom();
-    }
-    [[nodiscard]] constexpr bool intersects(const Rectangle& other) const {
-        return x < other.right() && other.x < right() && y < other.bottom() && other.y < bottom();
     }
     // Shrunk on all four sides; a negative amount grows it.
     [[nodiscard]] constexpr Rectangle inset(int amount) const {
         return {x + amount, y + amount, width - 2 * amount, height - 2 * amount};
     }
-    [[nodiscard]] constexpr Rectangle moved(int dx, int dy) const { return {x + dx, y + dy, width, height}; }
 };
 
 // A size centred in an area, both halves rounded toward zero.

@@ -34,7 +34,6 @@ public:
 
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] Brush_Owner owner() const { return owner_; }
-    [[nodiscard]] bool is_single_pixel() const { return size_ == Size{1, 1}; }
     // None where the mask is clear; x and y lie inside the brush.
     [[nodiscard]] std::optional<Color> pixel(int x, int y) const {
         return pixels_[static_cast<std::size_t>(x) +

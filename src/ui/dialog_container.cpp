@@ -87,7 +87,6 @@ void Dialog_Container::place_buttons() {
 
 bool Dialog_Container::run() {
     result_ = {};
-    pointer_ = {};
     rows_.begin();
     {
         const Dialog_Layer layer([this] { draw_frame_and_items(); });
@@ -124,11 +123,10 @@ Loop_Step Dialog_Container::handle_key(Keycode pressed) {
 }
 
 Loop_Step Dialog_Container::press(const Pointer_State& pointer) {
-    pointer_ = pointer;
-    if (pointer_.button == Mouse_Button::none) {
+    if (pointer.button == Mouse_Button::none) {
         return Loop_Step::go_on;
     }
-    result_ = rows_.item_at(pointer_.point());
+    result_ = rows_.item_at(pointer.point());
     rows_.notify(result_);
     return result_.closes() ? Loop_Step::end : Loop_Step::go_on;
 }

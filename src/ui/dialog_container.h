@@ -54,7 +54,6 @@ private:
     Dialog_Frame frame_;
     Dialog_Rows rows_;
     Dialog_Event result_;
-    Pointer_State pointer_;
 };
 
 } // namespace quadrelle

@@ -38,7 +38,7 @@ protected:
 };
 
 TEST_F(Brush_Selector_Test, starts_with_one_pixel) {
-    EXPECT_TRUE(selector_->brush().is_single_pixel());
+    EXPECT_EQ(selector_->brush().size(), (Size{1, 1}));
 }
 
 TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
