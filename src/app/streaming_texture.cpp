@@ -70,8 +70,8 @@ void Streaming_Texture::draw_part(const Rectangle& source, const Rectangle& dest
     SDL_RenderTexture(renderer_, texture_.get(), &from, &to);
 }
 
-std::size_t Streaming_Texture::memory_size() const {
-    return 32 + static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(size_.height) * 4;
+std::size_t Streaming_Texture::memory_size(Size size) {
+    return 32 + static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 4;
 }
 
 } // namespace quadrelle

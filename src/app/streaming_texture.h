@@ -32,8 +32,8 @@ public:
     void draw_part(const Rectangle& source, const Rectangle& destination) const;
 
     [[nodiscard]] Size size() const { return size_; }
-    // Bytes, as callers that budget memory count them.
-    [[nodiscard]] std::size_t memory_size() const;
+    // Bytes of a texture of that size, as callers that budget memory count them.
+    [[nodiscard]] static std::size_t memory_size(Size size);
 
 private:
     Size size_;

@@ -32,8 +32,7 @@ Tile::~Tile() = default;
 
 std::size_t Tile::memory_size() const {
     const std::size_t pixel_bytes = pixels_.size() * bytes_per_pixel;
-    const std::size_t texture_bytes = 32 + pixel_bytes;
-    return 12 + pixel_bytes + texture_bytes;
+    return 12 + pixel_bytes + Streaming_Texture::memory_size(size());
 }
 
 Color Tile::get_pixel_clamped(int x, int y) const {
