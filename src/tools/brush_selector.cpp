@@ -58,7 +58,7 @@ std::unique_ptr<Texture> make_size_icons(Brush_Shape shape, int chosen) {
     return std::make_unique<Texture>(icons, active_renderer());
 }
 
-// The client area is two pixels lower than the icons.
+// The client area is two pixels less high than the icons, which stand in its middle.
 Point icons_position(const Pane& row) {
     return {row.client_area().x, row.client_area().y - 1};
 }
