@@ -6,24 +6,28 @@
 
 namespace quadrelle {
 
+// How far one touch of the lightness pen goes, of 255.
+constexpr double linear_step = 2.0;
+constexpr double perceptual_step = 3.0;
+
 [[nodiscard]] constexpr Color lightened_linear(Color pixel) {
-    pixel.brighten(2.0);
+    pixel.brighten(linear_step);
     return pixel;
 }
 
 [[nodiscard]] constexpr Color darkened_linear(Color pixel) {
-    pixel.darken(2.0);
+    pixel.darken(linear_step);
     return pixel;
 }
 
 // Truncation makes these two deliberately unequal: a step up moves only green, a step down all three.
 [[nodiscard]] constexpr Color lightened_perceptual(Color pixel) {
-    pixel.brighten_weighted(3.0);
+    pixel.brighten_weighted(perceptual_step);
     return pixel;
 }
 
 [[nodiscard]] constexpr Color darkened_perceptual(Color pixel) {
-    pixel.darken_weighted(3.0);
+    pixel.darken_weighted(perceptual_step);
     return pixel;
 }
 
