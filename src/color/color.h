@@ -38,7 +38,6 @@ struct Color {
 
     // 0 red, 1 green, 2 blue; every other index is alpha.
     [[nodiscard]] constexpr std::uint8_t channel(int index) const;
-    [[nodiscard]] constexpr std::uint8_t& channel(int index);
     [[nodiscard]] constexpr std::uint8_t max_channel() const { return std::max({r, g, b}); }
     [[nodiscard]] constexpr std::uint8_t min_channel() const { return std::min({r, g, b}); }
     [[nodiscard]] constexpr bool is_grey() const { return r == g && g == b; }
@@ -76,6 +75,7 @@ struct Color {
     [[nodiscard]] bool is_dark() const;
 
 private:
+    [[nodiscard]] constexpr std::uint8_t& channel_at(int index);
     constexpr void shift(int amount);
     constexpr void shift(double red, double green, double blue);
 };
@@ -92,10 +92,10 @@ constexpr std::uint32_t Color::word() const {
 }
 
 constexpr std::uint8_t Color::channel(int index) const {
-    return Color(*this).channel(index);
+    return Color(*this).channel_at(index);
 }
 
-constexpr std::uint8_t& Color::channel(int index) {
+constexpr std::uint8_t& Color::channel_at(int index) {
     switch (index) {
     case 0: return r;
     case 1: return g;
@@ -115,7 +115,7 @@ constexpr void Color::add(int red, int green, int blue, int alpha) {
 }
 
 constexpr int Color::add_clamped(int index, int amount) {
-    std::uint8_t& target = channel(index);
+    std::uint8_t& target = channel_at(index);
     const int sum = target + std::clamp(amount, -256, 256);
     target = clamped_channel(sum);
     return sum == target ? 0 : -1;

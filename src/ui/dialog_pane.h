@@ -32,20 +32,17 @@ private:
 class Number_Pane : public Dialog_Pane {
 public:
     Number_Pane(const Rectangle& below_title, std::string_view title, const Cyclic_Int& number);
-    ~Number_Pane() override = default;
 };
 
 class Option_Pane : public Dialog_Pane {
 public:
     Option_Pane(const Rectangle& below_title, std::string_view title, std::string_view choices, int index);
-    ~Option_Pane() override = default;
 };
 
 class Tick_Pane : public Dialog_Pane {
 public:
     // Starts unticked. The text must outlive the pane.
     Tick_Pane(const Rectangle& below_title, std::string_view title, std::string_view text);
-    ~Tick_Pane() override = default;
 };
 
 } // namespace quadrelle
