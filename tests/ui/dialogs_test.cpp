@@ -128,6 +128,11 @@ TEST_F(Number_Prompt_Test, can_be_given_up) {
     EXPECT_EQ(answer([](Script& user) { user.type("32").key(key::escape); }), no_number);
     EXPECT_EQ(answer([](Script& user) { user.type("32").quit(); }), no_number);
     EXPECT_EQ(answer([](Script& user) { user.type("32").press({10, 10}); }), no_number);
+    constexpr int middle_button = 2;
+    EXPECT_EQ(answer([](Script& user) {
+                  user.type("32").press_number({10, 10}, middle_button).key(key::enter);
+              }),
+              32);
     const Point inside{middle.x + 30, middle.y + 30};
     EXPECT_EQ(answer([&](Script& user) { user.press(inside).type("32").key(key::enter); }), 32);
 }
