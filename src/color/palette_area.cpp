@@ -85,7 +85,9 @@ void Palette_Area::draw() const {
     for (int entry = 0; entry < store_.count(palette_); ++entry) {
         screen->fill_rect(cell(entry), store_.color(palette_, entry));
     }
-    draw_selection(cell(entry_));
+    if (store_.count(palette_) > 0) {
+        draw_selection(cell(entry_));
+    }
 }
 
 std::optional<Color> Palette_Area::click(Point point) {

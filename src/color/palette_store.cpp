@@ -59,7 +59,7 @@ std::vector<Palette> read_palettes(Data_Stream& record) {
     const int announced = record.read_int();
     std::vector<Palette> palettes;
     for (int i = 0; i < std::min(announced, most_palettes) && !record.is_at_end(); ++i) {
-        const int count = std::clamp(record.read_int(), 1, most_entries);
+        const int count = std::clamp(record.read_int(), 0, most_entries);
         palettes.emplace_back(record.read_text(), count);
     }
     return palettes;

@@ -17,8 +17,8 @@ struct Palette {
     Palette(std::string palette_name, int count);
 };
 
-// Never without a palette, and no palette without an entry. Palettes and entries outside of the store
-// read as "" and opaque black, and are not set.
+// Never without a palette; a palette that was read has 0 to 1024 entries. Palettes and entries outside of the
+// store read as "" and opaque black, and are not set.
 class Palette_Store {
 public:
     // Reads the file in the current directory; without one, or with one that holds no palette, the

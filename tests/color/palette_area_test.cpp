@@ -113,6 +113,18 @@ TEST_F(Palette_Area_Test, every_number_of_entries_has_its_room) {
     }
 }
 
+TEST_F(Palette_Area_Test, a_palette_without_entries_has_nothing_to_select) {
+    const Palette_Store store = store_with(0);
+    ASSERT_EQ(store.count(0), 0);
+    Palette_Area area(position, store);
+    area.draw();
+    EXPECT_FALSE(has_picture({cell(area, 0, 0).x - 12, cell(area, 0, 0).y - 12, 192, 96}));
+    EXPECT_EQ(area.click(cell(area, 0, 0)), std::nullopt);
+    EXPECT_EQ(area.click(more(area)), std::nullopt);
+    EXPECT_EQ(area.move_selection(1, 0), Color());
+    EXPECT_EQ(area.move_selection(0, -1), Color());
+}
+
 TEST_F(Palette_Area_Test, selected_colour_is_shown_beside_its_numbers) {
     const Palette_Store store("missing.dat");
     Palette_Area area(position, store);
