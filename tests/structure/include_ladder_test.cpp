@@ -39,6 +39,7 @@ constexpr std::array places{
     Place{"app/float_rectangle",          Level::values},
     Place{"app/geometry",                 Level::values},
     Place{"app/input",                    Level::values},
+    Place{"app/pixel_rows",               Level::values},
     Place{"app/table",                    Level::values},
     Place{"app/version",                  Level::values},
     Place{"tileset/block_file",           Level::values},
@@ -57,7 +58,7 @@ constexpr std::array places{
     Place{"app/screen",                   Level::screen},
     Place{"app/surface",                  Level::screen},
     Place{"app/texture",                  Level::screen},
-    Place{"app/opaque_texture",         Level::screen},
+    Place{"app/opaque_texture",           Level::screen},
     Place{"tileset/sprite_sheet",         Level::screen},
 
     Place{"ui/",                          Level::widgets},
