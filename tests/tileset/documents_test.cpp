@@ -282,6 +282,34 @@ TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) 
     EXPECT_EQ(editor->canvas().magnified_size(), (Size{100, 100}));
 }
 
+TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
+    constexpr Point left_arrow{255, 53};
+    constexpr Point right_arrow{785, 53};
+    for (int i = 0; i < 11; ++i) {
+        documents().new_document({8, 8});
+    }
+    script().click(left_arrow);
+    play();
+    const std::string hidden = name();
+    EXPECT_NE(hidden, "untitled11.qdl");
+    // That tab is the first one in the row now, and others are hidden behind it.
+    script().click(right_arrow);
+    play();
+    EXPECT_NE(name(), hidden);
+    // Leftwards until the first tab shows; then there is no arrow any more.
+    for (int i = 0; i < 12; ++i) {
+        script().click(left_arrow);
+    }
+    play();
+    const std::string reached = name();
+    script().click(left_arrow);
+    play();
+    EXPECT_EQ(name(), reached);
+    script().click(tab_after({}));
+    play();
+    EXPECT_EQ(name(), "untitled0.qdl");
+}
+
 // What the list of documents should be, told plainly.
 struct Model {
     struct Entry {

@@ -65,6 +65,12 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
     }
 }
 
+TEST_F(Command_Test, first_tile_of_an_empty_set_comes_into_the_middle) {
+    load_empty_tileset(48, 10);
+    execute(Command::add_new_tile);
+    EXPECT_EQ(editor->canvas().origin(), (Point{264 + (512 - 480) / 2, 64 + (512 - 100) / 2}));
+}
+
 TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
     for (const Command_Row& row : command_table) {
         if (execute_and_escape(row.id) == std::vector<std::string>{"dialog \"Note\""}) {
@@ -74,6 +80,12 @@ TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
             EXPECT_FALSE(document().is_modified()) << row.name;
         }
     }
+}
+
+TEST_F(Command_Test, context_info_explains_the_tool) {
+    script().key(key::f1);
+    expect_message("Pen (p)", std::string(description(Command::pen))).key(key::escape);
+    play();
 }
 
 TEST_F(Command_Test, that_do_nothing_say_nothing) {

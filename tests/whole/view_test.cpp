@@ -109,6 +109,15 @@ TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
         {"control and then shift",
          [](Script& s) { s.key(key::left_control, Modifier::control).key(key::left_shift, Modifier::shift); },
          true},
+        {"released while a menu was open",
+         [](Script& s) {
+             s.key(key::left_control, Modifier::control)
+                 .press({20, 12})
+                 .key_up(key::left_control)
+                 .key(key::escape)
+                 .motion({500, 300});
+         },
+         false},
         {"alt", [](Script& s) { s.key(key::left_alt, Modifier::alt); }, false},
         {"control with an unused key", [](Script& s) { s.key('q', Modifier::control); }, true},
     };
