@@ -43,7 +43,7 @@ start_editor() {
     settle
 }
 
-picture() { import -window "$editor_window" "$1"; }
+picture() { timeout 10 import -window "$editor_window" "$1"; }
 take_picture() { [ -z "${PICTURES:-}" ] || picture "$PICTURES/$1.png"; }
 title() { xdotool getwindowname "$editor_window"; }
 is_running() { kill -0 "$editor_pid" 2>/dev/null; }
@@ -63,21 +63,20 @@ has_size() { [ "$(stat -c %s "$1" 2>/dev/null)" = "$2" ]; }
 wait_for_file() { wait_until has_size "$1" "$2" || fail "$1 has no size of $2"; }
 
 # The sum of the picture, or of its part WIDTHxHEIGHT+X+Y if "part" names one.
-fingerprint() { import -window "$editor_window" ${part:+-crop "$part"} pnm:- | cksum; }
+fingerprint() { timeout 10 import -window "$editor_window" ${part:+-crop "$part"} pnm:- | cksum; }
 # Menus do not reach the middle of the window, where the dialogs open.
 middle=180x140+526+262
 
 # The picture is the same in two samples, and differs from that of the sum given.
 is_still() {
     local sum
-    sum=$(fingerprint)
-    [ "$sum" != "${1:-}" ] && sleep 0.1 && [ "$sum" = "$(fingerprint)" ]
+    sum=$(fingerprint) && [ "$sum" != "${1:-}" ] && sleep 0.1 && [ "$sum" = "$(fingerprint)" ]
 }
 settle() { wait_until is_still || fail "the picture does not come to rest"; }
 # Does what must show in the window, or in its part, and waits until it does.
 shown() {
     local before
-    before=$(fingerprint)
+    before=$(fingerprint) || fail "there is no picture before: $*"
     "$@"
     wait_until is_still "$before" || fail "nothing was seen of: $*"
 }
