@@ -18,6 +18,7 @@ namespace {
 constexpr Size first_tile_size{24, 24};
 
 constexpr Point palette_position{31, 427};
+constexpr Point history_position{31, 368};
 
 Point below(const Element& element) {
     return {element.area.x, element.area.bottom() + element_gap};
@@ -36,6 +37,7 @@ int fitting_repeat(int tile_extent, int repeat) {
 Editor::Editor()
     : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
       palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
+      history_pane_(history_position),
       menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })) {
     dialogs->set_backdrop([this] { redraw(Present::no); });
 }
@@ -98,6 +100,7 @@ void Editor::redraw(Present present) {
     dialogs->draw(canvas_.pixel_size());
     palette_.draw();
     selected_color_.draw();
+    history_pane_.draw(documents_.current().history());
     documents_.draw_tabs();
     toolbox->draw();
     if (present == Present::yes) {
@@ -176,6 +179,7 @@ void Editor::draw_on_canvas() {
     const Stroke_Outcome outcome =
         apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
     if (outcome == Stroke_Outcome::tile_changed) {
+        record(row_of(toolbox->current_tool()).command);
         documents_.mark_changed();
     }
 }

@@ -8,6 +8,7 @@
 #include "app/menu_bar.h"
 #include "color/palette_area.h"
 #include "tileset/documents.h"
+#include "tileset/history_pane.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -69,6 +70,14 @@ private:
     Command show_about(Command command);
     Command show_debug_monitor(Command command);
     Command run_test(Command command);
+    Command undo(Command command);
+    Command redo(Command command);
+    Command show_undo_history(Command command);
+
+    // Adds the current tile to the history of the current document.
+    void record(Command kind);
+    // False without an entry.
+    bool restore(const Undo_Entry* entry);
 
     // After another tile, or a set of another size, came into view.
     void take_current_tile();
@@ -82,6 +91,7 @@ private:
     Documents documents_;
     Palette_Area palette_;
     Selected_Color_Area selected_color_;
+    History_Pane history_pane_;
     std::unique_ptr<Menu_Bar> menu_bar_;
 };
 

@@ -42,6 +42,9 @@ Command Editor::dispatch(Command command) {
         {Command::context_info,        Command::context_info,        &Editor::show_help},
         {Command::about,               Command::about,               &Editor::show_about},
         {Command::debug_monitor,       Command::debug_monitor,       &Editor::show_debug_monitor},
+        {Command::undo,                Command::undo,                &Editor::undo},
+        {Command::redo,                Command::redo,                &Editor::redo},
+        {Command::view_undo_history,   Command::view_undo_history,   &Editor::show_undo_history},
         {Command::skip_command,        Command::skip_command,        &Editor::do_nothing},
         {Command::test,                Command::test,                &Editor::run_test},
     });
@@ -78,7 +81,9 @@ void Editor::follow_up(Command done) {
 }
 
 void Editor::execute(Command command) {
-    if (is_recorded(perform(command))) {
+    const Command done = perform(command);
+    if (is_recorded(done)) {
+        record(done);
         documents_.mark_changed();
     }
 }
@@ -149,7 +154,11 @@ Command Editor::make_new(Command command) {
 }
 
 Command Editor::load(Command command) {
-    return documents_.load_document() ? command : Command::skip_command;
+    if (!documents_.load_document()) {
+        return Command::skip_command;
+    }
+    record(Command::change_tile);
+    return command;
 }
 
 Command Editor::save(Command command) {

@@ -26,10 +26,18 @@ Command Tileset_Document::handle_command(Command command) {
     case Command::next_tile: return done(tileset_.next());
     case Command::previous_tile: return done(tileset_.previous());
     case Command::add_new_tile: return done(tileset_.add_tile());
-    case Command::insert_new_tile: return done(tileset_.insert_tile());
+    case Command::insert_new_tile: return done(insert_tile());
     case Command::delete_tile: return done(delete_tile());
     default: return Command::none;
     }
+}
+
+bool Tileset_Document::insert_tile() {
+    if (!tileset_.insert_tile()) {
+        return false;
+    }
+    history_.tile_inserted(tileset_.current_index());
+    return true;
 }
 
 // The last tile left stays, blank: that is a change too.
@@ -37,7 +45,9 @@ bool Tileset_Document::delete_tile() {
     if (!tileset_.has_tiles()) {
         return false;
     }
+    const int index = tileset_.current_index();
     tileset_.delete_current();
+    history_.tile_deleted(index, tileset_);
     return true;
 }
 

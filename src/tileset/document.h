@@ -1,9 +1,10 @@
 #pragma once
 
-// One open tileset: its tiles, the file they belong to, and whether they are saved.
+// One open tileset: its tiles, their history, the file they belong to, and whether they are saved.
 
 #include "app/command.h"
 #include "tileset/tileset.h"
+#include "tileset/undo_history.h"
 
 #include <string>
 
@@ -16,6 +17,8 @@ public:
 
     [[nodiscard]] Tileset& tileset() { return tileset_; }
     [[nodiscard]] const Tileset& tileset() const { return tileset_; }
+    [[nodiscard]] Undo_History& history() { return history_; }
+    [[nodiscard]] const Undo_History& history() const { return history_; }
     [[nodiscard]] const std::string& file_name() const { return file_name_; }
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
@@ -35,10 +38,12 @@ public:
     Command handle_command(Command command);
 
 private:
+    bool insert_tile();
     bool delete_tile();
 
     std::string file_name_;
     Tileset tileset_;
+    Undo_History history_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

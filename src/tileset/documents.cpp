@@ -34,7 +34,9 @@ bool Documents::new_document(Size tile_size) {
     tileset.add_tile();
     const std::string name = "untitled" + std::to_string(untitled_counter_) + ".qdl";
     ++untitled_counter_;
-    add(std::make_unique<Tileset_Document>(name, std::move(tileset)));
+    auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
+    document->history().reset(document->tileset());
+    add(std::move(document));
     return true;
 }
 
@@ -52,6 +54,7 @@ void Documents::make_current(std::size_t index) {
 
 void Documents::resize_current(Size tile_size) {
     current().tileset().resize_all(tile_size);
+    current().history().clear();
     current_changed_();
 }
 

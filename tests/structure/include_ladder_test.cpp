@@ -70,6 +70,7 @@ constexpr std::array places{
     Place{"color/palette_area",           Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
+    Place{"tileset/history_pane",         Level::panes},
     Place{"tools/toolbox",                Level::panes},
     Place{"views/",                       Level::panes},
 

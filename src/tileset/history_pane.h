@@ -1,0 +1,22 @@
+#pragma once
+
+// Shows the newest states of the current tileset as a strip of thumbnails. Changes nothing.
+
+#include "tileset/undo_history.h"
+#include "ui/pane.h"
+
+namespace quadrelle {
+
+class History_Pane : public Pane {
+public:
+    explicit History_Pane(Point position);
+
+    using Pane::draw;
+    // The newest seven entries, the newest one on the right.
+    void draw(const Undo_History& history) const;
+
+private:
+    void draw_entries(const Undo_History& history) const;
+};
+
+} // namespace quadrelle

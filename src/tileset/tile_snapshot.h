@@ -1,0 +1,20 @@
+#pragma once
+
+// A tile as it was at one moment. Knows nothing of tilesets.
+
+#include "tileset/tile.h"
+
+#include <cstddef>
+
+namespace quadrelle {
+
+struct Tile_Snapshot {
+    explicit Tile_Snapshot(const Tile& source) : tile(source) {}
+
+    // As the statistics count it: the tile, and 8 bytes for a position.
+    [[nodiscard]] std::size_t memory_size() const { return 8 + tile.memory_size(); }
+
+    Tile tile;
+};
+
+} // namespace quadrelle

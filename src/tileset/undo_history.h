@@ -1,0 +1,66 @@
+#pragma once
+
+// The last states of the tiles of a set, walked back and forth. Says what to restore; the caller restores it.
+
+#include "app/command.h"
+#include "tileset/tile_snapshot.h"
+#include "tools/tool_catalogue.h"
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace quadrelle {
+
+class Tileset;
+
+// The tile after an edit.
+struct Undo_Entry {
+    Command kind = Command::none; // what was done; of a stroke the command of its tool
+    std::unique_ptr<const Tile_Snapshot> snapshot;
+    int tile_index = 0;
+    Tool tool = Tool::pen; // the current one when the entry was made
+
+    [[nodiscard]] std::size_t memory_size() const { return 12 + snapshot->memory_size(); }
+};
+
+// The tileset must have a current tile.
+[[nodiscard]] Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool);
+
+class Undo_History {
+public:
+    static constexpr int default_capacity = 18;
+
+    explicit Undo_History(int capacity = default_capacity);
+
+    // What was undone and not redone is forgotten, and beyond the capacity the oldest entry.
+    void add(Undo_Entry entry);
+    void clear();
+    // Nothing but the current tile is left: the floor that undoing ends at. Without tiles, nothing.
+    void reset(const Tileset& tileset);
+    // The entry to restore, or null, with nothing changed, at the first and at the last one.
+    [[nodiscard]] const Undo_Entry* undo();
+    [[nodiscard]] const Undo_Entry* redo();
+
+    // To be called after the tileset changed, so that entries keep to their tiles.
+    void tile_inserted(int index);
+    // The entries of the tile are dropped. Where nothing is left to stand on, as `reset`.
+    void tile_deleted(int index, const Tileset& tileset);
+
+    // The oldest one first.
+    [[nodiscard]] std::span<const Undo_Entry> entries() const { return entries_; }
+    // Index of the entry that matches what is on screen; -1 without entries.
+    [[nodiscard]] int position() const { return position_; }
+    // Memory in units of 1024 bytes, rounded down.
+    [[nodiscard]] int size_kb() const;
+
+private:
+    [[nodiscard]] int count() const { return static_cast<int>(entries_.size()); }
+
+    int capacity_;
+    int position_ = -1;
+    std::vector<Undo_Entry> entries_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,67 @@
+#include "views/undo_list.h"
+
+#include "app/command_table.h"
+#include "app/events.h"
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialogs.h"
+
+#include <cstddef>
+#include <string_view>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Size row_size{300, 28};
+constexpr int row_step = 30;
+constexpr int room_below_rows = 7;
+constexpr int thumbnail_inset = 2;
+constexpr int thumbnail_edge = row_size.height - 2 * thumbnail_inset;
+constexpr int label_offset = thumbnail_edge + 12;
+constexpr int text_drop = 5;
+
+void draw_label(Command kind, Point position) {
+    const Tool tool = kind == Command::none ? Tool::none : tool_of(kind);
+    if (tool != Tool::none) {
+        screen->draw_sprite(row_of(tool).icon, position);
+        return;
+    }
+    const std::string_view text = kind == Command::none ? "-empty-" : row_of(kind).name;
+    screen->draw_text(Font::pane, {position.x, position.y + text_drop}, text);
+}
+
+void draw_row(const Undo_Entry& entry, const Rectangle& area, bool is_current) {
+    screen->draw_box(area,
+                     standard_color(is_current ? Standard_Color::list_active : Standard_Color::list_passive));
+    const int y = area.y + thumbnail_inset;
+    entry.snapshot->tile.draw({area.x + thumbnail_inset, y, thumbnail_edge, thumbnail_edge});
+    draw_label(entry.kind, {area.x + label_offset, y});
+}
+
+void draw_list(const Undo_History& history, const Dialog_Frame& frame) {
+    frame.draw();
+    Rectangle row{frame.area().x, frame.area().y + dialog_title_height, row_size.width, row_size.height};
+    for (int i = static_cast<int>(history.entries().size()) - 1; i >= 0; --i) {
+        draw_row(history.entries()[static_cast<std::size_t>(i)], row, i == history.position());
+        row.y += row_step;
+    }
+}
+
+} // namespace
+
+void show_undo_list(const Undo_History& history) {
+    Dialog_Frame frame("Undo history");
+    const int count = static_cast<int>(history.entries().size());
+    frame.set_size({row_size.width, count * row_step + room_below_rows});
+    const Dialog_Layer layer([&] { draw_list(history, frame); });
+    run_modal({"dialog \"Undo history\"", [] { dialogs->show_backdrop(); },
+               [](const SDL_Event& event) {
+                   const bool dismisses = event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN ||
+                                          event.type == SDL_EVENT_MOUSE_BUTTON_DOWN;
+                   return dismisses ? Loop_Step::end : Loop_Step::go_on;
+               }});
+}
+
+} // namespace quadrelle
