@@ -26,6 +26,20 @@ int end_cell(int start, int pixel_size, int extent, int count) {
     return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
 }
 
+void draw_marker(const Cell_Marker& marker, Point cell, int pixel_size, const Pixel_Rows& target) {
+    const int right = std::min(cell.x + std::min(marker.size.width, pixel_size), target.size.width);
+    const int bottom = std::min(cell.y + std::min(marker.size.height, pixel_size), target.size.height);
+    for (int y = std::max(cell.y, 0); y < bottom; ++y) {
+        for (int x = std::max(cell.x, 0); x < right; ++x) {
+            const int i = (y - cell.y) * marker.size.width + x - cell.x;
+            const Color color = marker.pixels[static_cast<std::size_t>(i)];
+            if (color.a != 0) {
+                target.row(y)[x] = color;
+            }
+        }
+    }
+}
+
 } // namespace
 
 Color blended_over(Color color, Color background) {
@@ -73,6 +87,24 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
     }
     for (int row = rows.first; row < rows.end; ++row) {
         paint_row(picture, columns, row, target);
+    }
+    if (columns.first < columns.end) {
+        paint_markers(picture, columns, rows, target);
+    }
+}
+
+void Canvas_Painter::paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
+                                   const Pixel_Rows& target) {
+    const auto cell = [&picture](int column, int row) {
+        return Point{picture.origin.x + column * picture.pixel_size,
+                     picture.origin.y + row * picture.pixel_size};
+    };
+    for (int row = rows.first; picture.column_marker != nullptr && row < rows.end; ++row) {
+        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), picture.pixel_size, target);
+    }
+    for (int column = columns.first; picture.row_marker != nullptr && column < columns.end; ++column) {
+        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), picture.pixel_size,
+                    target);
     }
 }
 

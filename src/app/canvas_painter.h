@@ -12,6 +12,12 @@
 
 namespace quadrelle {
 
+// Drawn over a cell from its top-left corner on and cut to the cell; pixels with alpha 0 are left out.
+struct Cell_Marker {
+    Size size;
+    std::vector<Color> pixels; // row by row
+};
+
 struct Canvas_Picture {
     const Tile* tile = nullptr; // null shows nothing but the surround
     int pixel_size = 1;         // edge of one cell
@@ -19,6 +25,9 @@ struct Canvas_Picture {
     int grid_intensity = 0;
     Size checker{1, 1}; // in tile pixels
     Color surround;
+    // In the cells of the column, and of the row, that begins the second half of the tile; null for none.
+    const Cell_Marker* column_marker = nullptr;
+    const Cell_Marker* row_marker = nullptr;
 };
 
 // The colour that shows when an area of the second colour is filled with the first one, as the renderer
@@ -45,6 +54,8 @@ private:
     };
     void paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target);
     void compose_lines(const Canvas_Picture& picture, Range columns, int row);
+    static void paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
+                              const Pixel_Rows& target);
     void fill_cell(Range extent, Cell_Colors colors, bool shows_right_line);
 
     // One line of pixels through the cells of a row, and one along their bottom.

@@ -18,16 +18,26 @@ int centred_start(int viewport_start, int viewport_extent, int extent) {
     return extent < viewport_extent ? viewport_start + (viewport_extent - extent) / 2 : viewport_start;
 }
 
-Canvas_Picture picture_of(const Canvas_View& view) {
-    Canvas_Picture picture;
-    picture.tile = view.tile();
-    picture.pixel_size = view.pixel_size();
-    picture.origin = {view.origin().x - canvas_viewport.x, view.origin().y - canvas_viewport.y};
-    picture.grid_intensity = options->value(Option::grid_intensity);
-    picture.checker = {std::max(options->value(Option::alpha_grid_width), 1),
-                       std::max(options->value(Option::alpha_grid_height), 1)};
-    picture.surround = standard_color(Standard_Color::dark_frame);
-    return picture;
+// Always even: that of a half that is odd is one less.
+int seam_shift_of(int extent) {
+    const int half = extent / 2;
+    return half - half % 2;
+}
+
+// Right or down, or back where negative; what leaves one edge enters at the other.
+void shift_pixels(Tile& tile, Seam seam, int shift) {
+    const auto pixels = tile.pixels();
+    const auto rotate = [shift](auto first, auto end, int unit) {
+        std::rotate(first, shift < 0 ? first - shift * unit : end - shift * unit, end);
+    };
+    if (seam == Seam::vertical) {
+        rotate(pixels.begin(), pixels.end(), tile.width());
+        return;
+    }
+    for (int row = 0; row < tile.height(); ++row) {
+        const auto first = pixels.begin() + row * tile.width();
+        rotate(first, first + tile.width(), 1);
+    }
 }
 
 bool ends_pan(const SDL_Event& event) {
@@ -46,6 +56,7 @@ Canvas_View::Canvas_View(int pixel_size)
 Canvas_View::~Canvas_View() = default;
 
 void Canvas_View::set_tile(Tile* tile) {
+    undo_seam_shifts();
     tile_ = tile;
 }
 
@@ -59,6 +70,50 @@ bool Canvas_View::set_pixel_size(int pixel_size) {
     }
     pixel_size_ = pixel_size;
     return true;
+}
+
+bool Canvas_View::toggle_seam_shift(Seam seam) {
+    if (tile_ == nullptr) {
+        return false;
+    }
+    if (seam_shift(seam) != no_seam_shift) {
+        undo_seam_shift(seam);
+        return true;
+    }
+    const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
+    shift_pixels(*tile_, seam, shift);
+    tile_->update_texture();
+    seam_shift(seam) = shift;
+    seam_markers_.load();
+    return true;
+}
+
+void Canvas_View::undo_seam_shifts() {
+    undo_seam_shift(Seam::horizontal);
+    undo_seam_shift(Seam::vertical);
+}
+
+// Backwards, not on: where half of the tile is odd, twice the shift would not lead around it.
+void Canvas_View::undo_seam_shift(Seam seam) {
+    const int shift = std::exchange(seam_shift(seam), no_seam_shift);
+    if (shift > 0) {
+        shift_pixels(*tile_, seam, -shift);
+        tile_->update_texture();
+    }
+}
+
+void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
+    const int horizontal = std::max(horizontal_seam_shift_, 0);
+    const int vertical = std::max(vertical_seam_shift_, 0);
+    if (tile_ == nullptr || (horizontal == 0 && vertical == 0)) {
+        work();
+        return;
+    }
+    shift_pixels(*tile_, Seam::horizontal, -horizontal);
+    shift_pixels(*tile_, Seam::vertical, -vertical);
+    work();
+    shift_pixels(*tile_, Seam::horizontal, horizontal);
+    shift_pixels(*tile_, Seam::vertical, vertical);
 }
 
 bool Canvas_View::zoom(Zoom_Step step) {
@@ -98,8 +153,26 @@ void Canvas_View::pan(const std::function<void()>& redraw) {
                }});
 }
 
+Canvas_Picture Canvas_View::picture() const {
+    Canvas_Picture picture;
+    picture.tile = tile_;
+    picture.pixel_size = pixel_size_;
+    picture.origin = {origin_.x - canvas_viewport.x, origin_.y - canvas_viewport.y};
+    picture.grid_intensity = options->value(Option::grid_intensity);
+    picture.checker = {std::max(options->value(Option::alpha_grid_width), 1),
+                       std::max(options->value(Option::alpha_grid_height), 1)};
+    picture.surround = standard_color(Standard_Color::dark_frame);
+    if (horizontal_seam_shift_ != no_seam_shift) {
+        picture.column_marker = seam_markers_.along_column(pixel_size_);
+    }
+    if (vertical_seam_shift_ != no_seam_shift) {
+        picture.row_marker = seam_markers_.along_row(pixel_size_);
+    }
+    return picture;
+}
+
 void Canvas_View::draw() {
-    texture_->update([this](const Pixel_Rows& rows) { painter_.paint(picture_of(*this), rows); });
+    texture_->update([this](const Pixel_Rows& rows) { painter_.paint(picture(), rows); });
     texture_->draw_at({canvas_viewport.x, canvas_viewport.y});
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/canvas_painter.h"
 #include "app/geometry.h"
+#include "app/seam_markers.h"
 
 #include <functional>
 #include <memory>
@@ -17,16 +18,32 @@ constexpr Rectangle canvas_viewport{264, 64, 512, 512};
 constexpr int smallest_pixel_size = 3;
 constexpr int largest_pixel_size = 32;
 
+// The directions in which a tile is shifted to bring its edges into the middle.
+enum class Seam { horizontal, vertical };
+
 enum class Zoom_Step : int { out = -1, in = 1 };
+
+constexpr int no_seam_shift = -1;
 
 class Canvas_View {
 public:
     explicit Canvas_View(int pixel_size);
     ~Canvas_View();
 
-    // Borrowed; null shows an empty canvas.
+    // Borrowed; null shows an empty canvas. The tile before, if shifted, is still needed to be put right.
     void set_tile(Tile* tile);
     [[nodiscard]] Tile* tile() const { return tile_; }
+
+    // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
+    // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
+    // False without a tile.
+    bool toggle_seam_shift(Seam seam);
+    void undo_seam_shifts();
+    // For work that reads the tile as it really is, and then leaves it on view.
+    void with_tile_in_place(const std::function<void()>& work);
+    // In pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small tile.
+    [[nodiscard]] int horizontal_seam_shift() const { return horizontal_seam_shift_; }
+    [[nodiscard]] int vertical_seam_shift() const { return vertical_seam_shift_; }
 
     // False, with nothing changed, outside of the smallest and the largest size.
     bool set_pixel_size(int pixel_size);
@@ -56,9 +73,18 @@ public:
     void draw();
 
 private:
+    void undo_seam_shift(Seam seam);
+    [[nodiscard]] int& seam_shift(Seam seam) {
+        return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
+    }
+    [[nodiscard]] Canvas_Picture picture() const;
+
     Tile* tile_ = nullptr;
     int pixel_size_;
     Point origin_{canvas_viewport.x, canvas_viewport.y};
+    int horizontal_seam_shift_ = no_seam_shift;
+    int vertical_seam_shift_ = no_seam_shift;
+    Seam_Markers seam_markers_;
     Canvas_Painter painter_;
     std::unique_ptr<Opaque_Texture> texture_;
 };

@@ -59,6 +59,7 @@ private:
     Command select_brush_size(Command command);
     Command move_palette_selection(Command command);
     Command zoom(Command command);
+    Command shift_to_seam(Command command);
     Command centre(Command command);
     Command close(Command command);
     Command make_new(Command command);

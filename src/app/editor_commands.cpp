@@ -15,6 +15,21 @@
 
 namespace quadrelle {
 
+namespace {
+
+// Saving is not a command of the whole set, but writes its tiles; the history holds tiles as they really are.
+bool needs_tiles_in_place(Command command) {
+    switch (command) {
+    case Command::save:
+    case Command::save_as:
+    case Command::undo:
+    case Command::redo: return true;
+    default: return row_of(command).is_tileset_level;
+    }
+}
+
+} // namespace
+
 struct Editor::Handler {
     Command first;
     Command last;
@@ -29,6 +44,7 @@ Command Editor::dispatch(Command command) {
         {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
         {Command::select_brush_size_1, Command::select_brush_size_6, &Editor::select_brush_size},
         {Command::color_left,          Command::color_up,            &Editor::move_palette_selection},
+        {Command::horizontal_seam_tool, Command::vertical_seam_tool, &Editor::shift_to_seam},
         {Command::change_tile,         Command::change_tile,         &Editor::do_nothing},
         {Command::close,               Command::close,               &Editor::close},
         {Command::new_tileset,         Command::new_tileset,         &Editor::make_new},
@@ -62,6 +78,9 @@ Command Editor::dispatch(Command command) {
 }
 
 Command Editor::perform(Command command) {
+    if (needs_tiles_in_place(command)) {
+        canvas_.undo_seam_shifts();
+    }
     const Command result = dispatch(command);
     follow_up(result);
     return result;
@@ -123,6 +142,11 @@ Command Editor::move_palette_selection(Command command) {
 Command Editor::zoom(Command command) {
     const bool has_zoomed = canvas_.zoom(command == Command::zoom_tile_up ? Zoom_Step::in : Zoom_Step::out);
     return has_zoomed ? command : Command::skip_command;
+}
+
+Command Editor::shift_to_seam(Command command) {
+    const Seam seam = command == Command::horizontal_seam_tool ? Seam::horizontal : Seam::vertical;
+    return canvas_.toggle_seam_shift(seam) ? command : Command::skip_command;
 }
 
 Command Editor::centre(Command command) {

@@ -9,7 +9,9 @@ namespace quadrelle {
 void Editor::record(Command kind) {
     Tileset_Document& document = documents_.current();
     if (document.tileset().has_tiles()) {
-        document.history().add(undo_entry_of(document.tileset(), kind, toolbox->current_tool()));
+        canvas_.with_tile_in_place([&] {
+            document.history().add(undo_entry_of(document.tileset(), kind, toolbox->current_tool()));
+        });
     }
 }
 

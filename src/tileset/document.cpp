@@ -1,5 +1,7 @@
 #include "tileset/document.h"
 
+#include "tileset/transform_commands.h"
+
 #include <utility>
 
 namespace quadrelle {
@@ -28,7 +30,7 @@ Command Tileset_Document::handle_command(Command command) {
     case Command::add_new_tile: return done(tileset_.add_tile());
     case Command::insert_new_tile: return done(insert_tile());
     case Command::delete_tile: return done(delete_tile());
-    default: return Command::none;
+    default: return transform_tile(tileset_.current_tile(), command);
     }
 }
 

@@ -59,6 +59,7 @@ constexpr std::array places{
     Place{"app/surface",                  Level::screen},
     Place{"app/texture",                  Level::screen},
     Place{"app/opaque_texture",           Level::screen},
+    Place{"app/seam_markers",             Level::screen},
     Place{"tileset/sprite_sheet",         Level::screen},
 
     Place{"ui/",                          Level::widgets},

@@ -1,0 +1,14 @@
+#pragma once
+
+// The commands that turn, mirror, scroll or soften one whole tile. Knows neither sets nor views.
+
+#include "app/command.h"
+#include "tileset/tile.h"
+
+namespace quadrelle {
+
+// The command when it was carried out, `skip_command` where it was refused: without a tile, and for the
+// rotation of a tile that is not square. None for every other command. Refreshes the texture.
+[[nodiscard]] Command transform_tile(Tile* tile, Command command);
+
+} // namespace quadrelle
