@@ -88,7 +88,7 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
     for (int row = rows.first; row < rows.end; ++row) {
         paint_row(picture, columns, row, target);
     }
-    if (columns.first < columns.end) {
+    if (columns.first < columns.end && rows.first < rows.end) {
         paint_markers(picture, columns, rows, target);
     }
 }

@@ -57,7 +57,15 @@ Canvas_View::~Canvas_View() = default;
 
 void Canvas_View::set_tile(Tile* tile) {
     undo_seam_shifts();
+    const bool is_another = tile != tile_ || (tile != nullptr && (!history_ || !history_->same_size(*tile)));
     tile_ = tile;
+    if (is_another) {
+        save_history();
+    }
+}
+
+void Canvas_View::save_history() {
+    history_ = tile_ == nullptr ? nullptr : std::make_unique<Tile>(*tile_);
 }
 
 Size Canvas_View::magnified_size() const {
@@ -81,8 +89,7 @@ bool Canvas_View::toggle_seam_shift(Seam seam) {
         return true;
     }
     const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
-    shift_pixels(*tile_, seam, shift);
-    tile_->update_texture();
+    shift_tile(seam, shift);
     seam_shift(seam) = shift;
     seam_markers_.load();
     return true;
@@ -97,9 +104,13 @@ void Canvas_View::undo_seam_shifts() {
 void Canvas_View::undo_seam_shift(Seam seam) {
     const int shift = std::exchange(seam_shift(seam), no_seam_shift);
     if (shift > 0) {
-        shift_pixels(*tile_, seam, -shift);
-        tile_->update_texture();
+        shift_tile(seam, -shift);
     }
+}
+
+void Canvas_View::shift_tile(Seam seam, int shift) {
+    shift_pixels(*tile_, seam, shift);
+    tile_->update_texture();
 }
 
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {

@@ -34,6 +34,11 @@ public:
     void set_tile(Tile* tile);
     [[nodiscard]] Tile* tile() const { return tile_; }
 
+    // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
+    // called.
+    void save_history();
+    [[nodiscard]] const Tile* history() const { return history_.get(); }
+
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
     // False without a tile.
@@ -74,6 +79,7 @@ public:
 
 private:
     void undo_seam_shift(Seam seam);
+    void shift_tile(Seam seam, int shift);
     [[nodiscard]] int& seam_shift(Seam seam) {
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
     }
@@ -85,6 +91,7 @@ private:
     int horizontal_seam_shift_ = no_seam_shift;
     int vertical_seam_shift_ = no_seam_shift;
     Seam_Markers seam_markers_;
+    std::unique_ptr<Tile> history_;
     Canvas_Painter painter_;
     std::unique_ptr<Opaque_Texture> texture_;
 };

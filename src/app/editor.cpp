@@ -19,6 +19,7 @@ constexpr Size first_tile_size{24, 24};
 
 constexpr Point palette_position{31, 427};
 constexpr Point history_position{31, 368};
+constexpr int icon_bar_top = 32;
 
 Point below(const Element& element) {
     return {element.area.x, element.area.bottom() + element_gap};
@@ -37,8 +38,8 @@ int fitting_repeat(int tile_extent, int repeat) {
 Editor::Editor()
     : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
       palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
-      history_pane_(history_position),
-      menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })) {
+      history_pane_(history_position), menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })),
+      icon_bar_(icon_bar_top) {
     dialogs->set_backdrop([this] { redraw(Present::no); });
 }
 
@@ -97,6 +98,7 @@ void Editor::redraw(Present present) {
     screen->clear();
     canvas_.draw();
     menu_bar_->draw(pointer_);
+    icon_bar_.draw([this](Command icon) { return is_lit(icon); });
     dialogs->draw(canvas_.pixel_size());
     palette_.draw();
     selected_color_.draw();
@@ -134,6 +136,7 @@ void Editor::handle_key(const SDL_KeyboardEvent& event) {
 
 void Editor::handle_motion(const SDL_MouseMotionEvent& event) {
     pointer_ = {event.x, event.y, pointer_.button};
+    show_what_is_under_the_pointer();
 }
 
 void Editor::handle_press(const SDL_MouseButtonEvent& event) {
@@ -151,7 +154,22 @@ void Editor::route_click() {
         draw_on_canvas();
         return;
     }
-    if (toolbox->click(pointer_) || click_pane()) {
+    if (toolbox->click(pointer_)) {
+        return;
+    }
+    const Command icon = icon_bar_.command_at(pointer_.point());
+    if (icon != Command::none) {
+        if (pointer_.button == Mouse_Button::left) {
+            execute(icon);
+        }
+        return;
+    }
+    const Command tool = toolbox->command_at(pointer_.point());
+    if (tool != Command::none) {
+        execute(tool);
+        return;
+    }
+    if (click_pane()) {
         return;
     }
     const Command command = menu_bar_->click(pointer_);
@@ -176,11 +194,42 @@ void Editor::draw_on_canvas() {
     if (canvas_.tile() == nullptr) {
         return;
     }
+    const bool returns =
+        toolbox->current_tool() == Tool::dropper && toolbox->value(Tool_Option::dropper_return) == 1;
     const Stroke_Outcome outcome =
         apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
     if (outcome == Stroke_Outcome::tile_changed) {
         record(row_of(toolbox->current_tool()).command);
         documents_.mark_changed();
+    }
+    if (returns) {
+        execute(toolbox->previous_command());
+    }
+}
+
+void Editor::show_what_is_under_the_pointer() {
+    if (!canvas_viewport.contains(pointer_.point()) || canvas_.tile() == nullptr) {
+        return;
+    }
+    const Tile_Point pixel = canvas_.tile_point(pointer_.point());
+    toolbox->options().set_location({pixel.x, pixel.y});
+    if (!canvas_.tile()->is_outside(pixel.x, pixel.y)) {
+        toolbox->options().set_dropper_color(canvas_.tile()->get_pixel(pixel.x, pixel.y));
+    }
+}
+
+// Rectangle and circle have an icon for each of two types.
+bool Editor::is_lit(Command icon) const {
+    const Command current = toolbox->current_command();
+    const bool is_filled = toolbox->shape_type() == Shape_Type::filled;
+    switch (icon) {
+    case Command::rectangle:
+    case Command::circle: return current == icon && !is_filled;
+    case Command::filled_rectangle: return current == Command::rectangle && is_filled;
+    case Command::filled_circle: return current == Command::circle && is_filled;
+    case Command::horizontal_seam_tool: return canvas_.horizontal_seam_shift() >= 0;
+    case Command::vertical_seam_tool: return canvas_.vertical_seam_shift() >= 0;
+    default: return current == icon;
     }
 }
 

@@ -9,6 +9,7 @@
 #include "color/palette_area.h"
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
+#include "tools/icon_bar.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -48,6 +49,8 @@ private:
     void route_click();
     [[nodiscard]] bool click_pane();
     void draw_on_canvas();
+    void show_what_is_under_the_pointer();
+    [[nodiscard]] bool is_lit(Command icon) const;
 
     // Commands. Each answers with the command to record, or none when it failed.
     [[nodiscard]] Command perform(Command command);
@@ -55,6 +58,8 @@ private:
     void follow_up(Command done);
     Command do_nothing(Command command);
     Command select_tool(Command command);
+    Command select_filled_shape(Command command);
+    Command save_history(Command command);
     Command swap_tool_colors(Command command);
     Command select_brush_size(Command command);
     Command move_palette_selection(Command command);
@@ -94,6 +99,7 @@ private:
     Selected_Color_Area selected_color_;
     History_Pane history_pane_;
     std::unique_ptr<Menu_Bar> menu_bar_;
+    Icon_Bar icon_bar_;
 };
 
 // Built at start-up, when everything it works with is there.

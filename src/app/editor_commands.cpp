@@ -40,7 +40,10 @@ struct Editor::Handler {
 Command Editor::dispatch(Command command) {
     // clang-format off
     static constexpr std::array handlers = std::to_array<Handler>({
-        {Command::pen,                 Command::pen,                 &Editor::select_tool},
+        {Command::pen,                 Command::circle,              &Editor::select_tool},
+        {Command::smudge_brush,        Command::smudge_brush,        &Editor::select_tool},
+        {Command::save_history_buffer, Command::save_history_buffer, &Editor::save_history},
+        {Command::filled_rectangle,    Command::filled_circle,       &Editor::select_filled_shape},
         {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
         {Command::select_brush_size_1, Command::select_brush_size_6, &Editor::select_brush_size},
         {Command::color_left,          Command::color_up,            &Editor::move_palette_selection},
@@ -111,10 +114,30 @@ Command Editor::do_nothing(Command command) {
     return command;
 }
 
+// The icons of the plain shapes take the filled type back.
 Command Editor::select_tool(Command command) {
+    const Tool_Option type =
+        command == Command::circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
+    const bool has_type = command == Command::circle || command == Command::rectangle;
+    if (has_type && toolbox->value(type) == static_cast<int>(Shape_Type::filled)) {
+        toolbox->options().set_value(type, static_cast<int>(Shape_Type::outline));
+    }
     if (tool_of(command) != toolbox->current_tool()) {
         toolbox->select(command);
     }
+    return command;
+}
+
+Command Editor::select_filled_shape(Command command) {
+    const bool is_circle = command == Command::filled_circle;
+    select_tool(is_circle ? Command::circle : Command::rectangle);
+    toolbox->options().set_value(is_circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type,
+                                 static_cast<int>(Shape_Type::filled));
+    return command;
+}
+
+Command Editor::save_history(Command command) {
+    canvas_.save_history();
     return command;
 }
 

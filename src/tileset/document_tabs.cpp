@@ -10,8 +10,8 @@ namespace quadrelle {
 
 namespace {
 
-// Above the canvas viewport and as wide.
-constexpr Rectangle row{264, 43, 512, 21};
+// Above the canvas viewport, with room for the right arrow at the viewport's end.
+constexpr Rectangle row{264, 43, 496, 21};
 constexpr int longest_title = 320;
 constexpr Rectangle arrow = sprite_rect(Sprite::button_less);
 constexpr int arrow_gap = 1;

@@ -19,7 +19,9 @@ constexpr Size entry_size{202, 26};
 constexpr int color_panel_offset = 210;
 
 // The tools that can be chosen, from the top of the list.
-constexpr std::array listed_tools = {Tool::pen};
+constexpr std::array listed_tools = {Tool::pen,          Tool::lightness_pen, Tool::colorize_pen,
+                                     Tool::smudge_brush, Tool::dropper,       Tool::flood_fill,
+                                     Tool::line,         Tool::rectangle,     Tool::ellipse};
 
 constexpr int icon_edge = 24;
 constexpr Point icon_offset{1, 1};
@@ -54,8 +56,22 @@ Toolbox::~Toolbox() {
     tool_colors.reset();
 }
 
+Rectangle Toolbox::entry_area(std::size_t index) const {
+    return {position_.x, position_.y + static_cast<int>(index) * entry_size.height, entry_size.width,
+            entry_size.height};
+}
+
+// Below the chosen tool's entry, over the entries that come there.
 void Toolbox::lay_out() {
-    brush_selector_.move({position_.x, position_.y + entry_size.height + element_gap});
+    const auto chosen = std::ranges::find(listed_tools, current_tool_);
+    const auto index = static_cast<std::size_t>(chosen - listed_tools.begin());
+    rows_top_ = entry_area(index).bottom();
+    Point next{position_.x, rows_top_ + element_gap};
+    next.y = options_.place_first(current_tool_, next);
+    if (row_of(current_tool_).uses_brush) {
+        next.y = brush_selector_.move(next);
+    }
+    rows_bottom_ = options_.place_rest(current_tool_, next);
 }
 
 void Toolbox::select(Command command) {
@@ -70,12 +86,18 @@ void Toolbox::select(Command command) {
     }
 }
 
+Shape_Type Toolbox::shape_type() const {
+    const Tool_Option row =
+        current_tool_ == Tool::ellipse ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
+    return static_cast<Shape_Type>(options_.value(row));
+}
+
 Canvas_Action Toolbox::canvas_action() const {
-    return canvas_action_of(current_command_, Shape_Type::outline);
+    return canvas_action_of(current_command_, shape_type());
 }
 
 Point Toolbox::pointer_offset(int pixel_size) const {
-    if (options->value(Option::precise_brush) == 0) {
+    if (quadrelle::options->value(Option::precise_brush) == 0) {
         return {};
     }
     const Size size = brush().size();
@@ -83,17 +105,34 @@ Point Toolbox::pointer_offset(int pixel_size) const {
 }
 
 void Toolbox::draw() const {
-    Rectangle entry{position_.x, position_.y, entry_size.width, entry_size.height};
-    for (const Tool tool : listed_tools) {
-        draw_entry(row_of(tool), entry, tool == current_tool_);
-        entry.y += entry.height;
+    for (std::size_t i = 0; i < listed_tools.size(); ++i) {
+        const Rectangle entry = entry_area(i);
+        if (command_at({entry.x, entry.y}) != Command::none) {
+            draw_entry(row_of(listed_tools.at(i)), entry, listed_tools.at(i) == current_tool_);
+        }
     }
-    brush_selector_.draw();
+    if (row_of(current_tool_).uses_brush) {
+        brush_selector_.draw();
+    }
+    options_.draw();
     tool_colors->draw();
 }
 
+Command Toolbox::command_at(Point point) const {
+    for (std::size_t i = 0; i < listed_tools.size(); ++i) {
+        const Rectangle entry = entry_area(i);
+        const bool is_covered = entry.bottom() > rows_top_ && entry.y < rows_bottom_;
+        if (!is_covered && entry.contains(point)) {
+            return row_of(listed_tools.at(i)).command;
+        }
+    }
+    return Command::none;
+}
+
 bool Toolbox::click(const Pointer_State& pointer) {
-    return tool_colors->click(pointer.point()) || brush_selector_.click(pointer.point());
+    const Tool_Row& tool = row_of(current_tool_);
+    return (tool.uses_tool_colors && tool_colors->click(pointer.point())) ||
+           (tool.uses_brush && brush_selector_.click(pointer.point())) || options_.click(pointer.point());
 }
 
 } // namespace quadrelle

@@ -8,6 +8,7 @@
 #include "tools/brush_selector.h"
 #include "tools/canvas_action.h"
 #include "tools/tool_catalogue.h"
+#include "tools/tool_options.h"
 
 #include <memory>
 
@@ -24,6 +25,15 @@ public:
     [[nodiscard]] Command current_command() const { return current_command_; }
     [[nodiscard]] Command previous_command() const { return previous_command_; }
     [[nodiscard]] Tool current_tool() const { return current_tool_; }
+    // The rows of the tools' options and figures.
+    [[nodiscard]] Tool_Options& options() { return options_; }
+    [[nodiscard]] int value(Tool_Option option) const { return options_.value(option); }
+    // Of the tool in use, for rectangles and ellipses.
+    [[nodiscard]] Shape_Type shape_type() const;
+    // When the lightness pen acted last, in milliseconds.
+    [[nodiscard]] std::int64_t last_step_time() const { return last_step_time_; }
+    void set_last_step_time(std::int64_t time) { last_step_time_ = time; }
+
     // What a stroke on the canvas does now.
     [[nodiscard]] Canvas_Action canvas_action() const;
     [[nodiscard]] const Brush& brush() const { return brush_selector_.brush(); }
@@ -35,17 +45,24 @@ public:
     void select_brush_size(int size_index) { brush_selector_.select_size(size_index); }
 
     void draw() const;
-    // True when something was chosen.
+    // The tool whose entry in the list is there and not covered, or none.
+    [[nodiscard]] Command command_at(Point point) const;
+    // True when an option, a brush or a side of the colours was chosen.
     bool click(const Pointer_State& pointer);
 
 private:
     void lay_out();
+    [[nodiscard]] Rectangle entry_area(std::size_t index) const;
 
     Point position_;
+    int rows_top_ = 0; // of the chosen tool's rows, which cover entries below them
+    int rows_bottom_ = 0;
     Command current_command_ = Command::pen;
     Command previous_command_ = Command::pen;
     Tool current_tool_ = Tool::pen;
+    std::int64_t last_step_time_ = 0;
     Brush_Selector brush_selector_;
+    Tool_Options options_;
 };
 
 // Built at start-up inside the data directory, destroyed there too.

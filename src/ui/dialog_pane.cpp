@@ -46,6 +46,13 @@ Option_Pane::Option_Pane(const Rectangle& below_title, std::string_view title, s
     rows().add_row(make_choice_row(control_id, choices, index, Font::pane));
 }
 
+// Choices are stepped through in a ring.
+void Option_Pane::choose(int index) {
+    while (value() != index) {
+        rows().notify({Dialog_Event_Kind::increase, control_id});
+    }
+}
+
 Tick_Pane::Tick_Pane(const Rectangle& below_title, std::string_view title, std::string_view text)
     : Dialog_Pane(below_title, title) {
     rows().add_row(make_tick_row(control_id, text, Tick::off, Font::pane));

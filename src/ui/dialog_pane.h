@@ -37,6 +37,9 @@ public:
 class Option_Pane : public Dialog_Pane {
 public:
     Option_Pane(const Rectangle& below_title, std::string_view title, std::string_view choices, int index);
+
+    // The index must be one of a choice.
+    void choose(int index);
 };
 
 class Tick_Pane : public Dialog_Pane {

@@ -71,8 +71,11 @@ constexpr std::array places{
     Place{"color/palette_area",           Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
+    Place{"tools/icon_bar",               Level::panes},
+    Place{"tools/tool_options",           Level::panes},
     Place{"tileset/history_pane",         Level::panes},
     Place{"tools/toolbox",                Level::panes},
+    Place{"app/strokes",                  Level::panes},
     Place{"views/",                       Level::panes},
 
     Place{"tileset/document",             Level::documents},

@@ -284,7 +284,7 @@ TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) 
 
 TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     constexpr Point left_arrow{255, 53};
-    constexpr Point right_arrow{785, 53};
+    constexpr Point right_arrow{768, 53};
     for (int i = 0; i < 11; ++i) {
         documents().new_document({8, 8});
     }

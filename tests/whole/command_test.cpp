@@ -44,6 +44,7 @@ protected:
 TEST_F(Command_Test, every_one_leaves_the_program_usable) {
     execute_every_command();
     tool_colors->reset();
+    execute(Command::pen);
     script().click(cell(3, 3));
     play();
     EXPECT_EQ(tile_pixel(3, 3), Color(255, 255, 255));

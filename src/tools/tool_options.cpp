@@ -1,0 +1,111 @@
+#include "tools/tool_options.h"
+
+#include <algorithm>
+#include <span>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Rectangle row_area{0, 0, 202, 26};
+
+std::unique_ptr<Dialog_Pane> make_pane(const Tool_Option_Row& row) {
+    if (row.kind == Tool_Option_Kind::tick) {
+        return std::make_unique<Tick_Pane>(row_area, row.label, row.text);
+    }
+    return std::make_unique<Option_Pane>(row_area, row.label, row.text, row.initial);
+}
+
+constexpr std::array pen_rows = {Tool_Option::right_button_mode};
+constexpr std::array lightness_rows = {Tool_Option::button_order, Tool_Option::lightness_mode,
+                                       Tool_Option::speed, Tool_Option::size_compensation};
+constexpr std::array colorize_rows = {Tool_Option::right_button_mode, Tool_Option::colorize_type};
+constexpr std::array dropper_rows = {Tool_Option::dropper_return};
+constexpr std::array fill_rows = {Tool_Option::fill_mode};
+
+// What stands at the end of a tool's column, from the top.
+std::span<const Tool_Option> last_rows(Tool tool) {
+    switch (tool) {
+    case Tool::pen: return pen_rows;
+    case Tool::lightness_pen: return lightness_rows;
+    case Tool::colorize_pen: return colorize_rows;
+    case Tool::dropper: return dropper_rows;
+    case Tool::flood_fill: return fill_rows;
+    default: return {};
+    }
+}
+
+} // namespace
+
+Tool_Options::Tool_Options()
+    : location_(row_area, "Location"), size_(row_area, "Size"), radius_(row_area, "Radius X, Y"),
+      length_(row_area, "Length"), dropper_color_({}, "Color", Color()) {
+    std::ranges::transform(tool_option_table, panes_.begin(), make_pane);
+}
+
+Tool_Options::~Tool_Options() = default;
+
+Dialog_Pane& Tool_Options::pane(Tool_Option option) const {
+    return *panes_.at(static_cast<std::size_t>(option));
+}
+
+int Tool_Options::value(Tool_Option option) const {
+    return pane(option).value();
+}
+
+void Tool_Options::set_value(Tool_Option option, int value) {
+    static_cast<Option_Pane&>(pane(option)).choose(value);
+}
+
+int Tool_Options::place(Pane& row, Point position) {
+    visible_.push_back(&row);
+    return row.place(position.x, position.y);
+}
+
+int Tool_Options::place_first(Tool tool, Point position) {
+    visible_.clear();
+    visible_options_.clear();
+    for (const Tool_Option option : {Tool_Option::rectangle_type, Tool_Option::ellipse_type}) {
+        const Tool owner = option == Tool_Option::rectangle_type ? Tool::rectangle : Tool::ellipse;
+        if (tool == owner) {
+            visible_options_.push_back(&pane(option));
+            position.y = place(pane(option), position);
+        }
+    }
+    return position.y;
+}
+
+int Tool_Options::place_rest(Tool tool, Point position) {
+    if (tool == Tool::pen) {
+        visible_options_.push_back(&pane(Tool_Option::pen_mode));
+        position.y = place(pane(Tool_Option::pen_mode), position);
+    }
+    if (row_of(tool).shows_location) {
+        position.y = place(location_, position);
+    }
+    if (tool == Tool::dropper) {
+        position.y = place(dropper_color_, position);
+    }
+    for (const Tool_Option option : last_rows(tool)) {
+        visible_options_.push_back(&pane(option));
+        position.y = place(pane(option), position);
+    }
+    switch (tool) {
+    case Tool::line: return place(length_, position);
+    case Tool::rectangle: return place(size_, position);
+    case Tool::ellipse: return place(radius_, position);
+    default: return position.y;
+    }
+}
+
+void Tool_Options::draw() const {
+    for (const Pane* row : visible_) {
+        row->draw();
+    }
+}
+
+bool Tool_Options::click(Point point) {
+    return std::ranges::any_of(visible_options_, [point](Dialog_Pane* row) { return row->click(point); });
+}
+
+} // namespace quadrelle
