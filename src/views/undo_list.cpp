@@ -16,11 +16,12 @@ namespace {
 
 constexpr Size row_size{300, 28};
 constexpr int row_step = 30;
-constexpr int room_below_rows = 7;
+constexpr int room_around_rows = 7;
+constexpr int room_above_rows = 4;
 constexpr int thumbnail_inset = 2;
 constexpr int thumbnail_edge = row_size.height - 2 * thumbnail_inset;
 constexpr int label_offset = thumbnail_edge + 12;
-constexpr int text_drop = 5;
+constexpr int text_drop = 3;
 
 void draw_label(Command kind, Point position) {
     const Tool tool = kind == Command::none ? Tool::none : tool_of(kind);
@@ -42,7 +43,8 @@ void draw_row(const Undo_Entry& entry, const Rectangle& area, bool is_current) {
 
 void draw_list(const Undo_History& history, const Dialog_Frame& frame) {
     frame.draw();
-    Rectangle row{frame.area().x, frame.area().y + dialog_title_height, row_size.width, row_size.height};
+    Rectangle row{frame.area().x, frame.area().y + dialog_title_height + room_above_rows, row_size.width,
+                  row_size.height};
     for (int i = static_cast<int>(history.entries().size()) - 1; i >= 0; --i) {
         draw_row(history.entries()[static_cast<std::size_t>(i)], row, i == history.position());
         row.y += row_step;
@@ -54,7 +56,7 @@ void draw_list(const Undo_History& history, const Dialog_Frame& frame) {
 void show_undo_list(const Undo_History& history) {
     Dialog_Frame frame("Undo history");
     const int count = static_cast<int>(history.entries().size());
-    frame.set_size({row_size.width, count * row_step + room_below_rows});
+    frame.set_size({row_size.width, count * row_step + room_around_rows});
     const Dialog_Layer layer([&] { draw_list(history, frame); });
     run_modal({"dialog \"Undo history\"", [] { dialogs->show_backdrop(); },
                [](const SDL_Event& event) {

@@ -333,7 +333,7 @@ TEST_F(Undo_Test, lists_all_states_until_any_key_click_or_quit) {
     }
     // Four rows, the newest one on top: only it is lit, until something is undone.
     constexpr int dialog_height = 24 + 4 * 30 + 7;
-    const Point row{466 + 290, (664 - dialog_height) / 2 + 24 + 14};
+    const Point row{466 + 290, (664 - dialog_height) / 2 + 24 + 4 + 14};
     const Color active(70, 130, 75);
     expect_list().check([&] {
         EXPECT_EQ(pixel_at(row), active);
