@@ -5,6 +5,7 @@
 #include "app/options.h"
 #include "app/renderer.h"
 #include "color/standard_colors.h"
+#include "tileset/transform_commands.h"
 
 #include <algorithm>
 #include <utility>
@@ -34,8 +35,7 @@ void shift_pixels(Tile& tile, Seam seam, int shift) {
         rotate(pixels.begin(), pixels.end(), tile.width());
         return;
     }
-    for (int row = 0; row < tile.height(); ++row) {
-        const auto first = pixels.begin() + row * tile.width();
+    for (auto first = pixels.begin(); first != pixels.end(); first += tile.width()) {
         rotate(first, first + tile.width(), 1);
     }
 }
@@ -110,7 +110,14 @@ void Canvas_View::undo_seam_shift(Seam seam) {
 
 void Canvas_View::shift_tile(Seam seam, int shift) {
     shift_pixels(*tile_, seam, shift);
+    shift_pixels(*history_, seam, shift);
     tile_->update_texture();
+}
+
+void Canvas_View::transform_history(Command command) {
+    if (command != Command::anti_alias) {
+        static_cast<void>(transform_tile(history_.get(), command));
+    }
 }
 
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {

@@ -4,6 +4,7 @@
 // pan. The tools that draw on it are driven by `Canvas_Stroke`.
 
 #include "app/canvas_painter.h"
+#include "app/command.h"
 #include "app/geometry.h"
 #include "app/seam_markers.h"
 
@@ -38,6 +39,9 @@ public:
     // called.
     void save_history();
     [[nodiscard]] const Tile* history() const { return history_.get(); }
+    // After a command that moved the tile's pixels, so that each still lies over its older self. Others do
+    // nothing.
+    void transform_history(Command command);
 
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.

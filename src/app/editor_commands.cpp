@@ -94,6 +94,9 @@ void Editor::follow_up(Command done) {
         return;
     }
     const Command_Category category = row_of(done).category;
+    if (category == Command_Category::pixels) {
+        canvas_.transform_history(done);
+    }
     if (category == Command_Category::structure || category == Command_Category::tile_switch) {
         take_current_tile();
     }

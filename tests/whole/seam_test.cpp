@@ -1,5 +1,6 @@
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
+#include "tools/icon_bar.h"
 
 #include <gtest/gtest.h>
 
@@ -204,6 +205,42 @@ TEST_F(Seam_Test, undo_gives_the_tile_back_in_place) {
     execute(Command::redo);
     EXPECT_EQ(tile_pixel(1, 1), white);
     EXPECT_EQ(tile_pixel(5, 6), white);
+}
+
+TEST_F(Seam_Test, older_self_of_the_tile_stays_under_it) {
+    Tile& tile = show(distinct_tile({8, 8}));
+    canvas().save_history();
+    for (const Command command : {Command::horizontal_seam_tool, Command::rotate, Command::mirror,
+                                  Command::scroll_up, Command::vertical_seam_tool, Command::rotate_back,
+                                  Command::flip, Command::horizontal_seam_tool, Command::rewind_strip}) {
+        script().set_afterwards([this](std::string_view) { script().key(key::escape); });
+        execute(command);
+        script().set_afterwards({});
+        EXPECT_TRUE(same(tile, *canvas().history())) << static_cast<int>(command);
+    }
+    execute(Command::anti_alias);
+    EXPECT_FALSE(same(tile, *canvas().history()));
+}
+
+TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {
+    const auto lit = [](Point icon) { return pixel_at({icon.x + 2, icon.y + 2}); };
+    for (const Command command : {Command::horizontal_seam_tool, Command::vertical_seam_tool}) {
+        Point icon{784, 32};
+        while (icon.y < 600 && Icon_Bar(32).command_at(icon) != command) {
+            ++icon.y;
+        }
+        const Color plain = lit(icon);
+        script().click(icon);
+        play();
+        EXPECT_NE(lit(icon), plain);
+        script().click(icon);
+        play();
+        EXPECT_EQ(lit(icon), plain);
+        script().click(icon);
+        play();
+        execute(Command::next_tile);
+        EXPECT_EQ(lit(icon), plain);
+    }
 }
 
 TEST_F(Seam_Test, transforms_show_and_mark_the_set_changed) {
