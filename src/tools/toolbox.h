@@ -60,7 +60,7 @@ private:
     Command current_command_ = Command::pen;
     Command previous_command_ = Command::pen;
     Tool current_tool_ = Tool::pen;
-    std::int64_t last_step_time_ = 0;
+    std::int64_t last_step_time_ = -1000; // so that the first step is never too early
     Brush_Selector brush_selector_;
     Tool_Options options_;
 };
