@@ -89,7 +89,8 @@ public:
         set_wait_watcher({});
     }
 
-    [[nodiscard]] bool is_complete() const { return step_ == motions_ + 1; }
+    [[nodiscard]] bool was_pressed() const { return step_ > 0; }
+    [[nodiscard]] int motions_timed() const { return step_ - 1; }
     [[nodiscard]] double press_seconds() const { return press_seconds_; }
     [[nodiscard]] double motion_seconds() const { return motion_seconds_; }
 
@@ -126,10 +127,11 @@ void stroke_motion(benchmark::State& state) {
     for (auto _ : state) {
         Timed_Stroke stroke(motions);
         stroke.run();
-        if (!stroke.is_complete()) {
-            state.SkipWithError("The stroke ended early.");
+        if (stroke.motions_timed() < 1) {
+            state.SkipWithError("The stroke had no motion.");
+            break;
         }
-        state.SetIterationTime(stroke.motion_seconds() / motions);
+        state.SetIterationTime(stroke.motion_seconds() / stroke.motions_timed());
     }
 }
 
@@ -138,8 +140,9 @@ void stroke_press(benchmark::State& state) {
     for (auto _ : state) {
         Timed_Stroke stroke(0);
         stroke.run();
-        if (!stroke.is_complete()) {
-            state.SkipWithError("The stroke ended early.");
+        if (!stroke.was_pressed()) {
+            state.SkipWithError("The press did not arrive.");
+            break;
         }
         state.SetIterationTime(stroke.press_seconds());
     }
