@@ -60,7 +60,8 @@ void Undo_History::tile_inserted(int index) {
 
 void Undo_History::tile_deleted(int index, const Tileset& tileset) {
     const auto is_dropped = [index](const Undo_Entry& entry) { return entry.tile_index == index; };
-    const auto dropped_so_far = std::count_if(entries_.begin(), entries_.begin() + (position_ + 1), is_dropped);
+    const auto dropped_so_far =
+        std::count_if(entries_.begin(), entries_.begin() + (position_ + 1), is_dropped);
     position_ -= static_cast<int>(dropped_so_far);
     if (position_ < 0) {
         reset(tileset);
