@@ -285,4 +285,15 @@ static_assert(sprite_table.size() == static_cast<std::size_t>(Sprite::count));
 static_assert(rows_follow_their_ids(sprite_table));
 static_assert(sprites_lie_inside_the_sheet());
 
+// The picture of a tool icon that is chosen: the next sprite, beside the plain one on the sheet.
+[[nodiscard]] constexpr Sprite lit_twin(Sprite icon) {
+    return static_cast<Sprite>(static_cast<int>(icon) + 1);
+}
+
+[[nodiscard]] constexpr bool has_lit_twin(Sprite icon) {
+    const Sprite_Row& plain = sprite_table.at(static_cast<std::size_t>(icon));
+    const Sprite_Row& lit = sprite_table.at(static_cast<std::size_t>(lit_twin(icon)));
+    return lit.x == plain.x + plain.width && lit.y == plain.y;
+}
+
 } // namespace quadrelle

@@ -4,6 +4,7 @@
 #include "color/standard_colors.h"
 #include "tileset/sprite_sheet.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -40,6 +41,10 @@ constexpr std::array icons = std::to_array<Icon>({
     {Command::center_tile_on_view, Sprite::background_aligner, Place::after_separator},
 });
 
+static_assert(std::ranges::all_of(icons, [](const Icon& icon) {
+    return icon.sprite == Sprite::background_aligner || has_lit_twin(icon.sprite);
+}));
+
 // Calls `use` with every icon and its area, from the top.
 template <typename Use>
 void for_each_icon(int top, Use use) {
@@ -60,8 +65,7 @@ void draw_icon(const Icon& icon, const Rectangle& area, bool is_lit) {
         screen->draw_sprite(icon.sprite, {middle.x, middle.y});
         return;
     }
-    const auto sprite = static_cast<Sprite>(static_cast<int>(icon.sprite) + (is_lit ? 1 : 0));
-    screen->draw_sprite(sprite, {area.x, area.y});
+    screen->draw_sprite(is_lit ? lit_twin(icon.sprite) : icon.sprite, {area.x, area.y});
 }
 
 } // namespace

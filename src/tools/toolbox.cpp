@@ -23,23 +23,14 @@ constexpr std::array listed_tools = {Tool::pen,          Tool::lightness_pen, To
                                      Tool::smudge_brush, Tool::dropper,       Tool::flood_fill,
                                      Tool::line,         Tool::rectangle,     Tool::ellipse};
 
-constexpr int icon_edge = 24;
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
 
-// The twins stand side by side on the sheet.
-constexpr bool has_lit_twin(const Tool_Row& tool) {
-    const auto index = static_cast<std::size_t>(tool.icon);
-    const Sprite_Row& plain = sprite_table.at(index);
-    const Sprite_Row& lit = sprite_table.at(index + 1);
-    return lit.x == plain.x + icon_edge && lit.y == plain.y;
-}
-
-static_assert(std::ranges::all_of(tool_table, has_lit_twin));
+static_assert(std::ranges::all_of(tool_table, has_lit_twin, &Tool_Row::icon));
 
 void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
-    const auto icon = static_cast<Sprite>(static_cast<int>(tool.icon) + (is_chosen ? 1 : 0));
+    const Sprite icon = is_chosen ? lit_twin(tool.icon) : tool.icon;
     screen->draw_box(area, standard_color(fill));
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, tool.name);
