@@ -1,26 +1,38 @@
 #include "app/canvas_stroke.h"
 
+#include "app/cursor.h"
 #include "app/events.h"
 #include "app/strokes.h"
 #include "tools/toolbox.h"
 
+#include <SDL3/SDL_timer.h>
+
 #include <algorithm>
+#include <optional>
 #include <vector>
 
 namespace quadrelle {
 
 namespace {
 
+// Shorter than the shortest pause between two steps of any tool.
+constexpr int tick_milliseconds = 1;
+
 class Stroke {
 public:
-    Stroke(Canvas_View& canvas, const Stroke_Row& row, const Pointer_State& pressed)
-        : canvas_(canvas), row_(row), tile_(*canvas.tile()), button_(pressed.button),
-          start_(tile_point(pressed)), before_(tile_.pixels().begin(), tile_.pixels().end()) {}
+    Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointer)
+        : canvas_(canvas), row_(row), tile_(*canvas.tile()), pointer_(pointer), button_(pointer.button),
+          start_(canvas.tool_point(pointer.point())), before_(tile_.pixels().begin(), tile_.pixels().end()) {}
 
-    void press() { draw(start_, Segment_Start::included); }
+    void press() {
+        path_.push_back(start_);
+        draw_path();
+    }
 
     void move_to(const Pointer_State& pointer) {
-        const Tile_Point point = tile_point(pointer);
+        pointer_ = {pointer.x, pointer.y, button_};
+        canvas_.set_hover(Hover{pointer_.point(), button_});
+        const Tile_Point point = canvas_.tool_point(pointer_.point());
         toolbox->options().set_location({point.x, point.y});
         if (!row_.draws_while_moving) {
             return;
@@ -28,39 +40,81 @@ public:
         if (row_.keeps_start) {
             std::ranges::copy(before_, tile_.pixels().begin());
             draw(point, Segment_Start::included);
-        } else if (point != start_ && draw(point, Segment_Start::left_out) == Segment_Outcome::drawn) {
-            start_ = point;
+        } else {
+            extend_to(point);
         }
     }
 
-    [[nodiscard]] bool has_changed_the_tile() const { return !std::ranges::equal(before_, tile_.pixels()); }
+    // One more application where the pointer is, when it is due; true when something was drawn.
+    bool stay() { return draw_path(); }
 
-private:
-    [[nodiscard]] Tile_Point tile_point(const Pointer_State& pointer) const {
-        const Point offset = toolbox->pointer_offset(canvas_.pixel_size());
-        const Point point = pointer.point();
-        return canvas_.tile_point({point.x - offset.x, point.y - offset.y});
+    // Draws what still waits for its turn.
+    void finish() {
+        while (!path_.empty() && !draw_path()) {
+            SDL_Delay(tick_milliseconds);
+        }
     }
 
-    Segment_Outcome draw(Tile_Point to, Segment_Start start) {
+    [[nodiscard]] Stroke_Outcome outcome() const {
+        if (last_ == Segment_Outcome::color_picked) {
+            return Stroke_Outcome::color_picked;
+        }
+        return std::ranges::equal(before_, tile_.pixels()) ? Stroke_Outcome::nothing_changed
+                                                           : Stroke_Outcome::tile_changed;
+    }
+
+private:
+    [[nodiscard]] Tile_Point end() const { return path_.empty() ? start_ : path_.back(); }
+
+    bool extend_to(Tile_Point point) {
+        if (point != end()) {
+            path_.push_back(point);
+        }
+        return draw_path();
+    }
+
+    // False when it is too early.
+    bool draw_path() {
+        if (row_.is_due != nullptr && !row_.is_due(button_)) {
+            return false;
+        }
+        // A tool that goes on acts again where it stands.
+        if (path_.empty() && row_.is_due != nullptr) {
+            draw(start_, Segment_Start::included);
+        }
+        for (const Tile_Point point : path_) {
+            draw(point, next_);
+            start_ = point;
+            next_ = Segment_Start::left_out;
+        }
+        path_.clear();
+        return true;
+    }
+
+    void draw(Tile_Point to, Segment_Start start) {
         Drawing_Target target(tile_);
-        const Segment_Outcome outcome =
-            row_.draw_segment(target, {row_.action, start_, to, start, button_, canvas_.history()});
+        last_ = row_.draw_segment(target, {row_.action, start_, to, start, button_,
+                                           canvas_.tile_point(pointer_.point()), canvas_.history()});
         tile_.update_texture();
-        return outcome;
     }
 
     Canvas_View& canvas_;
     const Stroke_Row& row_;
     Tile& tile_;
+    Pointer_State& pointer_;
     Mouse_Button button_;
     Tile_Point start_;
+    // Where the pointer went since the last time that something was drawn.
+    std::vector<Tile_Point> path_;
+    Segment_Start next_ = Segment_Start::included;
+    Segment_Outcome last_ = Segment_Outcome::nothing;
     std::vector<Color> before_;
 };
 
-void run_stroke(Stroke& stroke, const std::function<void()>& redraw) {
+void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
     stroke.press();
-    run_modal({"stroke", redraw, [&](const SDL_Event& event) {
+    run_modal({"stroke", redraw,
+               [&](const SDL_Event& event) {
                    switch (event.type) {
                    case SDL_EVENT_QUIT: return Loop_Step::end;
                    case SDL_EVENT_MOUSE_BUTTON_UP:
@@ -70,20 +124,31 @@ void run_stroke(Stroke& stroke, const std::function<void()>& redraw) {
                    default: break;
                    }
                    return Loop_Step::go_on;
-               }});
+               },
+               tick});
 }
 
 } // namespace
 
-Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action, const Pointer_State& pressed,
+Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action, Pointer_State& pointer,
                           const std::function<void()>& redraw) {
     const Stroke_Row* const row = find_stroke(action);
     if (row == nullptr) {
         return Stroke_Outcome::nothing_changed;
     }
-    Stroke stroke(canvas, *row, pressed);
-    run_stroke(stroke, redraw);
-    return stroke.has_changed_the_tile() ? Stroke_Outcome::tile_changed : Stroke_Outcome::nothing_changed;
+    std::optional<Hidden_Cursor> hidden_cursor;
+    if (!row->keeps_cursor) {
+        hidden_cursor.emplace();
+    }
+    canvas.set_hover(Hover{pointer.point(), pointer.button});
+    Stroke stroke(canvas, *row, pointer);
+    Loop_Tick tick;
+    if (row->is_due != nullptr) {
+        tick = {tick_milliseconds, [&stroke] { return stroke.stay(); }};
+    }
+    run_stroke(stroke, tick, redraw);
+    stroke.finish();
+    return stroke.outcome();
 }
 
 } // namespace quadrelle

@@ -10,11 +10,12 @@
 
 namespace quadrelle {
 
-enum class Stroke_Outcome { nothing_changed, tile_changed };
+enum class Stroke_Outcome { nothing_changed, tile_changed, color_picked };
 
-// Draws at the pointer and on, along its motions, until a button is released or the window is closed, which
-// ends the stroke only. `redraw` draws and presents the window. The canvas must show a tile.
-[[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action,
-                                        const Pointer_State& pressed, const std::function<void()>& redraw);
+// Draws at the pointer and on, along its motions, which `pointer` follows, until a button is released or the
+// window is closed, which ends the stroke only. `redraw` draws and presents the window. The canvas must show
+// a tile.
+[[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action, Pointer_State& pointer,
+                                        const std::function<void()>& redraw);
 
 } // namespace quadrelle

@@ -5,7 +5,7 @@
 #include "app/options.h"
 #include "app/renderer.h"
 #include "color/standard_colors.h"
-#include "tileset/transform_commands.h"
+#include "tools/toolbox.h"
 
 #include <algorithm>
 #include <utility>
@@ -114,12 +114,6 @@ void Canvas_View::shift_tile(Seam seam, int shift) {
     tile_->update_texture();
 }
 
-void Canvas_View::transform_history(Command command) {
-    if (command != Command::anti_alias) {
-        static_cast<void>(transform_tile(history_.get(), command));
-    }
-}
-
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
     const int horizontal = std::max(horizontal_seam_shift_, 0);
     const int vertical = std::max(vertical_seam_shift_, 0);
@@ -132,6 +126,7 @@ void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
     work();
     shift_pixels(*tile_, Seam::horizontal, horizontal);
     shift_pixels(*tile_, Seam::vertical, vertical);
+    tile_->update_texture();
 }
 
 bool Canvas_View::zoom(Zoom_Step step) {
@@ -189,8 +184,39 @@ Canvas_Picture Canvas_View::picture() const {
     return picture;
 }
 
+Tile_Point Canvas_View::tool_point(Point position) const {
+    const Point offset = toolbox->pointer_offset(pixel_size_);
+    return tile_point({position.x - offset.x, position.y - offset.y});
+}
+
+// The preview lies on the pixels that would be painted; so does a blocky outline, any other follows the
+// pointer.
+Brush_Feedback Canvas_View::brush_feedback(const Hover& hover) const {
+    const Brush& brush = toolbox->brush();
+    const Tile_Point corner = toolbox->brush_corner(tool_point(hover.position));
+    const Point cell{origin_.x - canvas_viewport.x + corner.x * pixel_size_,
+                     origin_.y - canvas_viewport.y + corner.y * pixel_size_};
+    Brush_Feedback feedback{&brush, {}, {}, toolbox->brush_color(hover.button)};
+    if (toolbox->shows_brush_preview(hover.button)) {
+        feedback.preview = cell;
+    }
+    if (toolbox->shows_brush_outline()) {
+        const Point centred_on_pointer{
+            hover.position.x - canvas_viewport.x - brush.size().width * pixel_size_ / 2,
+            hover.position.y - canvas_viewport.y - brush.size().height * pixel_size_ / 2};
+        const bool is_blocky = options->value(Option::blocky_precise_brush) == 1;
+        feedback.outline = is_blocky ? cell : centred_on_pointer;
+    }
+    return feedback;
+}
+
 void Canvas_View::draw() {
-    texture_->update([this](const Pixel_Rows& rows) { painter_.paint(picture(), rows); });
+    texture_->update([this](const Pixel_Rows& rows) {
+        painter_.paint(picture(), rows);
+        if (hover_ && tile_ != nullptr) {
+            paint_brush_feedback(brush_feedback(*hover_), pixel_size_, rows);
+        }
+    });
     texture_->draw_at({canvas_viewport.x, canvas_viewport.y});
 }
 

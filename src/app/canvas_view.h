@@ -3,13 +3,16 @@
 // The current tile magnified in the viewport: where its cells lie, which pixel is under the pointer, zoom and
 // pan. The tools that draw on it are driven by `Canvas_Stroke`.
 
+#include "app/brush_feedback.h"
 #include "app/canvas_painter.h"
 #include "app/command.h"
 #include "app/geometry.h"
+#include "app/input.h"
 #include "app/seam_markers.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quadrelle {
 
@@ -26,6 +29,12 @@ enum class Zoom_Step : int { out = -1, in = 1 };
 
 constexpr int no_seam_shift = -1;
 
+// The pointer over the viewport, and the button of the stroke that it makes, if any.
+struct Hover {
+    Point position;
+    Mouse_Button button = Mouse_Button::none;
+};
+
 class Canvas_View {
 public:
     explicit Canvas_View(int pixel_size);
@@ -39,16 +48,13 @@ public:
     // called.
     void save_history();
     [[nodiscard]] const Tile* history() const { return history_.get(); }
-    // After a command that moved the tile's pixels, so that each still lies over its older self. Others do
-    // nothing.
-    void transform_history(Command command);
 
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
     // False without a tile.
     bool toggle_seam_shift(Seam seam);
     void undo_seam_shifts();
-    // For work that reads the tile as it really is, and then leaves it on view.
+    // For work on the tile as it really is, which leaves its size and stays on view.
     void with_tile_in_place(const std::function<void()>& work);
     // In pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small tile.
     [[nodiscard]] int horizontal_seam_shift() const { return horizontal_seam_shift_; }
@@ -75,9 +81,14 @@ public:
     [[nodiscard]] Tile_Point tile_point(Point position) const {
         return {tile_column(position.x), tile_row(position.y)};
     }
+    // The pixel that the tool in use acts on when the pointer is there: a brush lies around the pointer.
+    [[nodiscard]] Tile_Point tool_point(Point position) const;
     // The nearest cell boundary.
     [[nodiscard]] int nearest_column(int x) const { return tile_column(x + pixel_size_ / 2); }
     [[nodiscard]] int nearest_row(int y) const { return tile_row(y + pixel_size_ / 2); }
+
+    // Where the brush shows, if its tool has one; nowhere for none.
+    void set_hover(std::optional<Hover> hover) { hover_ = hover; }
 
     void draw();
 
@@ -88,6 +99,7 @@ private:
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
     }
     [[nodiscard]] Canvas_Picture picture() const;
+    [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover) const;
 
     Tile* tile_ = nullptr;
     int pixel_size_;
@@ -96,6 +108,7 @@ private:
     int vertical_seam_shift_ = no_seam_shift;
     Seam_Markers seam_markers_;
     std::unique_ptr<Tile> history_;
+    std::optional<Hover> hover_;
     Canvas_Painter painter_;
     std::unique_ptr<Opaque_Texture> texture_;
 };

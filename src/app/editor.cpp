@@ -2,6 +2,7 @@
 
 #include "app/canvas_stroke.h"
 #include "app/command_table.h"
+#include "app/cursor.h"
 #include "app/events.h"
 #include "app/options.h"
 #include "app/screen.h"
@@ -20,6 +21,8 @@ constexpr Size first_tile_size{24, 24};
 constexpr Point palette_position{31, 427};
 constexpr Point history_position{31, 368};
 constexpr int icon_bar_top = 32;
+
+constexpr Pointer_State nowhere{-1, -1, Mouse_Button::none};
 
 Point below(const Element& element) {
     return {element.area.x, element.area.bottom() + element_gap};
@@ -73,6 +76,8 @@ void Editor::handle_one_event() {
     if (take_key_release()) {
         control_held_ = false;
     }
+    show_pointer();
+    show_what_is_under_the_pointer();
 }
 
 void Editor::size_preview() {
@@ -116,6 +121,7 @@ void Editor::handle(const SDL_Event& event) {
     case SDL_EVENT_KEY_DOWN: handle_key(event.key); break;
     case SDL_EVENT_MOUSE_MOTION: handle_motion(event.motion); break;
     case SDL_EVENT_MOUSE_BUTTON_DOWN: handle_press(event.button); break;
+    case SDL_EVENT_WINDOW_MOUSE_LEAVE: pointer_ = nowhere; break;
     case SDL_EVENT_MOUSE_WHEEL:
         if (event.wheel.y != 0) {
             canvas_.zoom(event.wheel.y > 0 ? Zoom_Step::in : Zoom_Step::out);
@@ -136,7 +142,6 @@ void Editor::handle_key(const SDL_KeyboardEvent& event) {
 
 void Editor::handle_motion(const SDL_MouseMotionEvent& event) {
     pointer_ = {event.x, event.y, pointer_.button};
-    show_what_is_under_the_pointer();
 }
 
 void Editor::handle_press(const SDL_MouseButtonEvent& event) {
@@ -175,8 +180,7 @@ void Editor::route_click() {
     const Command command = menu_bar_->click(pointer_);
     if (command != Command::none) {
         // Nothing under the closed menu reacts to where it was clicked.
-        pointer_.x = -1;
-        pointer_.y = -1;
+        pointer_ = nowhere;
         execute(command);
     }
 }
@@ -196,15 +200,31 @@ void Editor::draw_on_canvas() {
     }
     const bool returns =
         toolbox->current_tool() == Tool::dropper && toolbox->value(Tool_Option::dropper_return) == 1;
+    std::optional<Undo_Entry> floor = missing_floor();
     const Stroke_Outcome outcome =
         apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
     if (outcome == Stroke_Outcome::tile_changed) {
-        record(row_of(toolbox->current_tool()).command);
+        record(row_of(toolbox->current_tool()).command, std::move(floor));
         documents_.mark_changed();
     }
-    if (returns) {
-        execute(toolbox->previous_command());
+    if (returns && outcome == Stroke_Outcome::color_picked) {
+        select_tool(toolbox->previous_command());
     }
+}
+
+// The brush shows at the pointer, and the cursor where the brush does not.
+void Editor::show_pointer() {
+    const bool is_over_tile = canvas_viewport.contains(pointer_.point()) && canvas_.tile() != nullptr;
+    canvas_.set_hover(is_over_tile ? std::optional(Hover{pointer_.point()}) : std::nullopt);
+    const bool is_replaced = is_over_tile && options->value(Option::hide_or_show_cursor) > 0 &&
+                             (toolbox->shows_brush_outline() || toolbox->shows_brush_preview());
+    set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);
+}
+
+// While a command runs, which may show a dialog over the canvas.
+void Editor::hide_brush() {
+    canvas_.set_hover(std::nullopt);
+    set_cursor(Cursor::shown);
 }
 
 void Editor::show_what_is_under_the_pointer() {

@@ -14,6 +14,7 @@
 #include <SDL3/SDL_events.h>
 
 #include <memory>
+#include <optional>
 
 namespace quadrelle {
 
@@ -50,6 +51,8 @@ private:
     [[nodiscard]] bool click_pane();
     void draw_on_canvas();
     void show_what_is_under_the_pointer();
+    void show_pointer();
+    void hide_brush();
     [[nodiscard]] bool is_lit(Command icon) const;
 
     // Commands. Each answers with the command to record, or none when it failed.
@@ -58,6 +61,7 @@ private:
     void follow_up(Command done);
     Command do_nothing(Command command);
     Command select_tool(Command command);
+    Command select_plain_shape(Command command);
     Command select_filled_shape(Command command);
     Command save_history(Command command);
     Command swap_tool_colors(Command command);
@@ -80,8 +84,12 @@ private:
     Command redo(Command command);
     Command show_undo_history(Command command);
 
-    // Adds the current tile to the history of the current document.
-    void record(Command kind);
+    // Adds the current tile to the history of the current document, and before it the state that an undo
+    // gives back, where the history did not know it.
+    void record(Command kind, std::optional<Undo_Entry> floor);
+    // The current tile, when the history stands on another one or on nothing: adding tiles, for example,
+    // records none of them.
+    [[nodiscard]] std::optional<Undo_Entry> missing_floor();
     // False without an entry.
     bool restore(const Undo_Entry* entry);
 

@@ -11,20 +11,32 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace quadrelle {
 
 namespace {
 
-// Saving is not a command of the whole set, but writes its tiles; the history holds tiles as they really are.
-bool needs_tiles_in_place(Command command) {
+// Saving is not a command of the whole set, but writes its tiles.
+bool ends_seam_shifts(Command command) {
+    return command == Command::save || command == Command::save_as || row_of(command).is_tileset_level;
+}
+
+Tool_Option shape_type_option(Command command) {
+    const bool is_circle = command == Command::circle || command == Command::filled_circle;
+    return is_circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
+}
+
+// Turned about the middle of the shifted tile, it could not be shifted back.
+bool turns_tile(Command command) {
     switch (command) {
-    case Command::save:
-    case Command::save_as:
-    case Command::undo:
-    case Command::redo: return true;
-    default: return row_of(command).is_tileset_level;
+    case Command::rotate:
+    case Command::rotate_back:
+    case Command::mirror:
+    case Command::flip: return true;
+    default: return false;
     }
 }
 
@@ -40,8 +52,9 @@ struct Editor::Handler {
 Command Editor::dispatch(Command command) {
     // clang-format off
     static constexpr std::array handlers = std::to_array<Handler>({
-        {Command::pen,                 Command::circle,              &Editor::select_tool},
-        {Command::smudge_brush,        Command::smudge_brush,        &Editor::select_tool},
+        {Command::pen,                 Command::line,                &Editor::select_tool},
+        {Command::rectangle,           Command::circle,              &Editor::select_plain_shape},
+        {Command::stamp_brush,         Command::smudge_brush,        &Editor::select_tool},
         {Command::save_history_buffer, Command::save_history_buffer, &Editor::save_history},
         {Command::filled_rectangle,    Command::filled_circle,       &Editor::select_filled_shape},
         {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
@@ -73,7 +86,13 @@ Command Editor::dispatch(Command command) {
     if (handler != handlers.end()) {
         return (this->*handler->handle)(command);
     }
-    const Command result = documents_.current().handle_command(command);
+    Command result = Command::none;
+    const auto handle = [&] { result = documents_.current().handle_command(command); };
+    if (turns_tile(command)) {
+        canvas_.with_tile_in_place(handle);
+    } else {
+        handle();
+    }
     if (result == Command::none) {
         dialogs->message("Note", "Unhandled command " + std::string(row_of(command).name));
     }
@@ -81,11 +100,13 @@ Command Editor::dispatch(Command command) {
 }
 
 Command Editor::perform(Command command) {
-    if (needs_tiles_in_place(command)) {
+    hide_brush();
+    if (ends_seam_shifts(command)) {
         canvas_.undo_seam_shifts();
     }
     const Command result = dispatch(command);
     follow_up(result);
+    show_pointer();
     return result;
 }
 
@@ -94,9 +115,6 @@ void Editor::follow_up(Command done) {
         return;
     }
     const Command_Category category = row_of(done).category;
-    if (category == Command_Category::pixels) {
-        canvas_.transform_history(done);
-    }
     if (category == Command_Category::structure || category == Command_Category::tile_switch) {
         take_current_tile();
     }
@@ -106,9 +124,10 @@ void Editor::follow_up(Command done) {
 }
 
 void Editor::execute(Command command) {
+    std::optional<Undo_Entry> floor = missing_floor();
     const Command done = perform(command);
     if (is_recorded(done)) {
-        record(done);
+        record(done, std::move(floor));
         documents_.mark_changed();
     }
 }
@@ -117,25 +136,25 @@ Command Editor::do_nothing(Command command) {
     return command;
 }
 
-// The icons of the plain shapes take the filled type back.
 Command Editor::select_tool(Command command) {
-    const Tool_Option type =
-        command == Command::circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
-    const bool has_type = command == Command::circle || command == Command::rectangle;
-    if (has_type && toolbox->value(type) == static_cast<int>(Shape_Type::filled)) {
-        toolbox->options().set_value(type, static_cast<int>(Shape_Type::outline));
-    }
     if (tool_of(command) != toolbox->current_tool()) {
         toolbox->select(command);
     }
     return command;
 }
 
+// Takes the filled type back, but not the one with an outline too.
+Command Editor::select_plain_shape(Command command) {
+    const Tool_Option type = shape_type_option(command);
+    if (toolbox->value(type) == static_cast<int>(Shape_Type::filled)) {
+        toolbox->options().set_value(type, static_cast<int>(Shape_Type::outline));
+    }
+    return select_tool(command);
+}
+
 Command Editor::select_filled_shape(Command command) {
-    const bool is_circle = command == Command::filled_circle;
-    select_tool(is_circle ? Command::circle : Command::rectangle);
-    toolbox->options().set_value(is_circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type,
-                                 static_cast<int>(Shape_Type::filled));
+    toolbox->options().set_value(shape_type_option(command), static_cast<int>(Shape_Type::filled));
+    select_tool(command == Command::filled_circle ? Command::circle : Command::rectangle);
     return command;
 }
 
@@ -207,7 +226,7 @@ Command Editor::load(Command command) {
     if (!documents_.load_document()) {
         return Command::skip_command;
     }
-    record(Command::change_tile);
+    record(Command::change_tile, std::nullopt);
     return command;
 }
 

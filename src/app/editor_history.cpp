@@ -1,18 +1,46 @@
 // What the editor records, takes back and does again.
 
 #include "app/editor.h"
+
+#include "app/command_table.h"
 #include "tools/toolbox.h"
 #include "views/undo_list.h"
 
+#include <utility>
+
 namespace quadrelle {
 
-void Editor::record(Command kind) {
+namespace {
+
+// A tile from another one, or none, is where the next state comes from.
+bool is_edit(Command kind) {
+    return row_of(kind).category == Command_Category::pixels;
+}
+
+} // namespace
+
+void Editor::record(Command kind, std::optional<Undo_Entry> floor) {
     Tileset_Document& document = documents_.current();
-    if (document.tileset().has_tiles()) {
+    if (!document.tileset().has_tiles()) {
+        return;
+    }
+    if (floor && is_edit(kind)) {
+        document.history().add(std::move(*floor));
+    }
+    canvas_.with_tile_in_place(
+        [&] { document.history().add(undo_entry_of(document.tileset(), kind, toolbox->current_tool())); });
+}
+
+std::optional<Undo_Entry> Editor::missing_floor() {
+    Tileset_Document& document = documents_.current();
+    const int index = document.tileset().current_index();
+    std::optional<Undo_Entry> floor;
+    if (document.tileset().has_tiles() && !document.history().stands_on(index)) {
         canvas_.with_tile_in_place([&] {
-            document.history().add(undo_entry_of(document.tileset(), kind, toolbox->current_tool()));
+            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool());
         });
     }
+    return floor;
 }
 
 Command Editor::undo(Command command) {
@@ -32,7 +60,7 @@ bool Editor::restore(const Undo_Entry* entry) {
         tileset.select(entry->tile_index);
         take_current_tile();
     }
-    entry->snapshot->tile.copy_to(*tileset.current_tile());
+    canvas_.with_tile_in_place([&] { entry->snapshot->tile.copy_to(*tileset.current_tile()); });
     if (entry->tool != toolbox->current_tool()) {
         toolbox->select(row_of(entry->tool).command);
     }

@@ -48,11 +48,28 @@ SDL_Event wait_event(std::string_view loop) {
     return event;
 }
 
+namespace {
+
+SDL_Event wait_event_ticking(const Modal_Loop& loop) {
+    SDL_Event event{};
+    tell_watcher(loop.name);
+    while (!SDL_WaitEventTimeout(&event, loop.tick.milliseconds)) {
+        if (loop.tick.work()) {
+            loop.draw();
+        }
+        tell_watcher(loop.name);
+    }
+    note(event);
+    return event;
+}
+
+} // namespace
+
 void run_modal(const Modal_Loop& loop) {
     Loop_Step step = Loop_Step::go_on;
     while (step == Loop_Step::go_on) {
         loop.draw();
-        step = loop.handle(wait_event(loop.name));
+        step = loop.handle(loop.tick.work ? wait_event_ticking(loop) : wait_event(loop.name));
     }
 }
 

@@ -16,12 +16,20 @@ namespace quadrelle {
 
 enum class Loop_Step { go_on, end };
 
+// What a loop does while no event comes: each time that many milliseconds have gone by. True when there is
+// something new to draw. Nothing by default.
+struct Loop_Tick {
+    int milliseconds = 0;
+    std::function<bool()> work;
+};
+
 // Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event
 // like the others: a modal loop consumes it.
 struct Modal_Loop {
     std::string_view name;
     std::function<void()> draw;
     std::function<Loop_Step(const SDL_Event&)> handle;
+    Loop_Tick tick = {};
 };
 void run_modal(const Modal_Loop& loop);
 

@@ -24,11 +24,12 @@ Right_Button_Mode right_button_mode() {
 
 // Outside the tile there is no colour to pick.
 Segment_Outcome pick(Drawing_Target& target, const Stroke_Segment& segment) {
-    if (target.contains(segment.to)) {
-        tool_colors->set_color(segment.button, target.get(segment.to));
-        toolbox->options().set_dropper_color(target.get(segment.to));
+    if (!target.contains(segment.pointer)) {
+        return Segment_Outcome::nothing;
     }
-    return Segment_Outcome::drawn;
+    tool_colors->set_color(segment.button, target.get(segment.pointer));
+    toolbox->options().set_dropper_color(target.get(segment.pointer));
+    return Segment_Outcome::color_picked;
 }
 
 void draw_with(Drawing_Target& target, const Stroke_Segment& segment, Pen_Mode mode, const Ink& ink) {
@@ -51,7 +52,14 @@ Segment_Outcome draw_or_pick(Drawing_Target& target, Stroke_Segment segment, Pen
 }
 
 Segment_Outcome draw_pen(Drawing_Target& target, const Stroke_Segment& segment) {
-    return draw_or_pick(target, segment, static_cast<Pen_Mode>(toolbox->value(Tool_Option::pen_mode)), {});
+    return draw_or_pick(target, segment, toolbox->pen_mode(), {});
+}
+
+Segment_Outcome stamp(Drawing_Target& target, const Stroke_Segment& segment) {
+    Ink ink;
+    ink.color = toolbox->brush_color(segment.button);
+    draw_with(target, segment, toolbox->pen_mode(), ink);
+    return Segment_Outcome::drawn;
 }
 
 Segment_Outcome colorize(Drawing_Target& target, const Stroke_Segment& segment) {
@@ -61,22 +69,14 @@ Segment_Outcome colorize(Drawing_Target& target, const Stroke_Segment& segment) 
     return draw_or_pick(target, segment, Pen_Mode::brush, ink);
 }
 
-Lightness_Pace lightness_pace() {
-    return {static_cast<Lightness_Speed>(toolbox->value(Tool_Option::speed)),
-            static_cast<Size_Compensation>(toolbox->value(Tool_Option::size_compensation)),
-            static_cast<Button_Order>(toolbox->value(Tool_Option::button_order))};
+bool is_lightness_step_due(Mouse_Button button) {
+    return toolbox->lightness_step(static_cast<std::int64_t>(SDL_GetTicks()), button).has_value();
 }
 
 Segment_Outcome change_lightness(Drawing_Target& target, const Stroke_Segment& segment) {
-    const auto now = static_cast<std::int64_t>(SDL_GetTicks());
-    const auto operation = lightness_step(now, toolbox->last_step_time(), lightness_pace(),
-                                          toolbox->brush().size().width, segment.button);
-    if (!operation) {
-        return Segment_Outcome::waiting;
-    }
-    toolbox->set_last_step_time(now);
+    const auto order = static_cast<Button_Order>(toolbox->value(Tool_Option::button_order));
     Ink ink;
-    ink.operation = *operation;
+    ink.operation = lightness_operation(order, segment.button).value_or(Pixel_Operation::lighten);
     ink.lightness_mode = static_cast<Lightness_Mode>(toolbox->value(Tool_Option::lightness_mode));
     draw_with(target, segment, Pen_Mode::brush, ink);
     return Segment_Outcome::drawn;
@@ -111,20 +111,21 @@ Segment_Outcome draw_figure(Drawing_Target& target, const Stroke_Segment& segmen
 
 // clang-format off
 constexpr std::array stroke_table = std::to_array<Stroke_Row>({
-    //                                      keeps start, draws while moving
-    {Canvas_Action::line,                     true,  true,  draw_figure},
-    {Canvas_Action::rectangle_outline,        true,  true,  draw_figure},
-    {Canvas_Action::rectangle_filled,         true,  true,  draw_figure},
-    {Canvas_Action::rectangle_filled_outline, true,  true,  draw_figure},
-    {Canvas_Action::ellipse_outline,          true,  true,  draw_figure},
-    {Canvas_Action::ellipse_filled,           true,  true,  draw_figure},
-    {Canvas_Action::ellipse_filled_outline,   true,  true,  draw_figure},
-    {Canvas_Action::pen,                      false, true,  draw_pen},
-    {Canvas_Action::colorize_pen,             false, true,  colorize},
-    {Canvas_Action::lightness_pen,            false, true,  change_lightness},
-    {Canvas_Action::dropper,                  false, true,  pick},
-    {Canvas_Action::flood_fill,               false, false, fill},
-    {Canvas_Action::smudge_brush,             false, true,  smudge_along},
+    //                                      keeps start, draws while moving, keeps cursor
+    {Canvas_Action::line,                      true,  true,  false, draw_figure},
+    {Canvas_Action::rectangle_outline,         true,  true,  false, draw_figure},
+    {Canvas_Action::rectangle_filled,          true,  true,  false, draw_figure},
+    {Canvas_Action::rectangle_filled_outline,  true,  true,  false, draw_figure},
+    {Canvas_Action::ellipse_outline,           true,  true,  false, draw_figure},
+    {Canvas_Action::ellipse_filled,            true,  true,  false, draw_figure},
+    {Canvas_Action::ellipse_filled_outline,    true,  true,  false, draw_figure},
+    {Canvas_Action::stamp_brush,               false, true,  false, stamp},
+    {Canvas_Action::pen,                       false, true,  false, draw_pen},
+    {Canvas_Action::colorize_pen,              false, true,  false, colorize},
+    {Canvas_Action::lightness_pen,             false, true,  false, change_lightness, is_lightness_step_due},
+    {Canvas_Action::dropper,                   false, true,  true,  pick},
+    {Canvas_Action::flood_fill,                false, false, true,  fill},
+    {Canvas_Action::smudge_brush,              false, true,  false, smudge_along},
 });
 // clang-format on
 

@@ -16,13 +16,11 @@ struct Stroke_Segment {
     Tile_Point to;
     Segment_Start start = Segment_Start::included;
     Mouse_Button button = Mouse_Button::left;
+    Tile_Point pointer;            // the pixel under the pointer, wherever the brush around it lies
     const Tile* history = nullptr; // what the pen's history mode draws from
 };
 
-enum class Segment_Outcome {
-    drawn,
-    waiting, // too early for a step: the next segment begins where this one did
-};
+enum class Segment_Outcome { drawn, color_picked, nothing };
 
 using Draw_Segment = Segment_Outcome (*)(Drawing_Target& target, const Stroke_Segment& segment);
 
@@ -31,7 +29,11 @@ struct Stroke_Row {
     Canvas_Action action;
     bool keeps_start;        // every segment begins where the button was pressed, on the tile as it was then
     bool draws_while_moving; // or at the press only
+    bool keeps_cursor;       // the system's cursor shows during the stroke
     Draw_Segment draw_segment;
+    // Asked before drawing; then the tool goes on while its button is held, also where the pointer stays.
+    // Null for a tool that is always ready.
+    bool (*is_due)(Mouse_Button button) = nullptr;
 };
 
 // Null for an action that no stroke runs.

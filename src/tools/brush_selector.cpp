@@ -78,7 +78,7 @@ Brush_Selector::Brush_Selector()
 }
 
 void Brush_Selector::rebuild() {
-    brush_ = built_in_brush(shape_, size_index_, Color());
+    brush_ = built_in_brush(shape_, size_index_, Color(), owner_);
     shape_icons_ = make_shape_icons(shape_);
     size_icons_ = make_size_icons(shape_, size_index_);
 }
@@ -95,6 +95,11 @@ void Brush_Selector::select_shape(Brush_Shape shape) {
         shape_ = shape;
         rebuild();
     }
+}
+
+void Brush_Selector::set_owner(Brush_Owner owner) {
+    owner_ = owner;
+    rebuild();
 }
 
 int Brush_Selector::move(Point position) {

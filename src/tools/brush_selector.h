@@ -17,6 +17,7 @@ public:
     // 0 to 5, one less than the brush's width. Keeps the shape.
     void select_size(int size_index);
     void select_shape(Brush_Shape shape);
+    void set_owner(Brush_Owner owner);
 
     // Both rows below each other; the y for what comes below.
     int move(Point position);
@@ -29,6 +30,7 @@ private:
 
     Brush_Shape shape_ = Brush_Shape::disc;
     int size_index_ = 0;
+    Brush_Owner owner_ = Brush_Owner::pen;
     Brush brush_;
     Pane shape_row_;
     Pane size_row_;

@@ -29,6 +29,7 @@ constexpr std::array icons = std::to_array<Icon>({
     {Command::lightness_pen, Sprite::icon_lighten_darken, Place::in_group},
     {Command::colorize_pen, Sprite::icon_colorize, Place::in_group},
     {Command::smudge_brush, Sprite::icon_smudge, Place::in_group},
+    {Command::stamp_brush, Sprite::icon_clone_brush, Place::in_group},
     {Command::dropper, Sprite::icon_dropper, Place::after_separator},
     {Command::flood_fill, Sprite::icon_flood_fill, Place::in_group},
     {Command::line, Sprite::icon_line, Place::after_separator},

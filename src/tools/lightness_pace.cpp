@@ -18,16 +18,19 @@ std::int64_t lightness_interval(const Lightness_Pace& pace, int brush_width) {
     return pace.compensation == Size_Compensation::on ? interval + 2 * std::int64_t{brush_width} : interval;
 }
 
+std::optional<Pixel_Operation> lightness_operation(Button_Order order, Mouse_Button button) {
+    if (button == Mouse_Button::none) {
+        return std::nullopt;
+    }
+    const bool lightens = (button == Mouse_Button::left) == (order == Button_Order::left_lightens);
+    return lightens ? Pixel_Operation::lighten : Pixel_Operation::darken;
+}
+
 std::optional<Pixel_Operation> lightness_step(std::int64_t now, std::int64_t last_step,
                                               const Lightness_Pace& pace, int brush_width,
                                               Mouse_Button button) {
     const bool is_too_early = now - last_step <= lightness_interval(pace, brush_width);
-    if (is_too_early || button == Mouse_Button::none) {
-        return std::nullopt;
-    }
-    const bool is_left = button == Mouse_Button::left;
-    const bool lightens = is_left == (pace.order == Button_Order::left_lightens);
-    return lightens ? Pixel_Operation::lighten : Pixel_Operation::darken;
+    return is_too_early ? std::nullopt : lightness_operation(pace.order, button);
 }
 
 } // namespace quadrelle

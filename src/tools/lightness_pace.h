@@ -34,8 +34,11 @@ struct Lightness_Pace {
 // Milliseconds that must have passed, and one more, from step to step. The brush's width is in pixels.
 [[nodiscard]] std::int64_t lightness_interval(const Lightness_Pace& pace, int brush_width);
 
-// Lighten, darken, or none when it is too early or the button never acts. Times are in milliseconds; on a
-// step the caller keeps `now` as the last one.
+// Lighten or darken, as that button does; none for a button that never acts.
+[[nodiscard]] std::optional<Pixel_Operation> lightness_operation(Button_Order order, Mouse_Button button);
+
+// The same, and none when it is too early too. Times are in milliseconds; on a step the caller keeps `now` as
+// the last one.
 [[nodiscard]] std::optional<Pixel_Operation> lightness_step(std::int64_t now, std::int64_t last_step,
                                                             const Lightness_Pace& pace, int brush_width,
                                                             Mouse_Button button);

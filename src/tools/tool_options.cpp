@@ -22,6 +22,7 @@ constexpr std::array lightness_rows = {Tool_Option::button_order, Tool_Option::l
 constexpr std::array colorize_rows = {Tool_Option::right_button_mode, Tool_Option::colorize_type};
 constexpr std::array dropper_rows = {Tool_Option::dropper_return};
 constexpr std::array fill_rows = {Tool_Option::fill_mode};
+constexpr std::array stamp_rows = {Tool_Option::stamp_mode};
 
 // What stands at the end of a tool's column, from the top.
 std::span<const Tool_Option> last_rows(Tool tool) {
@@ -31,6 +32,7 @@ std::span<const Tool_Option> last_rows(Tool tool) {
     case Tool::colorize_pen: return colorize_rows;
     case Tool::dropper: return dropper_rows;
     case Tool::flood_fill: return fill_rows;
+    case Tool::stamp_brush: return stamp_rows;
     default: return {};
     }
 }

@@ -20,6 +20,7 @@
 namespace quadrelle {
 
 enum class Tool_Option : std::int32_t {
+    stamp_mode,
     right_button_mode,
     pen_mode,
     dropper_return,
@@ -44,11 +45,12 @@ struct Tool_Option_Row {
     int initial;
 };
 
-constexpr std::size_t tool_option_count = 11;
+constexpr std::size_t tool_option_count = 12;
 
 // The labels of the dropper's tick and of the size compensation are deliberate.
 // clang-format off
 constexpr std::array<Tool_Option_Row, tool_option_count> tool_option_table{{
+    {Tool_Option::stamp_mode,        Tool_Option_Kind::choice, "Mode",              "Brush,Pattern,Offset$", 0},
     {Tool_Option::right_button_mode, Tool_Option_Kind::choice, "Right button mode", "Color,History,Dropper$", 0},
     {Tool_Option::pen_mode,          Tool_Option_Kind::choice, "Mode",              "Brush,Pattern,Offset$", 0},
     {Tool_Option::dropper_return,    Tool_Option_Kind::tick,   "Mode",              "Select previous tool", 0},

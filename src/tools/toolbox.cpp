@@ -3,6 +3,7 @@
 #include "app/options.h"
 #include "app/screen.h"
 #include "color/standard_colors.h"
+#include "tools/lightness_pace.h"
 #include "tools/tool_colors.h"
 
 #include <algorithm>
@@ -19,14 +20,26 @@ constexpr Size entry_size{202, 26};
 constexpr int color_panel_offset = 210;
 
 // The tools that can be chosen, from the top of the list.
-constexpr std::array listed_tools = {Tool::pen,          Tool::lightness_pen, Tool::colorize_pen,
-                                     Tool::smudge_brush, Tool::dropper,       Tool::flood_fill,
-                                     Tool::line,         Tool::rectangle,     Tool::ellipse};
+constexpr std::array listed_tools = {
+    Tool::pen,        Tool::lightness_pen, Tool::colorize_pen, Tool::smudge_brush, Tool::dropper,
+    Tool::flood_fill, Tool::line,          Tool::rectangle,    Tool::ellipse,      Tool::stamp_brush};
 
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
 
 static_assert(std::ranges::all_of(tool_table, has_lit_twin, &Tool_Row::icon));
+
+// Of the five tools whose command rebuilds the brush. Selecting an area has no brush of its own.
+std::optional<Brush_Owner> brush_owner_of(Command command) {
+    switch (command) {
+    case Command::pen: return Brush_Owner::pen;
+    case Command::lightness_pen: return Brush_Owner::lightness_pen;
+    case Command::colorize_pen: return Brush_Owner::colorize_pen;
+    case Command::smudge_brush: return Brush_Owner::smudge_brush;
+    case Command::brush_selector: return Brush_Owner::none;
+    default: return std::nullopt;
+    }
+}
 
 void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
@@ -70,6 +83,9 @@ void Toolbox::select(Command command) {
         previous_command_ = current_command_;
     }
     current_command_ = command;
+    if (const std::optional<Brush_Owner> owner = brush_owner_of(command)) {
+        brush_selector_.set_owner(*owner);
+    }
     const Tool tool = tool_of(command);
     if (tool != Tool::none) {
         current_tool_ = tool;
@@ -87,8 +103,56 @@ Canvas_Action Toolbox::canvas_action() const {
     return canvas_action_of(current_command_, shape_type());
 }
 
+std::optional<Pixel_Operation> Toolbox::lightness_step(std::int64_t now, Mouse_Button button) {
+    const Lightness_Pace pace{static_cast<Lightness_Speed>(value(Tool_Option::speed)),
+                              static_cast<Size_Compensation>(value(Tool_Option::size_compensation)),
+                              static_cast<Button_Order>(value(Tool_Option::button_order))};
+    const auto step = quadrelle::lightness_step(now, last_step_time_, pace, brush().size().width, button);
+    last_step_time_ = step ? now : last_step_time_;
+    return step;
+}
+
+bool Toolbox::uses_brush() const {
+    return current_tool_ == Tool::stamp_brush || row_of(current_tool_).uses_brush;
+}
+
+bool Toolbox::shows_brush_outline() const {
+    const int choice = quadrelle::options->value(Option::precise_brush);
+    return uses_brush() && choice != 0 && (choice != 2 || brush().size() != Size{1, 1});
+}
+
+// Nothing for brushes that change the colour which is there, nor where the pen paints from the history.
+bool Toolbox::shows_brush_preview(Mouse_Button button) const {
+    const bool has_colors =
+        brush().owner() == Brush_Owner::pen || brush().owner() == Brush_Owner::stamp_brush;
+    const bool paints_otherwise = button == Mouse_Button::right && current_tool_ == Tool::pen &&
+                                  value(Tool_Option::right_button_mode) != 0;
+    return uses_brush() && has_colors && !paints_otherwise &&
+           quadrelle::options->value(Option::show_shadow_brush) == 1;
+}
+
+std::optional<Color> Toolbox::brush_color(Mouse_Button button) const {
+    if (brush().owner() == Brush_Owner::stamp_brush) {
+        return std::nullopt;
+    }
+    const bool follows_button = current_tool_ != Tool::stamp_brush && button != Mouse_Button::none;
+    return follows_button ? tool_colors->color(button) : tool_colors->current_color();
+}
+
+Pen_Mode Toolbox::pen_mode() const {
+    switch (current_tool_) {
+    case Tool::pen: return static_cast<Pen_Mode>(value(Tool_Option::pen_mode));
+    case Tool::stamp_brush: return static_cast<Pen_Mode>(value(Tool_Option::stamp_mode));
+    default: return Pen_Mode::brush;
+    }
+}
+
+Tile_Point Toolbox::brush_corner(Tile_Point position) const {
+    return pen_mode() == Pen_Mode::offset ? snapped_to_grid(position, brush().size()) : position;
+}
+
 Point Toolbox::pointer_offset(int pixel_size) const {
-    if (quadrelle::options->value(Option::precise_brush) == 0) {
+    if (!shows_brush_outline()) {
         return {};
     }
     const Size size = brush().size();
@@ -106,7 +170,9 @@ void Toolbox::draw() const {
         brush_selector_.draw();
     }
     options_.draw();
-    tool_colors->draw();
+    if (row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper) {
+        tool_colors->draw();
+    }
 }
 
 Command Toolbox::command_at(Point point) const {

@@ -7,10 +7,12 @@
 #include "app/input.h"
 #include "tools/brush_selector.h"
 #include "tools/canvas_action.h"
+#include "tools/pens.h"
 #include "tools/tool_catalogue.h"
 #include "tools/tool_options.h"
 
 #include <memory>
+#include <optional>
 
 namespace quadrelle {
 
@@ -30,13 +32,24 @@ public:
     [[nodiscard]] int value(Tool_Option option) const { return options_.value(option); }
     // Of the tool in use, for rectangles and ellipses.
     [[nodiscard]] Shape_Type shape_type() const;
-    // When the lightness pen acted last, in milliseconds.
-    [[nodiscard]] std::int64_t last_step_time() const { return last_step_time_; }
-    void set_last_step_time(std::int64_t time) { last_step_time_ = time; }
+    // What the lightness pen does at `now`, in milliseconds, while that button is held; none while it is too
+    // early. A step is the last one from then on.
+    [[nodiscard]] std::optional<Pixel_Operation> lightness_step(std::int64_t now, Mouse_Button button);
 
     // What a stroke on the canvas does now.
     [[nodiscard]] Canvas_Action canvas_action() const;
     [[nodiscard]] const Brush& brush() const { return brush_selector_.brush(); }
+    // Also for the stamp brush, which has no brush rows.
+    [[nodiscard]] bool uses_brush() const;
+    // What shows of the brush on the canvas, while that button is held or none is.
+    [[nodiscard]] bool shows_brush_outline() const;
+    [[nodiscard]] bool shows_brush_preview(Mouse_Button button = Mouse_Button::none) const;
+    // The colour that the brush paints in then; none for its own colours.
+    [[nodiscard]] std::optional<Color> brush_color(Mouse_Button button) const;
+    // The brush's corner when it is applied at the position.
+    [[nodiscard]] Tile_Point brush_corner(Tile_Point position) const;
+    // How the brush is laid by the pen, or by the stamp brush.
+    [[nodiscard]] Pen_Mode pen_mode() const;
     // From the brush's corner to the pointer in window pixels: half the brush while it is centred on the
     // pointer.
     [[nodiscard]] Point pointer_offset(int pixel_size) const;

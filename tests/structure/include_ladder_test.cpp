@@ -46,6 +46,7 @@ constexpr std::array places{
     Place{"tileset/sprite_table",         Level::values},
     Place{"tileset/font_table",           Level::values},
 
+    Place{"app/brush_feedback",           Level::pixels},
     Place{"app/canvas_painter",           Level::pixels},
     Place{"app/renderer",                 Level::pixels},
     Place{"app/streaming_texture",        Level::pixels},
@@ -54,6 +55,7 @@ constexpr std::array places{
     Place{"tools/",                       Level::pixels},
 
     Place{"app/data_directory",           Level::screen},
+    Place{"app/cursor",                   Level::screen},
     Place{"app/events",                   Level::screen},
     Place{"app/screen",                   Level::screen},
     Place{"app/surface",                  Level::screen},

@@ -134,6 +134,12 @@ Script& Script::quit() {
     return add_event(event);
 }
 
+Script& Script::pause(int milliseconds) {
+    steps_.push_back(
+        {true, [milliseconds](std::string_view) { SDL_Delay(static_cast<Uint32>(milliseconds)); }});
+    return *this;
+}
+
 Script& Script::event(const SDL_Event& event) {
     return add_event(event);
 }

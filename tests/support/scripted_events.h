@@ -39,6 +39,9 @@ public:
     Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
     Script& wheel(float amount);
     Script& quit();
+    // No event for that time, and then a wait that ends without one: only for loops that do something
+    // meanwhile.
+    Script& pause(int milliseconds);
     Script& event(const SDL_Event& event);
     // Run when every event before it has been answered and the loop has drawn.
     Script& check(std::function<void()> function);

@@ -246,6 +246,8 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     EXPECT_EQ(window_title(), product + "untitled1.qdl");
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(tile_pixel(1, 1), Color(0, 0, 0));
+    script().motion({1, 1});
+    play();
     EXPECT_NE(pixel_at(cell(1, 1)), white);
     execute(Command::close);
     EXPECT_EQ(window_title(), product + "untitled2.qdl");

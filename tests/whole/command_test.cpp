@@ -130,7 +130,7 @@ TEST_F(Command_Test, palette_keys_choose_the_left_colour) {
 }
 
 TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
-    script().click(cell(2, 2));
+    script().click(cell(2, 2)).motion({1, 1});
     play();
     const auto shown = [](Command command, Color expected, const std::string& title) {
         editor->execute(command);
@@ -152,7 +152,7 @@ TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
     EXPECT_EQ(document().tileset().count(), 1);
     shown(Command::next_tile, black, "*");
     // The last tile stays, blank.
-    script().click(cell(2, 2));
+    script().click(cell(2, 2)).motion({1, 1});
     play();
     shown(Command::delete_tile, black, "*");
 }

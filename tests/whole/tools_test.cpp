@@ -80,11 +80,11 @@ TEST_F(Tools_Test, the_other_button_colours_the_inside) {
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
-    script().click({796, 40 + 24 * 6 + 2 * 7 + 24 * 2});
+    script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2});
     play();
     EXPECT_EQ(toolbox->current_command(), Command::rectangle);
     EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_filled);
-    script().click({796, 40 + 24 * 6 + 2 * 7 + 24});
+    script().click({796, 40 + 24 * 7 + 2 * 7 + 24});
     play();
     EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_outline);
     // The rectangle's rows cover the entry below it; the entries above can be clicked.

@@ -31,6 +31,9 @@ public:
         Color& painted =
             tiles_[current_].picture.at(static_cast<std::size_t>(pixel.y * tile_size.width + pixel.x));
         if (painted != color) {
+            if (states_[position_].id != tiles_[current_].id) {
+                record();
+            }
             painted = color;
             record();
         }
@@ -191,8 +194,9 @@ TEST_F(Undo_Test, goes_back_to_the_tile_that_a_step_was_made_on) {
     stroke({cell(1, 1)});
     execute(Command::previous_tile);
     stroke({cell(5, 5)});
-    EXPECT_EQ(history().entries().size(), 4U);
-    EXPECT_EQ(history().entries()[2].kind, Command::previous_tile);
+    // The new tile as it was before its first stroke is there too.
+    EXPECT_EQ(history().entries().size(), 5U);
+    EXPECT_EQ(history().entries()[3].kind, Command::previous_tile);
     press_undo();
     EXPECT_EQ(tile_pixel(5, 5), black);
     EXPECT_EQ(document().tileset().current_index(), 0);
@@ -205,6 +209,33 @@ TEST_F(Undo_Test, goes_back_to_the_tile_that_a_step_was_made_on) {
     press_redo();
     EXPECT_EQ(document().tileset().current_index(), 0);
     EXPECT_EQ(pixel_at(cell(5, 5)), white);
+}
+
+TEST_F(Undo_Test, takes_back_the_first_stroke_on_a_tile_that_came_without_a_step) {
+    execute(Command::add_new_tile);
+    script().click(cell(3, 3));
+    script().click(cell(4, 4)).motion({1, 1});
+    play();
+    EXPECT_EQ(history().entries().size(), 4U);
+    press_undo();
+    press_undo();
+    EXPECT_EQ(document().tileset().current_index(), 1);
+    EXPECT_EQ(tile_pixel(3, 3), black);
+    press_undo();
+    EXPECT_EQ(document().tileset().current_index(), 0);
+
+    editor->documents().resize_current({24, 24});
+    // What changes nothing adds nothing.
+    tool_colors->set_color(Mouse_Button::left, black);
+    stroke({cell(1, 1)});
+    EXPECT_TRUE(history().entries().empty());
+    execute(Command::mirror);
+    tool_colors->set_color(Mouse_Button::left, white);
+    stroke({cell(1, 1)});
+    press_undo();
+    press_undo();
+    EXPECT_EQ(tile_pixel(1, 1), black);
+    EXPECT_EQ(history().position(), 0);
 }
 
 TEST_F(Undo_Test, makes_the_tool_of_the_step_current_again) {

@@ -1,0 +1,186 @@
+// What shows of the brush where the pointer is, and when the system's cursor gives way to it.
+
+#include "tests/whole/program_test.h"
+
+#include "app/cursor.h"
+#include "app/options.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+#include "ui/dialog_container.h"
+#include "ui/dialog_item.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color red(200, 30, 40);
+constexpr Point beside_the_canvas{800, 600};
+
+class Brush_View_Test : public Program_Test {
+protected:
+    // The identifiers of the dialog's items; choices are stepped through, ticks switched.
+    static constexpr int precise_brush = 31;
+    static constexpr int blocky = 40;
+    static constexpr int shadow = 50;
+    static constexpr int hide_cursor = 170;
+
+    static void change(int id) {
+        Dialog_Item& item = *options->dialog().item(id);
+        if (id == precise_brush) {
+            item.notify(Dialog_Event_Kind::increase);
+        } else {
+            static_cast<void>(item.click({item.area.x, item.area.y}));
+        }
+        options->load();
+    }
+    void hover(Point position) {
+        script().motion(position);
+        play();
+    }
+    // In the middle of a cell.
+    static Color shown(int column, int row) { return pixel_at(cell(column, row)); }
+    static Color corner_of(int column, int row) {
+        return pixel_at({cell(column, row).x - 6, cell(column, row).y - 6});
+    }
+};
+
+TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
+    tool_colors->set_color(Mouse_Button::left, red);
+    for (const int size_index : {0, 1, 4, 5}) {
+        toolbox->select_brush_size(size_index);
+        // None of these brings a line of the outline through the middle of a cell.
+        for (const Point at : {Point{483, 272}, Point{488, 279}, Point{402, 202}}) {
+            SCOPED_TRACE(size_index);
+            document().tileset().current_tile()->fill(Color(0, 0, 0));
+            hover(at);
+            std::vector<Tile_Point> previewed;
+            for (int y = 0; y < 24; ++y) {
+                for (int x = 0; x < 24; ++x) {
+                    if (shown(x, y) == red) {
+                        previewed.push_back({x, y});
+                    }
+                }
+            }
+            EXPECT_FALSE(previewed.empty());
+            script().click(at).motion(beside_the_canvas);
+            play();
+            for (int y = 0; y < 24; ++y) {
+                for (int x = 0; x < 24; ++x) {
+                    const bool was_previewed =
+                        std::ranges::find(previewed, Tile_Point{x, y}) != previewed.end();
+                    EXPECT_EQ(tile_pixel(x, y) == red, was_previewed) << x << ", " << y;
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Brush_View_Test, goes_with_the_pointer_the_tool_and_the_options) {
+    tool_colors->set_color(Mouse_Button::left, red);
+    hover(cell(4, 4));
+    EXPECT_EQ(shown(4, 4), red);
+    hover(beside_the_canvas);
+    EXPECT_NE(shown(4, 4), red);
+    hover(cell(4, 4));
+    SDL_Event leaves{};
+    leaves.type = SDL_EVENT_WINDOW_MOUSE_LEAVE;
+    script().event(leaves);
+    play();
+    EXPECT_NE(shown(4, 4), red);
+    hover(cell(4, 4));
+    // Tools that change the colours which are there have none of their own to show.
+    for (const Command command : {Command::lightness_pen, Command::colorize_pen, Command::smudge_brush,
+                                  Command::line, Command::flood_fill, Command::dropper}) {
+        execute(command);
+        hover(cell(4, 4));
+        EXPECT_NE(shown(4, 4), red) << static_cast<int>(command);
+    }
+    execute(Command::pen);
+    // The stamp brush paints with the brush that was there.
+    execute(Command::stamp_brush);
+    hover(cell(4, 4));
+    EXPECT_EQ(shown(4, 4), red);
+    change(shadow);
+    hover(cell(4, 4));
+    EXPECT_NE(shown(4, 4), red);
+}
+
+TEST_F(Brush_View_Test, outline_is_precise_blocky_or_off) {
+    change(shadow);
+    const Color line(255, 255, 255);
+    hover({485, 275});
+    EXPECT_NE(corner_of(8, 7), line) << "a brush of one pixel has no outline";
+    change(precise_brush);
+    change(precise_brush);
+    ASSERT_EQ(options->value(Option::precise_brush), 1);
+    hover({485, 275});
+    EXPECT_EQ(corner_of(8, 7), line);
+    hover({488, 275});
+    EXPECT_EQ(pixel_at({482, 269}), line) << "between the cells, around the pointer";
+    change(blocky);
+    hover({488, 275});
+    EXPECT_EQ(corner_of(8, 7), line) << "around the cell";
+    change(precise_brush);
+    change(precise_brush);
+    ASSERT_EQ(options->value(Option::precise_brush), 0);
+    toolbox->select_brush_size(3);
+    hover({488, 275});
+    EXPECT_NE(corner_of(8, 7), line);
+}
+
+TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_shows) {
+    const auto cursor_at = [this](Point position) {
+        hover(position);
+        return current_cursor();
+    };
+    EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::shown);
+    change(hide_cursor);
+    EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::hidden);
+    EXPECT_EQ(cursor_at(beside_the_canvas), Cursor::shown);
+    EXPECT_EQ(cursor_at({270, 70}), Cursor::hidden);
+    script().key('d');
+    play();
+    EXPECT_EQ(current_cursor(), Cursor::shown);
+    script().key('p');
+    play();
+    EXPECT_EQ(current_cursor(), Cursor::hidden);
+    // A dialog shows it, wherever the pointer was.
+    Cursor in_dialog = Cursor::hidden;
+    script().check([&] { in_dialog = current_cursor(); }).key(key::escape);
+    execute(Command::about);
+    EXPECT_EQ(in_dialog, Cursor::shown);
+    EXPECT_EQ(current_cursor(), Cursor::hidden);
+    change(shadow);
+    EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::shown) << "nothing of the brush shows";
+}
+
+TEST_F(Brush_View_Test, strokes_hide_the_cursor_and_give_it_back) {
+    const auto during_stroke = [this](Point end) {
+        Cursor seen = Cursor::shown;
+        script().press(cell(3, 3)).motion(end).check([&] { seen = current_cursor(); }).release(end);
+        play();
+        return seen;
+    };
+    EXPECT_EQ(during_stroke(cell(5, 5)), Cursor::hidden);
+    EXPECT_EQ(current_cursor(), Cursor::shown);
+    EXPECT_EQ(during_stroke(beside_the_canvas), Cursor::hidden);
+    EXPECT_EQ(current_cursor(), Cursor::shown);
+    change(hide_cursor);
+    hover(cell(3, 3));
+    EXPECT_EQ(during_stroke(cell(5, 5)), Cursor::hidden);
+    EXPECT_EQ(current_cursor(), Cursor::hidden);
+    EXPECT_EQ(during_stroke(beside_the_canvas), Cursor::hidden);
+    EXPECT_EQ(current_cursor(), Cursor::shown) << "it was let go beside the canvas";
+    execute(Command::dropper);
+    EXPECT_EQ(during_stroke(cell(5, 5)), Cursor::shown);
+    // A window that is closed during a stroke ends the stroke.
+    execute(Command::pen);
+    script().press(cell(3, 3)).quit();
+    play();
+    EXPECT_EQ(current_cursor(), Cursor::hidden);
+}
+
+} // namespace
+} // namespace quadrelle::testing
