@@ -26,18 +26,29 @@ int end_cell(int start, int pixel_size, int extent, int count) {
     return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
 }
 
-void draw_marker(const Cell_Marker& marker, Point cell, int pixel_size, const Pixel_Rows& target) {
-    const int right = std::min(cell.x + std::min(marker.size.width, pixel_size), target.size.width);
-    const int bottom = std::min(cell.y + std::min(marker.size.height, pixel_size), target.size.height);
-    for (int y = std::max(cell.y, 0); y < bottom; ++y) {
-        for (int x = std::max(cell.x, 0); x < right; ++x) {
-            const int i = (y - cell.y) * marker.size.width + x - cell.x;
+// As much of the picture as fits the area; where its own pixels are transparent nothing is changed.
+void draw_marker(const Cell_Marker& marker, const Rectangle& area, Point offset, const Pixel_Rows& target) {
+    const int right =
+        std::min(area.x + std::min(marker.size.width - offset.x, area.width), target.size.width);
+    const int bottom =
+        std::min(area.y + std::min(marker.size.height - offset.y, area.height), target.size.height);
+    for (int y = std::max(area.y, 0); y < bottom; ++y) {
+        for (int x = std::max(area.x, 0); x < right; ++x) {
+            const int i = (y - area.y + offset.y) * marker.size.width + x - area.x + offset.x;
             const Color color = marker.pixels[static_cast<std::size_t>(i)];
             if (color.a != 0) {
                 target.row(y)[x] = color;
             }
         }
     }
+}
+
+// Over the pixels that are not selected.
+constexpr Color dimming(104, 112, 128, 112);
+
+// The second of two cells goes on with the line where the first one stopped, so that it reads as dashed.
+int dash_offset(int counter, int pixel_size, int length) {
+    return counter % 2 == 0 ? 0 : std::max(0, std::min(pixel_size, length - pixel_size));
 }
 
 } // namespace
@@ -89,22 +100,69 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
         paint_row(picture, columns, row, target);
     }
     if (columns.first < columns.end && rows.first < rows.end) {
+        for (const Selection_Outline& outline : picture.outlines) {
+            paint_outline(picture, outline, columns, rows, target);
+        }
         paint_markers(picture, columns, rows, target);
     }
+}
+
+void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selection_Outline& outline,
+                                   Range columns, Range rows, const Pixel_Rows& target) {
+    if (outline.edges == nullptr) {
+        return;
+    }
+    const Selection& selection = *outline.selection;
+    const Cell_Marker& horizontal = outline.edges->horizontal;
+    const Cell_Marker& vertical = outline.edges->vertical;
+    const int edge = picture.pixel_size;
+    for (int row = rows.first; row < rows.end; ++row) {
+        const int y = picture.origin.y + row * edge;
+        const Point down{0, dash_offset(row % picture.checker.height, edge, vertical.size.height)};
+        for (int column = columns.first; column < columns.end; ++column) {
+            if (!selection.contains({column, row})) {
+                continue;
+            }
+            const int x = picture.origin.x + column * edge;
+            const Point along{dash_offset(column % picture.checker.width, edge, horizontal.size.width), 0};
+            if (!selection.contains({column, row - 1})) {
+                draw_marker(horizontal, {x, y, edge, edge}, along, target);
+            }
+            if (!selection.contains({column, row + 1})) {
+                const int thickness = horizontal.size.height;
+                draw_marker(horizontal, {x, y + edge - thickness, edge, thickness}, along, target);
+            }
+            if (!selection.contains({column - 1, row})) {
+                draw_marker(vertical, {x, y, edge, edge}, down, target);
+            }
+            if (!selection.contains({column + 1, row})) {
+                const int thickness = vertical.size.width;
+                draw_marker(vertical, {x + edge - thickness, y, thickness, edge}, down, target);
+            }
+        }
+    }
+}
+
+Color Canvas_Painter::pixel_shown(const Canvas_Picture& picture, Tile_Point pixel) {
+    const Color color = picture.tile->get_pixel(pixel.x, pixel.y);
+    if (picture.paste == nullptr) {
+        return color;
+    }
+    const std::optional<Color> above = picture.paste->pixel_over(pixel);
+    return above ? laid_over(*above, color) : color;
 }
 
 void Canvas_Painter::paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
                                    const Pixel_Rows& target) {
     const auto cell = [&picture](int column, int row) {
-        return Point{picture.origin.x + column * picture.pixel_size,
-                     picture.origin.y + row * picture.pixel_size};
+        return Rectangle{picture.origin.x + column * picture.pixel_size,
+                         picture.origin.y + row * picture.pixel_size, picture.pixel_size, picture.pixel_size};
     };
     for (int row = rows.first; picture.column_marker != nullptr && row < rows.end; ++row) {
-        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), picture.pixel_size, target);
+        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), {}, target);
     }
     for (int column = columns.first; picture.row_marker != nullptr && column < columns.end; ++column) {
-        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), picture.pixel_size,
-                    target);
+        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), {}, target);
     }
 }
 
@@ -122,24 +180,31 @@ void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int
 }
 
 void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns, int row) {
-    const auto pixels = picture.tile->pixels().subspan(static_cast<std::size_t>(row) *
-                                                       static_cast<std::size_t>(picture.tile->width()));
     const int width = static_cast<int>(cell_line_.size());
     // Neighbours often show the same colour.
     Color pixel;
     Color background;
     Color cell;
     Color grid;
+    bool is_dimmed = false;
     bool is_known = false;
     for (int column = columns.first; column < columns.end; ++column) {
-        const Color next_pixel = pixels[static_cast<std::size_t>(column)];
+        const Color next_pixel = pixel_shown(picture, {column, row});
+        const bool next_is_dimmed =
+            picture.selection != nullptr && !picture.selection->contains({column, row});
         const Color next_background =
             next_pixel.a == 255 ? background : checker_color({column, row}, picture.checker);
-        if (!is_known || next_pixel != pixel || next_background != background) {
+        if (!is_known || next_pixel != pixel || next_background != background ||
+            next_is_dimmed != is_dimmed) {
             pixel = next_pixel;
             background = next_background;
+            is_dimmed = next_is_dimmed;
             cell = blended_over(pixel, background);
             grid = blended_over(grid_color(pixel, picture.grid_intensity), cell);
+            if (is_dimmed) {
+                cell = blended_over(dimming, cell);
+                grid = blended_over(dimming, grid);
+            }
             is_known = true;
         }
         const int left = picture.origin.x + column * picture.pixel_size;

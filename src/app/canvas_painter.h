@@ -6,6 +6,8 @@
 #include "app/geometry.h"
 #include "app/pixel_rows.h"
 #include "color/color.h"
+#include "selection/floating_paste.h"
+#include "selection/selection.h"
 #include "tileset/tile.h"
 
 #include <vector>
@@ -18,6 +20,18 @@ struct Cell_Marker {
     std::vector<Color> pixels; // row by row
 };
 
+// The pictures along the sides of cells.
+struct Cell_Edges {
+    Cell_Marker horizontal;
+    Cell_Marker vertical;
+};
+
+// Around the selected cells runs a line.
+struct Selection_Outline {
+    const Selection* selection = nullptr;
+    const Cell_Edges* edges = nullptr;
+};
+
 struct Canvas_Picture {
     const Tile* tile = nullptr; // null shows nothing but the surround
     int pixel_size = 1;         // edge of one cell
@@ -25,6 +39,12 @@ struct Canvas_Picture {
     int grid_intensity = 0;
     Size checker{1, 1}; // in tile pixels
     Color surround;
+    // What is not selected is dimmed; null for no selection.
+    const Selection* selection = nullptr;
+    // Shown as it would look when plotted; null for none.
+    const Floating_Paste* paste = nullptr;
+    // Drawn over each other in this order.
+    std::vector<Selection_Outline> outlines;
     // In the cells of the column, and of the row, that begins the second half of the tile; null for none.
     const Cell_Marker* column_marker = nullptr;
     const Cell_Marker* row_marker = nullptr;
@@ -54,8 +74,11 @@ private:
     };
     void paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target);
     void compose_lines(const Canvas_Picture& picture, Range columns, int row);
+    static void paint_outline(const Canvas_Picture& picture, const Selection_Outline& outline, Range columns,
+                              Range rows, const Pixel_Rows& target);
     static void paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
                               const Pixel_Rows& target);
+    [[nodiscard]] static Color pixel_shown(const Canvas_Picture& picture, Tile_Point pixel);
     void fill_cell(Range extent, Cell_Colors colors, bool shows_right_line);
 
     // One line of pixels through the cells of a row, and one along their bottom.

@@ -1,0 +1,90 @@
+#include "selection/floating_paste.h"
+
+namespace quadrelle {
+
+namespace {
+
+// Rounded, in units of 1 / 255 of `weight`.
+int mixed(int above, int above_weight, int below, int below_weight) {
+    const int weight = above_weight + below_weight;
+    return (above * above_weight + below * below_weight + weight / 2) / weight;
+}
+
+} // namespace
+
+Color laid_over(Color color, Color below) {
+    if (color.a == 255 || below.a == 0) {
+        return color.a == 0 ? below : color;
+    }
+    if (color.a == 0) {
+        return below;
+    }
+    const int above_weight = color.a * 255;
+    const int below_weight = below.a * (255 - color.a);
+    return {mixed(color.r, above_weight, below.r, below_weight),
+            mixed(color.g, above_weight, below.g, below_weight),
+            mixed(color.b, above_weight, below.b, below_weight), (above_weight + below_weight + 127) / 255};
+}
+
+std::optional<Color> Floating_Paste::pixel_over(Tile_Point tile_pixel) const {
+    const int x = tile_pixel.x - position.x;
+    const int y = tile_pixel.y - position.y;
+    if (picture.is_outside(x, y) || picture.alpha_at(x, y) == 0) {
+        return std::nullopt;
+    }
+    return picture.get_pixel(x, y);
+}
+
+bool Floating_Paste::covers(Tile_Point tile_pixel) const {
+    return pixel_over(tile_pixel).has_value();
+}
+
+Selection Floating_Paste::area(Size tile) const {
+    Selection selection(tile);
+    selection.change([&](Tile& mask) {
+        for (int y = 0; y < tile.height; ++y) {
+            for (int x = 0; x < tile.width; ++x) {
+                if (covers({x, y})) {
+                    mask.set_pixel(x, y, Selection::selected_color);
+                }
+            }
+        }
+    });
+    return selection;
+}
+
+void Floating_Paste::plot(Drawing_Target& target) const {
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const Tile_Point pixel{position.x + x, position.y + y};
+            if (picture.alpha_at(x, y) != 0 && target.contains(pixel)) {
+                target.plot(pixel, laid_over(picture.get_pixel(x, y), target.get(pixel)));
+            }
+        }
+    }
+}
+
+Floating_Paste lifted(const Tile& tile, const Selection& selection) {
+    const Rectangle bounds = selection.bounds();
+    Floating_Paste paste{Tile(bounds.width, bounds.height), {bounds.x, bounds.y}};
+    paste.picture.fill(Selection::unselected_color);
+    for (int y = 0; y < bounds.height; ++y) {
+        for (int x = 0; x < bounds.width; ++x) {
+            const Tile_Point pixel{bounds.x + x, bounds.y + y};
+            if (selection.contains(pixel)) {
+                paste.picture.set_pixel(x, y, tile.get_pixel(pixel.x, pixel.y));
+            }
+        }
+    }
+    return paste;
+}
+
+void clear_selected(Tile& tile, const Selection& selection) {
+    for (int i = 0; i < tile.pixel_count(); ++i) {
+        if (selection.mask().get_pixel_at(i) == Selection::selected_color) {
+            tile.set_pixel_at(i, {0, 0, 0, 0});
+        }
+    }
+}
+
+} // namespace quadrelle

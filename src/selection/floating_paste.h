@@ -1,0 +1,35 @@
+#pragma once
+
+// A picture that floats over a tile until it is plotted. It may hang over the tile's edges.
+
+#include "app/geometry.h"
+#include "selection/selection.h"
+#include "tileset/tile.h"
+#include "tools/drawing_target.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+// A colour laid over another one: an opaque one hides it, a transparent one leaves it.
+[[nodiscard]] Color laid_over(Color color, Color below);
+
+struct Floating_Paste {
+    Tile picture;        // transparent where it leaves what is below
+    Tile_Point position; // of its top left corner in the tile
+
+    // Nothing outside the picture, which counts as transparent.
+    [[nodiscard]] std::optional<Color> pixel_over(Tile_Point tile_pixel) const;
+    [[nodiscard]] bool covers(Tile_Point tile_pixel) const;
+    // Where it lies in the tile, cut to it.
+    [[nodiscard]] Selection area(Size tile) const;
+    void plot(Drawing_Target& target) const;
+};
+
+// The selected pixels, from the corner of their bounds. The selection is not empty.
+[[nodiscard]] Floating_Paste lifted(const Tile& tile, const Selection& selection);
+
+// Makes the selected pixels transparent. Leaves the texture.
+void clear_selected(Tile& tile, const Selection& selection);
+
+} // namespace quadrelle

@@ -1,0 +1,63 @@
+#pragma once
+
+// What is selected on the canvas, and what floats over it. Knows no view, no tool and no history.
+
+#include "app/command.h"
+#include "selection/floating_paste.h"
+#include "selection/selection.h"
+
+#include <cstddef>
+#include <optional>
+
+namespace quadrelle {
+
+// What a step of the history keeps of the work area.
+struct Work_State {
+    std::optional<Selection> selection;
+    std::optional<Floating_Paste> paste;
+
+    [[nodiscard]] std::size_t memory_size() const;
+};
+
+class Work_Area {
+public:
+    Work_Area() : selection_(Selection(Size{})) {}
+
+    // Nothing is selected and nothing floats over a tile of that size.
+    void reset(Size tile);
+
+    [[nodiscard]] const Selection& selection() const { return *selection_; }
+    [[nodiscard]] bool has_selection() const { return !selection_->is_empty(); }
+    [[nodiscard]] const std::optional<Floating_Paste>& paste() const { return paste_; }
+    // What the stroke that is being made will add to the selection or take from it.
+    [[nodiscard]] const std::optional<Selection>& candidate() const { return candidate_; }
+
+    void select(const Selection& area, Selection_Change change) { selection_->combine(area, change); }
+    void deselect() { selection_->clear(); }
+    void invert_selection() { selection_->invert(); }
+    [[nodiscard]] Selection& mutable_selection() { return *selection_; }
+    void set_candidate(const Selection& candidate) { candidate_.emplace(candidate); }
+    void drop_candidate() { candidate_.reset(); }
+
+    // Nothing is selected while something floats.
+    void float_paste(const Floating_Paste& paste);
+    void move_paste_to(Tile_Point position) { paste_->position = position; }
+    void drop_paste() { paste_.reset(); }
+    // The selected pixels leave the tile, transparent holes behind them, and float where they were. The
+    // selection is not empty.
+    void lift_selection(Tile& tile);
+
+    [[nodiscard]] Drawing_Target target(Tile& tile) const;
+
+    [[nodiscard]] Work_State state() const;
+    // A selection of another tile size is dropped.
+    void restore(const Work_State& state);
+    [[nodiscard]] bool operator==(const Work_State& state) const;
+
+private:
+    std::optional<Selection> selection_; // always there; replaced for another size
+    std::optional<Selection> candidate_;
+    std::optional<Floating_Paste> paste_;
+};
+
+} // namespace quadrelle
