@@ -22,7 +22,8 @@ class Stroke {
 public:
     Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointer)
         : canvas_(canvas), row_(row), tile_(*canvas.tile()), pointer_(pointer), button_(pointer.button),
-          start_(canvas.tool_point(pointer.point())), before_(tile_.pixels().begin(), tile_.pixels().end()) {}
+          pressed_(point_of(pointer)), start_(pressed_), end_(pressed_),
+          before_(tile_.pixels().begin(), tile_.pixels().end()), before_work_(canvas.work_area().state()) {}
 
     void press() {
         path_.push_back(start_);
@@ -32,26 +33,32 @@ public:
     void move_to(const Pointer_State& pointer) {
         pointer_ = {pointer.x, pointer.y, button_};
         canvas_.set_hover(Hover{pointer_.point(), button_});
-        const Tile_Point point = canvas_.tool_point(pointer_.point());
-        toolbox->options().set_location({point.x, point.y});
+        end_ = point_of(pointer_);
+        toolbox->options().set_location({end_.x, end_.y});
         if (!row_.draws_while_moving) {
             return;
         }
         if (row_.keeps_start) {
             std::ranges::copy(before_, tile_.pixels().begin());
-            draw(point, Segment_Start::included);
+            canvas_.work_area().restore(before_work_);
+            draw(end_, Segment_Start::included);
         } else {
-            extend_to(point);
+            extend_to(end_);
         }
     }
 
     // One more application where the pointer is, when it is due; true when something was drawn.
     bool stay() { return draw_path(); }
 
-    // Draws what still waits for its turn.
+    // Draws what still waits for its turn, and what comes last.
     void finish() {
         while (!path_.empty() && !draw_path()) {
             SDL_Delay(tick_milliseconds);
+        }
+        if (row_.finish != nullptr) {
+            Drawing_Target target = canvas_.work_area().target(tile_);
+            row_.finish(target, segment(pressed_, end_, Segment_Start::included));
+            tile_.update_texture();
         }
     }
 
@@ -59,8 +66,9 @@ public:
         if (last_ == Segment_Outcome::color_picked) {
             return Stroke_Outcome::color_picked;
         }
-        return std::ranges::equal(before_, tile_.pixels()) ? Stroke_Outcome::nothing_changed
-                                                           : Stroke_Outcome::tile_changed;
+        const bool is_same =
+            std::ranges::equal(before_, tile_.pixels()) && canvas_.work_area() == before_work_;
+        return is_same ? Stroke_Outcome::nothing_changed : Stroke_Outcome::something_changed;
     }
 
 private:
@@ -92,10 +100,25 @@ private:
     }
 
     void draw(Tile_Point to, Segment_Start start) {
-        Drawing_Target target(tile_);
-        last_ = row_.draw_segment(target, {row_.action, start_, to, start, button_,
-                                           canvas_.tile_point(pointer_.point()), canvas_.history()});
+        Drawing_Target target = canvas_.work_area().target(tile_);
+        last_ = row_.draw_segment(target, segment(start_, to, start));
         tile_.update_texture();
+    }
+
+    [[nodiscard]] Tile_Point point_of(const Pointer_State& pointer) const {
+        return row_.snaps_to_corners ? canvas_.corner_point(pointer.point())
+                                     : canvas_.tool_point(pointer.point());
+    }
+
+    [[nodiscard]] Stroke_Segment segment(Tile_Point from, Tile_Point to, Segment_Start start) {
+        return {row_.action,
+                from,
+                to,
+                start,
+                button_,
+                canvas_.tile_point(pointer_.point()),
+                &canvas_.work_area(),
+                canvas_.history()};
     }
 
     Canvas_View& canvas_;
@@ -103,12 +126,15 @@ private:
     Tile& tile_;
     Pointer_State& pointer_;
     Mouse_Button button_;
-    Tile_Point start_;
+    Tile_Point pressed_;
+    Tile_Point start_; // of the next segment
+    Tile_Point end_;   // where the pointer was last
     // Where the pointer went since the last time that something was drawn.
     std::vector<Tile_Point> path_;
     Segment_Start next_ = Segment_Start::included;
     Segment_Outcome last_ = Segment_Outcome::nothing;
     std::vector<Color> before_;
+    Work_State before_work_;
 };
 
 void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {

@@ -10,7 +10,7 @@
 
 namespace quadrelle {
 
-enum class Stroke_Outcome { nothing_changed, tile_changed, color_picked };
+enum class Stroke_Outcome { nothing_changed, something_changed, color_picked };
 
 // Draws at the pointer and on, along its motions, which `pointer` follows, until a button is released or the
 // window is closed, which ends the stroke only. `redraw` draws and presents the window. The canvas must show

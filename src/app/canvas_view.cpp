@@ -26,7 +26,7 @@ int seam_shift_of(int extent) {
 }
 
 // Right or down, or back where negative; what leaves one edge enters at the other.
-void shift_pixels(Tile& tile, Seam seam, int shift) {
+void rotate_pixels(Tile& tile, Seam seam, int shift) {
     const auto pixels = tile.pixels();
     const auto rotate = [shift](auto first, auto end, int unit) {
         std::rotate(first, shift < 0 ? first - shift * unit : end - shift * unit, end);
@@ -62,6 +62,9 @@ void Canvas_View::set_tile(Tile* tile) {
     if (is_another) {
         save_history();
     }
+    if (tile_ != nullptr && work_area_.selection().size() != tile_->size()) {
+        work_area_.resize(tile_->size());
+    }
 }
 
 void Canvas_View::save_history() {
@@ -89,9 +92,9 @@ bool Canvas_View::toggle_seam_shift(Seam seam) {
         return true;
     }
     const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
-    shift_tile(seam, shift);
+    shift_pixels(seam, shift);
+    tile_->update_texture();
     seam_shift(seam) = shift;
-    seam_markers_.load();
     return true;
 }
 
@@ -104,14 +107,20 @@ void Canvas_View::undo_seam_shifts() {
 void Canvas_View::undo_seam_shift(Seam seam) {
     const int shift = std::exchange(seam_shift(seam), no_seam_shift);
     if (shift > 0) {
-        shift_tile(seam, -shift);
+        shift_pixels(seam, -shift);
+        tile_->update_texture();
     }
 }
 
-void Canvas_View::shift_tile(Seam seam, int shift) {
-    shift_pixels(*tile_, seam, shift);
-    shift_pixels(*history_, seam, shift);
-    tile_->update_texture();
+void Canvas_View::shift_pixels(Seam seam, int shift) {
+    rotate_pixels(*tile_, seam, shift);
+    rotate_pixels(*history_, seam, shift);
+    work_area_.mutable_selection().change([&](Tile& mask) { rotate_pixels(mask, seam, shift); });
+    if (work_area_.paste()) {
+        Tile_Point position = work_area_.paste()->position;
+        (seam == Seam::horizontal ? position.x : position.y) += shift;
+        work_area_.move_paste_to(position);
+    }
 }
 
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
@@ -121,11 +130,11 @@ void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
         work();
         return;
     }
-    shift_pixels(*tile_, Seam::horizontal, -horizontal);
-    shift_pixels(*tile_, Seam::vertical, -vertical);
+    shift_pixels(Seam::horizontal, -horizontal);
+    shift_pixels(Seam::vertical, -vertical);
     work();
-    shift_pixels(*tile_, Seam::horizontal, horizontal);
-    shift_pixels(*tile_, Seam::vertical, vertical);
+    shift_pixels(Seam::horizontal, horizontal);
+    shift_pixels(Seam::vertical, vertical);
     tile_->update_texture();
 }
 
@@ -175,13 +184,31 @@ Canvas_Picture Canvas_View::picture() const {
     picture.checker = {std::max(options->value(Option::alpha_grid_width), 1),
                        std::max(options->value(Option::alpha_grid_height), 1)};
     picture.surround = standard_color(Standard_Color::dark_frame);
-    if (horizontal_seam_shift_ != no_seam_shift) {
-        picture.column_marker = seam_markers_.along_column(pixel_size_);
+    const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);
+    if (horizontal_seam_shift_ != no_seam_shift && seam != nullptr) {
+        picture.column_marker = &seam->vertical;
     }
-    if (vertical_seam_shift_ != no_seam_shift) {
-        picture.row_marker = seam_markers_.along_row(pixel_size_);
+    if (vertical_seam_shift_ != no_seam_shift && seam != nullptr) {
+        picture.row_marker = &seam->horizontal;
     }
+    show_selection(picture);
     return picture;
+}
+
+void Canvas_View::show_selection(Canvas_Picture& picture) const {
+    const auto outline = [&](const Selection& selection, Edge_Family family) {
+        picture.outlines.push_back({&selection, edges_.of(family, pixel_size_)});
+    };
+    if (work_area_.has_selection()) {
+        picture.selection = &work_area_.selection();
+        outline(work_area_.selection(), Edge_Family::selection);
+    } else if (work_area_.paste() && toolbox->shows_floating_paste()) {
+        picture.paste = &*work_area_.paste();
+        outline(work_area_.paste_area(), Edge_Family::paste);
+    }
+    if (work_area_.candidate()) {
+        outline(*work_area_.candidate(), Edge_Family::candidate);
+    }
 }
 
 Tile_Point Canvas_View::tool_point(Point position) const {

@@ -6,9 +6,10 @@
 #include "app/brush_feedback.h"
 #include "app/canvas_painter.h"
 #include "app/command.h"
+#include "app/edge_pictures.h"
 #include "app/geometry.h"
 #include "app/input.h"
-#include "app/seam_markers.h"
+#include "selection/work_area.h"
 
 #include <functional>
 #include <memory>
@@ -43,6 +44,10 @@ public:
     // Borrowed; null shows an empty canvas. The tile before, if shifted, is still needed to be put right.
     void set_tile(Tile* tile);
     [[nodiscard]] Tile* tile() const { return tile_; }
+
+    // What is selected on the tile and floats over it. Stays when another tile of the same size comes.
+    [[nodiscard]] Work_Area& work_area() { return work_area_; }
+    [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
 
     // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
     // called.
@@ -86,6 +91,10 @@ public:
     // The nearest cell boundary.
     [[nodiscard]] int nearest_column(int x) const { return tile_column(x + pixel_size_ / 2); }
     [[nodiscard]] int nearest_row(int y) const { return tile_row(y + pixel_size_ / 2); }
+    // The corner of cells that is nearest.
+    [[nodiscard]] Tile_Point corner_point(Point position) const {
+        return {nearest_column(position.x), nearest_row(position.y)};
+    }
 
     // Where the brush shows, if its tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
@@ -94,11 +103,13 @@ public:
 
 private:
     void undo_seam_shift(Seam seam);
-    void shift_tile(Seam seam, int shift);
+    // The pixels of the tile and all that belongs to them; not what shows them.
+    void shift_pixels(Seam seam, int shift);
     [[nodiscard]] int& seam_shift(Seam seam) {
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
     }
     [[nodiscard]] Canvas_Picture picture() const;
+    void show_selection(Canvas_Picture& picture) const;
     [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover) const;
 
     Tile* tile_ = nullptr;
@@ -106,7 +117,8 @@ private:
     Point origin_{canvas_viewport.x, canvas_viewport.y};
     int horizontal_seam_shift_ = no_seam_shift;
     int vertical_seam_shift_ = no_seam_shift;
-    Seam_Markers seam_markers_;
+    mutable Edge_Pictures edges_;
+    Work_Area work_area_;
     std::unique_ptr<Tile> history_;
     std::optional<Hover> hover_;
     Canvas_Painter painter_;

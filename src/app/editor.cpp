@@ -134,6 +134,9 @@ void Editor::handle(const SDL_Event& event) {
 void Editor::handle_key(const SDL_KeyboardEvent& event) {
     const Key_Chord chord = key_chord_of(event);
     control_held_ = control_held_ || chord.modifier == Modifier::control;
+    if (nudge_paste(chord)) {
+        return;
+    }
     const Command command = find_command(chord);
     if (command != Command::none) {
         execute(command);
@@ -203,8 +206,11 @@ void Editor::draw_on_canvas() {
     std::optional<Undo_Entry> floor = missing_floor();
     const Stroke_Outcome outcome =
         apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
-    if (outcome == Stroke_Outcome::tile_changed) {
-        record(row_of(toolbox->current_tool()).command, std::move(floor));
+    if (outcome == Stroke_Outcome::something_changed) {
+        const Command kind = row_of(toolbox->current_tool()).command;
+        float_wand_area();
+        record(canvas_.work_area().paste() && kind == Command::wand_selector ? Command::paste : kind,
+               std::move(floor));
         documents_.mark_changed();
     }
     if (returns && outcome == Stroke_Outcome::color_picked) {

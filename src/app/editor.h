@@ -7,6 +7,7 @@
 #include "app/input.h"
 #include "app/menu_bar.h"
 #include "color/palette_area.h"
+#include "selection/copy_buffer.h"
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
 #include "tools/icon_bar.h"
@@ -84,6 +85,24 @@ private:
     Command redo(Command command);
     Command show_undo_history(Command command);
 
+    // Selection, copies and pastes.
+    Command change_selection(Command command);
+    Command copy(Command command);
+    Command cut(Command command);
+    Command paste(Command command);
+    Command clone(Command command);
+    Command plot(Command command);
+    void deselect();
+    void fill_selected(Color color);
+    void clear_selected();
+    [[nodiscard]] std::optional<Floating_Paste> copied();
+    void float_paste(const Floating_Paste& paste);
+    // True when that changed something.
+    bool plot_paste();
+    Command transform_work_area(Command command);
+    bool nudge_paste(Key_Chord chord);
+    void float_wand_area();
+
     // Adds the current tile to the history of the current document, and before it the state that an undo
     // gives back, where the history did not know it.
     void record(Command kind, std::optional<Undo_Entry> floor);
@@ -102,6 +121,7 @@ private:
     bool control_held_ = false;
     Size shown_tile_size_;
     Canvas_View canvas_;
+    Copy_Buffer copy_buffer_;
     Documents documents_;
     Palette_Area palette_;
     Selected_Color_Area selected_color_;

@@ -29,6 +29,17 @@ Tool_Option shape_type_option(Command command) {
     return is_circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
 }
 
+// Where the user may want nothing to be selected afterwards.
+bool leaves_selection(Command command) {
+    switch (command) {
+    case Command::next_tile:
+    case Command::previous_tile:
+    case Command::add_new_tile:
+    case Command::delete_tile: return true;
+    default: return false;
+    }
+}
+
 // Turned about the middle of the shifted tile, it could not be shifted back.
 bool turns_tile(Command command) {
     switch (command) {
@@ -55,6 +66,15 @@ Command Editor::dispatch(Command command) {
         {Command::pen,                 Command::line,                &Editor::select_tool},
         {Command::rectangle,           Command::circle,              &Editor::select_plain_shape},
         {Command::stamp_brush,         Command::smudge_brush,        &Editor::select_tool},
+        {Command::rectangle_selector,  Command::wand_selector,       &Editor::select_tool},
+        {Command::work_selection,      Command::work_selection,      &Editor::select_tool},
+        {Command::scroll,              Command::free_rotate,         &Editor::select_tool},
+        {Command::deselect,            Command::clear,               &Editor::change_selection},
+        {Command::copy,                Command::copy,                &Editor::copy},
+        {Command::cut,                 Command::cut,                 &Editor::cut},
+        {Command::paste,               Command::paste,               &Editor::paste},
+        {Command::clone,               Command::clone,               &Editor::clone},
+        {Command::plot_paste,          Command::plot_paste,          &Editor::plot},
         {Command::save_history_buffer, Command::save_history_buffer, &Editor::save_history},
         {Command::filled_rectangle,    Command::filled_circle,       &Editor::select_filled_shape},
         {Command::swap_tool_colors,    Command::swap_tool_colors,    &Editor::swap_tool_colors},
@@ -87,7 +107,12 @@ Command Editor::dispatch(Command command) {
         return (this->*handler->handle)(command);
     }
     Command result = Command::none;
-    const auto handle = [&] { result = documents_.current().handle_command(command); };
+    const auto handle = [&] {
+        result = transform_work_area(command);
+        if (result == Command::none) {
+            result = documents_.current().handle_command(command);
+        }
+    };
     if (turns_tile(command)) {
         canvas_.with_tile_in_place(handle);
     } else {
@@ -115,6 +140,9 @@ void Editor::follow_up(Command done) {
         return;
     }
     const Command_Category category = row_of(done).category;
+    if (leaves_selection(done) && options->value(Option::clear_selection) == 1) {
+        canvas_.work_area().deselect();
+    }
     if (category == Command_Category::structure || category == Command_Category::tile_switch) {
         take_current_tile();
     }
@@ -137,9 +165,15 @@ Command Editor::do_nothing(Command command) {
 }
 
 Command Editor::select_tool(Command command) {
-    if (tool_of(command) != toolbox->current_tool()) {
-        toolbox->select(command);
+    const Tool tool = tool_of(command);
+    if (tool == toolbox->current_tool()) {
+        return command;
     }
+    const bool stays = toolbox->selection_mode() == Selection_Mode::fixed;
+    if (tool != Tool::selection && canvas_.work_area().paste() && !stays) {
+        execute(Command::plot_paste);
+    }
+    toolbox->select(command);
     return command;
 }
 

@@ -14,7 +14,8 @@ namespace {
 
 // A tile from another one, or none, is where the next state comes from.
 bool is_edit(Command kind) {
-    return row_of(kind).category == Command_Category::pixels;
+    return row_of(kind).category == Command_Category::pixels ||
+           row_of(kind).category == Command_Category::selection;
 }
 
 } // namespace
@@ -27,8 +28,10 @@ void Editor::record(Command kind, std::optional<Undo_Entry> floor) {
     if (floor && is_edit(kind)) {
         document.history().add(std::move(*floor));
     }
-    canvas_.with_tile_in_place(
-        [&] { document.history().add(undo_entry_of(document.tileset(), kind, toolbox->current_tool())); });
+    canvas_.with_tile_in_place([&] {
+        document.history().add(
+            undo_entry_of(document.tileset(), kind, toolbox->current_tool(), canvas_.work_area().state()));
+    });
 }
 
 std::optional<Undo_Entry> Editor::missing_floor() {
@@ -37,7 +40,8 @@ std::optional<Undo_Entry> Editor::missing_floor() {
     std::optional<Undo_Entry> floor;
     if (document.tileset().has_tiles() && !document.history().stands_on(index)) {
         canvas_.with_tile_in_place([&] {
-            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool());
+            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool(),
+                                  canvas_.work_area().state());
         });
     }
     return floor;
@@ -60,7 +64,10 @@ bool Editor::restore(const Undo_Entry* entry) {
         tileset.select(entry->tile_index);
         take_current_tile();
     }
-    canvas_.with_tile_in_place([&] { entry->snapshot->tile.copy_to(*tileset.current_tile()); });
+    canvas_.with_tile_in_place([&] {
+        entry->snapshot->tile.copy_to(*tileset.current_tile());
+        canvas_.work_area().restore(entry->work);
+    });
     if (entry->tool != toolbox->current_tool()) {
         toolbox->select(row_of(entry->tool).command);
     }

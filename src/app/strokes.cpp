@@ -1,5 +1,6 @@
 #include "app/strokes.h"
 
+#include "app/selection_strokes.h"
 #include "tools/flood_fill.h"
 #include "tools/lightness_pace.h"
 #include "tools/line.h"
@@ -111,21 +112,27 @@ Segment_Outcome draw_figure(Drawing_Target& target, const Stroke_Segment& segmen
 
 // clang-format off
 constexpr std::array stroke_table = std::to_array<Stroke_Row>({
-    //                                      keeps start, draws while moving, keeps cursor
-    {Canvas_Action::line,                      true,  true,  false, draw_figure},
-    {Canvas_Action::rectangle_outline,         true,  true,  false, draw_figure},
-    {Canvas_Action::rectangle_filled,          true,  true,  false, draw_figure},
-    {Canvas_Action::rectangle_filled_outline,  true,  true,  false, draw_figure},
-    {Canvas_Action::ellipse_outline,           true,  true,  false, draw_figure},
-    {Canvas_Action::ellipse_filled,            true,  true,  false, draw_figure},
-    {Canvas_Action::ellipse_filled_outline,    true,  true,  false, draw_figure},
-    {Canvas_Action::stamp_brush,               false, true,  false, stamp},
-    {Canvas_Action::pen,                       false, true,  false, draw_pen},
-    {Canvas_Action::colorize_pen,              false, true,  false, colorize},
-    {Canvas_Action::lightness_pen,             false, true,  false, change_lightness, is_lightness_step_due},
-    {Canvas_Action::dropper,                   false, true,  true,  pick},
-    {Canvas_Action::flood_fill,                false, false, true,  fill},
-    {Canvas_Action::smudge_brush,              false, true,  false, smudge_along},
+    //                                      keeps start, draws while moving, keeps cursor, snaps to corners
+    {Canvas_Action::line,                      true,  true,  false, false, draw_figure},
+    {Canvas_Action::rectangle_outline,         true,  true,  false, false, draw_figure},
+    {Canvas_Action::rectangle_filled,          true,  true,  false, false, draw_figure},
+    {Canvas_Action::rectangle_filled_outline,  true,  true,  false, false, draw_figure},
+    {Canvas_Action::ellipse_outline,           true,  true,  false, false, draw_figure},
+    {Canvas_Action::ellipse_filled,            true,  true,  false, false, draw_figure},
+    {Canvas_Action::ellipse_filled_outline,    true,  true,  false, false, draw_figure},
+    {Canvas_Action::stamp_brush,               false, true,  false, false, stamp},
+    {Canvas_Action::pen,                       false, true,  false, false, draw_pen},
+    {Canvas_Action::colorize_pen,              false, true,  false, false, colorize},
+    {Canvas_Action::lightness_pen,             false, true,  false, false, change_lightness, nullptr, is_lightness_step_due},
+    {Canvas_Action::dropper,                   false, true,  true,  false, pick},
+    {Canvas_Action::flood_fill,                false, false, true,  false, fill},
+    {Canvas_Action::smudge_brush,              false, true,  false, false, smudge_along},
+    {Canvas_Action::rectangle_selector,        true,  true,  false, true,  mark_rectangle, finish_area},
+    {Canvas_Action::circle_selector,           true,  true,  false, false, mark_circle, finish_area},
+    {Canvas_Action::brush_selector,            false, true,  false, false, mark_with_brush, finish_marking},
+    {Canvas_Action::wand_selector,             false, false, true,  false, mark_with_wand, finish_marking},
+    {Canvas_Action::work_selection,            true,  true,  true,  false, move_paste, finish_moving},
+    {Canvas_Action::scroll,                    true,  true,  true,  false, scroll},
 });
 // clang-format on
 

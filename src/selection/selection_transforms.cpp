@@ -1,8 +1,9 @@
 #include "selection/selection_transforms.h"
 
+#include "selection/scroll.h"
+
 #include <algorithm>
 #include <array>
-#include <vector>
 
 namespace quadrelle {
 
@@ -69,32 +70,6 @@ void turn(Tile& tile, Selection& selection, Placement place) {
     selection.change([&turn](Tile& mask) { turn.apply(mask); });
 }
 
-void scroll(Tile& tile, const Selection& selection, Tile_Point step) {
-    const bool is_horizontal = step.x != 0;
-    const int lines = is_horizontal ? tile.height() : tile.width();
-    const int length = is_horizontal ? tile.width() : tile.height();
-    for (int line = 0; line < lines; ++line) {
-        std::vector<Tile_Point> places;
-        for (int i = 0; i < length; ++i) {
-            const Tile_Point pixel = is_horizontal ? Tile_Point{i, line} : Tile_Point{line, i};
-            if (selection.contains(pixel)) {
-                places.push_back(pixel);
-            }
-        }
-        std::vector<Color> colors;
-        for (const Tile_Point place : places) {
-            colors.push_back(tile.get_pixel(place.x, place.y));
-        }
-        if (!colors.empty()) {
-            const bool is_forward = step.x + step.y > 0;
-            std::rotate(colors.begin(), is_forward ? colors.end() - 1 : colors.begin() + 1, colors.end());
-        }
-        for (std::size_t i = 0; i < places.size(); ++i) {
-            tile.set_pixel(places[i].x, places[i].y, colors[i]);
-        }
-    }
-}
-
 void anti_alias(Tile& tile, const Selection& selection) {
     Tile softened(tile);
     softened.anti_alias();
@@ -142,7 +117,7 @@ Command transform_selected(Tile& tile, Selection& selection, Command command) {
         }
         turn(tile, selection, turn_row->place);
     } else if (scroll_row != scrolls.end()) {
-        scroll(tile, selection, scroll_row->step);
+        scroll_selected(tile, selection, scroll_row->step);
     } else if (command == Command::anti_alias) {
         anti_alias(tile, selection);
     } else {

@@ -7,14 +7,15 @@
 #include "selection/selection.h"
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 
 namespace quadrelle {
 
-// What a step of the history keeps of the work area.
+// What a step of the history keeps of the work area; null for nothing selected, and nothing floating.
 struct Work_State {
-    std::optional<Selection> selection;
-    std::optional<Floating_Paste> paste;
+    std::shared_ptr<const Selection> selection;
+    std::shared_ptr<const Floating_Paste> paste;
 
     [[nodiscard]] std::size_t memory_size() const;
 };
@@ -23,8 +24,8 @@ class Work_Area {
 public:
     Work_Area() : selection_(Selection(Size{})) {}
 
-    // Nothing is selected and nothing floats over a tile of that size.
-    void reset(Size tile);
+    // For a tile of that size. Nothing is selected; what floats stays.
+    void resize(Size tile);
 
     [[nodiscard]] const Selection& selection() const { return *selection_; }
     [[nodiscard]] bool has_selection() const { return !selection_->is_empty(); }
@@ -41,11 +42,16 @@ public:
 
     // Nothing is selected while something floats.
     void float_paste(const Floating_Paste& paste);
-    void move_paste_to(Tile_Point position) { paste_->position = position; }
+    void move_paste_to(Tile_Point position);
     void drop_paste() { paste_.reset(); }
+    // Where the paste lies in the tile; only while there is one.
+    [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. The
     // selection is not empty.
     void lift_selection(Tile& tile);
+
+    // Turns or mirrors the paste about its middle. The command when that was done, else none.
+    Command transform_paste(Command command);
 
     [[nodiscard]] Drawing_Target target(Tile& tile) const;
 
@@ -55,9 +61,12 @@ public:
     [[nodiscard]] bool operator==(const Work_State& state) const;
 
 private:
+    void update_paste_area();
+
     std::optional<Selection> selection_; // always there; replaced for another size
     std::optional<Selection> candidate_;
     std::optional<Floating_Paste> paste_;
+    std::optional<Selection> paste_area_;
 };
 
 } // namespace quadrelle

@@ -14,6 +14,10 @@ constexpr int thumbnail_edge = 24;
 constexpr int thumbnail_step = 26;
 constexpr int shown_entries = 7;
 
+const Tile& thumbnail(const Undo_Entry& entry) {
+    return entry.work.selection ? entry.work.selection->mask() : entry.snapshot->tile;
+}
+
 } // namespace
 
 History_Pane::History_Pane(Point position)
@@ -34,8 +38,8 @@ void History_Pane::draw_entries(const Undo_History& history) const {
     const int shown = std::min(count, shown_entries);
     Point cell{client_area().x, client_area().y};
     for (int i = count - shown; i < count; ++i) {
-        history.entries()[static_cast<std::size_t>(i)].snapshot->tile.draw(
-            {cell.x, cell.y, thumbnail_edge, thumbnail_edge});
+        thumbnail(history.entries()[static_cast<std::size_t>(i)])
+            .draw({cell.x, cell.y, thumbnail_edge, thumbnail_edge});
         if (i == history.position()) {
             screen->draw_sprite(Sprite::tile_indicator, cell);
         }

@@ -7,9 +7,9 @@
 
 namespace quadrelle {
 
-Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool) {
+Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool, Work_State work) {
     return {kind, std::make_unique<const Tile_Snapshot>(*tileset.current_tile()), tileset.current_index(),
-            tool};
+            tool, std::move(work)};
 }
 
 Undo_History::Undo_History(int capacity) : capacity_(capacity) {}

@@ -3,6 +3,7 @@
 // The last states of the tiles of a set, walked back and forth. Says what to restore; the caller restores it.
 
 #include "app/command.h"
+#include "selection/work_area.h"
 #include "tileset/tile_snapshot.h"
 #include "tools/tool_catalogue.h"
 
@@ -21,12 +22,15 @@ struct Undo_Entry {
     std::unique_ptr<const Tile_Snapshot> snapshot;
     int tile_index = 0;
     Tool tool = Tool::pen; // the current one when the entry was made
+    Work_State work;       // what was selected and what floated over the tile
 
-    [[nodiscard]] std::size_t memory_size() const { return 12 + snapshot->memory_size(); }
+    [[nodiscard]] std::size_t memory_size() const {
+        return 12 + snapshot->memory_size() + work.memory_size();
+    }
 };
 
 // The tileset must have a current tile.
-[[nodiscard]] Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool);
+[[nodiscard]] Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool, Work_State work = {});
 
 class Undo_History {
 public:

@@ -22,6 +22,9 @@ constexpr std::array lightness_rows = {Tool_Option::button_order, Tool_Option::l
 constexpr std::array colorize_rows = {Tool_Option::right_button_mode, Tool_Option::colorize_type};
 constexpr std::array dropper_rows = {Tool_Option::dropper_return};
 constexpr std::array fill_rows = {Tool_Option::fill_mode};
+constexpr std::array wand_rows = {Tool_Option::wand_mode};
+constexpr std::array scroll_rows = {Tool_Option::scroll_move};
+constexpr std::array selection_rows = {Tool_Option::selection_mode};
 constexpr std::array stamp_rows = {Tool_Option::stamp_mode};
 
 // What stands at the end of a tool's column, from the top.
@@ -32,7 +35,10 @@ std::span<const Tool_Option> last_rows(Tool tool) {
     case Tool::colorize_pen: return colorize_rows;
     case Tool::dropper: return dropper_rows;
     case Tool::flood_fill: return fill_rows;
+    case Tool::wand_selector: return wand_rows;
     case Tool::stamp_brush: return stamp_rows;
+    case Tool::scroll: return scroll_rows;
+    case Tool::selection: return selection_rows;
     default: return {};
     }
 }
@@ -41,7 +47,8 @@ std::span<const Tool_Option> last_rows(Tool tool) {
 
 Tool_Options::Tool_Options()
     : location_(row_area, "Location"), size_(row_area, "Size"), radius_(row_area, "Radius X, Y"),
-      length_(row_area, "Length"), dropper_color_({}, "Color", Color()) {
+      offset_(row_area, "Offset"), length_(row_area, "Length"), degrees_(row_area, "Degrees"),
+      dropper_color_({}, "Color", Color()) {
     std::ranges::transform(tool_option_table, panes_.begin(), make_pane);
 }
 
@@ -85,18 +92,28 @@ int Tool_Options::place_rest(Tool tool, Point position) {
     if (row_of(tool).shows_location) {
         position.y = place(location_, position);
     }
-    if (tool == Tool::dropper) {
-        position.y = place(dropper_color_, position);
+    if (Pane* const figures = figures_of(tool)) {
+        position.y = place(*figures, position);
     }
     for (const Tool_Option option : last_rows(tool)) {
         visible_options_.push_back(&pane(option));
         position.y = place(pane(option), position);
     }
+    return position.y;
+}
+
+// What the tool shows while it works.
+Pane* Tool_Options::figures_of(Tool tool) {
     switch (tool) {
-    case Tool::line: return place(length_, position);
-    case Tool::rectangle: return place(size_, position);
-    case Tool::ellipse: return place(radius_, position);
-    default: return position.y;
+    case Tool::dropper: return &dropper_color_;
+    case Tool::line: return &length_;
+    case Tool::rectangle:
+    case Tool::rectangle_selector: return &size_;
+    case Tool::ellipse:
+    case Tool::circle_selector: return &radius_;
+    case Tool::scroll: return &offset_;
+    case Tool::rotate: return &degrees_;
+    default: return nullptr;
     }
 }
 

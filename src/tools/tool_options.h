@@ -32,6 +32,9 @@ enum class Tool_Option : std::int32_t {
     speed,
     size_compensation,
     fill_mode,
+    selection_mode,
+    scroll_move,
+    wand_mode,
     count
 };
 
@@ -45,7 +48,7 @@ struct Tool_Option_Row {
     int initial;
 };
 
-constexpr std::size_t tool_option_count = 12;
+constexpr std::size_t tool_option_count = 15;
 
 // The labels of the dropper's tick and of the size compensation are deliberate.
 // clang-format off
@@ -62,6 +65,9 @@ constexpr std::array<Tool_Option_Row, tool_option_count> tool_option_table{{
     {Tool_Option::speed,             Tool_Option_Kind::choice, "Speed",             "Extremely slow,Very slow,Slow,Moderate,Fast,Very fast,Extremely fast$", 3},
     {Tool_Option::size_compensation, Tool_Option_Kind::tick,   "Speed",             "Size compensation", 0},
     {Tool_Option::fill_mode,         Tool_Option_Kind::choice, "Mode",              "Solid,Stamp$", 0},
+    {Tool_Option::selection_mode,    Tool_Option_Kind::choice, "Mode",              "Standard,Persistent,Fixed$", 0},
+    {Tool_Option::scroll_move,       Tool_Option_Kind::choice, "Move",              "Both,Pixels,Selection$", 0},
+    {Tool_Option::wand_mode,         Tool_Option_Kind::choice, "Mode",              "Normal,Quick copy,Quick cut$", 0},
 }};
 // clang-format on
 
@@ -88,16 +94,21 @@ public:
     void set_radius(Point radii) { radius_.set_values(radii); }
     void set_dropper_color(Color color) { dropper_color_.set_color(color); }
     void set_length(int length) { length_.set_value(length); }
+    void set_offset(Point offset) { offset_.set_values(offset); }
+    void set_degrees(int degrees) { degrees_.set_value(degrees); }
 
 private:
     [[nodiscard]] Dialog_Pane& pane(Tool_Option option) const;
+    [[nodiscard]] Pane* figures_of(Tool tool);
     int place(Pane& row, Point position);
 
     std::array<std::unique_ptr<Dialog_Pane>, tool_option_count> panes_;
     Location_Info location_;
     Location_Info size_;
     Location_Info radius_;
+    Location_Info offset_;
     Number_Info length_;
+    Number_Info degrees_;
     Tool_Color dropper_color_;
     std::vector<Dialog_Pane*> visible_options_;
     std::vector<Pane*> visible_;

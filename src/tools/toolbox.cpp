@@ -19,11 +19,6 @@ namespace {
 constexpr Size entry_size{202, 26};
 constexpr int color_panel_offset = 210;
 
-// The tools that can be chosen, from the top of the list.
-constexpr std::array listed_tools = {
-    Tool::pen,        Tool::lightness_pen, Tool::colorize_pen, Tool::smudge_brush, Tool::dropper,
-    Tool::flood_fill, Tool::line,          Tool::rectangle,    Tool::ellipse,      Tool::stamp_brush};
-
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
 
@@ -67,9 +62,7 @@ Rectangle Toolbox::entry_area(std::size_t index) const {
 
 // Below the chosen tool's entry, over the entries that come there.
 void Toolbox::lay_out() {
-    const auto chosen = std::ranges::find(listed_tools, current_tool_);
-    const auto index = static_cast<std::size_t>(chosen - listed_tools.begin());
-    rows_top_ = entry_area(index).bottom();
+    rows_top_ = entry_area(static_cast<std::size_t>(current_tool_)).bottom();
     Point next{position_.x, rows_top_ + element_gap};
     next.y = options_.place_first(current_tool_, next);
     if (row_of(current_tool_).uses_brush) {
@@ -116,6 +109,10 @@ bool Toolbox::uses_brush() const {
     return current_tool_ == Tool::stamp_brush || row_of(current_tool_).uses_brush;
 }
 
+bool Toolbox::shows_floating_paste() const {
+    return current_tool_ == Tool::selection || selection_mode() == Selection_Mode::fixed;
+}
+
 bool Toolbox::shows_brush_outline() const {
     const int choice = quadrelle::options->value(Option::precise_brush);
     return uses_brush() && choice != 0 && (choice != 2 || brush().size() != Size{1, 1});
@@ -160,10 +157,10 @@ Point Toolbox::pointer_offset(int pixel_size) const {
 }
 
 void Toolbox::draw() const {
-    for (std::size_t i = 0; i < listed_tools.size(); ++i) {
+    for (std::size_t i = 0; i < tool_table.size(); ++i) {
         const Rectangle entry = entry_area(i);
         if (command_at({entry.x, entry.y}) != Command::none) {
-            draw_entry(row_of(listed_tools.at(i)), entry, listed_tools.at(i) == current_tool_);
+            draw_entry(tool_table.at(i), entry, tool_table.at(i).id == current_tool_);
         }
     }
     if (row_of(current_tool_).uses_brush) {
@@ -176,11 +173,11 @@ void Toolbox::draw() const {
 }
 
 Command Toolbox::command_at(Point point) const {
-    for (std::size_t i = 0; i < listed_tools.size(); ++i) {
+    for (std::size_t i = 0; i < tool_table.size(); ++i) {
         const Rectangle entry = entry_area(i);
         const bool is_covered = entry.bottom() > rows_top_ && entry.y < rows_bottom_;
         if (!is_covered && entry.contains(point)) {
-            return row_of(listed_tools.at(i)).command;
+            return tool_table.at(i).command;
         }
     }
     return Command::none;

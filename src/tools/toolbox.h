@@ -16,6 +16,12 @@
 
 namespace quadrelle {
 
+// What becomes of a floating paste when it is plotted: it is gone, it floats on, or it stays in its place and
+// shows whatever tool is in use.
+enum class Selection_Mode : std::int32_t { standard, persistent, fixed };
+enum class Wand_Mode : std::int32_t { normal, quick_copy, quick_cut };
+enum class Scroll_Move : std::int32_t { both, pixels, selection };
+
 class Toolbox {
 public:
     // The top-left corner of the tool list.
@@ -30,6 +36,9 @@ public:
     // The rows of the tools' options and figures.
     [[nodiscard]] Tool_Options& options() { return options_; }
     [[nodiscard]] int value(Tool_Option option) const { return options_.value(option); }
+    [[nodiscard]] Selection_Mode selection_mode() const {
+        return static_cast<Selection_Mode>(value(Tool_Option::selection_mode));
+    }
     // Of the tool in use, for rectangles and ellipses.
     [[nodiscard]] Shape_Type shape_type() const;
     // What the lightness pen does at `now`, in milliseconds, while that button is held; none while it is too
@@ -41,6 +50,8 @@ public:
     [[nodiscard]] const Brush& brush() const { return brush_selector_.brush(); }
     // Also for the stamp brush, which has no brush rows.
     [[nodiscard]] bool uses_brush() const;
+    // Whether a paste that floats over the canvas is to be seen.
+    [[nodiscard]] bool shows_floating_paste() const;
     // What shows of the brush on the canvas, while that button is held or none is.
     [[nodiscard]] bool shows_brush_outline() const;
     [[nodiscard]] bool shows_brush_preview(Mouse_Button button = Mouse_Button::none) const;

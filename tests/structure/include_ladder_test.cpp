@@ -52,6 +52,7 @@ constexpr std::array places{
     Place{"app/streaming_texture",        Level::pixels},
     Place{"color/palette_store",          Level::pixels},
     Place{"tileset/",                     Level::pixels},
+    Place{"selection/",                   Level::pixels},
     Place{"tools/",                       Level::pixels},
 
     Place{"app/data_directory",           Level::screen},
@@ -61,7 +62,7 @@ constexpr std::array places{
     Place{"app/surface",                  Level::screen},
     Place{"app/texture",                  Level::screen},
     Place{"app/opaque_texture",           Level::screen},
-    Place{"app/seam_markers",             Level::screen},
+    Place{"app/edge_pictures",            Level::screen},
     Place{"tileset/sprite_sheet",         Level::screen},
 
     Place{"ui/",                          Level::widgets},
@@ -78,6 +79,7 @@ constexpr std::array places{
     Place{"tileset/history_pane",         Level::panes},
     Place{"tools/toolbox",                Level::panes},
     Place{"app/strokes",                  Level::panes},
+    Place{"app/selection_strokes",        Level::panes},
     Place{"views/",                       Level::panes},
 
     Place{"tileset/document",             Level::documents},

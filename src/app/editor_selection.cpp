@@ -1,0 +1,206 @@
+// What the editor does with the selection, the copies, and what floats over the tile.
+
+#include "app/editor.h"
+#include "app/options.h"
+#include "selection/selection_transforms.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+#include "ui/dialogs.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
+
+namespace quadrelle {
+
+Command Editor::change_selection(Command command) {
+    Work_Area& work = canvas_.work_area();
+    Tile* const tile = canvas_.tile();
+    if (tile == nullptr) {
+        return Command::skip_command;
+    }
+    const Work_State before = work.state();
+    const std::vector<Color> pixels(tile->pixels().begin(), tile->pixels().end());
+    switch (command) {
+    case Command::deselect: deselect(); break;
+    case Command::invert_selection:
+        plot_paste();
+        work.invert_selection();
+        break;
+    case Command::fill: fill_selected(tool_colors->color(Mouse_Button::left)); break;
+    case Command::clear: clear_selected(); break;
+    default: break;
+    }
+    tile->update_texture();
+    const bool is_same = work == before && std::ranges::equal(pixels, tile->pixels());
+    return is_same ? Command::skip_command : command;
+}
+
+// What floats is kept: it becomes a part of the tile.
+void Editor::deselect() {
+    plot_paste();
+    canvas_.work_area().drop_paste();
+    canvas_.work_area().deselect();
+}
+
+void Editor::fill_selected(Color color) {
+    Drawing_Target target = canvas_.work_area().target(*canvas_.tile());
+    for (int y = 0; y < target.size().height; ++y) {
+        for (int x = 0; x < target.size().width; ++x) {
+            target.plot({x, y}, color);
+        }
+    }
+}
+
+void Editor::clear_selected() {
+    if (canvas_.work_area().paste()) {
+        canvas_.work_area().drop_paste();
+    } else {
+        fill_selected(Color(0, 0, 0, 0));
+    }
+}
+
+// The floating paste, or what is selected, or else the whole tile.
+std::optional<Floating_Paste> Editor::copied() {
+    const Work_Area& work = canvas_.work_area();
+    if (canvas_.tile() == nullptr) {
+        return std::nullopt;
+    }
+    if (work.paste()) {
+        return *work.paste();
+    }
+    return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
+                                : Floating_Paste{*canvas_.tile(), {0, 0}};
+}
+
+Command Editor::copy(Command command) {
+    const std::optional<Floating_Paste> copy = copied();
+    if (!copy) {
+        return Command::none;
+    }
+    copy_buffer_.add(*copy);
+    return command;
+}
+
+Command Editor::cut(Command command) {
+    const Work_Area& work = canvas_.work_area();
+    if (!work.paste() && !work.has_selection()) {
+        dialogs->message("Note", "Nothing selected to cut.");
+        return Command::none;
+    }
+    if (copy(Command::copy) == Command::none) {
+        return Command::none;
+    }
+    clear_selected();
+    canvas_.tile()->update_texture();
+    return command;
+}
+
+namespace {
+
+// One that lies beside the tile, as copies from a larger one may, comes into its middle.
+Floating_Paste in_view(const Floating_Paste& paste, Size tile) {
+    const bool is_beside = paste.position.x >= tile.width || paste.position.y >= tile.height ||
+                           paste.position.x + paste.picture.width() <= 0 ||
+                           paste.position.y + paste.picture.height() <= 0;
+    return is_beside ? cloned(paste, Clone_Style::centred, tile) : paste;
+}
+
+} // namespace
+
+Command Editor::paste(Command command) {
+    const Floating_Paste* const copy = copy_buffer_.current();
+    if (copy == nullptr || canvas_.tile() == nullptr) {
+        return Command::none;
+    }
+    float_paste(in_view(*copy, canvas_.tile()->size()));
+    return command;
+}
+
+// A selection is copied first.
+Command Editor::clone(Command command) {
+    const Work_Area& work = canvas_.work_area();
+    if ((work.paste() || work.has_selection()) && copy(Command::copy) == Command::none) {
+        return Command::none;
+    }
+    const Floating_Paste* const copy = copy_buffer_.current();
+    if (copy == nullptr || canvas_.tile() == nullptr) {
+        return Command::none;
+    }
+    const auto style = static_cast<Clone_Style>(options->value(Option::clone_style));
+    float_paste(cloned(*copy, style, canvas_.tile()->size()));
+    return command;
+}
+
+// What floats already becomes a part of the tile.
+void Editor::float_paste(const Floating_Paste& paste) {
+    plot_paste();
+    canvas_.work_area().float_paste(paste);
+    select_tool(Command::work_selection);
+}
+
+bool Editor::plot_paste() {
+    Work_Area& work = canvas_.work_area();
+    Tile* const tile = canvas_.tile();
+    if (!work.paste() || tile == nullptr) {
+        return false;
+    }
+    const std::vector<Color> before(tile->pixels().begin(), tile->pixels().end());
+    Drawing_Target target(*tile);
+    work.paste()->plot(target);
+    tile->update_texture();
+    const bool drops = toolbox->selection_mode() == Selection_Mode::standard;
+    if (drops) {
+        work.drop_paste();
+    }
+    return drops || !std::ranges::equal(before, tile->pixels());
+}
+
+Command Editor::plot(Command command) {
+    return plot_paste() ? command : Command::skip_command;
+}
+
+Command Editor::transform_work_area(Command command) {
+    Work_Area& work = canvas_.work_area();
+    if (canvas_.tile() == nullptr) {
+        return Command::none;
+    }
+    if (work.paste() && toolbox->shows_floating_paste()) {
+        return work.transform_paste(command);
+    }
+    return work.has_selection() ? transform_selected(*canvas_.tile(), work.mutable_selection(), command)
+                                : Command::none;
+}
+
+bool Editor::nudge_paste(Key_Chord chord) {
+    Work_Area& work = canvas_.work_area();
+    if (chord.modifier != Modifier::shift || !work.paste() || !toolbox->shows_floating_paste()) {
+        return false;
+    }
+    Tile_Point position = work.paste()->position;
+    switch (chord.key) {
+    case key::left: --position.x; break;
+    case key::right: ++position.x; break;
+    case key::up: --position.y; break;
+    case key::down: ++position.y; break;
+    default: return false;
+    }
+    work.move_paste_to(position);
+    record(Command::work_selection, std::nullopt);
+    return true;
+}
+
+// The wand's quick modes float what it selected at once, as a copy or instead of the tile's own pixels.
+void Editor::float_wand_area() {
+    const auto mode = static_cast<Wand_Mode>(toolbox->value(Tool_Option::wand_mode));
+    if (toolbox->current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
+        !canvas_.work_area().has_selection()) {
+        return;
+    }
+    static_cast<void>(mode == Wand_Mode::quick_cut ? cut(Command::cut) : copy(Command::copy));
+    if (copy_buffer_.current() != nullptr) {
+        float_paste(*copy_buffer_.current());
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,35 @@
+#pragma once
+
+// The pictures that were copied or cut last. Knows no view.
+
+#include "selection/floating_paste.h"
+
+#include <cstddef>
+#include <deque>
+
+namespace quadrelle {
+
+class Copy_Buffer {
+public:
+    static constexpr std::size_t capacity = 16;
+
+    // Becomes the current one; beyond the capacity the oldest copy is forgotten.
+    void add(const Floating_Paste& copy);
+    // At the place from which it was copied; null while nothing was copied.
+    [[nodiscard]] const Floating_Paste* current() const;
+    // The newest one first.
+    [[nodiscard]] const std::deque<Floating_Paste>& copies() const { return copies_; }
+    [[nodiscard]] std::size_t current_index() const { return current_; }
+    // What has no such copy changes nothing.
+    void choose(std::size_t index);
+
+private:
+    std::deque<Floating_Paste> copies_;
+    std::size_t current_ = 0;
+};
+
+// Where a copy lies when it is cloned.
+enum class Clone_Style : int { original_location, centred, top_left, resized };
+[[nodiscard]] Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile);
+
+} // namespace quadrelle

@@ -1,0 +1,17 @@
+#pragma once
+
+// Moving pixels around: what leaves one edge enters at the other.
+
+#include "app/geometry.h"
+#include "selection/selection.h"
+#include "tileset/tile.h"
+
+namespace quadrelle {
+
+// By any number of pixels, to the right and down where positive. Both leave the texture.
+void scroll_wrapped(Tile& tile, Tile_Point offset);
+// Only the selected pixels of each row, and then of each column, around among themselves. The selection has
+// the tile's size.
+void scroll_selected(Tile& tile, const Selection& selection, Tile_Point offset);
+
+} // namespace quadrelle
