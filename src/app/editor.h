@@ -83,6 +83,10 @@ private:
     Command undo(Command command);
     Command redo(Command command);
     Command show_undo_history(Command command);
+    Command show_versions(Command command);
+
+    // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
+    Command float_paste(const Tile& picture);
 
     // Adds the current tile to the history of the current document, and before it the state that an undo
     // gives back, where the history did not know it.
