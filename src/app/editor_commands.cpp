@@ -90,6 +90,7 @@ Command Editor::dispatch(Command command) {
         {Command::quit,                Command::quit,                &Editor::quit},
         {Command::center_tile_on_view, Command::center_tile_on_view, &Editor::centre},
         {Command::zoom_tile_up,        Command::zoom_tile_down,      &Editor::zoom},
+        {Command::versions,            Command::versions,            &Editor::show_versions},
         {Command::options,             Command::options,             &Editor::edit_options},
         {Command::context_info,        Command::context_info,        &Editor::show_help},
         {Command::about,               Command::about,               &Editor::show_about},

@@ -7,7 +7,7 @@
 namespace quadrelle {
 
 Tileset_Document::Tileset_Document(std::string file_name, Tileset tileset)
-    : file_name_(std::move(file_name)), tileset_(std::move(tileset)) {}
+    : file_name_(std::move(file_name)), tileset_(std::move(tileset)), versions_(tileset_.tile_size()) {}
 
 void Tileset_Document::set_file(const std::string& path) {
     file_name_ = path;

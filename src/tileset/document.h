@@ -1,8 +1,10 @@
 #pragma once
 
-// One open tileset: its tiles, their history, the file they belong to, and whether they are saved.
+// One open tileset: its tiles, their history and versions, the file they belong to, and whether they are
+// saved.
 
 #include "app/command.h"
+#include "tileset/tile_versions.h"
 #include "tileset/tileset.h"
 #include "tileset/undo_history.h"
 
@@ -19,6 +21,7 @@ public:
     [[nodiscard]] const Tileset& tileset() const { return tileset_; }
     [[nodiscard]] Undo_History& history() { return history_; }
     [[nodiscard]] const Undo_History& history() const { return history_; }
+    [[nodiscard]] Tile_Versions& versions() { return versions_; }
     [[nodiscard]] const std::string& file_name() const { return file_name_; }
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
@@ -44,6 +47,7 @@ private:
     std::string file_name_;
     Tileset tileset_;
     Undo_History history_;
+    Tile_Versions versions_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

@@ -21,6 +21,9 @@ choose_from_file_menu() {
 # Fails unless the question has the size of the one that warns, or of the one that does not.
 quit_after_question() {
     local size
+    # No brush that gives way to the question.
+    move 700 20
+    settle
     picture "$work/before.png"
     ask_to_quit
     take_picture "quit_$1"

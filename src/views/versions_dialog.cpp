@@ -1,0 +1,166 @@
+#include "views/versions_dialog.h"
+
+#include "app/canvas_painter.h"
+#include "app/events.h"
+#include "app/screen.h"
+#include "app/streaming_texture.h"
+#include "color/standard_colors.h"
+#include "ui/button_dialog_item.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialogs.h"
+#include "views/versions_layout.h"
+
+#include <cstddef>
+#include <string>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Size checker{6, 6};
+
+// Textures do not repeat, so it is as large as the largest area that it is to lie under.
+Tile make_checkerboard(const Rectangle& area) {
+    Tile board(area.width, area.height);
+    for (int y = 0; y < board.height(); ++y) {
+        for (int x = 0; x < board.width(); ++x) {
+            board.set_pixel(x, y, checker_color({x, y}, checker));
+        }
+    }
+    return board;
+}
+
+// Lies around the view, in the gap, and is parted from it, so that it shows whatever the picture's colours.
+void draw_mark(const Rectangle& view) {
+    screen->draw_outline(view.inset(-1), standard_color(Standard_Color::black));
+    screen->draw_outline(view.inset(-2), standard_color(Standard_Color::highlight));
+    screen->draw_outline(view.inset(-3), standard_color(Standard_Color::highlight));
+}
+
+void draw_label(int slot, const Rectangle& area) {
+    const std::string text = std::to_string(slot + 1);
+    const int x = area.x + (area.width - screen->text_width(Font::pane, text)) / 2;
+    screen->draw_text(Font::pane, {x, area.y}, text);
+}
+
+class Versions_Dialog {
+public:
+    Versions_Dialog(Tile_Versions& versions, const Tile& current);
+
+    std::optional<int> run();
+
+private:
+    void draw() const;
+    void draw_view(const Tile& tile, const Rectangle& area) const;
+    void draw_slot(int slot) const;
+    [[nodiscard]] Loop_Step handle(const SDL_Event& event);
+    [[nodiscard]] Loop_Step handle_key(Keycode pressed);
+    [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
+    void preview(int slot);
+
+    Tile_Versions& versions_;
+    const Tile& current_;
+    Versions_Layout layout_;
+    Dialog_Frame frame_{"Versions"};
+    Tile checkerboard_;
+    Button_Dialog_Item store_button_{{}, Button_Type::set};
+    Button_Dialog_Item take_button_{{}, Button_Type::copy};
+    std::optional<int> selected_;
+    bool is_previewing_ = false;
+    bool takes_ = false;
+};
+
+Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
+    : versions_(versions), current_(current), layout_(versions_layout(current.size(), screen->size())),
+      checkerboard_(make_checkerboard(layout_.big_view)) {
+    frame_.set_size({layout_.dialog.width, layout_.dialog.height - dialog_title_height});
+    store_button_.area = layout_.store_button;
+    take_button_.area = layout_.take_button;
+}
+
+std::optional<int> Versions_Dialog::run() {
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"dialog \"Versions\"", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    return takes_ ? selected_ : std::nullopt;
+}
+
+void Versions_Dialog::draw() const {
+    frame_.draw();
+    const bool shows_slot = is_previewing_ && selected_;
+    draw_view(shows_slot ? versions_.tile(*selected_) : current_, layout_.big_view);
+    if (shows_slot) {
+        draw_mark(layout_.big_view);
+    }
+    for (int slot = 0; slot < Tile_Versions::slot_count; ++slot) {
+        draw_slot(slot);
+    }
+    store_button_.draw();
+    take_button_.draw();
+}
+
+void Versions_Dialog::draw_view(const Tile& tile, const Rectangle& area) const {
+    checkerboard_.texture().draw_part({0, 0, area.width, area.height}, area);
+    tile.draw(area);
+    screen->draw_outline(area.inset(-1), standard_color(Standard_Color::frame));
+}
+
+// A cross tells an empty slot from a black tile that was stored.
+void Versions_Dialog::draw_slot(int slot) const {
+    const Rectangle& area = layout_.slots.at(static_cast<std::size_t>(slot));
+    draw_view(versions_.tile(slot), area);
+    if (!versions_.is_stored(slot)) {
+        const Color color = standard_color(Standard_Color::frame);
+        screen->draw_line({area.x, area.y}, {area.right() - 1, area.bottom() - 1}, color);
+        screen->draw_line({area.x, area.bottom() - 1}, {area.right() - 1, area.y}, color);
+    }
+    if (selected_ == slot) {
+        draw_mark(area);
+    }
+    draw_label(slot, layout_.labels.at(static_cast<std::size_t>(slot)));
+}
+
+Loop_Step Versions_Dialog::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
+    case SDL_EVENT_KEY_UP:
+    case SDL_EVENT_MOUSE_BUTTON_UP: is_previewing_ = false; return Loop_Step::go_on;
+    default: return Loop_Step::go_on;
+    }
+}
+
+Loop_Step Versions_Dialog::handle_key(Keycode pressed) {
+    if (pressed >= '1' && pressed < '1' + Tile_Versions::slot_count) {
+        preview(static_cast<int>(pressed - '1'));
+    }
+    return pressed == key::escape ? Loop_Step::end : Loop_Step::go_on;
+}
+
+Loop_Step Versions_Dialog::press(const Pointer_State& pointer) {
+    const Point point = pointer.point();
+    if (pointer.button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    if (const std::optional<int> slot = layout_.slot_at(point)) {
+        preview(*slot);
+    } else if (selected_ && store_button_.area.contains(point)) {
+        versions_.store(*selected_, current_);
+    }
+    takes_ = take_button_.area.contains(point);
+    return takes_ || !layout_.dialog.contains(point) ? Loop_Step::end : Loop_Step::go_on;
+}
+
+void Versions_Dialog::preview(int slot) {
+    selected_ = slot;
+    is_previewing_ = true;
+}
+
+} // namespace
+
+std::optional<int> show_versions(Tile_Versions& versions, const Tile& current) {
+    return Versions_Dialog(versions, current).run();
+}
+
+} // namespace quadrelle

@@ -1,0 +1,14 @@
+#pragma once
+
+// The versions of a document's tiles beside the current tile, to be looked at, stored and taken back.
+
+#include "tileset/tile_versions.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+// Waits until it is dismissed. The slot that the user wants back, or nothing. The tile must have pixels.
+[[nodiscard]] std::optional<int> show_versions(Tile_Versions& versions, const Tile& current);
+
+} // namespace quadrelle

@@ -1,0 +1,92 @@
+#include "views/versions_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Size window{1232, 664};
+// The selected view is marked around its edges.
+constexpr int mark_width = 3;
+
+bool is_within(const Rectangle& inner, const Rectangle& outer) {
+    return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right() &&
+           inner.bottom() <= outer.bottom();
+}
+
+bool overlap(const Rectangle& a, const Rectangle& b) {
+    return a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
+}
+
+std::vector<Rectangle> parts_of(const Versions_Layout& layout) {
+    std::vector<Rectangle> parts{layout.big_view.inset(-mark_width), layout.store_button, layout.take_button};
+    for (const Rectangle& slot : layout.slots) {
+        parts.push_back(slot.inset(-mark_width));
+    }
+    parts.insert(parts.end(), layout.labels.begin(), layout.labels.end());
+    return parts;
+}
+
+void expect_apart(const std::vector<Rectangle>& parts, const Rectangle& below_title) {
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        EXPECT_TRUE(is_within(parts[i], below_title)) << "part " << i;
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_FALSE(overlap(parts[i], parts[j])) << "parts " << i << ", " << j;
+        }
+    }
+}
+
+TEST(Versions_Layout_Test, keeps_all_parts_apart_inside_of_the_window) {
+    for (const Size tile : std::vector<Size>{
+             {1, 1}, {1, 255}, {255, 1}, {6, 6}, {24, 24}, {24, 64}, {64, 32}, {64, 64}, {150, 255}}) {
+        for (int grown = 0; tile.width + grown <= 255 && tile.height + grown <= 255; ++grown) {
+            const Size size{tile.width + grown, tile.height + grown};
+            SCOPED_TRACE(std::to_string(size.width) + " x " + std::to_string(size.height));
+            const Versions_Layout layout = versions_layout(size, window);
+            Rectangle below_title = layout.dialog;
+            below_title.y += 24;
+            below_title.height -= 24;
+            EXPECT_TRUE(is_within(layout.dialog, {0, 0, window.width, window.height}));
+            expect_apart(parts_of(layout), below_title);
+        }
+    }
+}
+
+TEST(Versions_Layout_Test, magnifies_three_times_and_twice_where_there_is_room) {
+    const Versions_Layout layout = versions_layout({64, 32}, window);
+    // Around the contents lie a margin of 7 and the title of 24.
+    EXPECT_EQ(layout.dialog.width, 11 * 64 + 32 + 14);
+    EXPECT_EQ(layout.dialog.height, 3 * 32 + 32 + 14 + 24);
+    EXPECT_EQ(layout.big_view.width, 192);
+    EXPECT_EQ(layout.big_view.height, 96);
+    EXPECT_EQ(layout.slots[0].x, layout.big_view.right() + 8);
+    for (std::size_t i = 1; i < layout.slots.size(); ++i) {
+        EXPECT_EQ(layout.slots[i],
+                  (Rectangle{layout.slots[i - 1].x + (64 + 4) * 2, layout.slots[0].y, 128, 64}));
+    }
+    EXPECT_EQ(versions_layout({6, 24}, window).dialog.width, 211 + 14);
+
+    const Versions_Layout largest = versions_layout({255, 255}, window);
+    EXPECT_EQ(largest.big_view.width, 510);
+    EXPECT_EQ(largest.slots[3].width, 127);
+    EXPECT_EQ(largest.slots[3].height, 127);
+}
+
+TEST(Versions_Layout_Test, finds_the_slot_of_a_view_or_its_label) {
+    const Versions_Layout layout = versions_layout({24, 24}, window);
+    for (int i = 0; i < 4; ++i) {
+        const Rectangle& slot = layout.slots.at(static_cast<std::size_t>(i));
+        const Rectangle& label = layout.labels.at(static_cast<std::size_t>(i));
+        EXPECT_EQ(layout.slot_at({slot.x, slot.y}), i);
+        EXPECT_EQ(layout.slot_at({slot.right() - 1, slot.bottom() - 1}), i);
+        EXPECT_EQ(layout.slot_at({slot.right(), slot.y}), std::nullopt);
+        EXPECT_EQ(layout.slot_at({label.x + label.width / 2, label.y + 5}), i);
+    }
+    EXPECT_EQ(layout.slot_at({layout.big_view.x, layout.big_view.y}), std::nullopt);
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,221 @@
+#include "app/screen.h"
+#include "tests/whole/program_test.h"
+#include "tools/toolbox.h"
+#include "views/versions_layout.h"
+
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Tile_Picture = std::vector<Color>;
+
+constexpr Color white(255, 255, 255);
+constexpr Color black(0, 0, 0);
+
+Point middle_of(const Rectangle& area) {
+    return {area.x + area.width / 2, area.y + area.height / 2};
+}
+
+// Pixel (4, 4) of the tile is painted in some tests and tells the pictures apart.
+class Versions_Test : public Program_Test {
+protected:
+    static constexpr Tile_Point probe{4, 4};
+
+    void SetUp() override {
+        Program_Test::SetUp();
+        layout_ = versions_layout({24, 24}, screen->size());
+    }
+
+    [[nodiscard]] const Versions_Layout& layout() const { return layout_; }
+    [[nodiscard]] Point slot(std::size_t i) const { return middle_of(layout_.slots.at(i)); }
+    [[nodiscard]] Point store_button() const { return middle_of(layout_.store_button); }
+    [[nodiscard]] Point take_button() const { return middle_of(layout_.take_button); }
+    // What the window shows of the probe.
+    [[nodiscard]] Color in_big_view() const {
+        return pixel_at({layout_.big_view.x + 3 * probe.x + 1, layout_.big_view.y + 3 * probe.y + 1});
+    }
+    [[nodiscard]] Color in_slot(std::size_t i) const {
+        const Rectangle& area = layout_.slots.at(i);
+        return pixel_at({area.x + 2 * probe.x, area.y + 2 * probe.y + 1});
+    }
+
+    static Tile& tile() { return *document().tileset().current_tile(); }
+    static Tile_Picture picture() { return {tile().pixels().begin(), tile().pixels().end()}; }
+    static std::size_t steps() { return document().history().entries().size(); }
+    void paint(Point position) {
+        script().click(position);
+        play();
+    }
+    void paint_probe() { paint(cell(probe.x, probe.y)); }
+    Script& in_dialog() { return expect_loop("dialog \"Versions\""); }
+    Script& in_main() { return expect_loop("main").motion({1220, 650}); }
+    void store_in(Keycode digit) {
+        script().key('v').key(digit).key_up(digit).click(store_button()).key(key::escape);
+        play();
+    }
+    void take_from(Keycode digit) {
+        script().key('v').key(digit).key_up(digit).click(take_button());
+        play();
+    }
+
+private:
+    Versions_Layout layout_;
+};
+
+TEST_F(Versions_Test, previews_a_slot_while_its_key_or_a_button_on_it_is_held) {
+    paint_probe();
+    script().key('v').check([&] { EXPECT_EQ(in_big_view(), white); });
+    script().key('3').check([&] { EXPECT_EQ(in_big_view(), black); });
+    script().key_up('3').check([&] { EXPECT_EQ(in_big_view(), white); });
+    script().press(slot(3)).check([&] { EXPECT_EQ(in_big_view(), black); });
+    script().motion({0, 0}).check([&] { EXPECT_EQ(in_big_view(), black); });
+    script().release({0, 0}, Mouse_Button::right).check([&] { EXPECT_EQ(in_big_view(), white); });
+    // Other keys select nothing, show nothing and leave the dialog open.
+    script().key('5').key('0').key(key::enter).check([&] { EXPECT_EQ(in_big_view(), white); });
+    in_dialog().key(key::escape);
+    in_main();
+    play();
+}
+
+TEST_F(Versions_Test, marks_the_selected_slot) {
+    const auto is_marked = [&](std::size_t i) {
+        const Rectangle& area = layout().slots.at(i);
+        return pixel_at({area.x - 2, area.y - 2}) == Color(0, 222, 255);
+    };
+    script().key('v').check([&] { EXPECT_FALSE(is_marked(0) || is_marked(1)); });
+    script().key('2').key_up('2').check([&] { EXPECT_TRUE(is_marked(1)); });
+    script().click(slot(0)).check([&] { EXPECT_TRUE(is_marked(0) && !is_marked(1)); });
+    script().key(key::escape);
+    play();
+}
+
+TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
+    paint_probe();
+    const Tile_Picture kept = picture();
+    document().clear_modified();
+    // Without a selected slot there is nowhere to store.
+    script().key('v').click(store_button());
+    script().check([&] { EXPECT_FALSE(document().versions().is_stored(0)); });
+    script().key('2').key_up('2').click(store_button());
+    script().check([&] { EXPECT_EQ(in_slot(1), white); }).check([&] { EXPECT_EQ(in_slot(0), black); });
+    in_dialog().key(key::escape);
+    in_main();
+    play();
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(steps(), 2U);
+    EXPECT_EQ(picture(), kept);
+
+    paint(cell(9, 9));
+    paint(cell(4, 5));
+    const Tile_Picture later = picture();
+    document().clear_modified();
+    script().key('v').press(slot(1));
+    script().check([&] { EXPECT_EQ(in_big_view(), white); });
+    script().release(slot(1)).press(take_button());
+    in_main();
+    play();
+    EXPECT_EQ(picture(), kept);
+    EXPECT_EQ(pixel_at(cell(9, 9)), black);
+    EXPECT_TRUE(document().is_modified());
+    EXPECT_EQ(steps(), 5U);
+    EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
+    script().key('z', Modifier::control);
+    play();
+    EXPECT_EQ(picture(), later);
+
+    store_in('2');
+    EXPECT_EQ(document().versions().tile(1).get_pixel(9, 9), white);
+}
+
+TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
+    paint_probe();
+    document().clear_modified();
+    const Tile_Picture before = picture();
+    const auto leave = [&](auto how) {
+        script().key('v').key('1').key_up('1');
+        in_dialog();
+        how();
+        in_main();
+        play();
+        EXPECT_EQ(picture(), before);
+    };
+    leave([&] { script().key(key::escape); });
+    leave([&] { script().quit(); });
+    leave([&] { script().press({layout().dialog.x - 1, layout().dialog.y + 40}); });
+    leave([&] { script().press({layout().dialog.right(), layout().dialog.y + 40}, Mouse_Button::right); });
+    // On the title and between the parts nothing happens; a middle button never acts.
+    leave([&] {
+        script().click({layout().dialog.x + 100, layout().dialog.y + 5}).press_number(take_button(), 2);
+        script().press_number({0, 0}, 2).click(middle_of(layout().big_view));
+        in_dialog().key(key::escape);
+    });
+    script().key('v').press(take_button());
+    in_main();
+    play();
+    EXPECT_EQ(picture(), before);
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(steps(), 2U);
+}
+
+TEST_F(Versions_Test, records_no_step_for_a_version_that_is_the_tile_itself) {
+    paint_probe();
+    store_in('4');
+    document().clear_modified();
+    take_from('4');
+    EXPECT_EQ(steps(), 2U);
+    EXPECT_FALSE(document().is_modified());
+}
+
+TEST_F(Versions_Test, belong_to_the_document_and_not_to_one_of_its_tiles) {
+    paint_probe();
+    store_in('1');
+    execute(Command::add_new_tile);
+    take_from('1');
+    EXPECT_EQ(tile_pixel(probe.x, probe.y), white);
+    EXPECT_EQ(document().tileset().current_index(), 1);
+
+    ASSERT_TRUE(editor->documents().new_document({24, 24}));
+    EXPECT_FALSE(document().versions().is_stored(0));
+    script().key('v').check([&] { EXPECT_EQ(in_slot(0), black); }).key(key::escape);
+    play();
+    document().clear_modified();
+    execute(Command::close);
+    EXPECT_TRUE(document().versions().is_stored(0));
+}
+
+TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
+    paint_probe();
+    tile().set_pixel(20, 20, {9, 8, 7, 6});
+    const Tile_Picture kept = picture();
+    store_in('1');
+    editor->documents().resize_current({12, 40});
+    const Tile copy = document().versions().copy(0, {12, 40});
+    EXPECT_EQ(copy.size(), (Size{12, 40}));
+    EXPECT_EQ(copy.get_pixel(2, 7), document().tileset().current_pixel(2, 7));
+    tile().fill({200, 0, 0});
+    script().key('v').key('1').key_up('1');
+    script().press(middle_of(versions_layout({12, 40}, screen->size()).take_button));
+    play();
+    EXPECT_EQ(picture(), Tile_Picture(copy.pixels().begin(), copy.pixels().end()));
+    editor->documents().resize_current({24, 24});
+    take_from('1');
+    EXPECT_EQ(picture(), kept);
+}
+
+TEST_F(Versions_Test, shows_what_is_transparent_over_a_checkerboard) {
+    tile().fill({0, 0, 0, 0});
+    tile().update_texture();
+    store_in('1');
+    script().key('v').check([&] {
+        EXPECT_TRUE(has_picture(layout().big_view));
+        EXPECT_TRUE(has_picture(layout().slots[0]));
+        const Color shown = in_slot(0);
+        EXPECT_TRUE(shown == Color(101, 101, 101) || shown == Color(169, 169, 169));
+    });
+    script().key(key::escape);
+    play();
+}
+
+} // namespace
+} // namespace quadrelle::testing
