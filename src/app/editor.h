@@ -87,7 +87,6 @@ private:
     Command show_versions(Command command);
 
     // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
-    Command float_paste(const Tile& picture);
 
     // Selection, copies and pastes.
     Command change_selection(Command command);

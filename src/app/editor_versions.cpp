@@ -3,8 +3,6 @@
 #include "app/editor.h"
 #include "views/versions_dialog.h"
 
-#include <algorithm>
-
 namespace quadrelle {
 
 // Without pixels there is nothing to keep.
@@ -15,16 +13,12 @@ Command Editor::show_versions(Command command) {
         return Command::skip_command;
     }
     const std::optional<int> slot = quadrelle::show_versions(document.versions(), *tile);
-    return slot ? float_paste(document.versions().copy(*slot, tile->size())) : command;
-}
-
-Command Editor::float_paste(const Tile& picture) {
-    Tile& tile = *documents_.current().tileset().current_tile();
-    if (std::ranges::equal(picture.pixels(), tile.pixels())) {
-        return Command::skip_command;
+    if (!slot) {
+        return command;
     }
-    picture.copy_to(tile);
-    return Command::plot_paste;
+    // From there on it is a paste like others.
+    float_paste({document.versions().copy(*slot, tile->size()), {0, 0}});
+    return Command::paste;
 }
 
 } // namespace quadrelle

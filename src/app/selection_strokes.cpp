@@ -1,9 +1,12 @@
 #include "app/selection_strokes.h"
 
+#include "selection/rotation.h"
 #include "selection/scroll.h"
 #include "tools/flood_fill.h"
 #include "tools/shapes.h"
 #include "tools/toolbox.h"
+
+#include <SDL3/SDL_keyboard.h>
 
 #include <cstdlib>
 
@@ -18,6 +21,8 @@ Selection_Change change_by(Mouse_Button button) {
 bool is_in_picture(const Floating_Paste& paste, Tile_Point pixel) {
     return !paste.picture.is_outside(pixel.x - paste.position.x, pixel.y - paste.position.y);
 }
+
+constexpr int shift_step = 15; // degrees
 
 // Brushes paint the mask in its own colour.
 constexpr Ink selecting_ink{Pixel_Operation::paint, Selection::selected_color, {}, {}, nullptr};
@@ -112,6 +117,27 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     } else if (is_click && !work.selection().contains(segment.from)) {
         work.deselect();
     }
+}
+
+Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
+    Work_Area& work = *segment.work;
+    if (segment.from != segment.to && !work.paste() && work.has_selection()) {
+        work.lift_selection(target.tile());
+    }
+    const Size size = work.paste() ? work.paste()->picture.size() : target.size();
+    const Tile_Point corner = work.paste() ? work.paste()->position : Tile_Point{};
+    int degrees =
+        turn_between(segment.from, segment.to, {2 * corner.x + size.width, 2 * corner.y + size.height});
+    if ((SDL_GetModState() & SDL_KMOD_SHIFT) != 0) {
+        degrees = (degrees + shift_step / 2) / shift_step * shift_step % 360;
+    }
+    if (work.paste()) {
+        work.float_paste(turned(*work.paste(), degrees));
+    } else {
+        turned(target.tile(), degrees, size).copy_to(target.tile());
+    }
+    toolbox->options().set_degrees(degrees);
+    return Segment_Outcome::drawn;
 }
 
 Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment) {

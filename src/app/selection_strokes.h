@@ -20,6 +20,10 @@ void finish_marking(Drawing_Target& target, const Stroke_Segment& segment);
 Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment);
 
+// Turns what floats, or lifts the selected pixels and turns them, or else turns the whole tile. In steps of
+// 15 degrees while Shift is held.
+Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment);
+
 Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment);
 
 } // namespace quadrelle

@@ -110,7 +110,8 @@ bool Toolbox::uses_brush() const {
 }
 
 bool Toolbox::shows_floating_paste() const {
-    return current_tool_ == Tool::selection || selection_mode() == Selection_Mode::fixed;
+    return current_tool_ == Tool::selection || current_tool_ == Tool::rotate ||
+           selection_mode() == Selection_Mode::fixed;
 }
 
 bool Toolbox::shows_brush_outline() const {
