@@ -9,6 +9,8 @@
 #include "color/palette_area.h"
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
+#include "tileset/tile_navigation_pane.h"
+#include "tileset/tile_strip_picture.h"
 #include "tools/icon_bar.h"
 
 #include <SDL3/SDL_events.h>
@@ -49,6 +51,7 @@ private:
     void handle_press(const SDL_MouseButtonEvent& event);
     void route_click();
     [[nodiscard]] bool click_pane();
+    [[nodiscard]] bool click_strip();
     void draw_on_canvas();
     void show_what_is_under_the_pointer();
     void show_pointer();
@@ -110,6 +113,8 @@ private:
     Palette_Area palette_;
     Selected_Color_Area selected_color_;
     History_Pane history_pane_;
+    Tile_Navigation_Pane navigation_;
+    Tile_Strip_Picture strip_picture_;
     std::unique_ptr<Menu_Bar> menu_bar_;
     Icon_Bar icon_bar_;
 };

@@ -118,6 +118,7 @@ void Editor::follow_up(Command done) {
     const Command_Category category = row_of(done).category;
     if (category == Command_Category::structure || category == Command_Category::tile_switch) {
         take_current_tile();
+        documents_.current().strip().show_current();
     }
     if (category == Command_Category::structure) {
         documents_.mark_changed();
