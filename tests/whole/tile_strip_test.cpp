@@ -218,6 +218,23 @@ TEST_F(Tile_Strip_Test, click_selects_a_tile_as_a_step_of_the_history) {
     EXPECT_EQ(strip().first(), 0);
 }
 
+TEST_F(Tile_Strip_Test, click_takes_the_tile_back_from_the_seam_tools_first) {
+    execute(Command::add_new_tile);
+    execute(Command::previous_tile);
+    document().tileset().current_tile()->set_pixel(3, 4, color_of(1));
+    for (const Command command : {Command::horizontal_seam_tool, Command::vertical_seam_tool}) {
+        execute(command);
+        EXPECT_EQ(tile_pixel(3, 4), Color(0, 0, 0));
+        click(strip_cell(1));
+        EXPECT_EQ(tileset().tile_at(0).get_pixel(3, 4), color_of(1));
+        EXPECT_EQ(tileset().tile_at(1).get_pixel(3, 4), Color(0, 0, 0));
+        click(strip_cell(0));
+    }
+    execute(Command::horizontal_seam_tool);
+    execute(Command::rewind_strip);
+    EXPECT_EQ(tile_pixel(3, 4), color_of(1));
+}
+
 TEST_F(Tile_Strip_Test, shows_the_tiles_the_mark_and_free_places) {
     load(200);
     execute(Command::next_tile_strip);
