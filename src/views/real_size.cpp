@@ -8,6 +8,8 @@
 #include "tileset/tile.h"
 #include "ui/checkerboard.h"
 
+#include <SDL3/SDL_keyboard.h>
+
 #include <algorithm>
 #include <string>
 

@@ -8,6 +8,7 @@
 #include <SDL3/SDL_keyboard.h>
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <functional>
 #include <random>
