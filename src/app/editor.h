@@ -87,6 +87,9 @@ private:
     Command redo(Command command);
     Command show_undo_history(Command command);
     Command show_versions(Command command);
+    Command view_in_real_size(Command command);
+    Command arrange(Command command);
+    Command view_tile_array(Command command);
 
     // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
     Command float_paste(const Tile& picture);
