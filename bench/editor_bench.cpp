@@ -1,4 +1,5 @@
-// How long the editor takes: a frame, a motion of a stroke, a press, the start; and the memory it holds then.
+// How long the editor takes: a frame, a motion of a stroke, a press, the next tile, the start; and the memory
+// it holds then.
 // Run it from the root folder, on the X server that the figures are for.
 
 #include "app/application.h"
@@ -148,6 +149,26 @@ void stroke_press(benchmark::State& state) {
     }
 }
 
+// From one tile of a large set to the next, the window drawn again with the whole strip in it.
+void next_tile(benchmark::State& state) {
+    set_up({static_cast<int>(state.range(0)), 8});
+    Tileset& tileset = editor->documents().current().tileset();
+    const Tile first(*tileset.current_tile());
+    while (tileset.insert_copy_after(first)) {}
+    tileset.select(0);
+    for (auto _ : state) {
+        if (tileset.is_last()) {
+            state.PauseTiming();
+            tileset.select(0);
+            editor->execute(Command::change_tile);
+            editor->redraw(Present::yes);
+            state.ResumeTiming();
+        }
+        editor->execute(Command::next_tile);
+        editor->redraw(Present::yes);
+    }
+}
+
 long resident_kibibytes() {
     std::ifstream status("/proc/self/status");
     std::string word;
@@ -188,6 +209,7 @@ void start_up(benchmark::State& state) {
 BENCHMARK(frame)->Args({24, 21})->Args({64, 8})->Args({255, 3})->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_motion)->Args({24, 21})->Args({64, 8})->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(next_tile)->Arg(64)->Unit(benchmark::kMicrosecond);
 BENCHMARK(start_up)->UseRealTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -19,6 +19,7 @@ namespace {
 constexpr Size first_tile_size{24, 24};
 
 constexpr Point palette_position{31, 427};
+constexpr Point navigation_position{31, 310};
 constexpr Point history_position{31, 368};
 constexpr int icon_bar_top = 32;
 
@@ -41,8 +42,8 @@ int fitting_repeat(int tile_extent, int repeat) {
 Editor::Editor()
     : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
       palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
-      history_pane_(history_position), menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })),
-      icon_bar_(icon_bar_top) {
+      history_pane_(history_position), navigation_(navigation_position),
+      menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })), icon_bar_(icon_bar_top) {
     dialogs->set_backdrop([this] { redraw(Present::no); });
 }
 
@@ -76,6 +77,9 @@ void Editor::handle_one_event() {
     if (take_key_release()) {
         control_held_ = false;
     }
+    if (take_button_release()) {
+        navigation_.release();
+    }
     show_pointer();
     show_what_is_under_the_pointer();
 }
@@ -108,6 +112,8 @@ void Editor::redraw(Present present) {
     palette_.draw();
     selected_color_.draw();
     history_pane_.draw(documents_.current().history());
+    navigation_.draw(documents_.current().strip());
+    strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
     toolbox->draw();
     if (present == Present::yes) {
@@ -177,7 +183,7 @@ void Editor::route_click() {
         execute(tool);
         return;
     }
-    if (click_pane()) {
+    if (click_pane() || click_strip()) {
         return;
     }
     const Command command = menu_bar_->click(pointer_);
@@ -195,6 +201,26 @@ bool Editor::click_pane() {
         return true;
     }
     return documents_.click_tab(pointer_.point());
+}
+
+// Takes the tile, or carries out the command, that was hit with the left button.
+bool Editor::click_strip() {
+    if (pointer_.button != Mouse_Button::left) {
+        return false;
+    }
+    Tileset_Document& document = documents_.current();
+    const int tile = document.strip().tile_at(pointer_.point());
+    if (tile >= 0 && tile != document.tileset().current_index()) {
+        document.tileset().select(tile);
+        execute(Command::change_tile);
+        size_preview();
+        return true;
+    }
+    const Command command = navigation_.click(pointer_.point());
+    if (command != Command::none) {
+        execute(command);
+    }
+    return command != Command::none;
 }
 
 void Editor::draw_on_canvas() {

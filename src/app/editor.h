@@ -10,6 +10,8 @@
 #include "selection/copy_buffer.h"
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
+#include "tileset/tile_navigation_pane.h"
+#include "tileset/tile_strip_picture.h"
 #include "tools/icon_bar.h"
 
 #include <SDL3/SDL_events.h>
@@ -50,6 +52,7 @@ private:
     void handle_press(const SDL_MouseButtonEvent& event);
     void route_click();
     [[nodiscard]] bool click_pane();
+    [[nodiscard]] bool click_strip();
     void draw_on_canvas();
     void show_what_is_under_the_pointer();
     void show_pointer();
@@ -85,6 +88,9 @@ private:
     Command redo(Command command);
     Command show_undo_history(Command command);
     Command show_versions(Command command);
+    Command view_in_real_size(Command command);
+    Command arrange(Command command);
+    Command view_tile_array(Command command);
 
     // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
 
@@ -129,6 +135,8 @@ private:
     Palette_Area palette_;
     Selected_Color_Area selected_color_;
     History_Pane history_pane_;
+    Tile_Navigation_Pane navigation_;
+    Tile_Strip_Picture strip_picture_;
     std::unique_ptr<Menu_Bar> menu_bar_;
     Icon_Bar icon_bar_;
 };

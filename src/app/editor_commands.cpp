@@ -88,6 +88,9 @@ Command Editor::dispatch(Command command) {
         {Command::import_from_bmp,     Command::import_from_bmp,     &Editor::do_nothing},
         {Command::save_as,             Command::save,                &Editor::save},
         {Command::quit,                Command::quit,                &Editor::quit},
+        {Command::view_in_real_size,   Command::view_in_real_size,   &Editor::view_in_real_size},
+        {Command::arrange_select,      Command::arrange_select,      &Editor::arrange},
+        {Command::view_tile_array,     Command::view_tile_array,     &Editor::view_tile_array},
         {Command::center_tile_on_view, Command::center_tile_on_view, &Editor::centre},
         {Command::zoom_tile_up,        Command::zoom_tile_down,      &Editor::zoom},
         {Command::versions,            Command::versions,            &Editor::show_versions},
@@ -146,6 +149,7 @@ void Editor::follow_up(Command done) {
     }
     if (category == Command_Category::structure || category == Command_Category::tile_switch) {
         take_current_tile();
+        documents_.current().strip().show_current();
     }
     if (category == Command_Category::structure) {
         documents_.mark_changed();

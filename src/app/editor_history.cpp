@@ -63,6 +63,7 @@ bool Editor::restore(const Undo_Entry* entry) {
     if (entry->tile_index != tileset.current_index()) {
         tileset.select(entry->tile_index);
         take_current_tile();
+        documents_.current().strip().show_current();
     }
     canvas_.with_tile_in_place([&] {
         entry->snapshot->tile.copy_to(*tileset.current_tile());

@@ -23,15 +23,21 @@ void tell_watcher(std::string_view loop) {
 }
 
 bool key_was_released = false;
+bool button_was_released = false;
 
 void note(const SDL_Event& event) {
     key_was_released = key_was_released || event.type == SDL_EVENT_KEY_UP;
+    button_was_released = button_was_released || event.type == SDL_EVENT_MOUSE_BUTTON_UP;
 }
 
 } // namespace
 
 bool take_key_release() {
     return std::exchange(key_was_released, false);
+}
+
+bool take_button_release() {
+    return std::exchange(button_was_released, false);
 }
 
 void set_wait_watcher(Wait_Watcher new_watcher) {

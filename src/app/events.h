@@ -38,8 +38,9 @@ enum class Idle_Outcome { nothing_happened, events_taken };
 // Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
 Idle_Outcome idle(std::string_view loop);
 
-// Whether a key was released since the last call, in whichever loop that was.
+// Whether a key, or a mouse button, was released since the last call, in whichever loop that was.
 [[nodiscard]] bool take_key_release();
+[[nodiscard]] bool take_button_release();
 
 // Called with the loop's name before each wait; a test feeds its next event from here.
 using Wait_Watcher = std::function<void(std::string_view loop)>;

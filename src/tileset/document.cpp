@@ -30,8 +30,22 @@ Command Tileset_Document::handle_command(Command command) {
     case Command::add_new_tile: return done(tileset_.add_tile());
     case Command::insert_new_tile: return done(insert_tile());
     case Command::delete_tile: return done(delete_tile());
+    case Command::rewind_strip:
+    case Command::forward_strip:
+    case Command::previous_tile_strip:
+    case Command::next_tile_strip: return scroll_strip(command);
     default: return transform_tile(tileset_.current_tile(), command);
     }
+}
+
+Command Tileset_Document::scroll_strip(Command command) {
+    switch (command) {
+    case Command::rewind_strip: strip_.rewind(); break;
+    case Command::forward_strip: strip_.forward(); break;
+    case Command::previous_tile_strip: strip_.page_back(); break;
+    default: strip_.page_forward();
+    }
+    return command;
 }
 
 bool Tileset_Document::insert_tile() {

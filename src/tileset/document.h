@@ -1,9 +1,10 @@
 #pragma once
 
-// One open tileset: its tiles, their history and versions, the file they belong to, and whether they are
-// saved.
+// One open tileset: its tiles, their history, versions and strip, the file they belong to, and whether they
+// are saved.
 
 #include "app/command.h"
+#include "tileset/tile_strip.h"
 #include "tileset/tile_versions.h"
 #include "tileset/tileset.h"
 #include "tileset/undo_history.h"
@@ -16,12 +17,17 @@ class Tileset_Document {
 public:
     // The name is UTF-8: that of an untitled tileset, or the path of its file.
     Tileset_Document(std::string file_name, Tileset tileset);
+    // The strip refers to the tileset.
+    Tileset_Document(const Tileset_Document&) = delete;
+    Tileset_Document& operator=(const Tileset_Document&) = delete;
 
     [[nodiscard]] Tileset& tileset() { return tileset_; }
     [[nodiscard]] const Tileset& tileset() const { return tileset_; }
     [[nodiscard]] Undo_History& history() { return history_; }
     [[nodiscard]] const Undo_History& history() const { return history_; }
     [[nodiscard]] Tile_Versions& versions() { return versions_; }
+    [[nodiscard]] Tile_Strip& strip() { return strip_; }
+    [[nodiscard]] const Tile_Strip& strip() const { return strip_; }
     [[nodiscard]] const std::string& file_name() const { return file_name_; }
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
@@ -36,11 +42,12 @@ public:
     // The file name, followed by "*" while modified.
     [[nodiscard]] std::string title() const;
 
-    // Commands on the current tile and the order of tiles: the command to record, "Skip command" where it was
-    // refused, or none for every other command.
+    // Commands on the current tile, the order of tiles and the strip: the command to record, "Skip command"
+    // where it was refused, or none for every other command.
     Command handle_command(Command command);
 
 private:
+    Command scroll_strip(Command command);
     bool insert_tile();
     bool delete_tile();
 
@@ -48,6 +55,7 @@ private:
     Tileset tileset_;
     Undo_History history_;
     Tile_Versions versions_;
+    Tile_Strip strip_{tileset_};
     bool is_modified_ = false;
     bool is_named_ = false;
 };

@@ -58,17 +58,24 @@ void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t 
         x = area.right();
         tabs_.push_back({static_cast<int>(i), area, std::move(label)});
     }
-    // Scrolled left, tab by tab, until the current one shows.
-    std::size_t hidden = 0;
-    while (hidden < current && tabs_[current].area.right() - tabs_[hidden].area.x > row.width) {
-        ++hidden;
-    }
-    const int shift = tabs_[hidden].area.x - row.x;
-    tabs_.erase(tabs_.begin(), tabs_.begin() + static_cast<std::ptrdiff_t>(hidden));
+    scroll_to(current);
+    const int shift = tabs_[first_shown_].area.x - row.x;
+    tabs_.erase(tabs_.begin(), tabs_.begin() + static_cast<std::ptrdiff_t>(first_shown_));
     for (Tab& tab : tabs_) {
         tab.area.x -= shift;
     }
     std::erase_if(tabs_, [](const Tab& tab) { return tab.area.right() > row.right(); });
+}
+
+// No further than the current one needs, so that a tab stays where it was clicked; room at the end is used.
+void Document_Tabs::scroll_to(std::size_t current) {
+    first_shown_ = std::min(first_shown_, current);
+    while (first_shown_ < current && tabs_[current].area.right() - tabs_[first_shown_].area.x > row.width) {
+        ++first_shown_;
+    }
+    while (first_shown_ > 0 && tabs_.back().area.right() - tabs_[first_shown_ - 1].area.x <= row.width) {
+        --first_shown_;
+    }
 }
 
 bool Document_Tabs::hides_first() const {

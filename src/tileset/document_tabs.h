@@ -32,10 +32,12 @@ private:
         Rectangle area;
         std::unique_ptr<Texture> label;
     };
+    void scroll_to(std::size_t current);
     [[nodiscard]] bool hides_first() const;
     [[nodiscard]] bool hides_last() const;
 
     std::vector<Tab> tabs_; // those that show
+    std::size_t first_shown_ = 0;
     int document_count_ = 0;
 };
 

@@ -55,6 +55,7 @@ void Documents::make_current(std::size_t index) {
 void Documents::resize_current(Size tile_size) {
     current().tileset().resize_all(tile_size);
     current().history().clear();
+    current().strip().show_current();
     current_changed_();
 }
 

@@ -32,6 +32,10 @@ void Pane::set_title(std::string_view title) {
     title_ = screen->make_header(title, Header_Style::active);
 }
 
+Rectangle Pane::title_area() const {
+    return {area.x, area.y, title_ ? title_->size().width : 0, pane_title_height};
+}
+
 void Pane::draw_frame() const {
     screen->draw_outline(client_area(), standard_color(Standard_Color::pane_frame));
 }

@@ -26,6 +26,8 @@ public:
     void draw() const override;
 
     void set_title(std::string_view title);
+    // The title bar as far as it is drawn.
+    [[nodiscard]] Rectangle title_area() const;
     // The client area's outline.
     void draw_frame() const;
     // Fills the client area.

@@ -3,8 +3,8 @@
 #include "app/screen.h"
 #include "app/streaming_texture.h"
 #include "app/surface.h"
-#include "color/standard_colors.h"
 #include "tileset/tile.h"
+#include "ui/checkerboard.h"
 
 #include <algorithm>
 
@@ -12,16 +12,11 @@ namespace quadrelle {
 
 namespace {
 
-constexpr int square = 6;
-
 std::unique_ptr<Texture> make_checkerboard(Size size) {
     Surface surface(size);
     for (int y = 0; y < size.height; ++y) {
         for (int x = 0; x < size.width; ++x) {
-            const bool is_light = (x / square + y / square) % 2 != 0;
-            surface.set_pixel(x, y,
-                              to_rgba(standard_color(is_light ? Standard_Color::checker_light
-                                                              : Standard_Color::checker_dark)));
+            surface.set_pixel(x, y, to_rgba(checkerboard_color(x, y)));
         }
     }
     return std::make_unique<Texture>(surface, screen->renderer());
@@ -49,12 +44,13 @@ Rectangle Preview_Pane::pattern_area() const {
 
 void Preview_Pane::draw() const {
     Pane::draw();
+    // A pattern that fills the pane deliberately covers its outline: every pixel shows.
+    draw_frame();
     if (tile_ != nullptr) {
         const Rectangle pattern = pattern_area();
         checkerboard_->draw_part({0, 0, pattern.width, pattern.height}, pattern);
         draw_tiles(pattern);
     }
-    draw_frame();
 }
 
 void Preview_Pane::draw_tiles(const Rectangle& pattern) const {

@@ -77,6 +77,8 @@ constexpr std::array places{
     Place{"tools/icon_bar",               Level::panes},
     Place{"tools/tool_options",           Level::panes},
     Place{"tileset/history_pane",         Level::panes},
+    Place{"tileset/tile_navigation_pane", Level::panes},
+    Place{"tileset/tile_strip_picture",   Level::panes},
     Place{"tools/toolbox",                Level::panes},
     Place{"app/strokes",                  Level::panes},
     Place{"app/selection_strokes",        Level::panes},

@@ -293,6 +293,10 @@ TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     script().click(left_arrow);
     play();
     const std::string hidden = name();
+    // A tab that shows stays in its place when it is chosen.
+    script().click({500, 53}).click(tab_after({}));
+    play();
+    EXPECT_EQ(name(), hidden);
     EXPECT_NE(hidden, "untitled11.qdl");
     // That tab is the first one in the row now, and others are hidden behind it.
     script().click(right_arrow);

@@ -175,6 +175,11 @@ TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
         }
         EXPECT_EQ(pixel_at({client.x + 90, client.y + 96}),
                   size.width == 0 ? background : Color(200, 10, 20));
+        if (size.height > 192) {
+            // Up to its edges.
+            EXPECT_EQ(pixel_at({client.x, client.y}), Color(200, 10, 20));
+            EXPECT_EQ(pixel_at({client.right() - 1, client.bottom() - 1}), Color(200, 10, 20));
+        }
         preview.set_tile(nullptr);
     }
 }

@@ -1,0 +1,32 @@
+#pragma once
+
+// Seven buttons in a row that step through the tiles of a set and scroll its strip. Answers with commands;
+// carries none out.
+
+#include "app/command.h"
+#include "ui/pane.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+class Tile_Strip;
+
+class Tile_Navigation_Pane : public Pane {
+public:
+    explicit Tile_Navigation_Pane(Point position);
+
+    using Pane::draw;
+    void draw(const Tile_Strip& strip) const;
+    // The command of the button that is there, which is held from now on, or none. A disabled button answers
+    // too: its command finds nothing to do.
+    Command click(Point point);
+    void release() { held_.reset(); }
+
+private:
+    [[nodiscard]] Rectangle area_of(std::size_t button) const;
+
+    std::optional<std::size_t> held_;
+};
+
+} // namespace quadrelle

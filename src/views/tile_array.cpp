@@ -1,0 +1,109 @@
+#include "views/tile_array.h"
+
+#include "app/events.h"
+#include "tileset/tileset.h"
+#include "ui/dialogs.h"
+#include "views/tile_grid.h"
+
+#include <string>
+
+namespace quadrelle {
+
+namespace {
+
+class Tile_Array {
+public:
+    explicit Tile_Array(const Tileset& tileset) : tileset_(tileset), grid_("Tile array", tileset) {
+        grid_.show_page_of(tileset.current_index());
+    }
+
+    std::optional<int> run() {
+        const Dialog_Layer layer([this] { draw(); });
+        run_modal({"tile array", [] { dialogs->show_backdrop(); },
+                   [this](const SDL_Event& event) { return handle(event); }});
+        return clicked_;
+    }
+
+private:
+    void draw() const;
+    [[nodiscard]] std::string text() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(const SDL_KeyboardEvent& event);
+    Loop_Step press(const Pointer_State& pointer);
+    Loop_Step turn_pages(int pages);
+
+    const Tileset& tileset_;
+    Tile_Grid grid_;
+    Point pointer_{-1, -1};
+    std::optional<int> clicked_;
+};
+
+void Tile_Array::draw() const {
+    grid_.draw(text());
+    const int cells = grid_.columns() * grid_.rows();
+    const int current = tileset_.current_index() - grid_.page() * cells;
+    if (tileset_.has_tiles() && current >= 0) {
+        grid_.draw_marker(Sprite::first_big_marker, current % grid_.columns(), current / grid_.columns());
+    }
+}
+
+std::string Tile_Array::text() const {
+    const int hovered = grid_.tile_at(pointer_);
+    std::string text =
+        "Click: Select tile - Tab: Close\rTile: " + (hovered < 0 ? "?" : std::to_string(hovered)) +
+        "  (current: " + std::to_string(tileset_.current_index()) +
+        ", tiles: " + std::to_string(tileset_.count()) + ")";
+    if (grid_.page_count() > 1) {
+        text += "\rPage " + std::to_string(grid_.page() + 1) + " of " + std::to_string(grid_.page_count()) +
+                " - wheel, PageUp, PageDown: Turn the page";
+    }
+    return text;
+}
+
+Loop_Step Tile_Array::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
+    case SDL_EVENT_MOUSE_MOTION: pointer_ = pointer_of(event.motion).point(); return Loop_Step::go_on;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
+    case SDL_EVENT_MOUSE_WHEEL: return turn_pages(event.wheel.y > 0 ? -1 : event.wheel.y < 0 ? 1 : 0);
+    default: return Loop_Step::go_on;
+    }
+}
+
+Loop_Step Tile_Array::handle_key(const SDL_KeyboardEvent& event) {
+    switch (event.key) {
+    case key::page_up: return turn_pages(-1);
+    case key::page_down: return turn_pages(1);
+    // The key that opened the view may still be held.
+    case key::tab: return event.repeat ? Loop_Step::go_on : Loop_Step::end;
+    case key::escape: return Loop_Step::end;
+    default: return Loop_Step::go_on;
+    }
+}
+
+Loop_Step Tile_Array::turn_pages(int pages) {
+    if (pages != 0) {
+        grid_.set_page(grid_.page() + pages);
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Tile_Array::press(const Pointer_State& pointer) {
+    if (pointer.button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    const int tile = grid_.tile_at(pointer.point());
+    if (tile >= 0) {
+        clicked_ = tile;
+    }
+    return Loop_Step::end;
+}
+
+} // namespace
+
+std::optional<int> show_tile_array(const Tileset& tileset) {
+    return Tile_Array(tileset).run();
+}
+
+} // namespace quadrelle

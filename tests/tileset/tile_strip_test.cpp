@@ -1,0 +1,100 @@
+#include "tileset/tile_strip.h"
+
+#include "tileset/tileset.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+namespace quadrelle {
+namespace {
+
+constexpr int visible = 51;
+constexpr int page = 46;
+
+Tileset tileset_of(int count) {
+    Tileset tileset({1, 1}, count);
+    while (!tileset.is_full()) {
+        tileset.add_tile();
+    }
+    return tileset;
+}
+
+TEST(Tile_Strip, pages_between_the_first_tile_and_the_last_ones) {
+    for (int count = 0; count < 320; ++count) {
+        SCOPED_TRACE(std::to_string(count) + " tiles");
+        const Tileset tileset = tileset_of(count);
+        const int last_first = std::max(count - visible, 0);
+        Tile_Strip strip(tileset);
+        strip.page_back();
+        EXPECT_EQ(strip.first(), 0);
+        for (int expected = 0; expected < last_first; expected = std::min(expected + page, last_first)) {
+            EXPECT_EQ(strip.first(), expected);
+            EXPECT_EQ(strip.is_at_end(), expected + visible >= count - 1);
+            strip.page_forward();
+        }
+        EXPECT_EQ(strip.first(), last_first);
+        strip.page_forward();
+        EXPECT_EQ(strip.first(), last_first);
+        EXPECT_TRUE(strip.is_at_end());
+        EXPECT_EQ(strip.is_at_start(), count <= visible);
+        strip.page_back();
+        EXPECT_EQ(strip.first(), std::max(last_first - page, 0));
+        strip.forward();
+        EXPECT_EQ(strip.first(), last_first);
+        strip.rewind();
+        EXPECT_EQ(strip.first(), 0);
+    }
+}
+
+TEST(Tile_Strip, scrolls_no_further_than_the_current_tile_needs) {
+    for (const int count : {1, 50, 51, 52, 53, 97, 200, 256, 300}) {
+        Tileset tileset = tileset_of(count);
+        for (int current = 0; current < count; ++current) {
+            SCOPED_TRACE(std::to_string(current) + " of " + std::to_string(count));
+            tileset.select(current);
+            Tile_Strip strip(tileset);
+            EXPECT_EQ(strip.cell_of_current(), current < visible ? current : -1);
+            strip.show_current();
+            EXPECT_EQ(strip.first(), std::max(current - visible + 1, 0));
+            EXPECT_EQ(strip.cell_of_current(), std::min(current, visible - 1));
+            strip.forward();
+            const int forward = strip.first();
+            strip.show_current();
+            EXPECT_EQ(strip.first(), std::min(forward, current));
+            EXPECT_EQ(strip.cell_of_current(), current - strip.first());
+        }
+    }
+}
+
+TEST(Tile_Strip, stays_filled_when_tiles_go) {
+    Tileset tileset = tileset_of(60);
+    Tile_Strip strip(tileset);
+    strip.forward();
+    for (int left = 59; left > 0; --left) {
+        tileset.delete_current();
+        strip.show_current();
+        EXPECT_EQ(strip.first(), std::max(left - visible, 0));
+        EXPECT_GE(strip.cell_of_current(), 0);
+    }
+}
+
+TEST(Tile_Strip, finds_the_tile_under_a_point) {
+    for (const int count : {0, 1, 10, 51, 60, 200}) {
+        const Tileset tileset = tileset_of(count);
+        Tile_Strip strip(tileset);
+        strip.page_forward();
+        for (int x = -30; x < 1260; ++x) {
+            for (const int y : {635, 636, 659, 660}) {
+                const bool is_inside = x >= 4 && x < 4 + visible * 24 && y >= 636 && y < 660;
+                const int index = strip.first() + (x - 4) / 24;
+                EXPECT_EQ(strip.tile_at({x, y}), is_inside && index < count ? index : -1)
+                    << x << ", " << y << " of " << count;
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace quadrelle

@@ -1,0 +1,136 @@
+#include "views/tile_grid.h"
+
+#include "app/canvas_painter.h"
+#include "app/screen.h"
+#include "tests/support/window_test.h"
+#include "tileset/tileset.h"
+#include "ui/checkerboard.h"
+
+#include <vector>
+
+namespace quadrelle {
+
+using testing::pixel_at;
+
+namespace {
+
+constexpr Point corner{16, 16};
+constexpr int edge = 32;
+
+class Tile_Grid_Test : public testing::Window_Test {
+protected:
+    static Tileset set_of(Size tile_size, int count) {
+        Tileset tileset(tile_size);
+        for (int i = 0; i < count; ++i) {
+            tileset.append_loaded(std::make_unique<Tile>(tile_size.width, tile_size.height));
+        }
+        return tileset;
+    }
+
+    static void expect_cell(const Tile_Grid& grid, Point cell, int tile) {
+        SCOPED_TRACE(tile);
+        const Point start{corner.x + cell.x * edge, corner.y + cell.y * edge};
+        for (const Point inside : {Point{0, 0}, Point{edge - 1, 0}, Point{0, edge - 1}, Point{13, 21},
+                                   Point{edge - 1, edge - 1}}) {
+            EXPECT_EQ(grid.tile_at({start.x + inside.x, start.y + inside.y}), tile);
+        }
+    }
+};
+
+struct Shape_Case {
+    Size tile;
+    Size shown;
+};
+
+} // namespace
+
+TEST_F(Tile_Grid_Test, finds_the_tile_under_every_cell_of_every_page_and_none_beyond) {
+    for (const int count : {0, 1, 17, 256, 257, 300, 512}) {
+        SCOPED_TRACE(count);
+        const Tileset tileset = set_of({2, 2}, count);
+        Tile_Grid grid("Grid", tileset);
+        const int pages = count <= 256 ? 1 : 2;
+        EXPECT_EQ(grid.page_count(), pages);
+        for (int page = 0; page < pages; ++page) {
+            grid.set_page(page);
+            int tile = 256 * page;
+            for (int row = 0; row < 16; ++row) {
+                for (int column = 0; column < 16; ++column, ++tile) {
+                    expect_cell(grid, {column, row}, tile < count ? tile : -1);
+                }
+            }
+        }
+        for (const Point outside : {Point{15, 16}, Point{16, 15}, Point{528, 16}, Point{16, 528},
+                                    Point{-20, -20}, Point{1000, 100}}) {
+            EXPECT_EQ(grid.tile_at(outside), -1);
+        }
+        grid.set_page(99);
+        EXPECT_EQ(grid.page(), pages - 1);
+        grid.set_page(-1);
+        EXPECT_EQ(grid.page(), 0);
+        grid.show_page_of(count - 1);
+        EXPECT_EQ(grid.page(), pages - 1);
+    }
+}
+
+TEST_F(Tile_Grid_Test, multiplies_rows_by_columns_where_these_differ) {
+    const Tileset tileset = set_of({3, 3}, 7);
+    const Tile_Grid grid("Grid", tileset, {4, 2}, {10, 20});
+    EXPECT_EQ(grid.tile_at({16 + 39, 16 + 19}), 3);
+    EXPECT_EQ(grid.tile_at({16, 16 + 20}), 4);
+    EXPECT_EQ(grid.tile_at({16 + 25, 16 + 39}), 6);
+    EXPECT_EQ(grid.tile_at({16 + 30, 16 + 39}), -1);
+    EXPECT_EQ(grid.tile_at({16 + 40, 16}), -1);
+}
+
+TEST_F(Tile_Grid_Test, enlarges_by_whole_steps_and_shrinks_in_shape) {
+    const std::vector<Shape_Case> cases{
+        {{24, 24}, {24, 24}}, {{16, 16}, {32, 32}}, {{24, 12}, {24, 12}}, {{5, 8}, {20, 32}},
+        {{64, 64}, {32, 32}}, {{64, 16}, {32, 8}},  {{33, 66}, {16, 32}}, {{255, 1}, {32, 1}},
+        {{1, 255}, {1, 32}},  {{1, 1}, {32, 32}},   {{0, 0}, {0, 0}},
+    };
+    for (const Shape_Case& test : cases) {
+        EXPECT_EQ(size_in_cell(test.tile, {edge, edge}), test.shown)
+            << test.tile.width << "x" << test.tile.height;
+    }
+}
+
+TEST_F(Tile_Grid_Test, draws_each_tile_in_the_middle_of_its_cell_over_a_checkerboard) {
+    Tileset tileset = set_of({2, 1}, 18);
+    tileset.tile_at(17).set_pixel(0, 0, {200, 30, 40});
+    tileset.tile_at(17).set_pixel(1, 0, {10, 200, 30, 128});
+    Tile_Grid grid("Grid", tileset);
+    grid.draw("");
+    // 32 x 16 pixels, eight below the top of the second cell of the second row.
+    const Point start{corner.x + edge, corner.y + edge + 8};
+    EXPECT_EQ(pixel_at(start), Color(200, 30, 40));
+    EXPECT_EQ(pixel_at({start.x + 15, start.y + 15}), Color(200, 30, 40));
+    EXPECT_EQ(pixel_at({start.x + 16, start.y}), blended_over({10, 200, 30, 128}, checkerboard_color(16, 0)));
+    EXPECT_EQ(pixel_at({start.x + 31, start.y + 15}),
+              blended_over({10, 200, 30, 128}, checkerboard_color(31, 15)));
+    const Color around = standard_color(Standard_Color::dark_frame);
+    EXPECT_EQ(pixel_at({start.x, start.y - 1}), around);
+    EXPECT_EQ(pixel_at({start.x, start.y + 16}), around);
+    EXPECT_EQ(pixel_at({start.x + edge, start.y}), around);
+
+    tileset.tile_at(17).fill({9, 8, 7});
+    grid.refresh();
+    grid.draw("");
+    EXPECT_EQ(pixel_at({start.x + 31, start.y}), Color(9, 8, 7));
+}
+
+TEST_F(Tile_Grid_Test, draws_no_marker_outside_of_its_cells) {
+    const Tileset tileset = set_of({2, 2}, 300);
+    const Tile_Grid grid("Grid", tileset);
+    grid.draw("");
+    const Color below = pixel_at({corner.x, corner.y + 16 * edge});
+    const Color right = pixel_at({corner.x + 16 * edge, corner.y});
+    grid.draw_marker(Sprite::first_big_marker, 0, 16);
+    grid.draw_marker(Sprite::first_big_marker, 16, 0);
+    grid.draw_marker(Sprite::first_big_marker, 15, 15);
+    EXPECT_EQ(pixel_at({corner.x, corner.y + 16 * edge}), below);
+    EXPECT_EQ(pixel_at({corner.x + 16 * edge, corner.y}), right);
+    EXPECT_EQ(pixel_at({corner.x + 15 * edge, corner.y + 15 * edge}), Color(255, 255, 255));
+}
+
+} // namespace quadrelle

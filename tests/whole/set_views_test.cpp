@@ -1,0 +1,427 @@
+#include "app/canvas_painter.h"
+#include "app/screen.h"
+#include "tests/whole/program_test.h"
+#include "ui/checkerboard.h"
+#include "ui/dialogs.h"
+#include "views/arrangement.h"
+
+#include <SDL3/SDL_keyboard.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr int middle_button = 2;
+constexpr Point off_grid{600, 300};
+constexpr Point on_title{24, 540};
+constexpr Size tile_size{4, 1};
+// The first pixel of such a tile on the canvas, where it is 40 x 10 large.
+constexpr Point first_pixel{505, 320};
+
+// Of a tile of 4 x 1 that was made as number `image`.
+Color image_pixel(int image, int x) {
+    return {image % 256, image / 256, 40 * x};
+}
+
+// The corner of a cell of the grid.
+Point grid_cell(int tile) {
+    return {16 + tile % 16 * 32, 16 + tile / 16 * 32};
+}
+
+Point in_cell(int tile) {
+    return {grid_cell(tile).x + 17, grid_cell(tile).y + 16};
+}
+
+class Set_Views_Test : public Program_Test {
+protected:
+    static Tileset& tileset() { return document().tileset(); }
+    static const Undo_History& history() { return document().history(); }
+    static Canvas_View& canvas() { return editor->canvas(); }
+
+    // Saved, with one step in its history, and the first tile current.
+    void make_set(int count) {
+        ASSERT_TRUE(editor->documents().new_document(tile_size));
+        for (int image = 0; image < count; ++image) {
+            if (image > 0) {
+                tileset().append_loaded(std::make_unique<Tile>(tile_size.width, tile_size.height));
+            }
+            for (int x = 0; x < tile_size.width; ++x) {
+                tileset().tile_at(image).set_pixel(x, 0, image_pixel(image, x));
+            }
+            tileset().tile_at(image).update_texture();
+        }
+        execute(Command::mirror);
+        execute(Command::mirror);
+        document().clear_modified();
+        ASSERT_EQ(history().entries().size(), 3U);
+    }
+
+    void load_empty_set() {
+        const std::string path = folder().data_path("empty.qdl");
+        std::ofstream(path, std::ios::binary).write("QDL\n\0\4\1\0\0\0\0", 11);
+        answer_files(File_Answer_State::chosen, path);
+        execute(Command::load);
+        ASSERT_FALSE(tileset().has_tiles());
+    }
+
+    static void expect_images(const std::vector<int>& images) {
+        ASSERT_EQ(tileset().count(), static_cast<int>(images.size()));
+        for (int i = 0; i < tileset().count(); ++i) {
+            for (int x = 0; x < tile_size.width; ++x) {
+                ASSERT_EQ(tileset().tile_at(i).get_pixel(x, 0),
+                          image_pixel(images[static_cast<std::size_t>(i)], x))
+                    << "tile " << i << ", pixel " << x;
+            }
+        }
+    }
+};
+
+// What a user expects of "Arrange/Select".
+struct Arrangement_Model {
+    std::vector<int> images;
+    int current = 0;
+    int primary = 0;
+    int secondary = 0;
+    bool has_swapped = false;
+
+    [[nodiscard]] int count() const { return static_cast<int>(images.size()); }
+    void swap() {
+        if (primary != secondary) {
+            std::swap(images.at(static_cast<std::size_t>(primary)),
+                      images.at(static_cast<std::size_t>(secondary)));
+            std::swap(primary, secondary);
+            has_swapped = true;
+        }
+    }
+    void press(int tile, int button) {
+        if (tile < std::min(count(), 256)) {
+            primary = button == 1 ? tile : primary;
+            secondary = button == 2 ? tile : secondary;
+        }
+    }
+    // The grid's picture of the secondary tile, and both markers.
+    void expect_shown() const {
+        EXPECT_EQ(pixel_at(grid_cell(secondary)), Color(0xff, 0xf0, 0xa8));
+        EXPECT_EQ(pixel_at(in_cell(secondary)),
+                  image_pixel(images.at(static_cast<std::size_t>(secondary)), 2));
+        if (primary != secondary && primary < 256) {
+            EXPECT_EQ(pixel_at(grid_cell(primary)), Color(255, 255, 255));
+        }
+    }
+};
+
+class Arrangement_Walk {
+public:
+    Arrangement_Walk(Script& script, std::mt19937& random, Arrangement_Model& model)
+        : script_(script), random_(random), model_(model) {}
+
+    void add_steps(int count) {
+        for (int i = 0; i < count; ++i) {
+            add_step();
+            script_.check([model = model_] { model.expect_shown(); });
+        }
+        add_end();
+    }
+
+private:
+    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
+
+    void add_step() {
+        const int choice = below(10);
+        if (choice < 4) {
+            press(below(std::min(model_.count(), 256)), 1);
+        } else if (choice < 6) {
+            press(below(std::min(model_.count(), 256)), middle_button);
+        } else if (choice == 6) {
+            press(below(256), 1 + below(5));
+        } else if (choice == 7) {
+            do_nothing();
+        } else {
+            script_.key(key::tab);
+            model_.swap();
+        }
+    }
+    void press(int tile, int button) {
+        const Point corner = grid_cell(tile);
+        script_.press_number({corner.x + below(32), corner.y + below(32)}, button);
+        model_.press(tile, button);
+    }
+    void do_nothing() {
+        static constexpr std::array<Point, 5> outside{{{15, 16}, {528, 100}, {100, 528}, {5, 5}, off_grid}};
+        script_.click(outside.at(static_cast<std::size_t>(below(5))));
+        script_.motion({below(600), below(600)}).wheel(1).key('x').key('z', Modifier::control);
+    }
+    void add_end() {
+        switch (below(7)) {
+        case 0: script_.key(key::escape); return;
+        case 1: script_.key(key::enter); return;
+        case 2: script_.key('y'); return;
+        case 3: script_.quit(); return;
+        case 4: script_.press(on_title); return;
+        default: script_.key(key::space); model_.current = model_.primary;
+        }
+    }
+
+    Script& script_;
+    std::mt19937& random_;
+    Arrangement_Model& model_;
+};
+
+TEST_F(Set_Views_Test, arrangement_agrees_with_a_simple_model_whatever_is_done) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    for (const int count : {1, 2, 60, 300}) {
+        SCOPED_TRACE(std::to_string(count) + " tiles");
+        make_set(count);
+        Arrangement_Model model;
+        for (int i = 0; i < count; ++i) {
+            model.images.push_back(i);
+        }
+        for (int round = 0; round < 3 && !HasFailure(); ++round) {
+            if (random() % 2 == 0) {
+                execute(Command::horizontal_seam_tool);
+            }
+            document().clear_modified();
+            const std::size_t steps_before = history().entries().size();
+            model.primary = model.current;
+            model.secondary = 0;
+            model.has_swapped = false;
+            Arrangement_Walk(script(), random, model).add_steps(10);
+            execute(Command::arrange_select);
+
+            expect_images(model.images);
+            EXPECT_EQ(tileset().current_index(), model.current);
+            EXPECT_EQ(canvas().tile(), tileset().current_tile());
+            EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
+            const int shown = model.images.at(static_cast<std::size_t>(model.current));
+            EXPECT_EQ(pixel_at(first_pixel), image_pixel(shown, 0));
+            EXPECT_EQ(count_in_preview(image_pixel(shown, 1)), 4);
+            EXPECT_EQ(document().is_modified(), model.has_swapped);
+            EXPECT_EQ(history().entries().size(), model.has_swapped ? 1U : steps_before);
+        }
+    }
+}
+
+TEST_F(Set_Views_Test, swapped_tiles_are_where_undo_ends) {
+    make_set(8);
+    script().press(in_cell(3)).press_number(in_cell(7), middle_button).key(key::tab).key(key::space);
+    execute(Command::arrange_select);
+    // Both markers followed their images: the current tile is the one that was picked first.
+    EXPECT_EQ(tileset().current_index(), 7);
+    EXPECT_EQ(tile_pixel(0, 0), image_pixel(3, 0));
+    ASSERT_EQ(history().entries().size(), 1U);
+    EXPECT_EQ(history().entries().front().tile_index, 7);
+    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled1.qdl*");
+    execute(Command::mirror);
+    execute(Command::undo);
+    execute(Command::undo);
+    EXPECT_EQ(tileset().current_index(), 7);
+    EXPECT_EQ(tile_pixel(0, 0), image_pixel(3, 0));
+
+    // Swapped back, the images are the old ones, and the history is gone all the same.
+    execute(Command::mirror);
+    script().press(in_cell(3)).press_number(in_cell(7), middle_button).key(key::tab).key(key::tab);
+    script().key(key::escape);
+    execute(Command::arrange_select);
+    EXPECT_EQ(history().entries().size(), 1U);
+
+    // What the pen's history mode draws from is the image that came into view, in the same tile.
+    script().press_number(in_cell(0), middle_button).key(key::tab).key(key::escape);
+    execute(Command::arrange_select);
+    EXPECT_EQ(tileset().current_index(), 7);
+    EXPECT_EQ(canvas().history()->get_pixel(0, 0), image_pixel(0, 0));
+}
+
+TEST_F(Set_Views_Test, markers_of_the_arrangement_go_by_rows) {
+    make_set(8);
+    tileset().select(5);
+    script().press_number({16 + 40, 16}, middle_button);
+    script().check([] {
+        // Column 5 mod 4, row 5 / 2: there is no such row. Tile 1 is in the first row.
+        for (int i = 0; i < 8; ++i) {
+            const Color corner = pixel_at({16 + i % 4 * 40, 16 + i / 4 * 40});
+            EXPECT_EQ(corner == Color(255, 255, 255), false) << i;
+            EXPECT_EQ(corner == Color(0xff, 0xf0, 0xa8), i == 1) << i;
+        }
+    });
+    script().press({16 + 120, 16}).check([] {
+        // Tile 3 shows in row 3 / 2.
+        EXPECT_EQ(pixel_at({16 + 120, 16 + 40}), Color(255, 255, 255));
+    });
+    script().key(key::escape);
+    EXPECT_FALSE(Arrangement(tileset(), {4, 2}, {40, 40}).run());
+}
+
+TEST_F(Set_Views_Test, every_view_works_without_tiles) {
+    load_empty_set();
+    script().press(in_cell(0)).press_number(in_cell(1), middle_button).key(key::tab).key(key::space);
+    execute(Command::arrange_select);
+    script().press(in_cell(0));
+    execute(Command::view_tile_array);
+    script().check([] { EXPECT_EQ(pixel_at({6, 0}), checkerboard_color(6, 0)); });
+    script().key('+').key('a');
+    execute(Command::view_in_real_size);
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_TRUE(history().entries().empty());
+}
+
+TEST_F(Set_Views_Test, real_size_repeats_the_tile_all_over_the_window) {
+    make_set(2);
+    tileset().tile_at(0).set_pixel(3, 0, {90, 60, 30, 128});
+    const auto expect_scale = [this](int scale) {
+        script().check([scale] {
+            SCOPED_TRACE(scale);
+            const Size window = screen->size();
+            for (const Point point : {Point{0, 0}, Point{17, 3}, Point{window.width - 1, 0},
+                                      Point{window.width - 1, window.height - 1}, Point{803, 401}}) {
+                const Color pixel = tileset().tile_at(0).get_pixel(point.x / scale % 4, 0);
+                EXPECT_EQ(pixel_at(point), blended_over(pixel, checkerboard_color(point.x, point.y)));
+            }
+        });
+    };
+    execute(Command::horizontal_seam_tool);
+    expect_scale(1);
+    script().key('-').wheel(1);
+    expect_scale(1);
+    script().key('=', Modifier::shift);
+    expect_scale(2);
+    for (int i = 0; i < 9; ++i) {
+        script().key(key::keypad_plus);
+    }
+    expect_scale(8);
+    script().key('-').key(key::keypad_minus);
+    expect_scale(6);
+    script().check([] { SDL_SetModState(SDL_KMOD_RSHIFT); }).wheel(-2).check([] {
+        SDL_SetModState(SDL_KMOD_NONE);
+    });
+    expect_scale(5);
+    script().key('q');
+    execute(Command::view_in_real_size);
+    EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
+}
+
+TEST_F(Set_Views_Test, real_size_ends_with_a_key_a_click_or_the_window_close_only) {
+    make_set(1);
+    const std::vector<std::function<void()>> ends{
+        [this] { script().key(key::escape); }, [this] { script().key('p'); },
+        [this] { script().key(key::tab); },    [this] { script().press(off_grid); },
+        [this] { script().quit(); },           [this] { script().press(off_grid, Mouse_Button::right); },
+    };
+    SDL_Event held{};
+    held.type = SDL_EVENT_KEY_DOWN;
+    held.key.key = 'p';
+    held.key.repeat = true;
+    for (const auto& add_end : ends) {
+        script().wheel(1).wheel(-1).motion({9, 9}).release({9, 9}).press_number({9, 9}, middle_button);
+        script().key(key::left_shift, Modifier::shift).key_up('m').event(held);
+        expect_loop("real size");
+        add_end();
+        execute(Command::view_in_real_size);
+    }
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(history().entries().size(), 3U);
+}
+
+TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
+    make_set(60);
+    script().key(key::tab).check([] {
+        EXPECT_EQ(pixel_at(grid_cell(0)), Color(255, 255, 255));
+        EXPECT_EQ(pixel_at(in_cell(59)), image_pixel(59, 2));
+    });
+    script().press(in_cell(41));
+    expect_loop("main").motion({5, 5});
+    play();
+    EXPECT_EQ(tileset().current_index(), 41);
+    EXPECT_EQ(pixel_at(first_pixel), image_pixel(41, 0));
+    EXPECT_EQ(count_in_preview(image_pixel(41, 1)), 4);
+    ASSERT_EQ(history().entries().size(), 4U);
+    EXPECT_EQ(history().entries().back().kind, Command::change_tile);
+    EXPECT_EQ(history().entries().back().tile_index, 41);
+    execute(Command::undo);
+    EXPECT_EQ(tileset().current_index(), 0);
+}
+
+TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
+    make_set(60);
+    const std::vector<std::function<void()>> ends{
+        [this] { script().key(key::escape); },
+        [this] { script().key(key::tab); },
+        [this] { script().press(off_grid); },
+        [this] { script().press(in_cell(60)); },
+        [this] { script().press(in_cell(0)); },
+        [this] { script().press(on_title, Mouse_Button::right); },
+        [this] { script().quit(); },
+    };
+    SDL_Event held{};
+    held.type = SDL_EVENT_KEY_DOWN;
+    held.key.key = key::tab;
+    held.key.repeat = true;
+    for (const auto& add_end : ends) {
+        script().key(key::tab).event(held).press_number(in_cell(5), middle_button).key('p').wheel(-1);
+        expect_loop("tile array");
+        add_end();
+        expect_loop("main").motion({5, 5});
+        play();
+        EXPECT_EQ(tileset().current_index(), 0);
+    }
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(history().entries().size(), 3U);
+}
+
+TEST_F(Set_Views_Test, tile_array_turns_pages) {
+    make_set(300);
+    script().key(key::page_down).press(in_cell(299 - 256));
+    execute(Command::view_tile_array);
+    EXPECT_EQ(tileset().current_index(), 299);
+    // It opens where the current tile is.
+    script().check([] { EXPECT_EQ(pixel_at(grid_cell(299 - 256)), Color(255, 255, 255)); });
+    script().wheel(-1).press(in_cell(1));
+    execute(Command::view_tile_array);
+    EXPECT_EQ(tileset().current_index(), 257);
+    script().key(key::page_up).key(key::page_up).wheel(1).press(in_cell(2));
+    execute(Command::view_tile_array);
+    EXPECT_EQ(tileset().current_index(), 2);
+}
+
+TEST_F(Set_Views_Test, tile_array_shows_the_tile_as_it_is_and_leaves_the_seam_tool_as_it_was) {
+    make_set(3);
+    execute(Command::horizontal_seam_tool);
+    ASSERT_NE(tile_pixel(2, 0), image_pixel(0, 2));
+    script().check([] { EXPECT_EQ(pixel_at(in_cell(0)), image_pixel(0, 2)); }).key(key::escape);
+    execute(Command::view_tile_array);
+    EXPECT_EQ(canvas().horizontal_seam_shift(), 2);
+    EXPECT_EQ(canvas().vertical_seam_shift(), no_seam_shift);
+    EXPECT_EQ(tile_pixel(0, 0), image_pixel(0, 2));
+
+    script().press(in_cell(2));
+    execute(Command::view_tile_array);
+    EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
+    expect_images({0, 1, 2});
+}
+
+TEST_F(Set_Views_Test, preview_follows_every_motion_of_a_stroke) {
+    script().press(cell(2, 2)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 4); });
+    script().motion(cell(5, 2)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 16); });
+    script().motion(cell(5, 3)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 20); });
+    script().release(cell(5, 3));
+    play();
+    execute(Command::line);
+    script().press(cell(10, 9)).motion(cell(19, 9)).check([] {
+        EXPECT_EQ(count_in_preview({255, 255, 255}), 20 + 40);
+    });
+    script().motion(cell(11, 9)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 20 + 8); });
+    script().release(cell(11, 9));
+    play();
+}
+
+} // namespace
+} // namespace quadrelle::testing
