@@ -110,6 +110,8 @@ void Editor::redraw(Present present) {
     history_pane_.draw(documents_.current().history());
     documents_.draw_tabs();
     toolbox->draw();
+    hint_lines_.set_hint(hint_of(pointed()));
+    hint_lines_.draw();
     if (present == Present::yes) {
         screen->present();
     }

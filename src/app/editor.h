@@ -10,6 +10,7 @@
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
 #include "tools/icon_bar.h"
+#include "views/hint_lines.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -54,6 +55,9 @@ private:
     void show_pointer();
     void hide_brush();
     [[nodiscard]] bool is_lit(Command icon) const;
+    // The current tool where there is nothing else.
+    [[nodiscard]] Pointed pointed();
+    [[nodiscard]] std::optional<Place> pointed_place();
 
     // Commands. Each answers with the command to record, or none when it failed.
     [[nodiscard]] Command perform(Command command);
@@ -75,8 +79,12 @@ private:
     Command load(Command command);
     Command save(Command command);
     Command quit(Command command);
+    Command export_picture(Command command);
     Command edit_options(Command command);
+    Command show_statistics(Command command);
     Command show_help(Command command);
+    Command show_keyboard_commands(Command command);
+    Command show_mouse_commands(Command command);
     Command show_about(Command command);
     Command show_debug_monitor(Command command);
     Command run_test(Command command);
@@ -101,7 +109,7 @@ private:
     void take_current_tile();
     void size_preview();
 
-    Pointer_State pointer_;
+    Pointer_State pointer_{-1, -1, Mouse_Button::none};
     bool quit_requested_ = false;
     bool control_held_ = false;
     Size shown_tile_size_;
@@ -112,6 +120,7 @@ private:
     History_Pane history_pane_;
     std::unique_ptr<Menu_Bar> menu_bar_;
     Icon_Bar icon_bar_;
+    Hint_Lines hint_lines_;
 };
 
 // Built at start-up, when everything it works with is there.

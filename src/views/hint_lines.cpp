@@ -1,0 +1,37 @@
+#include "views/hint_lines.h"
+
+#include "app/screen.h"
+#include "ui/wrapped_text.h"
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Font title_font = Font::pane_header;
+constexpr Font font = Font::pane;
+// A little less than the letters' cells, whose lowest rows are empty.
+constexpr int line_step = 17;
+constexpr std::size_t most_lines = Hint_Lines::area.height / line_step;
+
+} // namespace
+
+void Hint_Lines::set_hint(const Hint& hint) {
+    if (hint == hint_) {
+        return;
+    }
+    hint_ = hint;
+    lines_ = first_lines(title_font, wrapped_text(title_font, hint.title, area.width), 1, area.width);
+    const std::vector<std::string> text =
+        first_lines(font, wrapped_text(font, hint.text, area.width), most_lines - 1, area.width);
+    lines_.insert(lines_.end(), text.begin(), text.end());
+}
+
+void Hint_Lines::draw() const {
+    Point position{area.x, area.y};
+    for (const std::string& line : lines_) {
+        screen->draw_text(position.y == area.y ? title_font : font, position, line);
+        position.y += line_step;
+    }
+}
+
+} // namespace quadrelle
