@@ -39,6 +39,7 @@ public:
 
     [[nodiscard]] Documents& documents() { return documents_; }
     [[nodiscard]] Canvas_View& canvas() { return canvas_; }
+    [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
 
 private:
     struct Handler;
