@@ -194,11 +194,15 @@ TEST_F(Help_Test, hints_stay_in_their_place) {
     for (const Place_Row& row : place_table) {
         all.push_back(hint_of(row.id));
     }
+    // The cell of the third line ends below the area, its letters do not.
+    const Rectangle area = Hint_Lines::area;
+    screen->clear();
+    screen->draw_text(Font::pane, {area.x, area.y + 34}, "gjpqy|,;()_");
+    EXPECT_FALSE(has_picture({area.x, area.bottom(), area.width, 8}));
     for (const Hint& hint : all) {
         screen->clear();
         hints.set_hint(hint);
         hints.draw();
-        const Rectangle area = Hint_Lines::area;
         EXPECT_TRUE(has_picture(area)) << hint.title;
         EXPECT_FALSE(has_picture({area.x - 8, area.bottom(), area.width + 16, 8})) << hint.title;
         EXPECT_FALSE(has_picture({area.right(), area.y, 300, area.height})) << hint.title;
@@ -207,9 +211,10 @@ TEST_F(Help_Test, hints_stay_in_their_place) {
 
 TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {
     load_empty_set();
-    for (const Command command : {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip,
-                                  Command::anti_alias, Command::next_tile, Command::delete_tile,
-                                  Command::save_history_buffer, Command::vertical_seam_tool}) {
+    for (const Command command :
+         {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip, Command::anti_alias,
+          Command::next_tile, Command::delete_tile, Command::save_history_buffer, Command::vertical_seam_tool,
+          Command::versions}) {
         SCOPED_TRACE(row_of(command).name);
         expect_message("Note", "This set has no tile. Tileset, Add new tile makes one.").key(key::enter);
         execute(command);
