@@ -32,9 +32,10 @@ Pair_List::Pair_List(std::vector<Text_Pair> pairs, int columns, Font item_font)
 }
 
 void Pair_List::add_column(std::size_t first_pair, std::size_t end) {
-    Column column{first_pair, end, columns_.empty() ? 0 : area.width + column_gap, 0};
+    Column column{first_pair, end, columns_.empty() ? 0 : area.width + column_gap, 0, 0};
     column.second_x = column.x + inset + width_of(column, &Text_Pair::first) + gap_in_pair;
     area.width = column.second_x + inset + width_of(column, &Text_Pair::second) + inset;
+    column.width = area.width - column.x;
     columns_.push_back(column);
 }
 
@@ -53,14 +54,11 @@ void Pair_List::draw() const {
 }
 
 void Pair_List::draw_column(const Column& column) const {
-    const auto next = std::find_if(columns_.begin(), columns_.end(),
-                                   [&](const Column& other) { return other.x > column.x; });
-    const int end_x = next == columns_.end() ? area.width : next->x - column_gap;
     const int first_width = column.second_x - gap_in_pair / 2 - column.x;
     int y = area.y;
     for (std::size_t i = column.first_pair; i < column.end; ++i) {
         const int x = area.x + column.x;
-        const Rectangle second{x + first_width + 1, y, end_x - column.x - first_width - 1,
+        const Rectangle second{x + first_width + 1, y, column.width - first_width - 1,
                                row_step(font) - row_gap};
         screen->fill_rect({x, y, first_width, second.height}, standard_color(Standard_Color::list_passive));
         screen->fill_rect(second, standard_color(Standard_Color::pane_frame));

@@ -26,6 +26,7 @@ private:
         std::size_t first_pair;
         std::size_t end;
         int x; // from the item's left edge
+        int width;
         int second_x;
     };
     void add_column(std::size_t first_pair, std::size_t end);
