@@ -116,6 +116,8 @@ void Editor::redraw(Present present) {
     strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
     toolbox->draw();
+    hint_lines_.set_hint(hint_of(pointed()));
+    hint_lines_.draw();
     if (present == Present::yes) {
         screen->present();
     }

@@ -12,6 +12,7 @@
 #include "tileset/tile_navigation_pane.h"
 #include "tileset/tile_strip_picture.h"
 #include "tools/icon_bar.h"
+#include "views/hint_lines.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -40,6 +41,7 @@ public:
 
     [[nodiscard]] Documents& documents() { return documents_; }
     [[nodiscard]] Canvas_View& canvas() { return canvas_; }
+    [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
 
 private:
     struct Handler;
@@ -57,6 +59,9 @@ private:
     void show_pointer();
     void hide_brush();
     [[nodiscard]] bool is_lit(Command icon) const;
+    // The current tool where there is nothing else.
+    [[nodiscard]] Pointed pointed();
+    [[nodiscard]] std::optional<Place> pointed_place();
 
     // Commands. Each answers with the command to record, or none when it failed.
     [[nodiscard]] Command perform(Command command);
@@ -78,8 +83,12 @@ private:
     Command load(Command command);
     Command save(Command command);
     Command quit(Command command);
+    Command export_picture(Command command);
     Command edit_options(Command command);
+    Command show_statistics(Command command);
     Command show_help(Command command);
+    Command show_keyboard_commands(Command command);
+    Command show_mouse_commands(Command command);
     Command show_about(Command command);
     Command show_debug_monitor(Command command);
     Command run_test(Command command);
@@ -107,7 +116,7 @@ private:
     void take_current_tile();
     void size_preview();
 
-    Pointer_State pointer_;
+    Pointer_State pointer_{-1, -1, Mouse_Button::none};
     bool quit_requested_ = false;
     bool control_held_ = false;
     Size shown_tile_size_;
@@ -120,6 +129,7 @@ private:
     Tile_Strip_Picture strip_picture_;
     std::unique_ptr<Menu_Bar> menu_bar_;
     Icon_Bar icon_bar_;
+    Hint_Lines hint_lines_;
 };
 
 // Built at start-up, when everything it works with is there.

@@ -56,4 +56,13 @@ bool Tool_Color_Panel::click(Point point) {
     return false;
 }
 
+Mouse_Button Tool_Color_Panel::side_at(Point point) const {
+    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+        if (panes_.at(side(button)).area.contains(point)) {
+            return button;
+        }
+    }
+    return Mouse_Button::none;
+}
+
 } // namespace quadrelle

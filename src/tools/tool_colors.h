@@ -28,6 +28,8 @@ public:
     void draw();
     // A click makes its side the active one. True when that changed something.
     bool click(Point point);
+    // The side whose pane is there, or none.
+    [[nodiscard]] Mouse_Button side_at(Point point) const;
 
 private:
     void move(Point position);

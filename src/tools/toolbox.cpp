@@ -170,9 +170,13 @@ void Toolbox::draw() const {
         brush_selector_.draw();
     }
     options_.draw();
-    if (row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper) {
+    if (shows_colors()) {
         tool_colors->draw();
     }
+}
+
+bool Toolbox::shows_colors() const {
+    return row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper;
 }
 
 Command Toolbox::command_at(Point point) const {

@@ -60,6 +60,8 @@ public:
     void draw() const;
     // The tool whose entry in the list is there and not covered, or none.
     [[nodiscard]] Command command_at(Point point) const;
+    // The colours of the buttons stand beside the list.
+    [[nodiscard]] bool shows_colors() const;
     // True when an option, a brush or a side of the colours was chosen.
     bool click(const Pointer_State& pointer);
 

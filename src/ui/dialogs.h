@@ -44,6 +44,7 @@ public:
     // The preview and the magnification, which is shown as "21x".
     void draw(int magnification);
     [[nodiscard]] Preview_Pane& preview() { return preview_; }
+    [[nodiscard]] const Pane& magnification() const { return magnification_; }
 
 private:
     friend class Dialog_Layer;
