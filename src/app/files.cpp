@@ -78,7 +78,9 @@ Path_Kind path_kind(const std::string& name) {
 
 std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder) {
     std::vector<Folder_Entry> entries;
-    if (!SDL_EnumerateDirectory(folder.c_str(), add_entry, &entries)) {
+    // The library cuts separators off the end, and of "/" nothing would be left.
+    const std::string from = folder + path_separator + '.';
+    if (!SDL_EnumerateDirectory(from.c_str(), add_entry, &entries)) {
         return std::nullopt;
     }
     return entries;

@@ -91,12 +91,6 @@ File_Answer ask_system(File_Dialog_Kind kind) {
     return {answer->state, answer->path};
 }
 
-File_Answer ask_own(File_Dialog_Kind kind) {
-    const File_Dialog_Row& row = row_of(kind);
-    return run_file_chooser(
-        {row.title, row.direction, row.filter.name, row.filter.pattern, row.forced_extension});
-}
-
 // Elsewhere the desktop decides whether there is a dialog, and an error may mean that there is none.
 #if defined(_WIN32) || defined(__APPLE__)
 constexpr bool system_has_dialogs = true;
@@ -122,7 +116,7 @@ File_Answer ask_user(File_Dialog_Kind kind) {
         }
         way = way == Way::system && prefer_zenity() ? Way::zenity : Way::own;
     }
-    return ask_own(kind);
+    return ask_own_dialog(kind);
 }
 
 File_Chooser& chooser() {
@@ -131,6 +125,12 @@ File_Chooser& chooser() {
 }
 
 } // namespace
+
+File_Answer ask_own_dialog(File_Dialog_Kind kind) {
+    const File_Dialog_Row& row = row_of(kind);
+    return run_file_chooser(
+        {row.title, row.direction, row.filter.name, row.filter.pattern, row.forced_extension});
+}
 
 void set_file_chooser(File_Chooser new_chooser) {
     chooser() = new_chooser ? std::move(new_chooser) : ask_user;

@@ -25,6 +25,9 @@ enum class File_Dialog_Kind : std::int32_t {
 // told to the user here.
 [[nodiscard]] bool choose_file(File_Dialog_Kind kind, std::string& path);
 
+// What the program's own dialog answers, for whoever wants no other one.
+[[nodiscard]] File_Answer ask_own_dialog(File_Dialog_Kind kind);
+
 // Stands in for all dialogs, for tests; an empty function takes them back.
 using File_Chooser = std::function<File_Answer(File_Dialog_Kind)>;
 void set_file_chooser(File_Chooser chooser);
