@@ -8,6 +8,7 @@
 
 #include <SDL3/SDL_dialog.h>
 #include <SDL3/SDL_hints.h>
+#include <SDL3/SDL_stdinc.h>
 
 #include <array>
 #include <atomic>
@@ -100,6 +101,13 @@ constexpr bool system_has_dialogs = false;
 
 enum class Way { system, zenity, own };
 
+// Up to 3.2 the library hands libdbus a null message when a portal answers with an error, and libdbus ends the
+// program for that unless it is told not to. The environment has the last word.
+void survive_portal_errors() {
+    constexpr int keep_if_set = 0;
+    SDL_setenv_unsafe("DBUS_FATAL_WARNINGS", "0", keep_if_set);
+}
+
 // Zenity may be there although a desktop portal, which is asked first, answers with an error. False where the
 // user has set the hint.
 bool prefer_zenity() {
@@ -109,6 +117,7 @@ bool prefer_zenity() {
 // A way that failed is not tried again in this run.
 File_Answer ask_user(File_Dialog_Kind kind) {
     static Way way = Way::system;
+    survive_portal_errors();
     while (way != Way::own) {
         const File_Answer answer = ask_system(kind);
         if (answer.state != File_Answer_State::failed || system_has_dialogs) {
