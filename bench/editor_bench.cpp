@@ -189,14 +189,19 @@ void start_up(benchmark::State& state) {
     state.counters["resident_MiB"] = kibibytes / 1024;
 }
 
-Tileset full_tileset(int tile_edge) {
-    Tileset tileset({tile_edge, tile_edge});
-    for (int i = 0; i < default_tile_limit; ++i) {
-        tileset.add_tile();
-        for (int j = 0; j < tileset.current_tile()->pixel_count(); ++j) {
-            tileset.current_tile()->set_pixel_at(j, {i, j * 31 % 256, j * 3 % 256, j % 5 == 0 ? 128 : 255});
+void fill(Tileset& tileset) {
+    while (tileset.add_tile()) {
+        Tile& tile = *tileset.current_tile();
+        for (int i = 0; i < tile.pixel_count(); ++i) {
+            tile.set_pixel_at(i, {tileset.count() % 256, i * 31 % 256, i * 3 % 256, i % 5 == 0 ? 128 : 255});
         }
     }
+    tileset.select(0);
+}
+
+Tileset full_tileset(int tile_edge) {
+    Tileset tileset({tile_edge, tile_edge});
+    fill(tileset);
     return tileset;
 }
 
@@ -255,11 +260,27 @@ void load_set(benchmark::State& state) {
     remove_file(path);
 }
 
+// The command with the frame that shows the other tile, back at the first one where the set ends.
+void next_tile(benchmark::State& state) {
+    const int edge = static_cast<int>(state.range(0));
+    editor->documents().new_document({edge, edge});
+    Tileset& tileset = editor->documents().current().tileset();
+    fill(tileset);
+    for (auto _ : state) {
+        if (tileset.is_last()) {
+            tileset.select(0);
+        }
+        editor->execute(Command::next_tile);
+        editor->redraw(Present::yes);
+    }
+}
+
 BENCHMARK(frame)->Args({24, 21})->Args({64, 8})->Args({255, 3})->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_motion)->Args({24, 21})->Args({64, 8})->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(save_set)->Arg(24)->Arg(64)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(load_set)->Arg(24)->Arg(64)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
 BENCHMARK(start_up)->UseRealTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -101,8 +101,8 @@ constexpr bool system_has_dialogs = false;
 
 enum class Way { system, zenity, own };
 
-// Up to 3.2 the library hands libdbus a null message when a portal answers with an error, and libdbus ends the
-// program for that unless it is told not to. The environment has the last word.
+// Up to 3.2 the library hands libdbus a null message when a portal answers with an error, and libdbus ends
+// the program for that unless it is told not to. The environment has the last word.
 void survive_portal_errors() {
     constexpr int keep_if_set = 0;
     SDL_setenv_unsafe("DBUS_FATAL_WARNINGS", "0", keep_if_set);
@@ -119,7 +119,7 @@ File_Answer ask_user(File_Dialog_Kind kind) {
     static Way way = Way::system;
     survive_portal_errors();
     while (way != Way::own) {
-        const File_Answer answer = ask_system(kind);
+        File_Answer answer = ask_system(kind);
         if (answer.state != File_Answer_State::failed || system_has_dialogs) {
             return answer;
         }

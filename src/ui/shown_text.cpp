@@ -59,7 +59,7 @@ std::string shown_text(std::string_view text) {
 }
 
 std::string fitted_text(Font font, std::string_view text, int width, Left_Out left_out) {
-    const std::string shown = shown_text(text);
+    std::string shown = shown_text(text);
     if (screen->text_width(font, shown) <= width) {
         return shown;
     }

@@ -11,10 +11,10 @@
 #include "ui/shown_text.h"
 #include "views/file_list.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <string>
-#include <utility>
 
 namespace quadrelle {
 
