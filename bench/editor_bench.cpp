@@ -5,6 +5,8 @@
 #include "app/application.h"
 #include "app/editor.h"
 #include "app/events.h"
+#include "app/files.h"
+#include "tileset/tileset_file.h"
 #include "tools/flood_fill.h"
 
 #include <benchmark/benchmark.h>
@@ -15,6 +17,7 @@
 #include <array>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 #include <string_view>
@@ -290,6 +293,77 @@ void start_up(benchmark::State& state) {
     state.counters["resident_MiB"] = kibibytes / 1024;
 }
 
+void fill(Tileset& tileset) {
+    while (tileset.add_tile()) {
+        Tile& tile = *tileset.current_tile();
+        for (int i = 0; i < tile.pixel_count(); ++i) {
+            tile.set_pixel_at(i, {tileset.count() % 256, i * 31 % 256, i * 3 % 256, i % 5 == 0 ? 128 : 255});
+        }
+    }
+    tileset.select(0);
+}
+
+Tileset full_tileset(int tile_edge) {
+    Tileset tileset({tile_edge, tile_edge});
+    fill(tileset);
+    return tileset;
+}
+
+std::string scratch_file() {
+    return (std::filesystem::temp_directory_path() / ("quadrelle-bench-" + std::to_string(getpid()) + ".qdl"))
+        .string();
+}
+
+// The moments before each step of a save; the last three steps are the flush to the disk, closing and
+// replacing.
+std::vector<Clock::time_point>& save_steps() {
+    static std::vector<Clock::time_point> steps;
+    return steps;
+}
+
+bool note_save_step() {
+    save_steps().push_back(Clock::now());
+    return false;
+}
+
+// Without the flush to the disk, which is a counter of its own.
+void save_set(benchmark::State& state) {
+    const Tileset tileset = full_tileset(static_cast<int>(state.range(0)));
+    const std::string path = scratch_file();
+    double flushes = 0;
+    set_file_fault_hook(note_save_step);
+    for (auto _ : state) {
+        save_steps().clear();
+        const Clock::time_point start = Clock::now();
+        if (save_tileset(tileset, path) < 0) {
+            state.SkipWithError("The set was not saved.");
+            break;
+        }
+        const double total = seconds_since(start);
+        const std::vector<Clock::time_point>& steps = save_steps();
+        const std::chrono::duration<double> flush = steps.at(steps.size() - 2) - steps.at(steps.size() - 3);
+        flushes += flush.count();
+        state.SetIterationTime(total - flush.count());
+    }
+    set_file_fault_hook(nullptr);
+    remove_file(path);
+    state.counters["flush_ms"] = benchmark::Counter(flushes * 1000, benchmark::Counter::kAvgIterations);
+}
+
+void load_set(benchmark::State& state) {
+    const std::string path = scratch_file();
+    if (save_tileset(full_tileset(static_cast<int>(state.range(0))), path) < 0) {
+        state.SkipWithError("The set was not saved.");
+    }
+    for (auto _ : state) {
+        if (load_tileset(path).tileset->count() != default_tile_limit) {
+            state.SkipWithError("The set was not loaded.");
+            break;
+        }
+    }
+    remove_file(path);
+}
+
 BENCHMARK(frame)->Args({24, 21})->Args({64, 8})->Args({255, 3})->Unit(benchmark::kMicrosecond);
 // The time of a stroke is that of one motion, so few of them make up no time.
 BENCHMARK(stroke_motion)
@@ -299,10 +373,12 @@ BENCHMARK(stroke_motion)
     ->Iterations(10)
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(next_tile)->Arg(64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
 BENCHMARK(fill_plain)->Arg(255)->Unit(benchmark::kMicrosecond);
 BENCHMARK(fill_serpentine)->Arg(flood_wave_limit - 1)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(save_set)->Arg(24)->Arg(64)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(load_set)->Arg(24)->Arg(64)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(start_up)->UseRealTime()->Iterations(20)->Unit(benchmark::kMillisecond);
 
 } // namespace
