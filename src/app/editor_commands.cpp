@@ -40,8 +40,6 @@ bool needs_tile(Command command) {
     case Command::anti_alias:
     case Command::horizontal_seam_tool:
     case Command::vertical_seam_tool:
-    case Command::next_tile:
-    case Command::previous_tile:
     case Command::delete_tile:
     case Command::versions: return true;
     default: return Command::scroll_left <= command && command <= Command::scroll_down;

@@ -31,9 +31,10 @@ std::optional<Place> color_place(Point point) {
 
 std::optional<Place> Editor::pointed_place() {
     const Point point = pointer_.point();
-    const std::array<std::pair<const Pane*, Place>, 5> panes{
+    const std::array<std::pair<const Pane*, Place>, 6> panes{
         {{&dialogs->preview(), Place::preview},
          {&dialogs->magnification(), Place::magnification},
+         {&navigation_, Place::navigation},
          {&history_pane_, Place::history},
          {&palette_, Place::palette},
          {&selected_color_, Place::selected_color}}};
@@ -47,6 +48,9 @@ std::optional<Place> Editor::pointed_place() {
     }
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
+    }
+    if (documents_.current().strip().area().contains(point)) {
+        return Place::strip;
     }
     return color_place(point);
 }
