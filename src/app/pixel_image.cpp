@@ -1,7 +1,9 @@
 #include "app/pixel_image.h"
 
 #include "app/renderer.h"
+#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "tileset/sprite_sheet.h"
 
 #include <algorithm>
 
@@ -44,6 +46,16 @@ void Pixel_Image::fill_checkers(const Rectangle& area) {
     for (int y = 0; y < area.height; ++y) {
         for (int x = 0; x < area.width; ++x) {
             set_pixel({area.x + x, area.y + y}, checker_at(x, y));
+        }
+    }
+}
+
+void Pixel_Image::draw_sprite(Sprite sprite, Point position) {
+    const Rectangle part = sprite_rect(sprite);
+    for (int y = 0; y < part.height; ++y) {
+        for (int x = 0; x < part.width; ++x) {
+            const auto [r, g, b, a] = screen->sprites().surface().get_pixel(part.x + x, part.y + y);
+            set_pixel({position.x + x, position.y + y}, {r, g, b, a});
         }
     }
 }

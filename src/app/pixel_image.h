@@ -5,6 +5,7 @@
 #include "app/geometry.h"
 #include "app/opaque_texture.h"
 #include "color/color.h"
+#include "tileset/sprite_table.h"
 
 #include <vector>
 
@@ -22,6 +23,7 @@ public:
     void fill_rect(const Rectangle& area, Color color);
     // What shows through a translucent colour.
     void fill_checkers(const Rectangle& area);
+    void draw_sprite(Sprite sprite, Point position);
     void upload();
 
     void draw_at(Point position) const { texture_.draw_at(position); }

@@ -52,6 +52,7 @@ constexpr Size pane_size{202, row_count* row_step + 2 + 2 * pane_border};
 // A slider is 130 pixels wide: the row's icon, and a track of which each column is one step.
 constexpr int track_left = 17;
 constexpr Size track_size{113, 15};
+constexpr int picture_width = step_row.back().x + sprite_rect(Sprite::button_more).width;
 constexpr int strip_top = 11;
 constexpr Point label_offset{4, -4};
 // Around the strip of colours, below the letters.
@@ -68,7 +69,7 @@ constexpr bool is_hsl(int row) {
 Color_Handles::Color_Handles(Point position, std::function<void(Color)> hand_on)
     : Pane({position.x, position.y, pane_size.width, pane_size.height}, "Handles"),
       hand_on_(std::move(hand_on)), hsl_(color_, color_),
-      tracks_({track_size.width, (row_count - 1) * row_step + track_size.height}) {
+      picture_({picture_width, (row_count - 1) * row_step + track_size.height}) {
     for (const Handle_Row& row : handle_rows) {
         icons_.push_back(std::make_unique<Button_Dialog_Item>(Item_Id{}, row.icon));
         for (const Step_Button& button : step_row) {
@@ -77,6 +78,7 @@ Color_Handles::Color_Handles(Point position, std::function<void(Color)> hand_on)
         }
     }
     Color_Handles::layout();
+    paint_buttons();
     paint_tracks();
 }
 
@@ -215,29 +217,39 @@ Color Color_Handles::color_at(int row, double fraction) const {
     return moved;
 }
 
-void Color_Handles::paint_tracks() {
-    tracks_.fill_rect({0, 0, tracks_.size().width, tracks_.size().height},
-                      standard_color(Standard_Color::pane_background));
-    for (int row = 0; row < row_count; ++row) {
-        const Rectangle bar{0, row * row_step, track_size.width, track_size.height};
-        tracks_.fill_rect(bar, standard_color(Standard_Color::dark_frame));
-        const Rectangle strip{0, bar.y + strip_top, bar.width, bar.height - strip_top};
-        tracks_.fill_checkers(strip);
-        for (int x = 0; x < strip.width; ++x) {
-            tracks_.fill_rect({x, strip.y, 1, strip.height}, color_at(row, x / (strip.width - 1.0)));
+// Once: drawn one by one in each frame, they would cost more than all the rest of the pane.
+void Color_Handles::paint_buttons() {
+    picture_.fill_rect({0, 0, picture_.size().width, picture_.size().height},
+                       standard_color(Standard_Color::pane_background));
+    const Rectangle first = icons_.front()->area;
+    for (const auto* buttons : {&icons_, &step_buttons_}) {
+        for (const auto& button : *buttons) {
+            const Sprite sprite = button_table.at(static_cast<std::size_t>(button->type())).sprite;
+            picture_.draw_sprite(sprite, {button->area.x - first.x, button->area.y - first.y});
         }
     }
-    tracks_.upload();
+}
+
+void Color_Handles::paint_tracks() {
+    for (int row = 0; row < row_count; ++row) {
+        const Rectangle bar{track_left, row * row_step, track_size.width, track_size.height};
+        picture_.fill_rect(bar, standard_color(Standard_Color::dark_frame));
+        const Rectangle strip{bar.x, bar.y + strip_top, bar.width, bar.height - strip_top};
+        picture_.fill_checkers(strip);
+        for (int x = 0; x < strip.width; ++x) {
+            picture_.fill_rect({strip.x + x, strip.y, 1, strip.height},
+                               color_at(row, x / (strip.width - 1.0)));
+        }
+    }
+    picture_.upload();
 }
 
 void Color_Handles::draw() const {
-    Pane::draw();
-    tracks_.draw_at({track(0).x, track(0).y});
+    const Rectangle first = icons_.front()->area;
+    draw_around({first.x, first.y, picture_.size().width, picture_.size().height});
+    picture_.draw_at({first.x, first.y});
     for (int row = 0; row < row_count; ++row) {
         draw_row(row);
-    }
-    for (const auto& button : step_buttons_) {
-        button->draw();
     }
 }
 
@@ -252,7 +264,6 @@ void Color_Handles::draw_row(int row) const {
         Font::pane, {bar.right() - label_offset.x - screen->text_width(Font::pane, number), text_y}, number);
     const int x = bar.x + static_cast<int>(std::lround(fraction(row) * (track_size.width - 1)));
     draw_mark({x - marker_size.width / 2, bar.y + marker_top, marker_size.width, marker_size.height});
-    icons_.at(index)->draw();
 }
 
 } // namespace quadrelle

@@ -42,6 +42,7 @@ private:
     [[nodiscard]] std::optional<int> button_at(Point point) const;
     [[nodiscard]] Color color_at(int row, double fraction) const;
     void draw_row(int row) const;
+    void paint_buttons();
     void paint_tracks();
 
     std::function<void(Color)> hand_on_;
@@ -49,7 +50,7 @@ private:
     HSL_Color hsl_;
     std::vector<std::unique_ptr<Button_Dialog_Item>> icons_;
     std::vector<std::unique_ptr<Button_Dialog_Item>> step_buttons_;
-    Pixel_Image tracks_;
+    Pixel_Image picture_; // of all rows, without their texts and markers
 };
 
 } // namespace quadrelle

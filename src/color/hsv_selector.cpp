@@ -103,8 +103,10 @@ void HSV_Selector::build_bar() {
 }
 
 void HSV_Selector::draw() const {
-    Pane::draw();
     const Color outline = standard_color(Standard_Color::pane_background);
+    draw_around({square_rect_.x, square_rect_.y, bar_rect_.right() - square_rect_.x, size});
+    screen->fill_rect({square_rect_.right(), square_rect_.y, bar_rect_.x - square_rect_.right(), size},
+                      outline);
     screen->draw_outline(square_rect_.inset(-1), outline);
     square_image_.draw_at({square_rect_.x, square_rect_.y});
     screen->draw_outline(bar_rect_.inset(-1), outline);

@@ -60,8 +60,8 @@ void Color_Variations::paint_ramps() {
 }
 
 void Color_Variations::draw() const {
-    Pane::draw();
     const Rectangle first = cell(0, 0);
+    draw_around({first.x, first.y, image_.size().width, image_.size().height});
     image_.draw_at({first.x, first.y});
     for (int row = 0; row < ramp_kind_count; ++row) {
         const auto index = static_cast<std::size_t>(row);
