@@ -167,7 +167,7 @@ void Editor::route_click() {
         draw_on_canvas();
         return;
     }
-    if (toolbox->click(pointer_)) {
+    if (toolbox->click(pointer_, [this] { redraw(Present::yes); })) {
         return;
     }
     const Command icon = icon_bar_.command_at(pointer_.point());
@@ -194,9 +194,16 @@ void Editor::route_click() {
 }
 
 bool Editor::click_pane() {
-    const std::optional<Color> color = palette_.click(pointer_.point());
-    if (color) {
-        tool_colors->set_color(pointer_.button, *color);
+    if (selected_color_.set_button().contains(pointer_.point())) {
+        palette_.store(tool_colors->current_color());
+        return true;
+    }
+    if (const std::optional<Color> color = palette_.click(pointer_.point())) {
+        if (is_shift_held()) {
+            palette_.store(tool_colors->color(pointer_.button));
+        } else {
+            tool_colors->set_color(pointer_.button, *color);
+        }
         return true;
     }
     return documents_.click_tab(pointer_.point());

@@ -10,6 +10,7 @@
 #include "ui/dialogs.h"
 #include "views/help_lists.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -18,13 +19,22 @@ namespace quadrelle {
 namespace {
 
 std::optional<Place> color_place(Point point) {
-    const Mouse_Button side = toolbox->shows_colors() ? tool_colors->side_at(point) : Mouse_Button::none;
-    switch (side) {
+    if (!toolbox->shows_colors()) {
+        return std::nullopt;
+    }
+    switch (tool_colors->side_at(point)) {
     case Mouse_Button::left: return Place::left_color;
     case Mouse_Button::right: return Place::right_color;
     case Mouse_Button::none: break;
     }
-    return std::nullopt;
+    const std::array<std::pair<const Pane*, Place>, 3> panes{
+        {{&tool_colors->selector(), Place::hsv_selector},
+         {&tool_colors->handles(), Place::handles},
+         {&tool_colors->variations(), Place::variations}}};
+    const auto pane =
+        std::ranges::find_if(panes, [point](const auto& row) { return row.first->area.contains(point); });
+    const bool is_there = pane != panes.end() && toolbox->current_tool() != Tool::dropper;
+    return is_there ? std::optional(pane->second) : std::nullopt;
 }
 
 } // namespace
@@ -49,7 +59,7 @@ std::optional<Place> Editor::pointed_place() {
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
     }
-    if (documents_.current().strip().area().contains(point)) {
+    if (documents_.current().strip().area.contains(point)) {
         return Place::strip;
     }
     return color_place(point);

@@ -28,6 +28,9 @@ enum class Place : int {
     selected_color,
     left_color,
     right_color,
+    hsv_selector,
+    handles,
+    variations,
     count
 };
 
@@ -47,10 +50,13 @@ constexpr std::array place_table = {
     Place_Row{Place::navigation,          "Tileset navigation", "Steps to the previous and the next tile, and pages through the tiles along the bottom."},
     Place_Row{Place::strip,               "Tiles of the set",   "A click goes to that tile. Tab shows the whole set."},
     Place_Row{Place::history,             "History",            "The newest steps that can be undone. Tools, View undo history shows all."},
-    Place_Row{Place::palette,             "Palette",            "The left or right button takes a color for that button. The arrows step through the palettes."},
-    Place_Row{Place::selected_color,      "Selected",           "The color of the palette that was chosen last."},
-    Place_Row{Place::left_color,          "Left button color",  "What the left button draws in. A click makes it the color that the brush shows."},
-    Place_Row{Place::right_color,         "Right button color", "What the right button draws in. A click makes it the color that the brush shows."},
+    Place_Row{Place::palette,             "Palette",            "Left or right click: takes the color for that button. Shift and click: stores the button's color there."},
+    Place_Row{Place::selected_color,      "Selected",           "The color of the palette that was chosen last. Set stores the lit color there."},
+    Place_Row{Place::left_color,          "Left button color",  "What the left button draws in. A click makes it the color that handles and variations work on."},
+    Place_Row{Place::right_color,         "Right button color", "What the right button draws in. A click makes it the color that handles and variations work on."},
+    Place_Row{Place::hsv_selector,        "HSV Selector",       "Drag in the square: the color of the button that you press. Drag in the bar: the hue of the square."},
+    Place_Row{Place::handles,             "Handles",            "Change the lit color: drag a slider, or click on less, middle and more."},
+    Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
 };
 // clang-format on
 
