@@ -34,6 +34,10 @@ bool take_key_release() {
     return std::exchange(key_was_released, false);
 }
 
+bool is_shift_held() {
+    return (SDL_GetModState() & SDL_KMOD_SHIFT) != 0;
+}
+
 void set_wait_watcher(Wait_Watcher new_watcher) {
     watcher() = std::move(new_watcher);
 }

@@ -41,6 +41,8 @@ Idle_Outcome idle(std::string_view loop);
 // Whether a key was released since the last call, in whichever loop that was.
 [[nodiscard]] bool take_key_release();
 
+[[nodiscard]] bool is_shift_held();
+
 // Called with the loop's name before each wait; a test feeds its next event from here.
 using Wait_Watcher = std::function<void(std::string_view loop)>;
 void set_wait_watcher(Wait_Watcher watcher);
