@@ -68,7 +68,8 @@ Color HSV_Color::nearest_rgb() const {
     const double delta = std::isnan(hue) ? 0.0 : v * saturation.value();
     // A channel is at the top for a third of the wheel around its own hue, and `turn` sixths behind it.
     const auto channel = [&](double turn) {
-        const double sixth = std::fmod(hue / 60.0 + turn, 6.0);
+        const double ahead = hue / 60.0 + turn;
+        const double sixth = ahead < 6.0 ? ahead : ahead - 6.0;
         const double share = std::clamp(std::min(sixth, 4.0 - sixth), 0.0, 1.0);
         return truncated_channel(v - (delta > 0.0 ? delta * share : 0.0) + 0.5);
     };

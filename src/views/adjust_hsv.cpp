@@ -141,7 +141,8 @@ void Adjust_HSV::draw_tick() const {
 
 void Adjust_HSV::draw_note() const {
     const bool is_all = adjustment_.tiles == Adjusted_Tiles::all;
-    screen->draw_text(Font::pane, {tick_.x, tick_.bottom()},
+    const int y = choice_ == All_Tiles_Choice::shown ? tick_.bottom() : tick_.y;
+    screen->draw_text(Font::pane, {tick_.x, y},
                       is_all ? "Note: Adjusting all tiles clears undo history."
                              : "The wheel and the arrow keys step by 1, with Shift by 10.");
 }
