@@ -21,6 +21,8 @@
 
 namespace quadrelle {
 
+struct HSV_Change;
+
 enum class Present { no, yes };
 
 class Editor {
@@ -102,6 +104,10 @@ private:
 
     // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
     Command float_paste(const Tile& picture);
+    Command edit_tool_color(Command command);
+    Command adjust_hsv(Command command);
+    [[nodiscard]] bool adjust_current_tile(const HSV_Change& change);
+    [[nodiscard]] bool adjust_all_tiles(const HSV_Change& change);
 
     // Adds the current tile to the history of the current document, and before it the state that an undo
     // gives back, where the history did not know it.

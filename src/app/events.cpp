@@ -94,6 +94,7 @@ Idle_Outcome idle(std::string_view loop) {
 void discard_events() {
     SDL_PumpEvents();
     key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
+    button_was_released = button_was_released || SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP);
     SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
 }
 

@@ -4,6 +4,7 @@
 #include "color/standard_colors.h"
 #include "color/swatch.h"
 #include "tileset/sprite_sheet.h"
+#include "ui/checkerboard.h"
 
 #include <array>
 #include <cstdio>

@@ -13,19 +13,6 @@ constexpr int least_edge_for_inner_mark = 10;
 
 } // namespace
 
-void draw_swatch(const Rectangle& area, Color color) {
-    if (color.a != 255) {
-        const Size half{area.width / 2, area.height / 2};
-        screen->fill_rect(area, standard_color(Standard_Color::checker_light));
-        screen->fill_rect({area.x, area.y, half.width, half.height},
-                          standard_color(Standard_Color::checker_dark));
-        screen->fill_rect(
-            {area.x + half.width, area.y + half.height, area.width - half.width, area.height - half.height},
-            standard_color(Standard_Color::checker_dark));
-    }
-    screen->fill_rect(area, color);
-}
-
 void draw_mark(const Rectangle& area) {
     screen->draw_outline(area, standard_color(Standard_Color::black));
     screen->draw_outline(area.inset(1), standard_color(Standard_Color::white));

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -34,6 +35,8 @@ public:
     // Lets the user type a number from `low` to `high` in a small box near `position`; `no_number` when given
     // up.
     [[nodiscard]] int ask_number(Point position, int value, int low, int high);
+    // The same for bounds that may be negative; none when given up.
+    [[nodiscard]] std::optional<int> ask_signed_number(Point position, int value, int low, int high);
 
     // Draws the whole editor without presenting it; none leaves an empty window.
     void set_backdrop(Draw_Function draw) { backdrop_ = std::move(draw); }

@@ -59,6 +59,7 @@ constexpr std::array places{
     Place{"app/events",                   Level::screen},
     Place{"app/screen",                   Level::screen},
     Place{"app/surface",                  Level::screen},
+    Place{"app/text_input",               Level::screen},
     Place{"app/texture",                  Level::screen},
     Place{"app/opaque_texture",           Level::screen},
     Place{"app/pixel_image",              Level::screen},
