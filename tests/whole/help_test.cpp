@@ -140,7 +140,7 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         {{100, 100}, "Preview", "The current tile"},
         {{100, 290}, "Magnification", "How large"},
         {{100, 400}, "History", "The newest steps"},
-        {{100, 500}, "Palette", "The left or right"},
+        {{100, 500}, "Palette", "Left or right"},
         {{100, 612}, "Selected", "The color of"},
         {{1100, 60}, "Left button color", "What the left"},
         {{1100, 130}, "Right button color", "What the right"},
@@ -211,10 +211,9 @@ TEST_F(Help_Test, hints_stay_in_their_place) {
 
 TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {
     load_empty_set();
-    for (const Command command :
-         {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip, Command::anti_alias,
-          Command::next_tile, Command::delete_tile, Command::save_history_buffer, Command::vertical_seam_tool,
-          Command::versions}) {
+    for (const Command command : {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip,
+                                  Command::anti_alias, Command::delete_tile, Command::save_history_buffer,
+                                  Command::vertical_seam_tool, Command::versions}) {
         SCOPED_TRACE(row_of(command).name);
         expect_message("Note", "This set has no tile. Tileset, Add new tile makes one.").key(key::enter);
         execute(command);
