@@ -50,6 +50,9 @@ public:
     // One more application where the pointer is, when it is due; true when something was drawn.
     bool stay() { return draw_path(); }
 
+    // Not the end of a pick: what was picked stays, but the tool stays too.
+    void window_closed() { last_ = Segment_Outcome::nothing; }
+
     // Draws what still waits for its turn, and what comes last.
     void finish() {
         while (!path_.empty() && !draw_path()) {
@@ -142,7 +145,7 @@ void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void(
     run_modal({"stroke", redraw,
                [&](const SDL_Event& event) {
                    switch (event.type) {
-                   case SDL_EVENT_QUIT: return Loop_Step::end;
+                   case SDL_EVENT_QUIT: stroke.window_closed(); return Loop_Step::end;
                    case SDL_EVENT_MOUSE_BUTTON_UP:
                        return pointer_of(event.button).button == Mouse_Button::none ? Loop_Step::go_on
                                                                                     : Loop_Step::end;

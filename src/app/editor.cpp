@@ -116,6 +116,8 @@ void Editor::redraw(Present present) {
     strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
     toolbox->draw();
+    hint_lines_.set_hint(hint_of(pointed()));
+    hint_lines_.draw();
     if (present == Present::yes) {
         screen->present();
     }
@@ -168,7 +170,7 @@ void Editor::route_click() {
         draw_on_canvas();
         return;
     }
-    if (toolbox->click(pointer_)) {
+    if (toolbox->click(pointer_, [this] { redraw(Present::yes); })) {
         return;
     }
     const Command icon = icon_bar_.command_at(pointer_.point());
@@ -195,9 +197,16 @@ void Editor::route_click() {
 }
 
 bool Editor::click_pane() {
-    const std::optional<Color> color = palette_.click(pointer_.point());
-    if (color) {
-        tool_colors->set_color(pointer_.button, *color);
+    if (selected_color_.set_button().contains(pointer_.point())) {
+        palette_.store(tool_colors->current_color());
+        return true;
+    }
+    if (const std::optional<Color> color = palette_.click(pointer_.point())) {
+        if (is_shift_held()) {
+            palette_.store(tool_colors->color(pointer_.button));
+        } else {
+            tool_colors->set_color(pointer_.button, *color);
+        }
         return true;
     }
     return documents_.click_tab(pointer_.point());
@@ -211,6 +220,9 @@ bool Editor::click_strip() {
     Tileset_Document& document = documents_.current();
     const int tile = document.strip().tile_at(pointer_.point());
     if (tile >= 0 && tile != document.tileset().current_index()) {
+        if (options->value(Option::clear_selection) == 1) {
+            canvas_.work_area().deselect();
+        }
         document.tileset().select(tile);
         execute(Command::change_tile);
         size_preview();

@@ -13,6 +13,7 @@
 #include "tileset/tile_navigation_pane.h"
 #include "tileset/tile_strip_picture.h"
 #include "tools/icon_bar.h"
+#include "views/hint_lines.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -20,6 +21,8 @@
 #include <optional>
 
 namespace quadrelle {
+
+struct HSV_Change;
 
 enum class Present { no, yes };
 
@@ -41,6 +44,7 @@ public:
 
     [[nodiscard]] Documents& documents() { return documents_; }
     [[nodiscard]] Canvas_View& canvas() { return canvas_; }
+    [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
 
 private:
     struct Handler;
@@ -58,6 +62,9 @@ private:
     void show_pointer();
     void hide_brush();
     [[nodiscard]] bool is_lit(Command icon) const;
+    // The current tool where there is nothing else.
+    [[nodiscard]] Pointed pointed();
+    [[nodiscard]] std::optional<Place> pointed_place();
 
     // Commands. Each answers with the command to record, or none when it failed.
     [[nodiscard]] Command perform(Command command);
@@ -79,8 +86,12 @@ private:
     Command load(Command command);
     Command save(Command command);
     Command quit(Command command);
+    Command export_picture(Command command);
     Command edit_options(Command command);
+    Command show_statistics(Command command);
     Command show_help(Command command);
+    Command show_keyboard_commands(Command command);
+    Command show_mouse_commands(Command command);
     Command show_about(Command command);
     Command show_debug_monitor(Command command);
     Command run_test(Command command);
@@ -92,7 +103,10 @@ private:
     Command arrange(Command command);
     Command view_tile_array(Command command);
 
-    // Lays a picture of the tile's size onto the tile, as one step. Answers with the command to record.
+    Command edit_tool_color(Command command);
+    Command adjust_hsv(Command command);
+    [[nodiscard]] bool adjust_current_tile(const HSV_Change& change);
+    [[nodiscard]] bool adjust_all_tiles(const HSV_Change& change);
 
     // Selection, copies and pastes.
     Command change_selection(Command command);
@@ -125,7 +139,7 @@ private:
     void take_current_tile();
     void size_preview();
 
-    Pointer_State pointer_;
+    Pointer_State pointer_{-1, -1, Mouse_Button::none};
     bool quit_requested_ = false;
     bool control_held_ = false;
     Size shown_tile_size_;
@@ -139,6 +153,7 @@ private:
     Tile_Strip_Picture strip_picture_;
     std::unique_ptr<Menu_Bar> menu_bar_;
     Icon_Bar icon_bar_;
+    Hint_Lines hint_lines_;
 };
 
 // Built at start-up, when everything it works with is there.

@@ -29,6 +29,23 @@ Tool_Option shape_type_option(Command command) {
     return is_circle ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
 }
 
+// Without a tile these would do nothing at all.
+bool needs_tile(Command command) {
+    switch (command) {
+    case Command::save_history_buffer:
+    case Command::rotate:
+    case Command::rotate_back:
+    case Command::mirror:
+    case Command::flip:
+    case Command::anti_alias:
+    case Command::horizontal_seam_tool:
+    case Command::vertical_seam_tool:
+    case Command::delete_tile:
+    case Command::versions: return true;
+    default: return Command::scroll_left <= command && command <= Command::scroll_down;
+    }
+}
+
 // Where the user may want nothing to be selected afterwards.
 bool leaves_selection(Command command) {
     switch (command) {
@@ -86,17 +103,23 @@ Command Editor::dispatch(Command command) {
         {Command::new_tileset,         Command::new_tileset,         &Editor::make_new},
         {Command::load,                Command::load,                &Editor::load},
         {Command::import_from_bmp,     Command::import_from_bmp,     &Editor::do_nothing},
+        {Command::export_bitmap,       Command::export_bitmap,       &Editor::export_picture},
         {Command::save_as,             Command::save,                &Editor::save},
         {Command::quit,                Command::quit,                &Editor::quit},
         {Command::view_in_real_size,   Command::view_in_real_size,   &Editor::view_in_real_size},
         {Command::arrange_select,      Command::arrange_select,      &Editor::arrange},
         {Command::view_tile_array,     Command::view_tile_array,     &Editor::view_tile_array},
         {Command::center_tile_on_view, Command::center_tile_on_view, &Editor::centre},
+        {Command::adjust_hsv,          Command::adjust_hsv,          &Editor::adjust_hsv},
         {Command::zoom_tile_up,        Command::zoom_tile_down,      &Editor::zoom},
         {Command::versions,            Command::versions,            &Editor::show_versions},
+        {Command::color_editor,        Command::color_editor,        &Editor::edit_tool_color},
         {Command::options,             Command::options,             &Editor::edit_options},
+        {Command::statistics,          Command::statistics,          &Editor::show_statistics},
         {Command::context_info,        Command::context_info,        &Editor::show_help},
         {Command::about,               Command::about,               &Editor::show_about},
+        {Command::keyboard_commands,   Command::keyboard_commands,   &Editor::show_keyboard_commands},
+        {Command::mouse_commands,      Command::mouse_commands,      &Editor::show_mouse_commands},
         {Command::debug_monitor,       Command::debug_monitor,       &Editor::show_debug_monitor},
         {Command::undo,                Command::undo,                &Editor::undo},
         {Command::redo,                Command::redo,                &Editor::redo},
@@ -105,6 +128,10 @@ Command Editor::dispatch(Command command) {
         {Command::test,                Command::test,                &Editor::run_test},
     });
     // clang-format on
+    if (needs_tile(command) && !documents_.current().tileset().has_tiles()) {
+        dialogs->message("Note", "This set has no tile. Tileset, Add new tile makes one.");
+        return Command::skip_command;
+    }
     const auto handler = std::ranges::find_if(
         handlers, [command](const Handler& row) { return row.first <= command && command <= row.last; });
     if (handler != handlers.end()) {
@@ -283,13 +310,6 @@ Command Editor::edit_options(Command command) {
     if (options->edit()) {
         size_preview();
     }
-    return command;
-}
-
-// Of the tool in use.
-Command Editor::show_help(Command command) {
-    const Command tool = toolbox->current_command();
-    dialogs->message(menu_text(tool), description(tool));
     return command;
 }
 

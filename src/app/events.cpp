@@ -91,6 +91,17 @@ Idle_Outcome idle(std::string_view loop) {
     return outcome;
 }
 
+void discard_events() {
+    SDL_PumpEvents();
+    key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
+    button_was_released = button_was_released || SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP);
+    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+}
+
+bool is_shift_held() {
+    return (SDL_GetModState() & SDL_KMOD_SHIFT) != 0;
+}
+
 Pointer_State pointer_of(const SDL_MouseButtonEvent& event) {
     return {event.x, event.y, mouse_button(event.button)};
 }

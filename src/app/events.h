@@ -42,6 +42,12 @@ Idle_Outcome idle(std::string_view loop);
 [[nodiscard]] bool take_key_release();
 [[nodiscard]] bool take_button_release();
 
+// Drops every event that waits.
+void discard_events();
+
+// Whether a shift key is held now.
+[[nodiscard]] bool is_shift_held();
+
 // Called with the loop's name before each wait; a test feeds its next event from here.
 using Wait_Watcher = std::function<void(std::string_view loop)>;
 void set_wait_watcher(Wait_Watcher watcher);

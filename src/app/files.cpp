@@ -2,6 +2,8 @@
 
 #include "app/files_platform.h"
 
+#include <SDL3/SDL_filesystem.h>
+
 namespace quadrelle {
 
 namespace {
@@ -10,6 +12,21 @@ File_Fault_Hook fault_hook = nullptr;
 
 bool is_made_to_fail() {
     return fault_hook != nullptr && fault_hook();
+}
+
+Path_Kind kind_of(SDL_PathType type) {
+    switch (type) {
+    case SDL_PATHTYPE_FILE: return Path_Kind::file;
+    case SDL_PATHTYPE_DIRECTORY: return Path_Kind::folder;
+    case SDL_PATHTYPE_OTHER: return Path_Kind::other;
+    default: return Path_Kind::nothing;
+    }
+}
+
+SDL_EnumerationResult SDLCALL add_entry(void* entries, const char* folder, const char* name) {
+    static_cast<std::vector<Folder_Entry>*>(entries)->push_back(
+        {name, path_kind(std::string(folder) + path_separator + name)});
+    return SDL_ENUM_CONTINUE;
 }
 
 } // namespace
@@ -52,6 +69,21 @@ bool close_file(File_Handle file) {
 
 bool replace_file(const std::string& from, const std::string& to) {
     return !is_made_to_fail() && platform::replace_file(from, to);
+}
+
+Path_Kind path_kind(const std::string& name) {
+    SDL_PathInfo info{};
+    return SDL_GetPathInfo(name.c_str(), &info) ? kind_of(info.type) : Path_Kind::nothing;
+}
+
+std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder) {
+    std::vector<Folder_Entry> entries;
+    // The library cuts separators off the end, and of "/" nothing would be left.
+    const std::string from = folder + path_separator + '.';
+    if (!SDL_EnumerateDirectory(from.c_str(), add_entry, &entries)) {
+        return std::nullopt;
+    }
+    return entries;
 }
 
 std::string folder_part(const std::string& name) {

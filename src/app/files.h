@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace quadrelle {
 
@@ -42,6 +44,17 @@ void take_permissions(std::FILE* file, const std::string& name);
 [[nodiscard]] std::string resolve_links(const std::string& name);
 // The name's part up to and including the last separator; may be empty.
 [[nodiscard]] std::string folder_part(const std::string& name);
+
+// Symbolic links are followed; one that leads nowhere is nothing.
+enum class Path_Kind { nothing, file, folder, other };
+[[nodiscard]] Path_Kind path_kind(const std::string& name);
+
+struct Folder_Entry {
+    std::string name;
+    Path_Kind kind;
+};
+// What is in a folder, in no order, without "." and ".."; nothing when it cannot be read.
+[[nodiscard]] std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder);
 
 extern const char path_separator;
 [[nodiscard]] std::string current_directory();

@@ -31,6 +31,7 @@ public:
     // Runs the menu whose header lies under the pointer until an item is chosen or the menu dismissed. Keeps
     // the pointer up to date meanwhile.
     [[nodiscard]] Command click(Pointer_State& pointer);
+    [[nodiscard]] bool contains(Point point) const { return area_.contains(point); }
 
 private:
     struct Item {

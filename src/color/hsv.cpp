@@ -1,5 +1,6 @@
 #include "color/hsv.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -60,6 +61,19 @@ Color HSV_Color::to_rgb() const {
     case 5: return {top, low, falling};
     default: return grey;
     }
+}
+
+Color HSV_Color::nearest_rgb() const {
+    const double v = value.value();
+    const double delta = std::isnan(hue) ? 0.0 : v * saturation.value();
+    // A channel is at the top for a third of the wheel around its own hue, and `turn` sixths behind it.
+    const auto channel = [&](double turn) {
+        const double ahead = hue / 60.0 + turn;
+        const double sixth = ahead < 6.0 ? ahead : ahead - 6.0;
+        const double share = std::clamp(std::min(sixth, 4.0 - sixth), 0.0, 1.0);
+        return truncated_channel(v - (delta > 0.0 ? delta * share : 0.0) + 0.5);
+    };
+    return {channel(5.0), channel(3.0), channel(1.0)};
 }
 
 } // namespace quadrelle

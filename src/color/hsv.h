@@ -21,6 +21,8 @@ struct HSV_Color {
     void from_rgb(Color color, Color reference);
     // Opaque. A hue that is not a number or is outside 0 to 420 gives the grey of the value.
     [[nodiscard]] Color to_rgb() const;
+    // The same with each channel rounded, not truncated: every colour comes back from this form as it was.
+    [[nodiscard]] Color nearest_rgb() const;
 };
 
 } // namespace quadrelle

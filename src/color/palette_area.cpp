@@ -2,10 +2,13 @@
 
 #include "app/screen.h"
 #include "color/standard_colors.h"
+#include "color/swatch.h"
 #include "tileset/sprite_sheet.h"
+#include "ui/checkerboard.h"
 
 #include <array>
 #include <cstdio>
+#include <string_view>
 
 namespace quadrelle {
 
@@ -13,13 +16,17 @@ namespace {
 
 constexpr int pane_width = 202;
 constexpr int name_height = 19;
-constexpr Size grid_size{192, 96};
+constexpr Size grid_size{192, 80};
 constexpr int coarse_columns = 8;
 constexpr int coarse_rows = 4;
 constexpr int button_gap = 4;
-constexpr int selected_height = 33;
-constexpr int swatch_edge = 23;
+constexpr Size selected_size{192, 40};
+constexpr int swatch_edge = 40;
 constexpr int text_gap = 7;
+constexpr int text_rise = 4; // the letters begin below their position
+constexpr int second_line = 25;
+constexpr std::string_view set_label = "Set";
+constexpr Size set_button_size{46, 18};
 
 // The height below a pane's title bar that leaves this much room inside.
 constexpr int height_for(int client_height) {
@@ -32,40 +39,42 @@ Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
 }
 
 std::string numbers(Color color) {
-    std::array<char, 48> text{};
-    std::snprintf(text.data(), text.size(), "%d, %d, %d   #%02x%02x%02x", color.r, color.g, color.b, color.r,
-                  color.g, color.b);
-    return text.data();
+    return std::to_string(color.r) + ", " + std::to_string(color.g) + ", " + std::to_string(color.b) + ", " +
+           std::to_string(color.a);
 }
 
-// A light line inside of a dark one shows on every colour.
-void draw_selection(const Rectangle& cell) {
-    screen->draw_outline(cell, standard_color(Standard_Color::black));
-    screen->draw_outline(cell.inset(1), standard_color(Standard_Color::white));
+std::string hexadecimal(Color color) {
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "#%02x%02x%02x", color.r, color.g, color.b);
+    return text.data();
 }
 
 } // namespace
 
-Palette_Area::Palette_Area(Point position, const Palette_Store& store)
+Palette_Area::Palette_Area(Point position, Palette_Store& store)
     : Pane({position.x, position.y, pane_width, height_for(name_height + grid_size.height)}, "Palette"),
       store_(store) {}
 
-int Palette_Area::columns() const {
-    int columns = coarse_columns;
-    while (columns * columns * coarse_rows / coarse_columns < store_.count(palette_)) {
-        columns += coarse_columns;
+int Palette_Area::divisions() const {
+    int divisions = 1;
+    while (divisions * divisions * coarse_columns * coarse_rows < store_.count(palette_)) {
+        ++divisions;
     }
-    return columns;
+    return divisions;
 }
 
-int Palette_Area::cell_edge() const {
-    return grid_size.width / columns();
+int Palette_Area::columns() const {
+    return coarse_columns * divisions();
+}
+
+Size Palette_Area::cell_size() const {
+    return {grid_size.width / columns(), grid_size.height / (coarse_rows * divisions())};
 }
 
 Rectangle Palette_Area::cell(int entry) const {
-    const int edge = cell_edge();
-    return {client_area().x + entry % columns() * edge,
-            client_area().y + name_height + entry / columns() * edge, edge, edge};
+    const Size size = cell_size();
+    return {client_area().x + entry % columns() * size.width,
+            client_area().y + name_height + entry / columns() * size.height, size.width, size.height};
 }
 
 Rectangle Palette_Area::more_button() const {
@@ -76,17 +85,28 @@ Rectangle Palette_Area::less_button() const {
     return button_at(client_area(), Sprite::button_less, more_button().x - button_gap);
 }
 
+// A palette from a file may have any name: what has no room before the buttons is left out.
+std::string Palette_Area::shown_name() const {
+    std::string name = store_.name(palette_).substr(0, static_cast<std::size_t>(grid_size.width));
+    std::erase_if(name, [](char letter) { return letter == '\r'; });
+    const int room = less_button().x - client_area().x - button_gap;
+    while (screen->text_width(Font::pane, name) > room) {
+        name.pop_back();
+    }
+    return name;
+}
+
 void Palette_Area::draw() const {
     Pane::draw();
     const Rectangle client = client_area();
-    screen->draw_text(Font::pane, {client.x, client.y - 2}, store_.name(palette_));
+    screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
     screen->draw_sprite(Sprite::button_less, {less_button().x, less_button().y});
     screen->draw_sprite(Sprite::button_more, {more_button().x, more_button().y});
     for (int entry = 0; entry < store_.count(palette_); ++entry) {
-        screen->fill_rect(cell(entry), store_.color(palette_, entry));
+        draw_swatch(cell(entry), store_.color(palette_, entry));
     }
     if (store_.count(palette_) > 0) {
-        draw_selection(cell(entry_));
+        draw_cell_mark(cell(entry_));
     }
 }
 
@@ -120,16 +140,28 @@ Color Palette_Area::move_selection(int dx, int dy) {
 }
 
 Selected_Color_Area::Selected_Color_Area(Point position, const Palette_Area& palette)
-    : Pane({position.x, position.y, pane_width, selected_height}, "Selected"), palette_(palette) {}
+    : Pane({position.x, position.y, pane_width, height_for(selected_size.height)}, "Selected"),
+      palette_(palette) {}
+
+Rectangle Selected_Color_Area::set_button() const {
+    const Rectangle client = client_area();
+    return {client.right() - set_button_size.width, client.bottom() - set_button_size.height,
+            set_button_size.width, set_button_size.height};
+}
 
 void Selected_Color_Area::draw() const {
     Pane::draw();
     const Rectangle client = client_area();
     const Rectangle swatch{client.x, client.y, swatch_edge, swatch_edge};
     screen->draw_outline(swatch, standard_color(Standard_Color::dark_frame));
-    screen->fill_rect(swatch.inset(1), palette_.selected_color());
-    screen->draw_text(Font::pane, {swatch.right() + text_gap, client.y + 2},
-                      numbers(palette_.selected_color()));
+    draw_swatch(swatch.inset(1), palette_.selected_color());
+    const Point text{swatch.right() + text_gap, client.y - text_rise};
+    screen->draw_text(Font::pane, text, numbers(palette_.selected_color()));
+    screen->draw_text(Font::pane, {text.x, text.y + second_line}, hexadecimal(palette_.selected_color()));
+    const Rectangle button = set_button();
+    screen->draw_panel(button, standard_color(Standard_Color::pane_frame));
+    const int label_x = button.x + (button.width - screen->text_width(Font::pane, set_label)) / 2;
+    screen->draw_text(Font::pane, {label_x, button.y - 1}, set_label);
 }
 
 } // namespace quadrelle

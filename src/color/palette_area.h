@@ -7,13 +7,14 @@
 #include "ui/pane.h"
 
 #include <optional>
+#include <string>
 
 namespace quadrelle {
 
 class Palette_Area : public Pane {
 public:
     // Borrows the store. `position` is the top-left corner of the pane, 202 pixels wide.
-    Palette_Area(Point position, const Palette_Store& store);
+    Palette_Area(Point position, Palette_Store& store);
 
     void draw() const override;
     // Chooses a palette, or selects an entry: then its colour is the answer.
@@ -21,27 +22,33 @@ public:
     // By one entry along either axis; at an edge the selection stays. The entry's colour.
     Color move_selection(int dx, int dy);
     [[nodiscard]] Color selected_color() const { return store_.color(palette_, entry_); }
+    // Makes the colour the selected entry's.
+    void store(Color color) { store_.set_color(palette_, entry_, color); }
 
 private:
     // Eight by four cells, or the same room divided more finely for a palette with more entries.
+    [[nodiscard]] int divisions() const;
     [[nodiscard]] int columns() const;
-    [[nodiscard]] int cell_edge() const;
+    [[nodiscard]] Size cell_size() const;
     [[nodiscard]] Rectangle cell(int entry) const;
     [[nodiscard]] Rectangle less_button() const;
     [[nodiscard]] Rectangle more_button() const;
+    [[nodiscard]] std::string shown_name() const;
     void step_palette(int step);
 
-    const Palette_Store& store_;
+    Palette_Store& store_;
     int palette_ = 0;
     int entry_ = 0;
 };
 
-// Shows the entry selected in the palette: a swatch and its numbers.
+// Shows the entry selected in the palette: a swatch and its numbers, and the button that stores the current
+// tool colour there.
 class Selected_Color_Area : public Pane {
 public:
     Selected_Color_Area(Point position, const Palette_Area& palette);
 
     void draw() const override;
+    [[nodiscard]] Rectangle set_button() const;
 
 private:
     const Palette_Area& palette_;

@@ -18,7 +18,17 @@ constexpr int arrow_gap = 1;
 constexpr Rectangle left_arrow{row.x - arrow_gap - arrow.width, row.y + 3, arrow.width, arrow.height};
 constexpr Rectangle right_arrow{row.right() + arrow_gap, row.y + 3, arrow.width, arrow.height};
 
-// The letters are ASCII: every other character shows as one question mark.
+// The end of a long path says more than its start.
+std::string shortened(const std::string& title) {
+    std::size_t start = 0;
+    while (screen->text_width(Font::pane_header, title.substr(start)) > longest_title) {
+        ++start;
+    }
+    return start == 0 ? title : "..." + title.substr(start);
+}
+
+} // namespace
+
 std::string printable(const std::string& title) {
     std::string text;
     for (const char byte : title) {
@@ -32,17 +42,6 @@ std::string printable(const std::string& title) {
     }
     return text;
 }
-
-// The end of a long path says more than its start.
-std::string shortened(const std::string& title) {
-    std::size_t start = 0;
-    while (screen->text_width(Font::pane_header, title.substr(start)) > longest_title) {
-        ++start;
-    }
-    return start == 0 ? title : "..." + title.substr(start);
-}
-
-} // namespace
 
 Document_Tabs::Document_Tabs() = default;
 Document_Tabs::~Document_Tabs() = default;

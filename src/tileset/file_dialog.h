@@ -1,6 +1,8 @@
 #pragma once
 
-// The system's own dialogs for choosing a file to open or to save to.
+// Choosing a file to open or to save to: in the system's dialog, or in the program's own where there is none.
+
+#include "tileset/file_answer.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,17 +25,10 @@ enum class File_Dialog_Kind : std::int32_t {
 // told to the user here.
 [[nodiscard]] bool choose_file(File_Dialog_Kind kind, std::string& path);
 
-// The path with its extension, if any, replaced.
-[[nodiscard]] std::string with_extension(const std::string& path, const std::string& extension);
+// What the program's own dialog answers, for whoever wants no other one.
+[[nodiscard]] File_Answer ask_own_dialog(File_Dialog_Kind kind);
 
-enum class File_Answer_State : int { pending = -1, chosen = 0, failed = 1, cancelled = 2 };
-
-struct File_Answer {
-    File_Answer_State state = File_Answer_State::pending;
-    std::string path;
-};
-
-// Stands in for the system's dialogs, for tests; an empty function takes them back.
+// Stands in for all dialogs, for tests; an empty function takes them back.
 using File_Chooser = std::function<File_Answer(File_Dialog_Kind)>;
 void set_file_chooser(File_Chooser chooser);
 

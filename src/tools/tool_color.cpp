@@ -3,6 +3,7 @@
 #include "app/screen.h"
 #include "color/color_data.h"
 #include "color/standard_colors.h"
+#include "ui/checkerboard.h"
 
 #include <string>
 
@@ -18,16 +19,6 @@ constexpr Size pane_size{202, 46};
 std::string numbers(Color color) {
     return std::to_string(color.r) + ", " + std::to_string(color.g) + ", " + std::to_string(color.b) + ", " +
            std::to_string(color.a);
-}
-
-// Four squares behind the colour show how much of it is opaque.
-void draw_swatch(const Rectangle& area, Color color) {
-    constexpr int half = swatch_edge / 2;
-    screen->fill_rect(area, standard_color(Standard_Color::checker_light));
-    screen->fill_rect({area.x, area.y, half, half}, standard_color(Standard_Color::checker_dark));
-    screen->fill_rect({area.x + half, area.y + half, area.width - half, area.height - half},
-                      standard_color(Standard_Color::checker_dark));
-    screen->fill_rect(area, color);
 }
 
 } // namespace

@@ -168,9 +168,16 @@ void Toolbox::draw() const {
         brush_selector_.draw();
     }
     options_.draw();
-    if (row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper) {
-        tool_colors->draw();
+    if (row_of(current_tool_).uses_tool_colors) {
+        tool_colors->draw(Tool_Color_Panes::all);
+    } else if (current_tool_ == Tool::dropper) {
+        // It takes no clicks on the others.
+        tool_colors->draw(Tool_Color_Panes::both_colors);
     }
+}
+
+bool Toolbox::shows_colors() const {
+    return row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper;
 }
 
 Command Toolbox::command_at(Point point) const {
@@ -184,9 +191,9 @@ Command Toolbox::command_at(Point point) const {
     return Command::none;
 }
 
-bool Toolbox::click(const Pointer_State& pointer) {
+bool Toolbox::click(const Pointer_State& pointer, const std::function<void()>& redraw) {
     const Tool_Row& tool = row_of(current_tool_);
-    return (tool.uses_tool_colors && tool_colors->click(pointer.point())) ||
+    return (tool.uses_tool_colors && tool_colors->click(pointer, redraw)) ||
            (tool.uses_brush && brush_selector_.click(pointer.point())) || options_.click(pointer.point());
 }
 

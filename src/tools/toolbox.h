@@ -11,6 +11,7 @@
 #include "tools/tool_catalogue.h"
 #include "tools/tool_options.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -71,8 +72,11 @@ public:
     void draw() const;
     // The tool whose entry in the list is there and not covered, or none.
     [[nodiscard]] Command command_at(Point point) const;
-    // True when an option, a brush or a side of the colours was chosen.
-    bool click(const Pointer_State& pointer);
+    // The colours of the buttons stand beside the list.
+    [[nodiscard]] bool shows_colors() const;
+    // True when an option, a brush or a colour was chosen. `redraw` draws and presents the window, while the
+    // pointer is followed.
+    bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
 
 private:
     void lay_out();

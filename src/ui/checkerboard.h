@@ -2,6 +2,7 @@
 
 // The checkerboard that shows through translucent pixels in real size.
 
+#include "app/geometry.h"
 #include "color/standard_colors.h"
 
 namespace quadrelle {
@@ -12,5 +13,9 @@ namespace quadrelle {
     const bool is_light = (x / square + y / square) % 2 != 0;
     return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
 }
+
+void draw_checkerboard(const Rectangle& area);
+// The colour over squares that show through as far as it is transparent.
+void draw_swatch(const Rectangle& area, Color color);
 
 } // namespace quadrelle

@@ -20,6 +20,8 @@ public:
 
     // Of the part below the title; centres the frame.
     void set_size(Size below_title);
+    // Elsewhere, so that what is worked on stays in view.
+    void set_area(const Rectangle& area) { area_ = area; }
     void draw() const;
     [[nodiscard]] int title_width() const;
 

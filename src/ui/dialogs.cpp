@@ -43,6 +43,10 @@ bool Dialogs::ask(std::string_view title, std::string_view question) {
 }
 
 int Dialogs::ask_number(Point position, int value, int low, int high) {
+    return ask_signed_number(position, value, low, high).value_or(no_number);
+}
+
+std::optional<int> Dialogs::ask_signed_number(Point position, int value, int low, int high) {
     return Number_Prompt(position, value, low, high).run();
 }
 

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -34,6 +35,8 @@ public:
     // Lets the user type a number from `low` to `high` in a small box near `position`; `no_number` when given
     // up.
     [[nodiscard]] int ask_number(Point position, int value, int low, int high);
+    // The same for bounds that may be negative; none when given up.
+    [[nodiscard]] std::optional<int> ask_signed_number(Point position, int value, int low, int high);
 
     // Draws the whole editor without presenting it; none leaves an empty window.
     void set_backdrop(Draw_Function draw) { backdrop_ = std::move(draw); }
@@ -44,6 +47,7 @@ public:
     // The preview and the magnification, which is shown as "21x".
     void draw(int magnification);
     [[nodiscard]] Preview_Pane& preview() { return preview_; }
+    [[nodiscard]] const Pane& magnification() const { return magnification_; }
 
 private:
     friend class Dialog_Layer;

@@ -39,7 +39,7 @@ int pulled_inside(int position, int extent, int limit) {
 } // namespace
 
 Number_Prompt::Number_Prompt(Point position, int value, int low, int high)
-    : low_(low), high_(high), typed_(std::to_string(value)), result_(no_number) {
+    : low_(low), high_(high), typed_(std::to_string(value)) {
     box_.width = std::max(narrowest, screen->text_width(font, hint()) + 2 * margin);
     box_.height = 2 * line_height(font) + 2 * field_padding + 2 * margin;
     box_.x = pulled_inside(position.x + distance, box_.width, screen->size().width);
@@ -50,7 +50,7 @@ std::string Number_Prompt::hint() const {
     return std::to_string(low_) + " to " + std::to_string(high_);
 }
 
-int Number_Prompt::run() {
+std::optional<int> Number_Prompt::run() {
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"number prompt", [] { dialogs->show_backdrop(); },
                [this](const SDL_Event& event) { return handle(event); }});
@@ -107,6 +107,8 @@ Loop_Step Number_Prompt::handle_key(Keycode pressed) {
         if (!typed_.empty()) {
             typed_.pop_back();
         }
+    } else if (pressed == '-' || pressed == key::keypad_minus) {
+        change_sign();
     } else if (const std::optional<char> digit = digit_of(pressed)) {
         append(*digit);
     }
@@ -123,8 +125,23 @@ void Number_Prompt::append(char digit) {
     }
 }
 
+void Number_Prompt::change_sign() {
+    if (low_ >= 0) {
+        return;
+    }
+    if (is_untouched_) {
+        typed_.clear();
+    }
+    is_untouched_ = is_refused_ = false;
+    if (typed_.starts_with('-')) {
+        typed_.erase(0, 1);
+    } else {
+        typed_.insert(0, 1, '-');
+    }
+}
+
 Loop_Step Number_Prompt::accept() {
-    std::int64_t number = no_number;
+    std::int64_t number = std::int64_t{low_} - 1; // refused, where there is no digit
     std::from_chars(typed_.data(), typed_.data() + typed_.size(), number);
     is_refused_ = typed_.empty() || number < low_ || number > high_;
     if (is_refused_) {

@@ -6,6 +6,7 @@
 #include "app/geometry.h"
 #include "app/input.h"
 
+#include <optional>
 #include <string>
 
 namespace quadrelle {
@@ -15,8 +16,8 @@ public:
     // Shows `value` until something is typed. The box lies near `position`, inside the window.
     Number_Prompt(Point position, int value, int low, int high);
 
-    // The number, or `no_number` after Escape, a click outside of the box, or the window's close button.
-    int run();
+    // The number, or none after Escape, a click outside of the box, or the window's close button.
+    std::optional<int> run();
 
 private:
     [[nodiscard]] std::string hint() const;
@@ -25,6 +26,7 @@ private:
     Loop_Step handle_key(Keycode pressed);
     Loop_Step accept();
     void append(char digit);
+    void change_sign();
 
     int low_;
     int high_;
@@ -32,7 +34,7 @@ private:
     // The first digit replaces the value that is shown at the start.
     bool is_untouched_ = true;
     bool is_refused_ = false;
-    int result_;
+    std::optional<int> result_;
     Rectangle box_;
 };
 

@@ -20,12 +20,27 @@ void Pane::layout() {
                area.height - above - pane_border};
 }
 
-void Pane::draw() const {
+void Pane::draw_title() const {
     if (title_) {
         screen->draw_texture(*title_, {area.x, area.y});
     }
+}
+
+void Pane::draw() const {
+    draw_title();
     screen->fill_rect({area.x, area.y + pane_title_height, area.width, area.height - pane_title_height},
                       standard_color(Standard_Color::pane_background));
+}
+
+void Pane::draw_around(const Rectangle& covered) const {
+    draw_title();
+    const Color background = standard_color(Standard_Color::pane_background);
+    const int top = area.y + pane_title_height;
+    screen->fill_rect({area.x, top, area.width, covered.y - top}, background);
+    screen->fill_rect({area.x, covered.bottom(), area.width, area.bottom() - covered.bottom()}, background);
+    screen->fill_rect({area.x, covered.y, covered.x - area.x, covered.height}, background);
+    screen->fill_rect({covered.right(), covered.y, area.right() - covered.right(), covered.height},
+                      background);
 }
 
 void Pane::set_title(std::string_view title) {

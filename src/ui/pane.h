@@ -28,6 +28,9 @@ public:
     void set_title(std::string_view title);
     // The title bar as far as it is drawn.
     [[nodiscard]] Rectangle title_area() const;
+    // The same picture as `draw`, without the part that the caller covers: large fills are the greater part
+    // of what a pane costs.
+    void draw_around(const Rectangle& covered) const;
     // The client area's outline.
     void draw_frame() const;
     // Fills the client area.
@@ -37,6 +40,8 @@ public:
     [[nodiscard]] bool contains(const Pointer_State& pointer) const { return contains(pointer.point()); }
 
 private:
+    void draw_title() const;
+
     std::unique_ptr<Texture> title_;
     Rectangle client_;
 };

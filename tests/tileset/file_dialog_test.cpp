@@ -1,6 +1,7 @@
 #include "tileset/file_dialog.h"
 
 #include "tests/support/window_test.h"
+#include "tileset/file_names.h"
 
 #include <optional>
 #include <vector>

@@ -58,7 +58,7 @@ TEST_F(Toolbox_Test, pointer_offset_centres_a_precise_brush) {
 TEST_F(Toolbox_Test, clicks_choose_colours_of_either_button) {
     const Palette_Store& store = *palette_store;
     // The third entry of the palette; its pane stands at (31, 427).
-    const Point entry{31 + 5 + 2 * 24 + 12, 427 + 21 + 5 + 19 + 12};
+    const Point entry{31 + 5 + 2 * 24 + 12, 427 + 21 + 5 + 19 + 10};
     script().click(entry);
     play();
     EXPECT_EQ(tool_colors->color(Mouse_Button::left), store.color(0, 2));
@@ -73,7 +73,7 @@ TEST_F(Toolbox_Test, a_click_makes_the_other_side_the_active_one) {
     const Point left{816 + 210 + 20, 32 + 40};
     const Point right{left.x, left.y + 71};
     EXPECT_FALSE(
-        toolbox->click({static_cast<float>(left.x), static_cast<float>(left.y), Mouse_Button::left}));
+        toolbox->click({static_cast<float>(left.x), static_cast<float>(left.y), Mouse_Button::left}, [] {}));
     script().click(right);
     play();
     EXPECT_EQ(tool_colors->active_side(), Mouse_Button::right);

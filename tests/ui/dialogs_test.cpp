@@ -106,6 +106,23 @@ TEST_F(Number_Prompt_Test, backspace_takes_back_a_digit) {
               7);
 }
 
+TEST_F(Number_Prompt_Test, takes_negative_numbers_where_there_are_any) {
+    const auto signed_answer = [](std::string_view typed, Keycode last = key::enter) {
+        Script script;
+        script.type(typed).key(last);
+        const std::optional<int> number = dialogs->ask_signed_number(middle, 24, -180, 180);
+        EXPECT_TRUE(script.is_played());
+        return number;
+    };
+    EXPECT_EQ(signed_answer("-180"), -180);
+    EXPECT_EQ(signed_answer("1-7"), -17);
+    EXPECT_EQ(signed_answer("-1-"), 1);
+    EXPECT_EQ(signed_answer("-", key::escape), std::nullopt);
+    Script script;
+    script.type("-").key(key::enter).type("181").key(key::enter).key(key::backspace).key(key::enter);
+    EXPECT_EQ(dialogs->ask_signed_number(middle, 24, -180, 180), -18);
+}
+
 TEST_F(Number_Prompt_Test, stays_open_outside_of_the_bounds) {
     const auto refuses = [this](std::string_view digits) {
         return answer([&](Script& user) {

@@ -180,38 +180,6 @@ TEST_F(Seam_Test, is_never_saved) {
     }
 }
 
-TEST_F(Seam_Test, keeps_what_is_drawn_across_the_edge) {
-    shift_both_ways();
-    script().drag({cell(11, 12), cell(13, 12)});
-    play();
-    EXPECT_TRUE(document().is_modified());
-    execute(Command::next_tile);
-    for (const int x : {23, 0, 1}) {
-        EXPECT_EQ(tile_pixel(x, 0), white);
-    }
-    EXPECT_EQ(std::ranges::count(canvas().tile()->pixels(), white), 3);
-}
-
-TEST_F(Seam_Test, undo_gives_the_tile_back_in_place) {
-    script().click(cell(5, 6));
-    play();
-    const Tile before(*canvas().tile());
-    shift_both_ways();
-    script().click(cell(13, 13));
-    play();
-    execute(Command::undo);
-    // It stays shifted for whoever works on the seam.
-    EXPECT_EQ(canvas().vertical_seam_shift(), 12);
-    execute(Command::vertical_seam_tool);
-    execute(Command::horizontal_seam_tool);
-    EXPECT_TRUE(same(*canvas().tile(), before));
-    execute(Command::horizontal_seam_tool);
-    execute(Command::redo);
-    execute(Command::horizontal_seam_tool);
-    EXPECT_EQ(tile_pixel(1, 1), white);
-    EXPECT_EQ(tile_pixel(5, 6), white);
-}
-
 // Turned or moved while it is shifted, the tile is what it would be without.
 TEST_F(Seam_Test, transforms_do_not_displace_a_shifted_tile) {
     for (const Size size : {Size{24, 24}, Size{26, 26}, Size{9, 9}}) {

@@ -1,7 +1,6 @@
 #include "tests/whole/program_test.h"
 
 #include "app/command_table.h"
-#include "app/strokes.h"
 #include "tools/tool_colors.h"
 #include "tools/toolbox.h"
 
@@ -66,18 +65,6 @@ TEST_F(Tools_Test, shapes_show_while_dragging_what_the_release_commits) {
     EXPECT_EQ(tile_pixel(10, 14), white);
 }
 
-TEST_F(Tools_Test, the_other_button_colours_the_inside) {
-    tool_colors->set_color(Mouse_Button::right, red);
-    execute(Command::rectangle);
-    choose(Tool_Option::rectangle_type, 2);
-    drag({{2, 2}, {4, 4}});
-    EXPECT_EQ(count(red), 1);
-    EXPECT_EQ(count(white), 8);
-    drag({{2, 2}, {4, 4}}, Mouse_Button::right);
-    EXPECT_EQ(tile_pixel(3, 3), white);
-    EXPECT_EQ(count(red), 8);
-}
-
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
     script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2});
@@ -96,25 +83,6 @@ TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
 }
 
-TEST_F(Tools_Test, dropper_picks_for_its_button_and_returns_where_told) {
-    document().tileset().current_tile()->set_pixel(5, 6, red);
-    script().key('d').click(cell(5, 6), Mouse_Button::right);
-    play();
-    EXPECT_EQ(tool_colors->color(Mouse_Button::right), red);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-    EXPECT_FALSE(document().is_modified());
-    // Outside of the tile there is nothing to pick.
-    script().click({300, 100});
-    play();
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
-    const Point tick{816 + 5 + 8, 32 + 26 * 5 + 4 + (67 + 4) + 51 + 26 + 6};
-    script().click(tick).click(cell(5, 6));
-    play();
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), red);
-    EXPECT_EQ(toolbox->current_tool(), Tool::pen);
-}
-
 TEST_F(Tools_Test, right_button_of_the_pen_does_what_its_row_says) {
     drag({{1, 1}});
     execute(Command::save_history_buffer);
@@ -131,52 +99,101 @@ TEST_F(Tools_Test, right_button_of_the_pen_does_what_its_row_says) {
     EXPECT_EQ(tile_pixel(1, 1), white);
 }
 
-TEST_F(Tools_Test, fill_pours_the_colour_or_the_brush) {
-    execute(Command::flood_fill);
-    drag({{3, 3}, {20, 20}});
-    EXPECT_EQ(count(white), 24 * 24);
-    tool_colors->set_color(Mouse_Button::left, red);
-    toolbox->select_brush_size(2);
-    choose(Tool_Option::fill_mode, 1);
-    drag({{0, 0}});
-    // A plus of five pixels in every nine.
-    EXPECT_EQ(count(red), 24 * 24 * 5 / 9);
+TEST_F(Tools_Test, dropper_picks_for_its_button_and_stays) {
+    document().tileset().current_tile()->set_pixel(5, 6, red);
+    script().key('d').click(cell(5, 6), Mouse_Button::right);
+    play();
+    EXPECT_EQ(tool_colors->color(Mouse_Button::right), red);
+    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    EXPECT_FALSE(document().is_modified());
 }
 
-TEST_F(Tools_Test, lightness_and_colour_pens_change_what_is_there) {
-    document().tileset().current_tile()->fill(Color(100, 100, 100, 77));
-    execute(Command::lightness_pen);
-    drag({{4, 4}});
-    EXPECT_EQ(tile_pixel(4, 4), Color(102, 102, 102, 77));
-    execute(Command::colorize_pen);
-    tool_colors->set_color(Mouse_Button::left, Color(255, 0, 0));
-    drag({{5, 5}});
-    EXPECT_EQ(tile_pixel(5, 5), Color(173, 0, 0, 77));
-    execute(Command::smudge_brush);
-    drag({{5, 5}, {6, 5}});
-    EXPECT_EQ(tile_pixel(6, 5), Color(136, 50, 50, 77));
+TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
+    const Point tick{816 + 5 + 8, 32 + 26 * 5 + 4 + (67 + 4) + 51 + 26 + 6};
+    constexpr Point beside{300, 100};
+    document().tileset().current_tile()->set_pixel(5, 6, red);
+    execute(Command::filled_rectangle);
+    script().key('d').click(tick).click(beside).drag({cell(5, 5), beside});
+    play();
+    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    script().press(cell(5, 6)).quit();
+    play();
+    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    tool_colors->reset();
+    script().drag({beside, cell(5, 6)});
+    play();
+    EXPECT_EQ(tool_colors->color(Mouse_Button::left), red);
+    EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_filled);
 }
 
-TEST_F(Tools_Test, every_stroke_can_be_undone_and_repeats_itself) {
-    for (const Tool_Row& tool : tool_table) {
-        if (find_stroke(canvas_action_of(tool.command, Shape_Type::outline)) == nullptr ||
-            tool.id == Tool::lightness_pen) {
-            continue; // the lightness pen goes by the clock
+// Grey, on which the lightness pen of one pixel draws; how often it touched each pixel.
+class Lightness_Pen_Test : public Tools_Test {
+protected:
+    static constexpr int grey = 100;
+
+    void SetUp() override {
+        Tools_Test::SetUp();
+        document().tileset().current_tile()->fill(Color(grey, grey, grey));
+        execute(Command::lightness_pen);
+    }
+    static int touches(int x, int y) { return (tile_pixel(x, y).r - grey) / 2; }
+    static int all_touches() {
+        int sum = 0;
+        for (const Color pixel : pixels()) {
+            sum += (pixel.r - grey) / 2;
         }
-        SCOPED_TRACE(tool.name);
-        execute(tool.command);
-        const std::vector<Color> before = pixels();
-        drag({{6, 6}, {12, 9}, {8, 30}});
-        const std::vector<Color> after = pixels();
-        if (before == after) {
-            continue;
+        return sum;
+    }
+};
+
+TEST_F(Lightness_Pen_Test, goes_on_while_its_button_is_held) {
+    script().press(cell(4, 4));
+    for (int i = 0; i < 3; ++i) {
+        script().pause(20);
+    }
+    script().check([] { EXPECT_EQ(touches(4, 4), 4); });
+    script().check([] { EXPECT_EQ(pixel_at(cell(4, 4)), Color(108, 108, 108)); });
+    script().release(cell(4, 4));
+    play();
+    EXPECT_EQ(touches(4, 4), 4);
+    script().press(cell(9, 4), Mouse_Button::right).pause(20).release(cell(9, 4), Mouse_Button::right);
+    play();
+    EXPECT_LT(touches(9, 4), 0);
+}
+
+// Several motions within one interval of 14 milliseconds; the step comes while the button is held or after.
+TEST_F(Lightness_Pen_Test, touches_a_fast_path_once_and_skips_nothing) {
+    choose(Tool_Option::speed, 0);
+    for (const bool waits : {false, true}) {
+        document().tileset().current_tile()->fill(Color(grey, grey, grey));
+        script().press(cell(2, 2)).motion(cell(5, 2)).motion(cell(9, 2)).motion(cell(9, 7));
+        if (waits) {
+            script().pause(30);
         }
-        execute(Command::undo);
-        EXPECT_EQ(pixels(), before);
-        // With the picture comes the tool that drew it.
-        execute(tool.command);
-        drag({{6, 6}, {12, 9}, {8, 30}});
-        EXPECT_EQ(pixels(), after);
+        script().release(cell(9, 7));
+        play();
+        for (int x = 2; x <= 9; ++x) {
+            EXPECT_EQ(touches(x, 2), 1) << x;
+        }
+        for (int y = 3; y < 7; ++y) {
+            EXPECT_EQ(touches(9, y), 1) << y;
+        }
+        // A slow machine may have drawn the path before the pause, and then its end again.
+        EXPECT_GE(touches(9, 7), 1);
+        EXPECT_LE(touches(9, 7), waits ? 2 : 1);
+        EXPECT_EQ(all_touches(), 12 + touches(9, 7));
+    }
+}
+
+TEST_F(Lightness_Pen_Test, quick_strokes_lose_no_pixel) {
+    choose(Tool_Option::speed, 0);
+    for (int x = 1; x < 20; x += 3) {
+        script().click(cell(x, 3));
+    }
+    play();
+    for (int x = 1; x < 20; ++x) {
+        EXPECT_EQ(touches(x, 3), x % 3 == 1 ? 1 : 0) << x;
     }
 }
 

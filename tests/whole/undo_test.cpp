@@ -4,8 +4,6 @@
 #include "tools/tool_colors.h"
 #include "tools/toolbox.h"
 
-#include <algorithm>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -16,118 +14,10 @@ using Tile_Picture = std::vector<Color>;
 
 constexpr Color white(255, 255, 255);
 constexpr Color black(0, 0, 0);
-constexpr Size tile_size{24, 24};
 
 Tile_Picture picture_of(const Tile& tile) {
     return {tile.pixels().begin(), tile.pixels().end()};
 }
-
-// What a user expects of undo and redo, with every tile and every state kept as a full picture.
-class Model {
-public:
-    Model() { record(); }
-
-    void paint(Tile_Point pixel, Color color) {
-        Color& painted =
-            tiles_[current_].picture.at(static_cast<std::size_t>(pixel.y * tile_size.width + pixel.x));
-        if (painted != color) {
-            if (states_[position_].id != tiles_[current_].id) {
-                record();
-            }
-            painted = color;
-            record();
-        }
-    }
-    void next() {
-        if (current_ + 1 < tiles_.size()) {
-            ++current_;
-            record();
-        }
-    }
-    void previous() {
-        if (current_ > 0) {
-            --current_;
-            record();
-        }
-    }
-    void add() {
-        tiles_.push_back(blank());
-        current_ = tiles_.size() - 1;
-    }
-    void insert() { tiles_.insert(tiles_.begin() + static_cast<std::ptrdiff_t>(current_), blank()); }
-    void erase() {
-        const int id = tiles_[current_].id;
-        tiles_.erase(tiles_.begin() + static_cast<std::ptrdiff_t>(current_));
-        if (tiles_.empty()) {
-            tiles_.push_back(blank());
-        }
-        current_ = std::min(current_, tiles_.size() - 1);
-        forget(id);
-    }
-    void undo() {
-        if (position_ > 0) {
-            --position_;
-            restore();
-        }
-    }
-    void redo() {
-        if (position_ + 1 < states_.size()) {
-            ++position_;
-            restore();
-        }
-    }
-
-    void expect_shown_by(const Tileset& tileset) const {
-        ASSERT_EQ(tileset.count(), static_cast<int>(tiles_.size()));
-        EXPECT_EQ(tileset.current_index(), static_cast<int>(current_));
-        for (std::size_t i = 0; i < tiles_.size(); ++i) {
-            EXPECT_EQ(picture_of(tileset.tile_at(static_cast<int>(i))), tiles_[i].picture) << "tile " << i;
-        }
-    }
-
-private:
-    struct State {
-        int id; // of the tile, whatever its place
-        Tile_Picture picture;
-    };
-
-    State blank() { return {next_id_++, Tile_Picture(tile_size.width * tile_size.height, black)}; }
-    void record() {
-        if (!states_.empty()) {
-            states_.resize(position_ + 1, {});
-        }
-        states_.push_back(tiles_[current_]);
-        if (states_.size() > 18) {
-            states_.erase(states_.begin());
-        }
-        position_ = states_.size() - 1;
-    }
-    void restore() {
-        const State& state = states_[position_];
-        const auto tile = std::ranges::find(tiles_, state.id, &State::id);
-        ASSERT_NE(tile, tiles_.end());
-        tile->picture = state.picture;
-        current_ = static_cast<std::size_t>(tile - tiles_.begin());
-    }
-    void forget(int id) {
-        std::vector<State> undoable(states_.begin(),
-                                    states_.begin() + static_cast<std::ptrdiff_t>(position_) + 1);
-        std::erase_if(undoable, [id](const State& state) { return state.id == id; });
-        if (undoable.empty()) {
-            states_.clear();
-            record();
-            return;
-        }
-        position_ = undoable.size() - 1;
-        std::erase_if(states_, [id](const State& state) { return state.id == id; });
-    }
-
-    int next_id_ = 0;
-    std::vector<State> tiles_{blank()};
-    std::size_t current_ = 0;
-    std::vector<State> states_;
-    std::size_t position_ = 0;
-};
 
 class Undo_Test : public Program_Test {
 protected:
@@ -167,26 +57,6 @@ TEST_F(Undo_Test, takes_a_stroke_as_one_step_and_none_when_it_changed_nothing) {
     press_redo();
     EXPECT_EQ(picture(), drawn);
     EXPECT_EQ(pixel_at(cell(9, 5)), white);
-}
-
-TEST_F(Undo_Test, walks_seventeen_of_twenty_strokes_back_and_exactly_forth_again) {
-    std::vector<Tile_Picture> pictures;
-    for (int i = 0; i < 20; ++i) {
-        stroke({cell(i, 3), cell(23 - i, 20 - i)});
-        pictures.push_back(picture());
-    }
-    for (std::size_t i = 19; i > 2; --i) {
-        press_undo();
-        EXPECT_EQ(picture(), pictures[i - 1]);
-    }
-    press_undo();
-    EXPECT_EQ(picture(), pictures[2]);
-    for (std::size_t i = 3; i < 20; ++i) {
-        press_redo();
-        EXPECT_EQ(picture(), pictures[i]);
-    }
-    press_redo();
-    EXPECT_EQ(picture(), pictures.back());
 }
 
 TEST_F(Undo_Test, goes_back_to_the_tile_that_a_step_was_made_on) {
@@ -285,49 +155,6 @@ TEST_F(Undo_Test, belongs_to_its_document) {
     EXPECT_TRUE(history().entries().empty());
     press_undo();
     EXPECT_EQ(tile_pixel(1, 1), white);
-}
-
-// Enough steps that the oldest states fall off.
-TEST_F(Undo_Test, agrees_with_a_simple_model_whatever_is_done) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    const auto below = [&random](int limit) { return std::uniform_int_distribution(0, limit - 1)(random); };
-    Model model;
-    for (int step = 0; step < 400 && !HasFailure(); ++step) {
-        SCOPED_TRACE("step " + std::to_string(step));
-        const int choice = below(20);
-        if (choice < 8) {
-            const Tile_Point pixel{below(4), below(4)};
-            const Color color = below(2) == 0 ? white : Color(200, 30, 60);
-            tool_colors->set_color(Mouse_Button::left, color);
-            script().click(cell(pixel.x, pixel.y));
-            play();
-            model.paint(pixel, color);
-        } else if (choice < 12) {
-            editor->execute(Command::undo);
-            model.undo();
-        } else if (choice < 15) {
-            editor->execute(Command::redo);
-            model.redo();
-        } else if (choice == 15) {
-            editor->execute(Command::next_tile);
-            model.next();
-        } else if (choice == 16) {
-            editor->execute(Command::previous_tile);
-            model.previous();
-        } else if (choice == 17) {
-            editor->execute(Command::add_new_tile);
-            model.add();
-        } else if (choice == 18) {
-            editor->execute(Command::insert_new_tile);
-            model.insert();
-        } else {
-            editor->execute(Command::delete_tile);
-            model.erase();
-        }
-        model.expect_shown_by(document().tileset());
-    }
 }
 
 TEST_F(Undo_Test, shows_the_newest_seven_states_in_its_pane) {

@@ -1,0 +1,22 @@
+#pragma once
+
+// Text as people type it, through the keyboard layout and input methods, and the system's clipboard.
+
+#include <string>
+
+namespace quadrelle {
+
+// While it lives, SDL_EVENT_TEXT_INPUT events come. The screen must be there.
+class Text_Input {
+public:
+    Text_Input();
+    ~Text_Input();
+    Text_Input(const Text_Input&) = delete;
+    Text_Input& operator=(const Text_Input&) = delete;
+};
+
+// UTF-8; empty when there is no text.
+[[nodiscard]] std::string clipboard_text();
+void set_clipboard_text(const std::string& text);
+
+} // namespace quadrelle

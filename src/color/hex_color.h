@@ -1,0 +1,28 @@
+#pragma once
+
+// Colours as hexadecimal text, as people type and exchange them.
+
+#include "color/color.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quadrelle {
+
+// "#61127c", and two more digits for the alpha of a colour that is not opaque.
+[[nodiscard]] std::string hex_text(Color color);
+
+[[nodiscard]] std::string_view without_blanks(std::string_view text);
+
+// The colour, or what is wrong with the text.
+struct Hex_Reading {
+    std::optional<Color> color;
+    std::string refusal = {};
+};
+
+// Takes 6 digits, 8 with alpha, or 3 that each stand for two, with or without "#" and blanks around them.
+// Without alpha the colour is opaque.
+[[nodiscard]] Hex_Reading read_hex(std::string_view text);
+
+} // namespace quadrelle

@@ -1,0 +1,26 @@
+#include "color/swatch.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int least_edge_for_inner_mark = 10;
+
+} // namespace
+
+void draw_mark(const Rectangle& area) {
+    screen->draw_outline(area, standard_color(Standard_Color::black));
+    screen->draw_outline(area.inset(1), standard_color(Standard_Color::white));
+}
+
+void draw_cell_mark(const Rectangle& cell) {
+    const bool is_small = std::min(cell.width, cell.height) < least_edge_for_inner_mark;
+    draw_mark(is_small ? cell.inset(-2) : cell);
+}
+
+} // namespace quadrelle

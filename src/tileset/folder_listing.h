@@ -1,0 +1,45 @@
+#pragma once
+
+// The rows that a folder is shown as: the way up, its folders, and its files of one kind.
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle {
+
+enum class Listed_Kind { parent, folder, file };
+
+struct Listed_Row {
+    Listed_Kind kind;
+    std::string name;
+
+    bool operator==(const Listed_Row&) const = default;
+};
+
+class Folder_Listing {
+public:
+    // An extension, or "*" for every file.
+    explicit Folder_Listing(std::string_view pattern) : pattern_(pattern) {}
+
+    // Reads it anew each time. False, with everything as it was, when the folder cannot be read.
+    [[nodiscard]] bool open(const std::string& folder);
+    // The folder or the nearest one above it that can be read; false without any.
+    [[nodiscard]] bool open_nearest(std::string folder);
+
+    [[nodiscard]] const std::string& folder() const { return folder_; }
+    // By kind, then by name. Hidden ones are left out.
+    [[nodiscard]] const std::vector<Listed_Row>& rows() const { return rows_; }
+    [[nodiscard]] std::optional<std::size_t> find(std::string_view name) const;
+    // Where a row leads.
+    [[nodiscard]] std::string path_of(std::size_t row) const;
+
+private:
+    std::string pattern_;
+    std::string folder_;
+    std::vector<Listed_Row> rows_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,71 @@
+#include "ui/pair_list.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tileset/sprite_sheet.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int inset = 4;
+constexpr int gap_in_pair = 8;
+constexpr int column_gap = 8;
+constexpr int row_gap = 1;
+
+int row_step(Font font) {
+    return line_height(font) + row_gap;
+}
+
+} // namespace
+
+Pair_List::Pair_List(std::vector<Text_Pair> pairs, int columns, Font item_font)
+    : Dialog_Item({}, item_font), pairs_(std::move(pairs)) {
+    const auto count = static_cast<std::size_t>(std::max(columns, 1));
+    const std::size_t rows = (pairs_.size() + count - 1) / count;
+    for (std::size_t first = 0; first < pairs_.size(); first += rows) {
+        add_column(first, std::min(first + rows, pairs_.size()));
+    }
+    area.height = static_cast<int>(rows) * row_step(font);
+}
+
+void Pair_List::add_column(std::size_t first_pair, std::size_t end) {
+    Column column{first_pair, end, columns_.empty() ? 0 : area.width + column_gap, 0, 0};
+    column.second_x = column.x + inset + width_of(column, &Text_Pair::first) + gap_in_pair;
+    area.width = column.second_x + inset + width_of(column, &Text_Pair::second) + inset;
+    column.width = area.width - column.x;
+    columns_.push_back(column);
+}
+
+int Pair_List::width_of(const Column& column, std::string Text_Pair::*text) const {
+    int width = 0;
+    for (std::size_t i = column.first_pair; i < column.end; ++i) {
+        width = std::max(width, screen->text_width(font, pairs_[i].*text));
+    }
+    return width;
+}
+
+void Pair_List::draw() const {
+    for (const Column& column : columns_) {
+        draw_column(column);
+    }
+}
+
+void Pair_List::draw_column(const Column& column) const {
+    const int first_width = column.second_x - gap_in_pair / 2 - column.x;
+    int y = area.y;
+    for (std::size_t i = column.first_pair; i < column.end; ++i) {
+        const int x = area.x + column.x;
+        const Rectangle second{x + first_width + 1, y, column.width - first_width - 1,
+                               row_step(font) - row_gap};
+        screen->fill_rect({x, y, first_width, second.height}, standard_color(Standard_Color::list_passive));
+        screen->fill_rect(second, standard_color(Standard_Color::pane_frame));
+        screen->draw_text(font, {x + inset, y}, pairs_[i].first);
+        screen->draw_text(font, {area.x + column.second_x + inset, y}, pairs_[i].second);
+        y += row_step(font);
+    }
+}
+
+} // namespace quadrelle

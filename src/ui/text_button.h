@@ -1,0 +1,29 @@
+#pragma once
+
+// A labelled button of a dialog that lays out itself.
+
+#include "app/geometry.h"
+
+#include <string_view>
+
+namespace quadrelle {
+
+constexpr int text_button_height = 27;
+
+enum class Button_Look { plain, chosen };
+
+class Text_Button {
+public:
+    // The label must outlive the button.
+    constexpr Text_Button(std::string_view label, const Rectangle& area) : label_(label), area_(area) {}
+
+    void draw(Button_Look look) const;
+    [[nodiscard]] bool contains(Point point) const { return area_.contains(point); }
+    [[nodiscard]] const Rectangle& area() const { return area_; }
+
+private:
+    std::string_view label_;
+    Rectangle area_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,212 @@
+#include "views/adjust_hsv.h"
+
+#include "app/events.h"
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tileset/sprite_sheet.h"
+#include "tools/hsv_adjustment.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialogs.h"
+#include "ui/slider_panel.h"
+#include "ui/text_button.h"
+#include "views/beside_canvas.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int gap = 10;
+constexpr int tick_height = 24;
+constexpr int note_height = 20;
+
+// clang-format off
+constexpr std::array<Number_Slider_Row, 3> slider_rows = {{
+    {"Hue",        -most_hue_change,     most_hue_change,     "",  0},
+    {"Saturation", -most_percent_change, most_percent_change, "%", 0},
+    {"Value",      -most_percent_change, most_percent_change, "%", 0},
+}};
+constexpr std::array<int HSV_Change::*, 3> parts = {&HSV_Change::hue, &HSV_Change::saturation, &HSV_Change::value};
+// clang-format on
+
+constexpr Rectangle frame_area{beside_canvas.x, beside_canvas.y, beside_canvas.width,
+                               dialog_title_height + 3 * number_slider_height + tick_height + note_height +
+                                   text_button_height + 4 * gap};
+constexpr Rectangle inside{frame_area.x + gap, frame_area.y + dialog_title_height + gap,
+                           frame_area.width - 2 * gap, frame_area.height - dialog_title_height - 2 * gap};
+constexpr int tick_y = inside.y + 3 * number_slider_height + gap;
+constexpr int buttons_y = inside.bottom() - text_button_height;
+
+// What the sliders show: the pixel that the change is seen best on.
+Color most_colorful(const Tile& tile) {
+    const auto strength = [](Color color) {
+        return std::pair(color.max_channel() - color.min_channel(), color.max_channel());
+    };
+    const auto pixels = tile.pixels();
+    return pixels.empty() ? Color() : *std::ranges::max_element(pixels, {}, strength);
+}
+
+class Adjust_HSV : public Slider_Numbers {
+public:
+    Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice);
+    std::optional<HSV_Adjustment> run();
+
+    [[nodiscard]] int number(std::size_t index) const override;
+    void set_number(std::size_t index, int number) override;
+    void step(std::size_t index, int amount) override;
+    [[nodiscard]] Color color_of(std::size_t index, int number) const override;
+
+private:
+    void draw() const;
+    void draw_tick() const;
+    void draw_note() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step press(const SDL_Event& event);
+    Loop_Step handle_key(const SDL_Event& event);
+    Loop_Step accept();
+    void toggle_all_tiles();
+
+    Drawing_Target target_;
+    const Tile source_;
+    Color sample_;
+    All_Tiles_Choice choice_;
+    HSV_Adjustment adjustment_;
+    bool is_accepted_ = false;
+    Dialog_Frame frame_{"Adjust HSV"};
+    Slider_Panel sliders_;
+    Rectangle tick_;
+    Text_Button ok_{"Ok", {inside.x, buttons_y, 70, text_button_height}};
+    Text_Button cancel_{"Cancel", {inside.right() - 85, buttons_y, 85, text_button_height}};
+};
+
+Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
+    : target_(target), source_(target.tile()), sample_(most_colorful(source_)), choice_(choice),
+      sliders_(slider_rows, inside, *this), tick_{inside.x, tick_y, 120, tick_height} {
+    frame_.set_area(frame_area);
+    sliders_.set_focus(0);
+}
+
+std::optional<HSV_Adjustment> Adjust_HSV::run() {
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"dialog \"Adjust HSV\"", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    source_.copy_to(target_.tile());
+    return is_accepted_ ? std::optional(adjustment_) : std::nullopt;
+}
+
+int Adjust_HSV::number(std::size_t index) const {
+    return adjustment_.change.*parts.at(index);
+}
+
+void Adjust_HSV::set_number(std::size_t index, int number) {
+    adjustment_.change.*parts.at(index) =
+        std::clamp(number, slider_rows.at(index).low, slider_rows.at(index).high);
+    adjust_hsv(target_, source_, adjustment_.change);
+    target_.tile().update_texture();
+}
+
+void Adjust_HSV::step(std::size_t index, int amount) {
+    set_number(index, number(index) + amount);
+}
+
+Color Adjust_HSV::color_of(std::size_t index, int number) const {
+    HSV_Change change = adjustment_.change;
+    change.*parts.at(index) = number;
+    Color color = adjusted(sample_, change);
+    color.a = 255;
+    return color;
+}
+
+void Adjust_HSV::draw() const {
+    frame_.draw();
+    sliders_.draw();
+    if (choice_ == All_Tiles_Choice::shown) {
+        draw_tick();
+    }
+    draw_note();
+    ok_.draw(Button_Look::plain);
+    cancel_.draw(Button_Look::plain);
+}
+
+void Adjust_HSV::draw_tick() const {
+    const bool is_all = adjustment_.tiles == Adjusted_Tiles::all;
+    const Sprite sprite = is_all ? Sprite::radiobutton_check : Sprite::radiobutton_uncheck;
+    const Rectangle mark = sprite_rect(sprite);
+    screen->draw_sprite(sprite, {tick_.x, tick_.y + (tick_.height - mark.height) / 2});
+    screen->draw_text(Font::pane, {tick_.x + mark.width + gap, tick_.y + 1}, "All tiles (a)");
+}
+
+void Adjust_HSV::draw_note() const {
+    const bool is_all = adjustment_.tiles == Adjusted_Tiles::all;
+    const int y = choice_ == All_Tiles_Choice::shown ? tick_.bottom() : tick_.y;
+    screen->draw_text(Font::pane, {tick_.x, y},
+                      is_all ? "Note: Adjusting all tiles clears undo history."
+                             : "The wheel and the arrow keys step by 1, with Shift by 10.");
+}
+
+Loop_Step Adjust_HSV::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event);
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event);
+    default: sliders_.handle(event); return Loop_Step::go_on;
+    }
+}
+
+Loop_Step Adjust_HSV::handle_key(const SDL_Event& event) {
+    switch (event.key.key) {
+    case key::escape: return Loop_Step::end;
+    case key::enter:
+    case key::keypad_enter: return accept();
+    case 'a': toggle_all_tiles(); break;
+    default:
+        sliders_.handle(event);
+        if (!sliders_.has_focus()) {
+            sliders_.set_focus(0);
+        }
+        break;
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Adjust_HSV::press(const SDL_Event& event) {
+    const Point point = pointer_of(event.button).point();
+    if (pointer_of(event.button).button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    if (cancel_.contains(point)) {
+        return Loop_Step::end;
+    }
+    if (ok_.contains(point)) {
+        return accept();
+    }
+    if (tick_.contains(point)) {
+        toggle_all_tiles();
+    } else {
+        sliders_.handle(event);
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Adjust_HSV::accept() {
+    is_accepted_ = true;
+    return Loop_Step::end;
+}
+
+void Adjust_HSV::toggle_all_tiles() {
+    if (choice_ == All_Tiles_Choice::shown) {
+        const bool was_all = adjustment_.tiles == Adjusted_Tiles::all;
+        adjustment_.tiles = was_all ? Adjusted_Tiles::current : Adjusted_Tiles::all;
+    }
+}
+
+} // namespace
+
+std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target, All_Tiles_Choice choice) {
+    return Adjust_HSV(target, choice).run();
+}
+
+} // namespace quadrelle

@@ -1,0 +1,28 @@
+#pragma once
+
+// The dialog that changes hue, saturation and value of a tile, seen while it is done. Knows neither history
+// nor tilesets.
+
+#include "color/hsv_change.h"
+#include "tools/drawing_target.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+enum class Adjusted_Tiles { current, all };
+
+struct HSV_Adjustment {
+    HSV_Change change;
+    Adjusted_Tiles tiles = Adjusted_Tiles::current;
+};
+
+// Whether the user may choose to adjust all tiles.
+enum class All_Tiles_Choice { hidden, shown };
+
+// Shows the change on the target while it is being chosen; at the end every pixel is as before. None when
+// given up. Lies beside the canvas.
+[[nodiscard]] std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target,
+                                                               All_Tiles_Choice choice);
+
+} // namespace quadrelle

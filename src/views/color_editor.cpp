@@ -1,0 +1,157 @@
+#include "views/color_editor.h"
+
+#include "app/events.h"
+#include "app/screen.h"
+#include "app/text_input.h"
+#include "color/color_edit.h"
+#include "color/standard_colors.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialogs.h"
+#include "ui/text_button.h"
+#include "views/beside_canvas.h"
+#include "views/color_data_view.h"
+#include "views/color_database_view.h"
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int tab_height = 24;
+constexpr int gap = 10;
+constexpr int content_height = 340;
+constexpr Rectangle frame_area{beside_canvas.x, beside_canvas.y, beside_canvas.width,
+                               dialog_title_height + tab_height + content_height + text_button_height +
+                                   4 * gap};
+constexpr Rectangle inside{frame_area.x + gap, frame_area.y + dialog_title_height + gap,
+                           frame_area.width - 2 * gap, frame_area.height - dialog_title_height - 2 * gap};
+constexpr Rectangle content{inside.x, inside.y + tab_height + gap, inside.width, content_height};
+constexpr int buttons_y = inside.bottom() - text_button_height;
+
+enum class View { data, database };
+
+class Color_Editor {
+public:
+    explicit Color_Editor(Color color);
+    Color_Choice run();
+
+private:
+    void draw() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(const SDL_KeyboardEvent& event);
+    Loop_Step press(const SDL_Event& event);
+    Loop_Step hand_on(const SDL_Event& event);
+    Loop_Step accept(Color_Request request);
+    void show(View view);
+
+    Color_Edit edit_;
+    View view_ = View::data;
+    Dialog_Frame frame_{"Color editor"};
+    Text_Button data_tab_{"Data", {inside.x, inside.y, 90, tab_height}};
+    Text_Button database_tab_{"Database", {inside.x + 94, inside.y, 110, tab_height}};
+    Text_Button ok_{"Ok", {inside.x, buttons_y, 70, text_button_height}};
+    Text_Button adjust_{"Adjust HSV", {inside.x + 140, buttons_y, 140, text_button_height}};
+    Text_Button cancel_{"Cancel", {inside.right() - 85, buttons_y, 85, text_button_height}};
+    Color_Data_View data_;
+    Color_Database_View database_;
+    Color_Choice choice_;
+};
+
+Color_Editor::Color_Editor(Color color) : edit_(color), data_(edit_, content), database_(edit_, content) {
+    frame_.set_area(frame_area);
+}
+
+Color_Choice Color_Editor::run() {
+    const Text_Input text_input;
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"dialog \"Color editor\"", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    return choice_;
+}
+
+void Color_Editor::draw() const {
+    frame_.draw();
+    data_tab_.draw(view_ == View::data ? Button_Look::chosen : Button_Look::plain);
+    database_tab_.draw(view_ == View::database ? Button_Look::chosen : Button_Look::plain);
+    constexpr std::string_view hint = "Tab switches";
+    screen->draw_text(Font::pane, {inside.right() - screen->text_width(Font::pane, hint), inside.y + 1},
+                      hint);
+    if (view_ == View::data) {
+        data_.draw();
+    } else {
+        database_.draw();
+    }
+    ok_.draw(Button_Look::plain);
+    adjust_.draw(Button_Look::plain);
+    cancel_.draw(Button_Look::plain);
+}
+
+Loop_Step Color_Editor::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: {
+        const Loop_Step step = handle_key(event.key);
+        return step == Loop_Step::end ? step : hand_on(event);
+    }
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event);
+    default: return hand_on(event);
+    }
+}
+
+Loop_Step Color_Editor::handle_key(const SDL_KeyboardEvent& event) {
+    switch (event.key) {
+    case key::escape: return Loop_Step::end;
+    case key::enter:
+    case key::keypad_enter: return accept(Color_Request::none);
+    case key::tab: show(view_ == View::data ? View::database : View::data); break;
+    default: break;
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Color_Editor::press(const SDL_Event& event) {
+    const Point point = pointer_of(event.button).point();
+    if (pointer_of(event.button).button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    if (cancel_.contains(point)) {
+        return Loop_Step::end;
+    }
+    if (ok_.contains(point) || adjust_.contains(point)) {
+        return accept(ok_.contains(point) ? Color_Request::none : Color_Request::adjust_tile);
+    }
+    if (data_tab_.contains(point) || database_tab_.contains(point)) {
+        show(data_tab_.contains(point) ? View::data : View::database);
+        return Loop_Step::go_on;
+    }
+    return hand_on(event);
+}
+
+Loop_Step Color_Editor::hand_on(const SDL_Event& event) {
+    if (view_ == View::data) {
+        data_.handle(event);
+        return Loop_Step::go_on;
+    }
+    return database_.handle(event) == List_Answer::accepted ? accept(Color_Request::none) : Loop_Step::go_on;
+}
+
+// An unfinished text stays where the reason is seen.
+Loop_Step Color_Editor::accept(Color_Request request) {
+    if (view_ == View::data && !data_.is_complete()) {
+        return Loop_Step::go_on;
+    }
+    choice_ = {edit_.color(), request};
+    return Loop_Step::end;
+}
+
+void Color_Editor::show(View view) {
+    view_ = view;
+    data_.refresh();
+}
+
+} // namespace
+
+Color_Choice edit_color(Color color) {
+    return Color_Editor(color).run();
+}
+
+} // namespace quadrelle

@@ -1,0 +1,179 @@
+#include "views/export_dialog.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tileset/bitmap_export.h"
+#include "ui/dialogs.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Size dialog_size{522, 583};
+constexpr int view_margin = (dialog_size.width - Export_Dialog::view_size.width) / 2;
+constexpr Font caption_font = Font::pane;
+constexpr int scroll_step = 32;
+constexpr int checker_edge = 8;
+constexpr int mark_length = 7;
+constexpr int mark_inset = 5;
+
+std::string caption_of(const Tile& picture, int tile_count) {
+    std::string text = std::to_string(picture.width()) + " x " + std::to_string(picture.height()) + " pixels";
+    if (tile_count > exported_tiles) {
+        text += "\rOnly the first " + std::to_string(exported_tiles) + " of " + std::to_string(tile_count) +
+                " tiles";
+    }
+    return text;
+}
+
+Color over_checkerboard(Color color, Point position) {
+    if (color.a == 255) {
+        return color;
+    }
+    const bool is_light = (position.x / checker_edge + position.y / checker_edge) % 2 != 0;
+    color.blend(standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark),
+                color.a / 255.0);
+    return color;
+}
+
+// A triangle with its tip at `tip` that points along (dx, dy), dark around and lit inside.
+void draw_mark(Point tip, Point direction) {
+    const auto draw_triangle = [&](int first, int last, int wider, Color color) {
+        for (int i = first; i <= last; ++i) {
+            const int half = i + wider;
+            const Point middle{tip.x - direction.x * i, tip.y - direction.y * i};
+            const Point side{direction.y * half, direction.x * half};
+            screen->draw_line({middle.x - side.x, middle.y - side.y}, {middle.x + side.x, middle.y + side.y},
+                              color);
+        }
+    };
+    draw_triangle(-2, mark_length + 1, 2, standard_color(Standard_Color::black));
+    draw_triangle(0, mark_length, 0, standard_color(Standard_Color::highlight));
+}
+
+} // namespace
+
+Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
+    : picture_(picture), caption_(caption_of(picture, tile_count)), frame_("Export as .bmp"),
+      ok_({}, Button_Type::ok), cancel_({}, Button_Type::cancel),
+      view_(std::min(picture.width(), view_size.width), std::min(picture.height(), view_size.height)) {
+    frame_.set_size({dialog_size.width, dialog_size.height - dialog_title_height});
+    const Rectangle& box = frame_.area();
+    view_area_ = {box.x + view_margin, box.y + dialog_title_height + view_margin, view_size.width,
+                  view_size.height};
+    const int button_y = box.bottom() - ok_.area.height - dialog_margin;
+    ok_.set_position({box.x + dialog_margin, button_y});
+    cancel_.set_position({box.right() - cancel_.area.width - dialog_margin, button_y});
+    compose_view();
+}
+
+bool Export_Dialog::run() {
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"dialog \"Export as .bmp\"", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    return is_accepted_;
+}
+
+Loop_Step Export_Dialog::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
+    case SDL_EVENT_MOUSE_BUTTON_UP: dragged_from_.reset(); break;
+    case SDL_EVENT_MOUSE_MOTION: drag_to(pointer_of(event.motion).point()); break;
+    case SDL_EVENT_MOUSE_WHEEL: scroll_by({0, -static_cast<int>(event.wheel.y) * scroll_step}); break;
+    default: break;
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Export_Dialog::handle_key(Keycode pressed) {
+    switch (pressed) {
+    case key::enter:
+    case 'y': is_accepted_ = true; return Loop_Step::end;
+    case key::escape: return Loop_Step::end;
+    case key::left: scroll_by({-scroll_step, 0}); break;
+    case key::right: scroll_by({scroll_step, 0}); break;
+    case key::up: scroll_by({0, -scroll_step}); break;
+    case key::down: scroll_by({0, scroll_step}); break;
+    default: break;
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Export_Dialog::press(const Pointer_State& pointer) {
+    if (pointer.button == Mouse_Button::none) {
+        return Loop_Step::go_on;
+    }
+    is_accepted_ = ok_.area.contains(pointer.point());
+    if (is_accepted_ || cancel_.area.contains(pointer.point())) {
+        return Loop_Step::end;
+    }
+    if (view_area_.contains(pointer.point())) {
+        dragged_from_ = pointer.point();
+    }
+    return Loop_Step::go_on;
+}
+
+// The picture follows the pointer.
+void Export_Dialog::drag_to(Point point) {
+    if (dragged_from_) {
+        scroll_by({dragged_from_->x - point.x, dragged_from_->y - point.y});
+        dragged_from_ = point;
+    }
+}
+
+void Export_Dialog::scroll_by(Point step) {
+    const Point end{picture_.width() - view_.width(), picture_.height() - view_.height()};
+    const Point offset{std::clamp(offset_.x + step.x, 0, end.x), std::clamp(offset_.y + step.y, 0, end.y)};
+    if (offset != offset_) {
+        offset_ = offset;
+        compose_view();
+    }
+}
+
+void Export_Dialog::compose_view() {
+    for (int y = 0; y < view_.height(); ++y) {
+        for (int x = 0; x < view_.width(); ++x) {
+            const Color color = picture_.get_pixel(offset_.x + x, offset_.y + y);
+            view_.set_pixel(x, y, over_checkerboard(color, {x, y}));
+        }
+    }
+    view_.update_texture();
+}
+
+void Export_Dialog::draw() const {
+    frame_.draw();
+    screen->fill_rect(view_area_, standard_color(Standard_Color::dark_frame));
+    const Rectangle shown = centred(view_.size(), view_area_);
+    view_.draw(shown);
+    draw_overflow_marks();
+    ok_.draw();
+    cancel_.draw();
+    const int left = ok_.area.right();
+    const Rectangle caption = centred(
+        {screen->text_width(caption_font, caption_), screen->text_height(caption_font, caption_)},
+        {left, view_area_.bottom(), cancel_.area.x - left, frame_.area().bottom() - view_area_.bottom()});
+    screen->draw_text(caption_font, {caption.x, caption.y}, caption_);
+}
+
+void Export_Dialog::draw_overflow_marks() const {
+    const Rectangle area = view_area_.inset(mark_inset);
+    const Point middle{area.x + area.width / 2, area.y + area.height / 2};
+    if (offset_.x > 0) {
+        draw_mark({area.x, middle.y}, {-1, 0});
+    }
+    if (offset_.y > 0) {
+        draw_mark({middle.x, area.y}, {0, -1});
+    }
+    if (offset_.x + view_.width() < picture_.width()) {
+        draw_mark({area.right(), middle.y}, {1, 0});
+    }
+    if (offset_.y + view_.height() < picture_.height()) {
+        draw_mark({middle.x, area.bottom()}, {0, 1});
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,49 @@
+#pragma once
+
+// Shows the picture of a set before it is written. Writes nothing.
+
+#include "app/events.h"
+#include "tileset/tile.h"
+#include "ui/button_dialog_item.h"
+#include "ui/dialog_frame.h"
+
+#include <optional>
+#include <string>
+
+namespace quadrelle {
+
+class Export_Dialog {
+public:
+    static constexpr Size view_size{512, 512};
+
+    // Borrows the picture, which must have pixels. `tile_count` is that of the set, which may have more tiles
+    // than the picture.
+    Export_Dialog(const Tile& picture, int tile_count);
+
+    // True when accepted.
+    [[nodiscard]] bool run();
+
+private:
+    [[nodiscard]] Loop_Step handle(const SDL_Event& event);
+    [[nodiscard]] Loop_Step handle_key(Keycode pressed);
+    [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
+    void drag_to(Point point);
+    // Shows what lies that far to the right and below, as far as there is something.
+    void scroll_by(Point step);
+    void compose_view();
+    void draw() const;
+    void draw_overflow_marks() const;
+
+    const Tile& picture_;
+    std::string caption_;
+    Dialog_Frame frame_;
+    Rectangle view_area_;
+    Button_Dialog_Item ok_;
+    Button_Dialog_Item cancel_;
+    Tile view_; // the part that is seen, over a checkerboard
+    Point offset_;
+    std::optional<Point> dragged_from_;
+    bool is_accepted_ = false;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,332 @@
+#include "views/file_chooser.h"
+
+#include "app/events.h"
+#include "app/files.h"
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "tileset/file_names.h"
+#include "ui/button_dialog_item.h"
+#include "ui/dialog_frame.h"
+#include "ui/dialogs.h"
+#include "ui/shown_text.h"
+#include "views/file_list.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Font font = Font::regular;
+constexpr Size below_title{640, 506};
+constexpr int line = 24;
+constexpr int gap = 7;
+constexpr int list_height = 15 * line + 2;
+constexpr int label_width = 60;
+constexpr int text_drop = 3;
+constexpr int wheel_rows = 3;
+constexpr int all_rows = std::numeric_limits<int>::max() / 2;
+
+// Where the last file was chosen; at first where the program was started.
+std::string& last_folder() {
+    static std::string folder = current_directory();
+    return folder;
+}
+
+class Text_Input {
+public:
+    Text_Input() { screen->set_text_input(true); }
+    Text_Input(const Text_Input&) = delete;
+    Text_Input& operator=(const Text_Input&) = delete;
+    ~Text_Input() { screen->set_text_input(false); }
+};
+
+struct Layout {
+    explicit Layout(const Rectangle& frame)
+        : path{frame.x + 2 * gap, frame.y + dialog_title_height + gap, frame.width - 4 * gap, line},
+          list{frame.x + gap, path.bottom() + gap, frame.width - 2 * gap, list_height},
+          note{path.x, list.bottom() + gap, path.width, line}, label{path.x, note.bottom() + gap, label_width,
+                                                                     Text_Field::height},
+          field{label.right(), label.y, frame.right() - gap - label.right(), Text_Field::height},
+          buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, 27} {}
+
+    Rectangle path, list, note, label, field, buttons;
+};
+
+class Own_Chooser {
+public:
+    explicit Own_Chooser(const File_Request& request);
+    File_Answer run();
+
+private:
+    enum class Part { list, name };
+
+    void draw() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(Keycode pressed);
+    bool handle_list_key(Keycode pressed);
+    Loop_Step press(Point point);
+    Loop_Step press_list(Point point);
+    void scroll(float amount);
+    void move_to(int rows);
+    void show_selection();
+    void enter(const std::string& folder);
+    Loop_Step accept();
+    Loop_Step open_selected();
+    Loop_Step accept_name();
+    Loop_Step choose(const std::string& path);
+    [[nodiscard]] bool is_allowed(const std::string& path);
+    [[nodiscard]] std::string final_path(const std::string& path) const;
+
+    File_Request request_;
+    Folder_Listing listing_;
+    Dialog_Frame frame_;
+    Layout layout_;
+    File_List list_;
+    Text_Field name_;
+    Button_Dialog_Item ok_{Item_Id{}, Button_Type::ok};
+    Button_Dialog_Item cancel_{Item_Id{}, Button_Type::cancel};
+    Part focus_;
+    std::string note_; // why the last attempt led nowhere
+    File_Answer answer_{File_Answer_State::cancelled, {}};
+};
+
+Dialog_Frame sized_frame(std::string_view title) {
+    Dialog_Frame frame(title);
+    frame.set_size(below_title);
+    return frame;
+}
+
+Own_Chooser::Own_Chooser(const File_Request& request)
+    : request_(request), listing_(request.pattern), frame_(sized_frame(request.title)),
+      layout_(frame_.area()), list_(layout_.list, listing_), name_(layout_.field),
+      focus_(request.direction == File_Direction::open ? Part::list : Part::name) {
+    ok_.set_position({layout_.buttons.x, layout_.buttons.y});
+    cancel_.set_position({layout_.buttons.right() - cancel_.area.width, layout_.buttons.y});
+}
+
+File_Answer Own_Chooser::run() {
+    if (!listing_.open_nearest(last_folder())) {
+        return {File_Answer_State::failed, {}};
+    }
+    const Text_Input typing;
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal({"file chooser", [] { dialogs->show_backdrop(); },
+               [this](const SDL_Event& event) { return handle(event); }});
+    return answer_;
+}
+
+void Own_Chooser::draw() const {
+    frame_.draw();
+    const Point path{layout_.path.x, layout_.path.y};
+    screen->draw_text(font, path, fitted_text(font, listing_.folder(), layout_.path.width, Left_Out::start));
+    list_.draw(focus_ == Part::list ? Focus::yes : Focus::no);
+    const std::string_view note = note_.empty() ? request_.filter_label : std::string_view(note_);
+    screen->draw_text(font, {layout_.note.x, layout_.note.y},
+                      fitted_text(font, note, layout_.note.width, Left_Out::middle));
+    screen->draw_text(font, {layout_.label.x, layout_.label.y + text_drop}, "Name:");
+    name_.draw(focus_ == Part::name ? Focus::yes : Focus::no);
+    ok_.draw();
+    cancel_.draw();
+}
+
+Loop_Step Own_Chooser::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+    case SDL_EVENT_TEXT_INPUT:
+        focus_ = Part::name;
+        name_.insert(event.text.text);
+        break;
+    case SDL_EVENT_MOUSE_WHEEL: scroll(event.wheel.y); break;
+    case SDL_EVENT_MOUSE_MOTION: list_.drag(pointer_of(event.motion).point()); break;
+    case SDL_EVENT_MOUSE_BUTTON_UP: list_.release(); break;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: {
+        const Pointer_State pointer = pointer_of(event.button);
+        return pointer.button == Mouse_Button::left ? press(pointer.point()) : Loop_Step::go_on;
+    }
+    default: break;
+    }
+    return Loop_Step::go_on;
+}
+
+Loop_Step Own_Chooser::handle_key(Keycode pressed) {
+    if (pressed == key::escape) {
+        return Loop_Step::end;
+    }
+    if (pressed == key::enter || pressed == key::keypad_enter) {
+        return accept();
+    }
+    note_.clear();
+    if (pressed == key::tab) {
+        focus_ = focus_ == Part::list ? Part::name : Part::list;
+    } else if (!handle_list_key(pressed) && focus_ == Part::name) {
+        name_.handle_key(pressed);
+    }
+    return Loop_Step::go_on;
+}
+
+// Up and down lead into the list from everywhere.
+bool Own_Chooser::handle_list_key(Keycode pressed) {
+    const bool is_in_list = focus_ == Part::list;
+    switch (pressed) {
+    case key::up: move_to(-1); return true;
+    case key::down: move_to(1); return true;
+    case key::page_up: move_to(-list_.page()); return true;
+    case key::page_down: move_to(list_.page()); return true;
+    case key::home:
+    case key::end:
+        if (is_in_list) {
+            move_to(pressed == key::home ? -all_rows : all_rows);
+        }
+        return is_in_list;
+    case key::backspace:
+        if (is_in_list) {
+            enter(resolved_path(listing_.folder(), ".."));
+        }
+        return is_in_list;
+    default: return false;
+    }
+}
+
+void Own_Chooser::move_to(int rows) {
+    focus_ = Part::list;
+    list_.move_selection(rows);
+    show_selection();
+}
+
+// A file's name can be changed in the line before it is chosen.
+void Own_Chooser::show_selection() {
+    if (const std::optional<std::size_t> row = list_.selected();
+        row && listing_.rows()[*row].kind == Listed_Kind::file) {
+        name_.set_text(listing_.rows()[*row].name);
+    }
+}
+
+Loop_Step Own_Chooser::press(Point point) {
+    note_.clear();
+    if (layout_.list.contains(point)) {
+        return press_list(point);
+    }
+    if (layout_.field.contains(point)) {
+        focus_ = Part::name;
+        name_.place_caret(point);
+    }
+    if (ok_.area.contains(point)) {
+        return accept();
+    }
+    return cancel_.area.contains(point) ? Loop_Step::end : Loop_Step::go_on;
+}
+
+Loop_Step Own_Chooser::press_list(Point point) {
+    focus_ = Part::list;
+    switch (list_.press(point)) {
+    case File_List::Press::opens: return open_selected();
+    case File_List::Press::selects: show_selection(); break;
+    case File_List::Press::nothing: break;
+    }
+    return Loop_Step::go_on;
+}
+
+void Own_Chooser::scroll(float amount) {
+    if (std::isfinite(amount)) {
+        const float rows = std::clamp(-amount * wheel_rows, -1000.0F, 1000.0F);
+        list_.scroll(static_cast<int>(rows < 0 ? std::floor(rows) : std::ceil(rows)));
+    }
+}
+
+void Own_Chooser::enter(const std::string& folder) {
+    const std::string left = listing_.folder();
+    if (!listing_.open(folder)) {
+        note_ = "This folder cannot be read.";
+        // It may have vanished, and the one that is shown with it.
+        static_cast<void>(listing_.open_nearest(left));
+    }
+    list_.reset();
+    // On the way up, the folder that one comes from.
+    if (parent_folder(left) == listing_.folder()) {
+        if (const auto row = listing_.find(left.substr(folder_part(left).size()))) {
+            list_.select(*row);
+        }
+    }
+}
+
+Loop_Step Own_Chooser::accept() {
+    note_.clear();
+    return focus_ == Part::list && list_.selected() ? open_selected() : accept_name();
+}
+
+Loop_Step Own_Chooser::open_selected() {
+    const std::size_t row = *list_.selected();
+    if (listing_.rows()[row].kind == Listed_Kind::file) {
+        return choose(listing_.path_of(row));
+    }
+    enter(listing_.path_of(row));
+    return Loop_Step::go_on;
+}
+
+Loop_Step Own_Chooser::accept_name() {
+    const std::string typed = name_.text();
+    if (typed.empty()) {
+        note_ = "Choose a file or type its name.";
+        return Loop_Step::go_on;
+    }
+    const std::string path = resolved_path(listing_.folder(), typed);
+    if (path_kind(path) == Path_Kind::folder) {
+        enter(path);
+        if (note_.empty()) {
+            name_.set_text("");
+        }
+        return Loop_Step::go_on;
+    }
+    return choose(path);
+}
+
+// A name typed without its extension means the file that has it.
+std::string Own_Chooser::final_path(const std::string& path) const {
+    if (request_.direction == File_Direction::save) {
+        return request_.forced_extension.empty()
+                   ? path
+                   : with_extension(path, std::string(request_.forced_extension));
+    }
+    const bool is_there = request_.pattern == "*" || path_kind(path) != Path_Kind::nothing;
+    return is_there ? path : path + "." + std::string(request_.pattern);
+}
+
+Loop_Step Own_Chooser::choose(const std::string& path) {
+    const std::string chosen = final_path(path);
+    if (!is_allowed(chosen)) {
+        return Loop_Step::go_on;
+    }
+    last_folder() = parent_folder(chosen);
+    answer_ = {File_Answer_State::chosen, chosen};
+    return Loop_Step::end;
+}
+
+bool Own_Chooser::is_allowed(const std::string& path) {
+    const Path_Kind kind = path_kind(path);
+    if (request_.direction == File_Direction::open) {
+        note_ = kind == Path_Kind::file ? "" : "There is no such file.";
+        return note_.empty();
+    }
+    if (path_kind(parent_folder(path)) != Path_Kind::folder) {
+        note_ = "There is no such folder.";
+        return false;
+    }
+    if (kind == Path_Kind::folder || kind == Path_Kind::other) {
+        note_ = "A folder or a device has this name.";
+        return false;
+    }
+    return kind == Path_Kind::nothing || dialogs->ask(request_.title, "Save over existing file?");
+}
+
+} // namespace
+
+File_Answer run_file_chooser(const File_Request& request) {
+    return Own_Chooser(request).run();
+}
+
+} // namespace quadrelle

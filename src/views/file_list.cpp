@@ -1,0 +1,141 @@
+#include "views/file_list.h"
+
+#include "app/screen.h"
+#include "color/standard_colors.h"
+#include "ui/shown_text.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Font font = Font::regular;
+constexpr int row_height = 24;
+constexpr int border = 1;
+constexpr int bar_width = 14;
+constexpr int shortest_thumb = 20;
+constexpr int icon_offset = 8;
+constexpr int text_offset = 32;
+constexpr int text_drop = 1;
+
+void draw_folder_icon(Point position) {
+    const Color color = standard_color(Standard_Color::orange);
+    screen->fill_rect({position.x, position.y + 6, 7, 2}, color);
+    screen->draw_box({position.x, position.y + 8, 16, 11}, color);
+}
+
+} // namespace
+
+int File_List::page() const {
+    return (area_.height - 2 * border) / row_height;
+}
+
+Rectangle File_List::row_area(std::size_t row) const {
+    const int place = static_cast<int>(row) - first_;
+    return {area_.x + border, area_.y + border + place * row_height,
+            area_.width - 2 * border - (has_bar() ? bar_width : 0), row_height};
+}
+
+void File_List::reset() {
+    selected_.reset();
+    clicked_.reset();
+    first_ = 0;
+    is_dragging_ = false;
+}
+
+void File_List::scroll(int rows) {
+    first_ = std::clamp(first_ + rows, 0, std::max(count() - page(), 0));
+}
+
+void File_List::select(std::size_t row) {
+    selected_ = row;
+    clicked_.reset();
+    const int place = static_cast<int>(row);
+    scroll(std::min(place - first_, 0));
+    scroll(std::max(place - (first_ + page() - 1), 0));
+}
+
+void File_List::move_selection(int rows) {
+    if (count() == 0) {
+        return;
+    }
+    // The first step selects the first row.
+    const std::int64_t from = selected_ ? static_cast<std::int64_t>(*selected_) : -1;
+    select(static_cast<std::size_t>(std::clamp<std::int64_t>(from + rows, 0, count() - 1)));
+}
+
+File_List::Press File_List::press(Point point) {
+    if (has_bar() && bar().contains(point)) {
+        is_dragging_ = true;
+        drag(point);
+        return Press::nothing;
+    }
+    const int row = first_ + (point.y - area_.y - border) / row_height;
+    const bool is_row = area_.inset(border).contains(point) && row < std::min(count(), first_ + page());
+    if (!is_row) {
+        return Press::nothing;
+    }
+    const auto pressed = static_cast<std::size_t>(row);
+    if (clicked_ == pressed) {
+        return Press::opens;
+    }
+    select(pressed);
+    clicked_ = pressed;
+    return Press::selects;
+}
+
+// The thumb's middle follows the pointer.
+void File_List::drag(Point point) {
+    const Rectangle track = bar();
+    const int way = track.height - thumb().height;
+    if (!is_dragging_ || way <= 0) {
+        return;
+    }
+    const int offset = std::clamp(point.y - track.y - thumb().height / 2, 0, way);
+    first_ = static_cast<int>(std::int64_t{offset} * (count() - page()) / way);
+}
+
+Rectangle File_List::bar() const {
+    return {area_.right() - border - bar_width, area_.y + border, bar_width, area_.height - 2 * border};
+}
+
+Rectangle File_List::thumb() const {
+    const Rectangle track = bar();
+    const int height = std::max(shortest_thumb, track.height * page() / std::max(count(), 1));
+    const std::int64_t way = track.height - height;
+    const auto offset = static_cast<int>(way * first_ / std::max(count() - page(), 1));
+    return {track.x + 1, track.y + offset, track.width - 1, height};
+}
+
+void File_List::draw(Focus focus) const {
+    screen->fill_rect(area_, standard_color(Standard_Color::dark_frame));
+    const int end = std::min(count(), first_ + page());
+    for (int row = first_; row < end; ++row) {
+        draw_row(static_cast<std::size_t>(row), focus);
+    }
+    if (has_bar()) {
+        screen->fill_rect(bar(), standard_color(Standard_Color::frame));
+        screen->draw_panel(thumb(), standard_color(Standard_Color::pane_background));
+    }
+    screen->draw_outline(
+        area_, standard_color(focus == Focus::yes ? Standard_Color::highlight : Standard_Color::frame));
+}
+
+void File_List::draw_row(std::size_t row, Focus focus) const {
+    const Rectangle place = row_area(row);
+    const Listed_Row& listed = listing_->rows()[row];
+    if (selected_ == row) {
+        screen->fill_rect(place, standard_color(focus == Focus::yes ? Standard_Color::list_active
+                                                                    : Standard_Color::list_passive));
+    }
+    if (listed.kind != Listed_Kind::file) {
+        draw_folder_icon({place.x + icon_offset, place.y});
+    }
+    const int room = place.width - text_offset - icon_offset;
+    screen->draw_text(font, {place.x + text_offset, place.y + text_drop},
+                      fitted_text(font, listed.name, room, Left_Out::middle));
+}
+
+} // namespace quadrelle

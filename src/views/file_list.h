@@ -1,0 +1,55 @@
+#pragma once
+
+// A folder's rows in a box: which are shown, which one is selected, and the scroll bar beside them.
+
+#include "app/geometry.h"
+#include "tileset/folder_listing.h"
+#include "ui/text_field.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+class File_List {
+public:
+    // The listing is borrowed.
+    File_List(const Rectangle& area, const Folder_Listing& listing) : area_(area), listing_(&listing) {}
+
+    [[nodiscard]] const Rectangle& area() const { return area_; }
+    [[nodiscard]] std::optional<std::size_t> selected() const { return selected_; }
+    // How many rows have room.
+    [[nodiscard]] int page() const;
+    // Window pixels of a row; beyond the box for one that is not shown.
+    [[nodiscard]] Rectangle row_area(std::size_t row) const;
+
+    // To be called when other rows are listed: nothing is selected.
+    void reset();
+    void select(std::size_t row);
+    // Clamped to the rows.
+    void move_selection(int rows);
+    void scroll(int rows);
+
+    enum class Press { nothing, selects, opens };
+    // The second click on one and the same row opens it. A press on the scroll bar grabs the pointer.
+    Press press(Point point);
+    void drag(Point point);
+    void release() { is_dragging_ = false; }
+
+    void draw(Focus focus) const;
+
+private:
+    [[nodiscard]] int count() const { return static_cast<int>(listing_->rows().size()); }
+    [[nodiscard]] bool has_bar() const { return count() > page(); }
+    [[nodiscard]] Rectangle bar() const;
+    [[nodiscard]] Rectangle thumb() const;
+    void draw_row(std::size_t row, Focus focus) const;
+
+    Rectangle area_;
+    const Folder_Listing* listing_;
+    std::optional<std::size_t> selected_;
+    std::optional<std::size_t> clicked_;
+    int first_ = 0;
+    bool is_dragging_ = false;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,90 @@
+#include "views/help_lists.h"
+
+#include "app/command_table.h"
+
+#include <array>
+#include <string_view>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int keyboard_columns = 3;
+constexpr std::string_view key_legend =
+    "^ stands for Ctrl, ~ for Alt, a capital letter for Shift and the letter.";
+
+struct Mouse_Row {
+    std::string_view what;
+    std::string_view does;
+};
+
+// clang-format off
+constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
+    {"Left or right button on the canvas",   "uses the tool with the color of that button"},
+    {"Right button with the pens",           "can also bring history back or pick a color: see the tool's options"},
+    {"Lightness pen, left and right button", "one lightens, the other darkens"},
+    {"Dropper, left or right button",        "takes the color for that button"},
+    {"Ctrl and drag with the right button",  "moves the tile in the view"},
+    {"Wheel",                                "zooms in and out"},
+    {"Left button on an icon",               "chooses the tool, or does what the icon stands for"},
+    {"Click in the list of tools",           "chooses the tool"},
+    {"Arrows and marks of a tool's options", "step through the choices, turn them on and off"},
+    {"Click on a brush shape or size",       "chooses it"},
+    {"Left or right button on the palette",  "takes the color for that button"},
+    {"Shift and click on the palette",       "stores the color of that button there"},
+    {"Drag in HSV Selector",                 "picks a hue from the bar, or a color from the square for that button"},
+    {"Drag or click in Handles",             "changes the lit color"},
+    {"Click in Variations",                  "takes the color for that button"},
+    {"Arrows of the palette",                "step through the palettes"},
+    {"Click on a button's color",            "makes it the lit one, that handles and variations work on"},
+    {"Click on a tile along the bottom",     "goes to that tile"},
+    {"Buttons of Tileset navigation",        "page through the tiles along the bottom, or go to the tile before or after"},
+    {"Click in View tile array",             "goes to that tile"},
+    {"Left, middle button in Arrange/Select", "chooses the primary, the secondary tile"},
+    {"Shift and wheel in View in real size", "shows the tile larger or smaller"},
+    {"Click on a tab",                       "goes to that tileset; arrows beside the tabs lead to hidden ones"},
+    {"Click on a menu",                      "opens it; a click elsewhere, or any key, closes it"},
+    {"Click on a number in a dialog",        "lets you type it; the arrows beside it change it by one"},
+    {"Hold a button on a slot of Versions",  "shows that version in large"},
+    {"Drag or wheel in Export as .bmp",      "shows the rest of a picture that is larger than the view"},
+});
+// clang-format on
+
+Dialog_Container make_list_dialog(std::string_view title, std::vector<Text_Pair> pairs, int columns,
+                                  std::string_view legend) {
+    Dialog_Container dialog(title);
+    Dialog_Row list;
+    list.add<Pair_List>(std::move(pairs), columns);
+    dialog.add_row(std::move(list)).items().front()->area.height += dialog_margin;
+    if (!legend.empty()) {
+        dialog.add_text_row(legend).items().front()->area.height += dialog_margin;
+    }
+    dialog.finish_ok();
+    return dialog;
+}
+
+} // namespace
+
+std::vector<Text_Pair> keyed_commands() {
+    std::vector<Text_Pair> pairs;
+    for (const Command_Row& row : command_table) {
+        if (row.key != key::none) {
+            pairs.push_back({std::string(row.key_label), std::string(row.name)});
+        }
+    }
+    return pairs;
+}
+
+Dialog_Container make_keyboard_dialog() {
+    return make_list_dialog("Keyboard commands", keyed_commands(), keyboard_columns, key_legend);
+}
+
+Dialog_Container make_mouse_dialog() {
+    std::vector<Text_Pair> pairs;
+    for (const Mouse_Row& row : mouse_rows) {
+        pairs.push_back({std::string(row.what), std::string(row.does)});
+    }
+    return make_list_dialog("Mouse commands", std::move(pairs), 1, "");
+}
+
+} // namespace quadrelle

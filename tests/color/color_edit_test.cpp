@@ -1,0 +1,100 @@
+#include "color/color_edit.h"
+
+#include "tests/color/hsv_grid.h"
+
+#include <gtest/gtest.h>
+
+namespace quadrelle {
+
+using testing::exact_hsv;
+using testing::exact_rgb;
+using testing::for_grid_colors;
+using testing::is_nearest;
+
+TEST(color_edit, agrees_with_an_independent_conversion_both_ways) {
+    for_grid_colors([](Color color) {
+        Color_Edit edit(color);
+        const auto exact = exact_hsv(color);
+        ASSERT_NEAR(edit.number(Color_Channel::saturation), 100.0 * exact.saturation, 0.5 + 1e-9);
+        ASSERT_NEAR(edit.number(Color_Channel::value), exact.value / 2.55, 0.5 + 1e-9);
+        ASSERT_NEAR(std::remainder(edit.number(Color_Channel::hue) - exact.hue, 360.0), 0.0, 0.5 + 1e-9);
+
+        const auto expect = [&](Color_Channel channel, int number, testing::Exact_HSV wanted) {
+            Color_Edit changed = edit;
+            changed.set_number(channel, number);
+            if (changed.number(channel) != edit.number(channel)) {
+                ASSERT_TRUE(is_nearest(changed.color(), exact_rgb(wanted))) << color.word();
+            }
+            ASSERT_EQ(changed.number(channel), number);
+        };
+        expect(Color_Channel::hue, 77, {77.0, exact.saturation, exact.value});
+        expect(Color_Channel::saturation, 35, {exact.hue, 0.35, exact.value});
+        expect(Color_Channel::value, 62, {exact.hue, exact.saturation, 0.62 * 255.0});
+        edit.set_number(Color_Channel::hue, edit.number(Color_Channel::hue));
+        ASSERT_EQ(edit.color(), color);
+    });
+}
+
+TEST(color_edit, keeps_the_hue_through_every_grey) {
+    for (int hue = 0; hue < 360; ++hue) {
+        Color_Edit edit(Color(200, 100, 50, 77));
+        edit.set_number(Color_Channel::hue, hue);
+        edit.set_number(Color_Channel::saturation, 0);
+        ASSERT_TRUE(edit.color().is_grey());
+        edit.set_color({90, 90, 90, 77});
+        edit.set_number(Color_Channel::red, 40);
+        edit.set_color({40, 40, 40, 77});
+        edit.set_color({0, 0, 0, 77});
+        // Turned by the red that was added on the way.
+        const int kept = edit.number(Color_Channel::hue);
+        ASSERT_EQ(kept, 180);
+        edit.set_number(Color_Channel::hue, hue);
+        edit.set_color({120, 120, 120, 77});
+        ASSERT_EQ(edit.number(Color_Channel::hue), hue);
+        edit.set_number(Color_Channel::saturation, 100);
+        edit.set_number(Color_Channel::value, 100);
+        ASSERT_TRUE(is_nearest(edit.color(), exact_rgb({hue + 0.0, 1.0, 255.0}))) << hue;
+        ASSERT_EQ(edit.color().a, 77);
+    }
+}
+
+TEST(color_edit, keeps_hue_and_saturation_through_black) {
+    Color_Edit edit(Color(97, 18, 124));
+    edit.set_number(Color_Channel::value, 0);
+    EXPECT_EQ(edit.color(), Color(0, 0, 0));
+    edit.set_number(Color_Channel::value, 49);
+    EXPECT_TRUE(is_nearest(edit.color(), {97.7, 18.1, 124.95})) << edit.color().word();
+}
+
+TEST(color_edit, stops_or_wraps_at_both_ends_of_every_number) {
+    for (const Color_Channel_Row& row : color_channels) {
+        SCOPED_TRACE(row.name);
+        const bool wraps = row.id == Color_Channel::hue;
+        Color_Edit edit(Color(97, 18, 124, 200));
+        edit.set_number(row.id, row.high + 1000);
+        EXPECT_EQ(edit.number(row.id), row.high);
+        edit.step(row.id, 1);
+        EXPECT_EQ(edit.number(row.id), wraps ? 0 : row.high);
+        edit.set_number(row.id, -1000);
+        EXPECT_EQ(edit.number(row.id), 0);
+        edit.step(row.id, -10);
+        EXPECT_EQ(edit.number(row.id), wraps ? 350 : 0);
+        for (int number = 0; number <= row.high; ++number) {
+            edit.set_number(row.id, number);
+            EXPECT_EQ(edit.number(row.id), number);
+        }
+        for (const Color_Channel_Row& other : color_channels) {
+            const bool is_component = other.id == Color_Channel::hue ||
+                                      other.id == Color_Channel::saturation ||
+                                      other.id == Color_Channel::value;
+            const bool was_component = row.id == Color_Channel::hue || row.id == Color_Channel::saturation ||
+                                       row.id == Color_Channel::value;
+            if (other.id != row.id && is_component && was_component) {
+                EXPECT_EQ(edit.number(other.id), Color_Edit(Color(97, 18, 124, 200)).number(other.id))
+                    << other.name;
+            }
+        }
+    }
+}
+
+} // namespace quadrelle

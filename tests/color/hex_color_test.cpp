@@ -1,0 +1,64 @@
+#include "color/hex_color.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace quadrelle {
+
+TEST(hex_color, reads_what_people_write) {
+    struct Row {
+        std::string_view text;
+        Color color;
+    };
+    const std::array rows = {
+        Row{"#61127c", {0x61, 0x12, 0x7c}},
+        Row{"61127C", {0x61, 0x12, 0x7c}},
+        Row{" \t#61127c80\r\n", {0x61, 0x12, 0x7c, 0x80}},
+        Row{"00000000", {0, 0, 0, 0}},
+        Row{"FFFFFFFF", {255, 255, 255}},
+        Row{"#1aF", {0x11, 0xaa, 0xff}},
+        Row{"000", {0, 0, 0}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(read_hex(row.text).color, row.color) << row.text;
+        EXPECT_EQ(read_hex(row.text).refusal, "") << row.text;
+    }
+}
+
+TEST(hex_color, says_what_is_wrong) {
+    struct Row {
+        std::string_view text;
+        std::string_view refusal;
+    };
+    const std::array rows = {
+        Row{"", "It takes 3, 6 or 8 digits, not 0"},
+        Row{"#", "It takes 3, 6 or 8 digits, not 0"},
+        Row{"#61127", "It takes 3, 6 or 8 digits, not 5"},
+        Row{"6112", "It takes 3, 6 or 8 digits, not 4"},
+        Row{"61127c8", "It takes 3, 6 or 8 digits, not 7"},
+        Row{"61127c80f", "It takes 3, 6 or 8 digits, not 9"},
+        Row{"61127g", "\"g\" is no digit: 0 to 9, a to f"},
+        Row{"-1127c", "\"-\" is no digit: 0 to 9, a to f"},
+        Row{"0x61127c", "\"x\" is no digit: 0 to 9, a to f"},
+        Row{"61 12 7c", "\" \" is no digit: 0 to 9, a to f"},
+        Row{"##61127c", "\"#\" is no digit: 0 to 9, a to f"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_FALSE(read_hex(row.text).color) << row.text;
+        EXPECT_EQ(read_hex(row.text).refusal, row.refusal) << row.text;
+    }
+}
+
+TEST(hex_color, reads_what_it_writes) {
+    EXPECT_EQ(hex_text({0x61, 0x12, 0x7c}), "#61127c");
+    EXPECT_EQ(hex_text({0, 0, 0, 0}), "#00000000");
+    for (int i = 0; i < 256; ++i) {
+        const Color color(i, 255 - i, i * 7 % 256, i * 13 % 256);
+        EXPECT_EQ(read_hex(hex_text(color)).color, color) << i;
+    }
+}
+
+} // namespace quadrelle

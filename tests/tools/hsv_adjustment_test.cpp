@@ -1,0 +1,55 @@
+#include "tools/hsv_adjustment.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace quadrelle {
+
+namespace {
+
+Tile random_tile(Size size) {
+    std::mt19937 random(20);
+    Tile tile(size.width, size.height);
+    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
+    return tile;
+}
+
+} // namespace
+
+TEST(hsv_adjustment, of_nothing_leaves_a_random_tile_as_it_is) {
+    Tile tile = random_tile({64, 48});
+    const Tile before(tile);
+    Drawing_Target target(tile);
+    EXPECT_EQ(adjust_hsv(target, HSV_Change{}), Adjustment_Outcome::nothing_changed);
+    EXPECT_TRUE(std::ranges::equal(tile.pixels(), before.pixels()));
+    EXPECT_EQ(adjust_hsv(target, {.hue = 60}), Adjustment_Outcome::tile_changed);
+    // The same by hand, pixel for pixel, whatever the neighbour is.
+    for (int i = 0; i < tile.pixel_count(); ++i) {
+        ASSERT_EQ(tile.get_pixel_at(i), adjusted(before.get_pixel_at(i), {.hue = 60}));
+    }
+    Tile empty(0, 5);
+    Drawing_Target nowhere(empty);
+    EXPECT_EQ(adjust_hsv(nowhere, {.hue = 60}), Adjustment_Outcome::nothing_changed);
+}
+
+TEST(hsv_adjustment, keeps_to_the_mask_and_begins_at_the_source) {
+    Tile tile = random_tile({20, 20});
+    const Tile before(tile);
+    Tile mask(20, 20);
+    std::mt19937 random(7);
+    mask.map_colours([&](Color) { return random() % 2 == 0 ? Color(255, 255, 255) : Color(0, 0, 0, 0); });
+    Drawing_Target target(tile, mask);
+    adjust_hsv(target, before, {.saturation = -100});
+    adjust_hsv(target, before, {.hue = 90, .value = -30});
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 20; ++x) {
+            const Color old = before.get_pixel(x, y);
+            const Color wanted = mask.is_white_at(x, y) ? adjusted(old, {.hue = 90, .value = -30}) : old;
+            ASSERT_EQ(tile.get_pixel(x, y), wanted) << x << ", " << y;
+        }
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,53 @@
+#include "ui/wrapped_text.h"
+
+#include "app/screen.h"
+#include "tests/support/window_test.h"
+
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Wrapped_Text_Test = Window_Test;
+using Lines = std::vector<std::string>;
+
+constexpr Font font = Font::pane;
+
+TEST_F(Wrapped_Text_Test, breaks_where_it_should) {
+    const int width = screen->text_width(font, "four words");
+    EXPECT_EQ(wrapped_text(font, "four words fit not", width), (Lines{"four words", "fit not"}));
+    EXPECT_EQ(wrapped_text(font, "four\rwords", width), (Lines{"four", "words"}));
+    EXPECT_EQ(wrapped_text(font, "a\r\rb\r", width), (Lines{"a", "", "b", ""}));
+    EXPECT_EQ(wrapped_text(font, "", width), Lines{""});
+    EXPECT_EQ(wrapped_text(font, " four", width), Lines{" four"});
+    EXPECT_EQ(wrapped_text(font, "abc", 1), (Lines{"a", "b", "c"}));
+}
+
+TEST_F(Wrapped_Text_Test, loses_nothing_and_fits_at_every_width) {
+    const std::string text = "Words, averylongonethathasnoblankinit and  two blanks and/some/path/of/a file";
+    for (int width = 12; width < 600; width += 7) {
+        std::string letters;
+        for (const std::string& line : wrapped_text(font, text, width)) {
+            EXPECT_LE(screen->text_width(font, line), width);
+            letters += line;
+        }
+        std::erase(letters, ' ');
+        std::string expected = text;
+        std::erase(expected, ' ');
+        EXPECT_EQ(letters, expected) << width;
+    }
+}
+
+TEST_F(Wrapped_Text_Test, shows_that_lines_are_left_out) {
+    const int width = screen->text_width(font, "wide enough");
+    EXPECT_EQ(first_lines(font, {"one", "two"}, 2, width), (Lines{"one", "two"}));
+    EXPECT_EQ(first_lines(font, {"one", "two"}, 1, width), Lines{"one..."});
+    const Lines cut = first_lines(font, {"wide enough", "two"}, 1, width);
+    EXPECT_LE(screen->text_width(font, cut.front()), width);
+    EXPECT_TRUE(cut.front().starts_with("wide e") && cut.front().ends_with("...")) << cut.front();
+    EXPECT_EQ(joined_lines({"", "a", "", "b"}), "\ra\r\rb");
+}
+
+} // namespace
+} // namespace quadrelle::testing

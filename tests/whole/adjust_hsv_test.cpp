@@ -1,0 +1,182 @@
+#include "color/hsv_change.h"
+#include "tests/whole/program_test.h"
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Tile_Picture = std::vector<Color>;
+
+constexpr int hue_y = 74;
+constexpr int saturation_y = 98;
+constexpr int value_y = 122;
+constexpr int less_x = 1122;
+constexpr int number_x = 1157;
+constexpr int middle_x = 1191;
+constexpr int more_x = 1210;
+constexpr int bar_left = 872;
+constexpr int bar_right = 1110;
+constexpr Point all_tiles{830, 156};
+constexpr Point ok{820, 215};
+constexpr Point cancel{1180, 215};
+
+class Adjust_HSV_Test : public Program_Test {
+protected:
+    void SetUp() override {
+        Program_Test::SetUp();
+        paint_at_random();
+    }
+
+    static void paint_at_random() {
+        static std::mt19937 random(5);
+        Tile& tile = *document().tileset().current_tile();
+        tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
+        tile.update_texture();
+        document().history().reset(document().tileset());
+    }
+    static Tile_Picture picture(int index = 0) {
+        const Tile& tile = document().tileset().tile_at(index);
+        return {tile.pixels().begin(), tile.pixels().end()};
+    }
+    static Tile_Picture changed(Tile_Picture pixels, const HSV_Change& change) {
+        std::ranges::transform(pixels, pixels.begin(), [&](Color color) { return adjusted(color, change); });
+        return pixels;
+    }
+    static std::size_t steps() { return document().history().entries().size(); }
+};
+
+TEST_F(Adjust_HSV_Test, shows_the_change_while_it_is_chosen_and_records_it_as_one_step) {
+    const Tile_Picture before = picture();
+    const Tile_Picture after = changed(before, {180, -100, 1});
+    script().drag({{bar_left + 9, hue_y}, {bar_left, hue_y}, {2000, hue_y}});
+    script().check([&] { EXPECT_EQ(picture(), changed(before, {.hue = 180})); });
+    script().drag({{bar_right, saturation_y}, {bar_left - 5, 0}}).click({more_x, value_y});
+    script().check([&] { EXPECT_EQ(picture(), after); });
+    script().press(ok);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(), after);
+    EXPECT_EQ(steps(), 2U);
+    EXPECT_EQ(document().history().entries().back().kind, Command::adjust_hsv);
+    EXPECT_TRUE(document().is_modified());
+    editor->execute(Command::undo);
+    EXPECT_EQ(picture(), before);
+    editor->execute(Command::redo);
+    EXPECT_EQ(picture(), after);
+}
+
+TEST_F(Adjust_HSV_Test, leaves_the_canvas_and_the_preview_in_view) {
+    constexpr Color red(200, 40, 40);
+    constexpr Color blue(40, 40, 200);
+    document().tileset().current_tile()->fill(red);
+    const auto expect_everywhere = [](Color color) {
+        for (const int i : {0, 11, 23}) {
+            EXPECT_EQ(pixel_at(cell(i, i)), color);
+            EXPECT_EQ(pixel_at(cell(23 - i, i)), color);
+        }
+        EXPECT_EQ(count_in_preview(color), 4 * 24 * 24);
+    };
+    script().click({number_x, hue_y}).type("-120").key(key::enter);
+    script().check([&] { expect_everywhere(blue); }).key(key::escape);
+    execute(Command::adjust_hsv);
+    expect_everywhere(red);
+}
+
+TEST_F(Adjust_HSV_Test, gives_every_pixel_back_when_given_up) {
+    const Tile_Picture before = picture();
+    const auto give_up = [&](const auto& end) {
+        script().drag({{900, hue_y}, {1000, hue_y}}).click({less_x, value_y}).check([&] {
+            EXPECT_NE(picture(), before);
+        });
+        end();
+        execute(Command::adjust_hsv);
+        EXPECT_EQ(picture(), before);
+        EXPECT_EQ(steps(), 1U);
+        EXPECT_FALSE(document().is_modified());
+    };
+    give_up([&] { script().key(key::escape); });
+    give_up([&] { script().press(cancel); });
+    give_up([&] { script().quit(); });
+    // Accepted, but back at nothing.
+    give_up([&] { script().click({middle_x, hue_y}).click({more_x, value_y}).key(key::enter); });
+}
+
+TEST_F(Adjust_HSV_Test, takes_typed_numbers_the_wheel_and_keys) {
+    const Tile_Picture before = picture();
+    script().click({number_x, hue_y}).type("-90").key(key::enter);
+    script().motion({1000, saturation_y}).wheel(-1).wheel(-1).wheel(1);
+    script().key(key::left).key(key::down).key(key::down).key(key::right, Modifier::shift);
+    script().key(key::up).key(key::up).key(key::up).key(key::left).key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(), changed(before, {-92, -1, 10}));
+    script().drag({{1000, hue_y}, {0, 0}}).click({less_x, hue_y}).drag({{1000, value_y}, {2000, 0}});
+    script().click({more_x, value_y}).key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(), changed(changed(before, {-92, -1, 10}), {-180, 0, 100}));
+}
+
+TEST_F(Adjust_HSV_Test, changes_all_tiles_and_starts_the_history_anew) {
+    execute(Command::add_new_tile);
+    paint_at_random();
+    execute(Command::add_new_tile);
+    paint_at_random();
+    const std::vector<Tile_Picture> before{picture(0), picture(1), picture(2)};
+    script().click({more_x, hue_y}).press(all_tiles).key('a').check([&] {
+        EXPECT_EQ(picture(0), before[0]);
+        EXPECT_EQ(picture(2), changed(before[2], {.hue = 1}));
+    });
+    script().key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(0), before[0]);
+    EXPECT_EQ(steps(), 2U);
+
+    script().click({more_x, hue_y}).key('a').key(key::escape);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(2), changed(before[2], {.hue = 1}));
+    EXPECT_EQ(steps(), 2U);
+
+    script().click({more_x, hue_y}).press(all_tiles).key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(0), changed(before[0], {.hue = 1}));
+    EXPECT_EQ(picture(1), changed(before[1], {.hue = 1}));
+    EXPECT_EQ(picture(2), changed(changed(before[2], {.hue = 1}), {.hue = 1}));
+    EXPECT_EQ(steps(), 1U);
+    const Tile_Picture after = picture(2);
+    editor->execute(Command::undo);
+    EXPECT_EQ(picture(2), after);
+}
+
+TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_color_editor) {
+    const Tile_Picture before = picture();
+    execute(Command::horizontal_seam_tool);
+    script().click({more_x, value_y}).key(key::enter);
+    execute(Command::adjust_hsv);
+    execute(Command::horizontal_seam_tool);
+    EXPECT_EQ(picture(), changed(before, {.value = 1}));
+    editor->execute(Command::undo);
+    EXPECT_EQ(picture(), before);
+
+    script().press({1000, 460});
+    expect_loop("dialog \"Adjust HSV\"").click({more_x, value_y}).key(key::enter);
+    execute(Command::color_editor);
+    EXPECT_EQ(picture(), changed(before, {.value = 1}));
+    EXPECT_EQ(steps(), 2U);
+}
+
+TEST_F(Adjust_HSV_Test, has_nothing_to_do_without_tiles_or_on_grey_ones) {
+    Tile& tile = *document().tileset().current_tile();
+    tile.fill({90, 90, 90});
+    script().click({more_x, hue_y}).click({less_x, saturation_y}).key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(steps(), 1U);
+    EXPECT_FALSE(document().is_modified());
+
+    editor->canvas().set_tile(nullptr);
+    expect_message("Note", "There is no tile to adjust.").key(key::enter);
+    execute(Command::adjust_hsv);
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,256 @@
+#include "app/screen.h"
+#include "color/color_data.h"
+#include "color/color_edit.h"
+#include "color/standard_colors.h"
+#include "tests/whole/program_test.h"
+#include "tools/tool_colors.h"
+
+#include <SDL3/SDL.h>
+
+#include <string>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Point ok{820, 460};
+constexpr Point cancel{1180, 460};
+constexpr Point database_tab{940, 74};
+constexpr Point data_tab{830, 74};
+constexpr Point field{940, 413};
+constexpr int bar_left = 872;
+constexpr int bar_right = 1129;
+
+constexpr Point at(int x, Color_Channel channel) {
+    return {x, 223 + 24 * static_cast<int>(channel) + 12};
+}
+constexpr Point less(Color_Channel channel) {
+    return at(1141, channel);
+}
+constexpr Point number(Color_Channel channel) {
+    return at(1176, channel);
+}
+constexpr Point more(Color_Channel channel) {
+    return at(1210, channel);
+}
+// A row of the list of named colours.
+constexpr Point named(int index) {
+    return {index < 12 ? 880 : 1100, 96 + 28 * (index % 12) + 12};
+}
+
+constexpr Color start(97, 18, 124);
+
+class Color_Editor_Test : public Program_Test {
+protected:
+    void SetUp() override {
+        Program_Test::SetUp();
+        tool_colors->set_color(Mouse_Button::left, start);
+    }
+
+    // The left tool colour after the script was played in the dialog.
+    Color edited() {
+        tool_colors->set_color(Mouse_Button::left, start);
+        execute(Command::color_editor);
+        return tool_colors->color(Mouse_Button::left);
+    }
+    // The text must live as long as the script.
+    Script& write(const char* text) {
+        SDL_Event event{};
+        event.type = SDL_EVENT_TEXT_INPUT;
+        event.text.text = text;
+        return script().event(event);
+    }
+    Script& hold_shift(bool is_held) {
+        return script().check([is_held] { SDL_SetModState(is_held ? SDL_KMOD_LSHIFT : SDL_KMOD_NONE); });
+    }
+    Script& double_click(Point position) {
+        SDL_Event event{};
+        event.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
+        event.button.button = SDL_BUTTON_LEFT;
+        event.button.clicks = 2;
+        event.button.x = static_cast<float>(position.x);
+        event.button.y = static_cast<float>(position.y);
+        return script().click(position).event(event);
+    }
+};
+
+TEST_F(Color_Editor_Test, gives_the_color_back_only_when_accepted) {
+    const auto change = [this]() -> Script& { return script().click(more(Color_Channel::red)); };
+    const Color changed(98, 18, 124);
+    change().key(key::enter);
+    EXPECT_EQ(edited(), changed);
+    change().key(key::keypad_enter);
+    EXPECT_EQ(edited(), changed);
+    change().press(ok);
+    EXPECT_EQ(edited(), changed);
+    change().key(key::escape);
+    EXPECT_EQ(edited(), start);
+    change().press(cancel);
+    EXPECT_EQ(edited(), start);
+    change().quit();
+    EXPECT_EQ(edited(), start);
+    EXPECT_EQ(tool_colors->color(Mouse_Button::right), Color(0, 0, 0));
+    EXPECT_FALSE(document().is_modified());
+}
+
+TEST_F(Color_Editor_Test, steps_drags_and_types_every_number) {
+    for (const Color_Channel_Row& row : color_channels) {
+        SCOPED_TRACE(row.name);
+        const auto expect = [&](int wanted) {
+            script().key(key::enter);
+            Color_Edit model(start);
+            model.set_number(row.id, wanted);
+            EXPECT_EQ(edited(), model.color());
+        };
+        const int before = Color_Edit(start).number(row.id);
+        const bool wraps = row.end == Channel_End::wraps;
+        // The pointer may leave the bar while it drags.
+        script().drag({at(1000, row.id), {bar_left - 60, 300}});
+        expect(0);
+        script().drag({at(1000, row.id), {bar_right + 60, 600}});
+        expect(row.high);
+        script().drag({at(bar_left, row.id), at(bar_right, row.id), {500, 10}}).motion(at(1000, row.id));
+        expect(0);
+        script().drag({at(bar_left, row.id), at(1000, row.id)}).click(less(row.id)).click(less(row.id));
+        expect((row.high * 2 * 128 + 257) / (2 * 257) - 2);
+        script().click(number(row.id)).type(std::to_string(row.high)).key(key::enter).click(more(row.id));
+        expect(wraps ? 0 : row.high);
+        script().click(number(row.id)).type("0").key(key::enter).click(less(row.id));
+        expect(wraps ? row.high : 0);
+        script().click(number(row.id)).type("7").key(key::escape);
+        expect(before);
+        script().motion(number(row.id)).wheel(1).wheel(1).wheel(-1);
+        script().click(number(row.id)).type("50").key(key::enter).wheel(1).wheel(1).wheel(-1);
+        hold_shift(true).wheel(1).click(more(row.id));
+        hold_shift(false);
+        expect(71);
+    }
+}
+
+TEST_F(Color_Editor_Test, moves_through_its_numbers_by_the_arrow_keys) {
+    script().key(key::up).key(key::down).key(key::right).key(key::down).key(key::left);
+    script().key(key::right, Modifier::shift).key(key::enter);
+    EXPECT_EQ(edited(), Color(98, 27, 124));
+    for (int i = 0; i < 12; ++i) {
+        script().key(key::down);
+    }
+    script().key(key::left, Modifier::shift).key(key::enter);
+    Color_Edit model(start);
+    model.step(Color_Channel::value, -10);
+    EXPECT_EQ(edited(), model.color());
+}
+
+TEST_F(Color_Editor_Test, takes_typed_text_and_refuses_wrong_one) {
+    write("#0080fF");
+    script().key(key::enter);
+    EXPECT_EQ(edited(), Color(0, 0x80, 0xff));
+    for (const char* digit : {"1", "2", "3", "4", "5", "6", "7", "8"}) {
+        write(digit);
+    }
+    script().key(key::enter);
+    EXPECT_EQ(edited(), Color(0x12, 0x34, 0x56, 0x78));
+
+    // On the way to five digits there were three that stand for a colour. A y is a letter like others.
+    for (const char* wrong : {"611", "27", "y"}) {
+        write(wrong);
+    }
+    script().key('y').key(key::enter).press(ok);
+    expect_loop("dialog \"Color editor\"").check([] {
+        EXPECT_EQ(pixel_at({950, 160}), start);
+        EXPECT_EQ(pixel_at({field.x, 401}), standard_color(Standard_Color::orange));
+        EXPECT_TRUE(has_picture({1010, 402, 200, 20}));
+    });
+    script().key(key::backspace);
+    write("c").key(key::enter);
+    EXPECT_EQ(edited(), start);
+
+    write("nonsense").click(less(Color_Channel::green)).key(key::enter);
+    EXPECT_EQ(edited(), Color(97, 17, 124));
+}
+
+TEST_F(Color_Editor_Test, edits_the_text_like_any_text) {
+    // #61127c: the last digit, the first one, and one in the middle.
+    script().key(key::end).key(key::backspace);
+    write("d").key(key::home).key(key::right).key(key::delete_key);
+    write("7").key(key::right).key(key::right).key(key::left).key(key::delete_key);
+    write("0").key(key::enter);
+    EXPECT_EQ(edited(), Color(0x71, 0x02, 0x7d));
+    script().key(key::right).key(key::home).key(key::left).key(key::backspace).key(key::end).key(key::right);
+    script().key(key::delete_key).key('a', Modifier::control).key(key::backspace);
+    write("abc").key(key::enter);
+    EXPECT_EQ(edited(), Color(0xaa, 0xbb, 0xcc));
+    // More than there is room for, and letters of more than one byte.
+    write("0123456789abcdef0123456789abcdef").key(key::enter).key(key::home).key(key::delete_key);
+    script().key('a', Modifier::control);
+    write("\xc3\xa4").key(key::enter).key(key::backspace);
+    write("010203").key(key::enter);
+    EXPECT_EQ(edited(), Color(1, 2, 3));
+}
+
+TEST_F(Color_Editor_Test, copies_and_pastes) {
+    script().key('c', Modifier::control).key(key::escape);
+    EXPECT_EQ(edited(), start);
+    const char* const copied = SDL_GetClipboardText();
+    EXPECT_STREQ(copied, "#61127c");
+    SDL_free(const_cast<char*>(copied));
+    SDL_SetClipboardText(" a1b2c3d4\n");
+    write("66").key('v', Modifier::control).key(key::enter);
+    EXPECT_EQ(edited(), Color(0xa1, 0xb2, 0xc3, 0xd4));
+    SDL_SetClipboardText("no colour at all, and much too long for the field");
+    script().key('v', Modifier::control).key(key::enter).key(key::escape);
+    EXPECT_EQ(edited(), start);
+    SDL_SetClipboardText("");
+    script().key('v', Modifier::control).key(key::enter);
+    EXPECT_EQ(edited(), start);
+}
+
+TEST_F(Color_Editor_Test, takes_text_only_while_it_is_open) {
+    SDL_Window* const window = SDL_GetRenderWindow(screen->renderer());
+    script().check([window] { EXPECT_TRUE(SDL_TextInputActive(window)); }).quit();
+    edited();
+    EXPECT_FALSE(SDL_TextInputActive(window));
+}
+
+TEST_F(Color_Editor_Test, lists_the_named_colors_and_takes_one) {
+    std::vector<Named_Color> names;
+    color_data->all(names);
+    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
+        const Color wanted = names.at(static_cast<std::size_t>(i)).color;
+        script().key(key::tab).click(named(i)).check([&, i, wanted] {
+            EXPECT_EQ(pixel_at({named(i).x < 1000 ? 806 : 1021, named(i).y}), wanted) << i;
+        });
+        script().key(key::enter);
+        EXPECT_EQ(edited(), wanted) << i;
+    }
+    script().click(database_tab);
+    double_click(named(5));
+    EXPECT_EQ(edited(), names[5].color);
+    // Two clicks on two rows are no double click; a click between the rows takes nothing.
+    script().press(database_tab).click(named(5)).check([this] { double_click(named(13)); });
+    EXPECT_EQ(edited(), names[13].color);
+    script()
+        .key(key::tab)
+        .key(key::down)
+        .key(key::down)
+        .key(key::right)
+        .key(key::up)
+        .key(key::left)
+        .key(key::up);
+    script().key(key::left).key(key::up).click(data_tab).click(more(Color_Channel::blue)).press(ok);
+    EXPECT_EQ(edited(), Color(196, 2, 53));
+    script().key(key::tab).click(named(3)).key(key::escape);
+    EXPECT_EQ(edited(), start);
+}
+
+TEST_F(Color_Editor_Test, shows_before_and_new_beside_canvas_and_preview) {
+    script().click(less(Color_Channel::alpha)).check([] {
+        EXPECT_EQ(pixel_at({820, 160}), start);
+        EXPECT_NE(pixel_at({920, 160}), start);
+        EXPECT_EQ(pixel_at(cell(23, 23)), Color(0, 0, 0));
+        EXPECT_EQ(pixel_at({770, 300}), standard_color(Standard_Color::dark_frame));
+    });
+    script().key(key::escape);
+    edited();
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,143 @@
+// The column of colour panes and the palette in the whole program.
+
+#include "app/data_directory.h"
+#include "color/palette_store.h"
+#include "tests/color/scratch_files.h"
+#include "tests/whole/program_test.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+
+#include <SDL3/SDL_keyboard.h>
+
+#include <algorithm>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color white{255, 255, 255};
+constexpr Color black{0, 0, 0};
+
+class Color_Test : public Program_Test {
+protected:
+    void TearDown() override {
+        SDL_SetModState(SDL_KMOD_NONE);
+        Program_Test::TearDown();
+    }
+
+    static Color left() { return tool_colors->color(Mouse_Button::left); }
+    static Color right() { return tool_colors->color(Mouse_Button::right); }
+    void click(Point point, Mouse_Button button = Mouse_Button::left) {
+        script().click(point, button);
+        play();
+    }
+};
+
+constexpr Point square{1032, 201};
+constexpr Point right_panel{1100, 140};
+constexpr Point red_less{1031 + 1 + 135 + 7, 366 + 8};
+constexpr Point red_slider{1031 + 1 + 17, 366 + 8};
+constexpr Point entry_10{36 + 2 * 24 + 12, 472 + 20 + 10};
+constexpr Point set_button{210, 618};
+
+Point variation(int row, int column) {
+    return {1031 + 16 * column + 8, 504 + 14 + 31 * row + 8};
+}
+
+TEST_F(Color_Test, selector_sets_the_colour_of_the_pressed_button) {
+    script()
+        .press({square.x + 127, square.y})
+        .check([] { EXPECT_EQ(left(), Color(255, 0, 0)); })
+        .motion({square.x + 400, square.y + 300})
+        .check([] { EXPECT_EQ(left(), black); })
+        .release({square.x, square.y})
+        .press({square.x + 127, square.y}, Mouse_Button::right)
+        .release({square.x, square.y}, Mouse_Button::right);
+    play();
+    EXPECT_EQ(left(), black);
+    EXPECT_EQ(right(), Color(255, 0, 0));
+    EXPECT_EQ(tool_colors->active_side(), Mouse_Button::left);
+}
+
+TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
+    tool_colors->set_color(Mouse_Button::right, {10, 20, 30});
+    click(red_less);
+    EXPECT_EQ(left(), Color(254, 255, 255));
+    script().click(right_panel).click(red_less);
+    play();
+    EXPECT_EQ(right(), Color(9, 20, 30));
+    EXPECT_EQ(pixel_at({variation(2, 7).x, variation(2, 7).y}), right());
+    script()
+        .press(red_slider)
+        .motion({red_slider.x + 500, 10})
+        .check([] { EXPECT_EQ(right(), Color(255, 20, 30)); })
+        .release({1, 1});
+    play();
+    EXPECT_EQ(left(), Color(254, 255, 255));
+    execute(Command::swap_tool_colors);
+    click(red_less);
+    EXPECT_EQ(right(), Color(253, 255, 255));
+}
+
+TEST_F(Color_Test, variations_are_taken_for_either_button) {
+    tool_colors->set_color(Mouse_Button::left, {200, 60, 60});
+    editor->redraw(Present::yes);
+    const Color green = pixel_at(variation(2, 4));
+    click(variation(2, 4), Mouse_Button::right);
+    EXPECT_EQ(right(), green);
+    click(variation(2, 4));
+    EXPECT_EQ(left(), green);
+    EXPECT_GT(green.g, green.r);
+}
+
+TEST_F(Color_Test, the_column_is_there_for_the_tools_that_use_its_colours) {
+    for (const Tool_Row& tool : tool_table) {
+        toolbox->select(tool.command);
+        tool_colors->reset();
+        editor->redraw(Present::yes);
+        EXPECT_EQ(has_picture({1040, 210, 100, 100}), tool.uses_tool_colors) << tool.name;
+        EXPECT_EQ(has_picture({1031, 60, 17, 28}), tool.uses_tool_colors || tool.id == Tool::dropper);
+        script()
+            .click({square.x + 127, square.y})
+            .click(red_less)
+            .click(variation(0, 3), Mouse_Button::right);
+        play();
+        EXPECT_EQ(left() != white && right() != black, tool.uses_tool_colors) << tool.name;
+    }
+}
+
+TEST_F(Color_Test, colour_changes_are_no_steps_to_undo_and_change_no_file) {
+    const auto before = document().history().entries().size();
+    script().click({square.x + 9, square.y + 9}).click(red_less).click(variation(1, 5)).click(set_button);
+    play();
+    EXPECT_EQ(document().history().entries().size(), before);
+    EXPECT_FALSE(editor->documents().has_unsaved());
+}
+
+TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
+    tool_colors->set_color(Mouse_Button::left, {1, 2, 3, 4});
+    tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
+    // Without shift the entry's colour is taken, and nothing stored.
+    click(entry_10, Mouse_Button::right);
+    EXPECT_EQ(right(), palette_store->color(0, 10));
+    EXPECT_FALSE(palette_store->changed());
+    click(set_button);
+    EXPECT_EQ(palette_store->color(0, 10), Color(1, 2, 3, 4));
+    tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
+    SDL_SetModState(SDL_KMOD_LSHIFT);
+    click({entry_10.x + 24, entry_10.y}, Mouse_Button::right);
+    EXPECT_EQ(palette_store->color(0, 11), Color(5, 6, 7));
+    EXPECT_EQ(right(), Color(5, 6, 7));
+    click({entry_10.x, entry_10.y + 20});
+    EXPECT_EQ(palette_store->color(0, 18), Color(1, 2, 3, 4));
+    const std::string path = folder().data_path("palette.dat");
+    EXPECT_TRUE(test::bytes_of_file(path).empty());
+    ASSERT_TRUE(data_directory().enter(Data_Directory::inside));
+    palette_store.reset();
+    data_directory().leave();
+    // Entries follow the count, each as four numbers.
+    EXPECT_TRUE(test::bytes_of_file(path).substr(4).starts_with("3,32,255,255,255,255,0,0,0,255,97,18,124"));
+    EXPECT_NE(test::bytes_of_file(path).find(",1,2,3,4,5,6,7,255,"), std::string::npos);
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,228 @@
+#include "app/command_table.h"
+#include "app/screen.h"
+#include "tests/whole/program_test.h"
+#include "tileset/document_statistics.h"
+#include "views/help_lists.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+bool lies_in(const Rectangle& inner, const Rectangle& outer) {
+    return inner.x >= outer.x && inner.y >= outer.y && inner.right() <= outer.right() &&
+           inner.bottom() <= outer.bottom();
+}
+
+// Title, margins and button of a plain dialog.
+bool message_fits(std::string_view text) {
+    return screen->text_width(Font::regular, text) + 14 <= screen->size().width &&
+           screen->text_height(Font::regular, text) + 24 + 7 + 7 + 27 + 7 <= screen->size().height;
+}
+
+class Help_Test : public Program_Test {
+protected:
+    static Lines hint_at(Point point, Script& script) {
+        script.motion(point);
+        editor->handle_one_event();
+        editor->redraw(Present::yes);
+        return editor->hint_lines().lines();
+    }
+    void expect_lists_to_fit(Dialog_Container dialog) {
+        const Rectangle frame = dialog.frame().area();
+        EXPECT_TRUE(lies_in(frame, {0, 0, screen->size().width, screen->size().height}));
+        for (const Dialog_Row& row : dialog.rows().rows()) {
+            for (const auto& item : row.items()) {
+                EXPECT_TRUE(lies_in(item->area, frame.inset(2)));
+            }
+        }
+        // Each text ends before its box does.
+        script().check([&] { EXPECT_FALSE(has_picture({frame.right() - 4, frame.y + 30, 2, 80})); });
+        script().key(key::escape);
+        dialog.run();
+    }
+    void load_empty_set() {
+        const std::string path = folder().data_path("empty.qdl");
+        store(path, {'Q', 'D', 'L', '\n', 0, 24, 24, 0, 0, 0, 0});
+        answer_files(File_Answer_State::chosen, path);
+        execute(Command::load);
+    }
+};
+
+TEST_F(Help_Test, keyboard_list_names_every_key_that_does_something) {
+    const std::vector<Text_Pair> listed = keyed_commands();
+    int found = 0;
+    for (Keycode key = 1; key < 0x80; ++key) {
+        for (const Modifier modifier : {Modifier::none, Modifier::shift, Modifier::alt, Modifier::control}) {
+            const Command command = find_command({key, modifier});
+            if (command != Command::none) {
+                ++found;
+                EXPECT_EQ(std::ranges::count(listed, row_of(command).name, &Text_Pair::second), 1);
+            }
+        }
+    }
+    EXPECT_GT(found, 30);
+    EXPECT_EQ(listed.size(),
+              static_cast<std::size_t>(std::ranges::count_if(
+                  command_table, [](const Command_Row& row) { return row.key != key::none; })));
+    for (const Text_Pair& pair : listed) {
+        EXPECT_NE(pair.first, " ") << pair.second;
+    }
+}
+
+TEST_F(Help_Test, every_text_fits_into_the_window) {
+    expect_lists_to_fit(make_keyboard_dialog());
+    expect_lists_to_fit(make_mouse_dialog());
+    for (const Command_Row& row : command_table) {
+        EXPECT_TRUE(message_fits(help_of(row.id).text)) << row.name;
+    }
+    for (const Place_Row& row : place_table) {
+        EXPECT_TRUE(message_fits(help_of(row.id).text)) << row.title;
+    }
+}
+
+TEST_F(Help_Test, lists_open_by_key_and_command) {
+    script().key('k', Modifier::shift);
+    expect_loop("dialog \"Keyboard commands\"").key(key::enter);
+    expect_loop("main").key(key::left_shift);
+    play();
+    expect_loop("dialog \"Mouse commands\"").key(key::escape);
+    execute(Command::mouse_commands);
+    EXPECT_FALSE(document().is_modified());
+}
+
+TEST_F(Help_Test, statistics_count_tiles_bytes_and_undo) {
+    document().tileset().add_tile();
+    document().tileset().add_tile();
+    expect_message("Statistics", "Tile memory\r Tiles: 3 x 2304 = 6912 bytes\r Size: 24 x 24 pixels\r"
+                                 " File size: 6923 bytes\r\r Undo buffer: 4 Kb\r\rFilename:\runtitled0.qdl")
+        .key(key::enter);
+    execute(Command::statistics);
+    load_empty_set();
+    EXPECT_TRUE(statistics_text(document())
+                    .starts_with("Tile memory\r Tiles: 0 x 2304 = 0 bytes\r Size: 24 x 24 pixels\r"
+                                 " File size: 11 bytes\r\r Undo buffer: 0 Kb\r\rFilename:\r"));
+}
+
+TEST_F(Help_Test, statistics_show_the_end_of_a_name_of_any_length) {
+    for (const std::size_t length : {30U, 300U, 3000U}) {
+        std::string name = "/";
+        for (std::size_t i = 0; i < length; ++i) {
+            name += i % 17 == 16 ? "ü " : "w";
+        }
+        document().set_file(name + "/tiles.qdl");
+        const std::string text = statistics_text(document());
+        EXPECT_TRUE(message_fits(text)) << length;
+        EXPECT_TRUE(text.ends_with("tiles.qdl")) << text;
+        EXPECT_EQ(text.find("\xc3"), std::string::npos);
+    }
+}
+
+struct Hint_Case {
+    Point point;
+    std::string title;
+    std::string help; // the start of what Context info says there
+};
+
+TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
+    const std::string pen = std::string(description(Command::pen));
+    const std::vector<Hint_Case> cases{
+        {{796, 44}, "Pen (p)", pen},
+        {{796, 68}, "Lightness pen (L)", "Darken or lighten"},
+        {{796, 528}, "Horizontal seam tool", "Offset the tile"},
+        {{900, 44}, "Pen (p)", pen},
+        {{900, 380}, "Stamp brush (b)", "Draw with brush"},
+        {{900, 198}, "Pen (p)", pen},
+        {{100, 100}, "Preview", "The current tile"},
+        {{100, 290}, "Magnification", "How large"},
+        {{100, 400}, "History", "The newest steps"},
+        {{100, 500}, "Palette", "Left or right"},
+        {{100, 612}, "Selected", "The color of"},
+        {{1100, 60}, "Left button color", "What the left"},
+        {{1100, 130}, "Right button color", "What the right"},
+        {{50, 12}, "Menus", "A click opens"},
+        {{290, 54}, "Open tilesets", "A click goes"},
+        {{700, 20}, "Pen (p)", pen},
+        {{270, 70}, "Pen (p)", pen},
+    };
+    for (const Hint_Case& test : cases) {
+        SCOPED_TRACE(test.title);
+        const Lines lines = hint_at(test.point, script());
+        EXPECT_EQ(lines.at(0), test.title);
+        EXPECT_EQ(lines.at(1).substr(0, 8), test.help.substr(0, 8));
+        std::string asked;
+        script().check_loop([&](std::string_view loop) { asked = loop; }).key(key::escape);
+        execute(Command::context_info);
+        EXPECT_EQ(asked, "dialog \"" + test.title + "\"");
+    }
+    script().motion(cases.at(1).point).key(key::f1);
+    expect_message("Lightness pen (L)", std::string(description(Command::lightness_pen))).key(key::escape);
+    script().motion(cell(3, 4)).key(key::f1);
+    expect_message("Pen (p)", pen).key(key::escape);
+    play();
+}
+
+TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
+    EXPECT_EQ(hint_at(cell(3, 4), script()),
+              (Lines{"Pixel 3, 4", "Color: 0, 0, 0, 255   #000000FF", "Name: Black"}));
+    document().tileset().current_tile()->set_pixel(23, 0, {1, 171, 255, 9});
+    EXPECT_EQ(hint_at(cell(23, 0), script()),
+              (Lines{"Pixel 23, 0", "Color: 1, 171, 255, 9   #01ABFF09", "Name: ---"}));
+    // Also while drawing.
+    script().press(cell(5, 5)).motion(cell(6, 5)).check([] {
+        EXPECT_EQ(editor->hint_lines().lines().at(0), "Pixel 6, 5");
+        EXPECT_EQ(editor->hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #FFFFFFFF");
+    });
+    script().release(cell(6, 5));
+    play();
+    load_empty_set();
+    EXPECT_EQ(hint_at(cell(3, 4), script()).at(0), "No tile");
+}
+
+TEST_F(Help_Test, hints_stay_in_their_place) {
+    Hint_Lines hints;
+    std::vector<Hint> all{{"gjpqy|,", "gjpqy|, gjpqy|,\rgjpqy|,"},
+                          {std::string(300, 'W'), std::string(300, 'j') + " " + std::string(300, 'g')}};
+    for (const Command_Row& row : command_table) {
+        all.push_back(hint_of(row.id));
+        EXPECT_NE(all.back().text, "dsc");
+    }
+    for (const Place_Row& row : place_table) {
+        all.push_back(hint_of(row.id));
+    }
+    // The cell of the third line ends below the area, its letters do not.
+    const Rectangle area = Hint_Lines::area;
+    screen->clear();
+    screen->draw_text(Font::pane, {area.x, area.y + 34}, "gjpqy|,;()_");
+    EXPECT_FALSE(has_picture({area.x, area.bottom(), area.width, 8}));
+    for (const Hint& hint : all) {
+        screen->clear();
+        hints.set_hint(hint);
+        hints.draw();
+        EXPECT_TRUE(has_picture(area)) << hint.title;
+        EXPECT_FALSE(has_picture({area.x - 8, area.bottom(), area.width + 16, 8})) << hint.title;
+        EXPECT_FALSE(has_picture({area.right(), area.y, 300, area.height})) << hint.title;
+    }
+}
+
+TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {
+    load_empty_set();
+    for (const Command command : {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip,
+                                  Command::anti_alias, Command::delete_tile, Command::save_history_buffer,
+                                  Command::vertical_seam_tool, Command::versions}) {
+        SCOPED_TRACE(row_of(command).name);
+        expect_message("Note", "This set has no tile. Tileset, Add new tile makes one.").key(key::enter);
+        execute(command);
+    }
+    EXPECT_FALSE(document().is_modified());
+    execute(Command::line);
+    execute(Command::add_new_tile);
+    execute(Command::rotate);
+}
+
+} // namespace
+} // namespace quadrelle::testing
