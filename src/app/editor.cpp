@@ -116,6 +116,10 @@ void Editor::redraw(Present present) {
     strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
     toolbox->draw();
+    if (toolbox->is_in_selection_group()) {
+        copy_panes_.place(toolbox->beside_entry());
+        copy_panes_.draw(copy_buffer_);
+    }
     hint_lines_.set_hint(hint_of(pointed()));
     hint_lines_.draw();
     if (present == Present::yes) {
@@ -209,7 +213,22 @@ bool Editor::click_pane() {
         }
         return true;
     }
-    return documents_.click_tab(pointer_.point());
+    return click_copies() || documents_.click_tab(pointer_.point());
+}
+
+bool Editor::click_copies() {
+    if (!toolbox->is_in_selection_group()) {
+        return false;
+    }
+    if (const std::optional<std::size_t> copy = copy_panes_.copy_at(pointer_.point())) {
+        copy_buffer_.choose(*copy);
+        return true;
+    }
+    const Command command = copy_panes_.command_at(pointer_.point());
+    if (command != Command::none && pointer_.button == Mouse_Button::left) {
+        execute(command);
+    }
+    return command != Command::none;
 }
 
 // Takes the tile, or carries out the command, that was hit with the left button.

@@ -7,7 +7,9 @@
 #include "app/input.h"
 #include "app/menu_bar.h"
 #include "color/palette_area.h"
+#include "selection/clipboard_picture.h"
 #include "selection/copy_buffer.h"
+#include "selection/copy_panes.h"
 #include "tileset/documents.h"
 #include "tileset/history_pane.h"
 #include "tileset/tile_navigation_pane.h"
@@ -56,6 +58,7 @@ private:
     void handle_press(const SDL_MouseButtonEvent& event);
     void route_click();
     [[nodiscard]] bool click_pane();
+    [[nodiscard]] bool click_copies();
     [[nodiscard]] bool click_strip();
     void draw_on_canvas();
     void show_what_is_under_the_pointer();
@@ -119,6 +122,8 @@ private:
     void fill_selected(Color color);
     void clear_selected();
     [[nodiscard]] std::optional<Floating_Paste> copied();
+    // False after the user was told that such a picture cannot be taken.
+    bool take_from_other_program();
     void float_paste(const Floating_Paste& paste);
     // True when that changed something.
     bool plot_paste();
@@ -145,6 +150,8 @@ private:
     Size shown_tile_size_;
     Canvas_View canvas_;
     Copy_Buffer copy_buffer_;
+    Copy_Panes copy_panes_;
+    System_Clipboard clipboard_;
     Documents documents_;
     Palette_Area palette_;
     Selected_Color_Area selected_color_;

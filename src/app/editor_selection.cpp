@@ -79,6 +79,7 @@ Command Editor::copy(Command command) {
         return Command::none;
     }
     copy_buffer_.add(*copy);
+    clipboard_.offer(copy->picture);
     return command;
 }
 
@@ -98,6 +99,13 @@ Command Editor::cut(Command command) {
 
 namespace {
 
+// In the middle of the tile, but not beyond its top left corner, so that a large one shows from there on.
+Floating_Paste placed(const Tile& picture, Size tile) {
+    Floating_Paste paste = cloned({picture, {}}, Clone_Style::centred, tile);
+    paste.position = {std::max(paste.position.x, 0), std::max(paste.position.y, 0)};
+    return paste;
+}
+
 // One that lies beside the tile, as copies from a larger one may, comes into its middle.
 Floating_Paste in_view(const Floating_Paste& paste, Size tile) {
     const bool is_beside = paste.position.x >= tile.width || paste.position.y >= tile.height ||
@@ -108,9 +116,26 @@ Floating_Paste in_view(const Floating_Paste& paste, Size tile) {
 
 } // namespace
 
+bool Editor::take_from_other_program() {
+    const Clipboard_Picture taken = clipboard_.take();
+    if (taken.fault != Picture_Fault::none) {
+        dialogs->message("Note", taken.fault == Picture_Fault::too_large
+                                     ? "The picture on the clipboard is too large."
+                                     : "The picture on the clipboard can't be read.");
+        return false;
+    }
+    if (taken.picture) {
+        copy_buffer_.add(placed(*taken.picture, canvas_.tile()->size()));
+    }
+    return true;
+}
+
 Command Editor::paste(Command command) {
+    if (canvas_.tile() == nullptr || !take_from_other_program()) {
+        return Command::none;
+    }
     const Floating_Paste* const copy = copy_buffer_.current();
-    if (copy == nullptr || canvas_.tile() == nullptr) {
+    if (copy == nullptr) {
         return Command::none;
     }
     float_paste(in_view(*copy, canvas_.tile()->size()));

@@ -18,6 +18,7 @@ namespace {
 
 constexpr Size entry_size{202, 26};
 constexpr int color_panel_offset = 210;
+constexpr int side_offset = 207;
 
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
@@ -107,6 +108,21 @@ std::optional<Pixel_Operation> Toolbox::lightness_step(std::int64_t now, Mouse_B
 
 bool Toolbox::uses_brush() const {
     return current_tool_ == Tool::stamp_brush || row_of(current_tool_).uses_brush;
+}
+
+bool Toolbox::is_in_selection_group() const {
+    switch (current_tool_) {
+    case Tool::rectangle_selector:
+    case Tool::circle_selector:
+    case Tool::brush_selector:
+    case Tool::wand_selector:
+    case Tool::selection: return true;
+    default: return false;
+    }
+}
+
+Point Toolbox::beside_entry() const {
+    return {position_.x + side_offset, entry_area(static_cast<std::size_t>(current_tool_)).y};
 }
 
 bool Toolbox::shows_floating_paste() const {

@@ -51,6 +51,10 @@ public:
     [[nodiscard]] const Brush& brush() const { return brush_selector_.brush(); }
     // Also for the stamp brush, which has no brush rows.
     [[nodiscard]] bool uses_brush() const;
+    // The four selectors, and the tool that moves what they selected.
+    [[nodiscard]] bool is_in_selection_group() const;
+    // Where the column beside the chosen tool's entry begins.
+    [[nodiscard]] Point beside_entry() const;
     // Whether a paste that floats over the canvas is to be seen.
     [[nodiscard]] bool shows_floating_paste() const;
     // What shows of the brush on the canvas, while that button is held or none is.

@@ -1,6 +1,6 @@
 #include "views/versions_dialog.h"
 
-#include "app/canvas_painter.h"
+#include "app/checkerboard.h"
 #include "app/events.h"
 #include "app/screen.h"
 #include "app/streaming_texture.h"
@@ -16,19 +16,6 @@
 namespace quadrelle {
 
 namespace {
-
-constexpr Size checker{6, 6};
-
-// Textures do not repeat, so it is as large as the largest area that it is to lie under.
-Tile make_checkerboard(const Rectangle& area) {
-    Tile board(area.width, area.height);
-    for (int y = 0; y < board.height(); ++y) {
-        for (int x = 0; x < board.width(); ++x) {
-            board.set_pixel(x, y, checker_color({x, y}, checker));
-        }
-    }
-    return board;
-}
 
 // Lies around the view, in the gap, and is parted from it, so that it shows whatever the picture's colours.
 void draw_mark(const Rectangle& view) {
@@ -72,7 +59,7 @@ private:
 
 Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
     : versions_(versions), current_(current), layout_(versions_layout(current.size(), screen->size())),
-      checkerboard_(make_checkerboard(layout_.big_view)) {
+      checkerboard_(checkerboard({layout_.big_view.width, layout_.big_view.height})) {
     frame_.set_size({layout_.dialog.width, layout_.dialog.height - dialog_title_height});
     store_button_.area = layout_.store_button;
     take_button_.area = layout_.take_button;

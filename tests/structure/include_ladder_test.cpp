@@ -48,6 +48,7 @@ constexpr std::array places{
 
     Place{"app/brush_feedback",           Level::pixels},
     Place{"app/canvas_painter",           Level::pixels},
+    Place{"app/checkerboard",             Level::pixels},
     Place{"app/renderer",                 Level::pixels},
     Place{"app/streaming_texture",        Level::pixels},
     Place{"color/palette_store",          Level::pixels},
@@ -78,6 +79,7 @@ constexpr std::array places{
     Place{"color/palette_area",           Level::panes},
     Place{"color/swatch",                 Level::panes},
     Place{"color/variations",             Level::panes},
+    Place{"selection/copy_panes",         Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
     Place{"tools/icon_bar",               Level::panes},

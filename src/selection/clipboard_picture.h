@@ -1,0 +1,29 @@
+#pragma once
+
+// The system's clipboard as far as it holds pictures: what this program copied is offered to others, and what
+// others copied can be taken. SDL's video must be there.
+
+#include "selection/picture_formats.h"
+#include "tileset/tile.h"
+
+#include <cstddef>
+#include <optional>
+
+namespace quadrelle {
+
+// Neither a picture nor a fault when there is nothing to take.
+using Clipboard_Picture = Decoded_Picture;
+
+class System_Clipboard {
+public:
+    // The picture takes the place of whatever was there.
+    void offer(const Tile& picture);
+    // What another program has put there since the last offer or the last time that something was taken.
+    [[nodiscard]] Clipboard_Picture take();
+
+private:
+    // A fingerprint: a picture that stays there is taken only once.
+    std::optional<std::size_t> taken_;
+};
+
+} // namespace quadrelle

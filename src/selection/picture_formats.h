@@ -1,0 +1,53 @@
+#pragma once
+
+// Pictures as the bytes of a file, for other programs. What comes from them is trusted in nothing.
+
+#include "tileset/tile.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace quadrelle {
+
+enum class Picture_Fault { none, broken, too_large };
+
+struct Decoded_Picture {
+    std::optional<Tile> picture; // there when there is no fault; has pixels
+    Picture_Fault fault = Picture_Fault::none;
+};
+
+using Picture_Bytes = std::span<const std::uint8_t>;
+
+// Larger pictures are not taken.
+constexpr int largest_picture_edge = 4096;
+constexpr std::size_t most_picture_bytes = std::size_t{64} << 20U;
+
+struct Picture_Format {
+    const char* media_type;
+    Decoded_Picture (*decode)(Picture_Bytes bytes);
+    std::vector<std::uint8_t> (*encode)(const Tile& picture); // empty when that failed
+};
+
+[[nodiscard]] Decoded_Picture decode_bitmap(Picture_Bytes bytes);
+[[nodiscard]] std::vector<std::uint8_t> encode_bitmap(const Tile& picture);
+#ifdef QUADRELLE_HAS_PNG
+[[nodiscard]] Decoded_Picture decode_png(Picture_Bytes bytes);
+[[nodiscard]] std::vector<std::uint8_t> encode_png(const Tile& picture);
+#endif
+
+// The best one first.
+constexpr std::array picture_formats = std::to_array<Picture_Format>({
+#ifdef QUADRELLE_HAS_PNG
+    {"image/png", decode_png, encode_png},
+#endif
+    {"image/bmp", decode_bitmap, encode_bitmap},
+});
+
+// What the size, as a file announces it, is worth. To be asked before memory is taken.
+[[nodiscard]] Picture_Fault fault_of_size(std::int64_t width, std::int64_t height);
+
+} // namespace quadrelle
