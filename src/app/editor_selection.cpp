@@ -53,24 +53,25 @@ void Editor::fill_selected(Color color) {
 }
 
 void Editor::clear_selected() {
-    if (canvas_.work_area().paste()) {
+    const Work_Area& work = canvas_.work_area();
+    if (work.paste() && !work.has_selection()) {
         canvas_.work_area().drop_paste();
     } else {
         fill_selected(Color(0, 0, 0, 0));
     }
 }
 
-// The floating paste, or what is selected, or else the whole tile.
+// What is selected, or what floats, or else the whole tile. Floating ends a selection, so that of both the
+// selection was meant last.
 std::optional<Floating_Paste> Editor::copied() {
     const Work_Area& work = canvas_.work_area();
     if (canvas_.tile() == nullptr) {
         return std::nullopt;
     }
-    if (work.paste()) {
-        return *work.paste();
+    if (work.has_selection()) {
+        return lifted(*canvas_.tile(), work.selection());
     }
-    return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
-                                : Floating_Paste{*canvas_.tile(), {0, 0}};
+    return work.paste() ? *work.paste() : Floating_Paste{*canvas_.tile(), {0, 0}};
 }
 
 Command Editor::copy(Command command) {
@@ -171,7 +172,7 @@ bool Editor::plot_paste() {
         return false;
     }
     const std::vector<Color> before(tile->pixels().begin(), tile->pixels().end());
-    Drawing_Target target(*tile);
+    Drawing_Target target = work.target(*tile);
     work.paste()->plot(target);
     tile->update_texture();
     const bool drops = toolbox->selection_mode() == Selection_Mode::standard;
