@@ -47,6 +47,7 @@ public:
     [[nodiscard]] Documents& documents() { return documents_; }
     [[nodiscard]] Canvas_View& canvas() { return canvas_; }
     [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
+    [[nodiscard]] const Copy_Buffer& copies() const { return copy_buffer_; }
 
 private:
     struct Handler;

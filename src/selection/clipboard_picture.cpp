@@ -52,8 +52,8 @@ struct Sdl_Deleter {
 };
 
 struct Clipboard_Data {
+    std::size_t size = 0; // before the memory, with which it comes
     std::unique_ptr<void, Sdl_Deleter> memory;
-    std::size_t size = 0;
 
     explicit Clipboard_Data(const char* media_type)
         : memory(SDL_HasClipboardData(media_type) ? SDL_GetClipboardData(media_type, &size) : nullptr) {}

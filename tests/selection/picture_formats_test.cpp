@@ -1,0 +1,126 @@
+#include "selection/picture_formats.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <random>
+#include <string_view>
+
+namespace quadrelle::testing {
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Tile random_tile(Size size, unsigned seed) {
+    std::mt19937 random(seed);
+    Tile tile(size.width, size.height);
+    for (Color& pixel : tile.pixels()) {
+        pixel = Color::from_word(static_cast<std::uint32_t>(random()));
+    }
+    return tile;
+}
+
+// A bitmap of rows of 24 bits without alpha.
+Bytes bitmap(Size size, std::uint8_t channel) {
+    const int row = (size.width * 3 + 3) / 4 * 4;
+    Bytes bytes(static_cast<std::size_t>(54 + row * std::abs(size.height)), channel);
+    std::fill_n(bytes.begin(), 54, std::uint8_t{0});
+    const auto put = [&bytes](std::size_t offset, int number) {
+        for (std::size_t i = 0; i < 4; ++i) {
+            bytes[offset + i] = static_cast<std::uint8_t>(static_cast<unsigned>(number) >> (8 * i));
+        }
+    };
+    bytes[0] = 'B';
+    bytes[1] = 'M';
+    put(2, static_cast<int>(bytes.size()));
+    put(10, 54);
+    put(14, 40);
+    put(18, size.width);
+    put(22, size.height);
+    bytes[26] = 1;
+    bytes[28] = 24;
+    return bytes;
+}
+
+TEST(Picture_Formats, give_back_what_they_took) {
+    for (const Picture_Format& format : picture_formats) {
+        SCOPED_TRACE(format.media_type);
+        for (const Size size : {Size{1, 1}, Size{3, 5}, Size{7, 1}, Size{255, 200}}) {
+            const Tile tile = random_tile(size, 3);
+            const Decoded_Picture decoded = format.decode(format.encode(tile));
+            ASSERT_TRUE(decoded.picture);
+            EXPECT_EQ(decoded.picture->size(), size);
+            EXPECT_TRUE(std::ranges::equal(decoded.picture->pixels(), tile.pixels()));
+        }
+    }
+}
+
+TEST(Picture_Formats, read_bitmaps_without_alpha_from_both_ends) {
+    for (const Size size : {Size{5, 3}, Size{5, -3}}) {
+        const Decoded_Picture decoded = decode_bitmap(bitmap(size, 90));
+        ASSERT_TRUE(decoded.picture);
+        EXPECT_EQ(decoded.picture->size(), (Size{5, 3}));
+        for (const Color pixel : decoded.picture->pixels()) {
+            EXPECT_EQ(pixel, Color(90, 90, 90));
+        }
+    }
+}
+
+TEST(Picture_Formats, refuse_what_is_cut_off_or_no_picture) {
+    for (const Picture_Format& format : picture_formats) {
+        SCOPED_TRACE(format.media_type);
+        const Bytes whole = format.encode(random_tile({9, 6}, 4));
+        // The end of a PNG holds no pixels.
+        const std::size_t needed =
+            whole.size() - (std::string_view(format.media_type) == "image/png" ? 20 : 0);
+        for (std::size_t length = 0; length < needed; ++length) {
+            const Decoded_Picture decoded = format.decode(Picture_Bytes(whole).first(length));
+            ASSERT_FALSE(decoded.picture) << length;
+            ASSERT_EQ(decoded.fault, Picture_Fault::broken) << length;
+        }
+        EXPECT_EQ(format.decode(Bytes(100, 0)).fault, Picture_Fault::broken);
+    }
+}
+
+// Some are pictures still.
+TEST(Picture_Formats, survive_every_changed_byte) {
+    for (const Picture_Format& format : picture_formats) {
+        const Bytes whole = format.encode(random_tile({9, 6}, 5));
+        for (std::size_t i = 0; i < whole.size(); ++i) {
+            for (const int value : {0x00, 0x7f, 0xff}) {
+                Bytes changed = whole;
+                changed[i] = static_cast<std::uint8_t>(value);
+                const Decoded_Picture decoded = format.decode(changed);
+                EXPECT_EQ(decoded.picture.has_value(), decoded.fault == Picture_Fault::none)
+                    << format.media_type << " " << i;
+            }
+        }
+    }
+}
+
+TEST(Picture_Formats, take_no_memory_for_announced_sizes) {
+    // Width, height: more than there is, and more than could be counted.
+    for (const std::array<std::uint8_t, 8>& size : {std::array<std::uint8_t, 8>{0x01, 0x10, 0, 0, 1, 0, 0, 0},
+                                                    {1, 0, 0, 0, 0xff, 0xef, 0xff, 0xff},
+                                                    {0xff, 0xff, 0xff, 0x7f, 0xff, 0xff, 0xff, 0x7f},
+                                                    {1, 0, 0, 0, 0, 0, 0, 0x80}}) {
+        Bytes bytes = bitmap({1, 1}, 0);
+        std::ranges::copy(size, bytes.begin() + 18);
+        EXPECT_EQ(decode_bitmap(bytes).fault, Picture_Fault::too_large);
+    }
+    EXPECT_EQ(decode_bitmap(bitmap({0, 1}, 0)).fault, Picture_Fault::broken);
+    EXPECT_EQ(decode_bitmap(bitmap({1, 0}, 0)).fault, Picture_Fault::broken);
+    EXPECT_EQ(decode_bitmap(bitmap({4096, 2}, 0)).fault, Picture_Fault::none);
+    for (const Picture_Format& format : picture_formats) {
+        EXPECT_EQ(format.decode(format.encode(Tile(largest_picture_edge + 1, 1))).fault,
+                  Picture_Fault::too_large);
+        EXPECT_EQ(format.decode(format.encode(Tile(1, largest_picture_edge + 1))).fault,
+                  Picture_Fault::too_large);
+        EXPECT_TRUE(format.decode(format.encode(Tile(largest_picture_edge, 1))).picture);
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

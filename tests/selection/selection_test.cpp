@@ -1,0 +1,278 @@
+#include "app/command_table.h"
+#include "selection/copy_buffer.h"
+#include "selection/floating_paste.h"
+#include "selection/selection_transforms.h"
+#include "selection/work_area.h"
+#include "tests/tileset/tile_art.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Picture = std::vector<Color>;
+
+Art mask_art(const Selection& selection) {
+    Art rows = art(selection.mask());
+    for (std::string& row : rows) {
+        std::ranges::replace(row, ' ', '.');
+    }
+    return rows;
+}
+
+Selection selected(const Art& rows) {
+    const Tile mask = make_tile(rows);
+    Selection selection(mask.size());
+    selection.draw([&](Drawing_Target& target) {
+        for (int y = 0; y < mask.height(); ++y) {
+            for (int x = 0; x < mask.width(); ++x) {
+                if (mask.is_white_at(x, y)) {
+                    target.plot({x, y}, Selection::selected_color);
+                }
+            }
+        }
+    });
+    return selection;
+}
+
+Picture pixels_of(const Tile& tile) {
+    return {tile.pixels().begin(), tile.pixels().end()};
+}
+
+Picture sorted(Picture pixels) {
+    std::ranges::sort(pixels, {}, &Color::word);
+    return pixels;
+}
+
+class Random {
+public:
+    explicit Random(unsigned seed) : engine_(seed) {}
+
+    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(engine_); }
+    Color color() { return Color::from_word(static_cast<std::uint32_t>(engine_())); }
+    Tile tile(Size size) {
+        Tile tile(size.width, size.height);
+        for (Color& pixel : tile.pixels()) {
+            pixel = color();
+        }
+        return tile;
+    }
+    // Never empty.
+    Selection selection(Size size) {
+        Selection selection(size);
+        for (int i = 0; i < 3 || selection.is_empty(); ++i) {
+            const Tile_Point from{below(size.width + 1), below(size.height + 1)};
+            selection.combine(selected_rectangle(size, from, {below(size.width + 1), below(size.height + 1)}),
+                              i == 1 ? Selection_Change::remove : Selection_Change::add);
+        }
+        return selection;
+    }
+
+private:
+    std::mt19937 engine_;
+};
+
+TEST(Selection, is_made_of_areas_that_are_added_and_taken_away) {
+    Selection selection({7, 5});
+    EXPECT_TRUE(selection.is_empty());
+    EXPECT_EQ(selection.bounds(), Rectangle{});
+    // Whichever corner comes first, and cut to the tile.
+    selection.combine(selected_rectangle({7, 5}, {4, 3}, {1, 1}), Selection_Change::add);
+    selection.combine(selected_rectangle({7, 5}, {5, 4}, {90, -3}), Selection_Change::add);
+    selection.combine(selected_rectangle({7, 5}, {2, 2}, {3, 9}), Selection_Change::remove);
+    selection.combine(selected_rectangle({7, 5}, {0, 4}, {7, 4}), Selection_Change::add);
+    EXPECT_EQ(mask_art(selection), (Art{".....##", ".###.##", ".#.#.##", ".....##", "......."}));
+    EXPECT_EQ(selection.bounds(), (Rectangle{1, 0, 6, 4}));
+    EXPECT_EQ(selection.count(), 13);
+    EXPECT_FALSE(selection.contains({7, 0}));
+    EXPECT_FALSE(selection.contains({-1, 1}));
+
+    selection.invert();
+    EXPECT_EQ(mask_art(selection), (Art{"#####..", "#...#..", "#.#.#..", "#####..", "#######"}));
+    EXPECT_EQ(selection.count(), 35 - 13);
+    selection.fill();
+    EXPECT_EQ(selection.count(), 35);
+    selection.invert();
+    EXPECT_TRUE(selection.is_empty());
+}
+
+TEST(Floating_Paste, lifts_what_is_selected_and_plots_it_where_it_lies) {
+    const Art before{"abcde", "fghij", "klmno"};
+    Tile tile = make_tile(before);
+    const Selection selection = selected({".....", "..##.", "...#."});
+    Floating_Paste paste = lifted(tile, selection);
+    EXPECT_EQ(art(paste.picture), (Art{"hi", " n"}));
+    EXPECT_EQ(paste.position, (Tile_Point{2, 1}));
+    clear_selected(tile, selection);
+    EXPECT_EQ(art(tile), (Art{"abcde", "fg  j", "klm o"}));
+
+    Drawing_Target target(tile);
+    paste.position = {-1, 0};
+    EXPECT_EQ(mask_art(paste.area(tile.size())), (Art{"#....", "#....", "....."}));
+    paste.plot(target);
+    EXPECT_EQ(art(tile), (Art{"ibcde", "ng  j", "klm o"}));
+    // Nothing of what hung over is lost.
+    paste.position = {2, 1};
+    paste.plot(target);
+    EXPECT_EQ(art(tile), (Art{"ibcde", "nghij", "klmno"}));
+}
+
+TEST(Floating_Paste, honours_alpha) {
+    const Color red(200, 0, 0);
+    EXPECT_EQ(laid_over(red, {1, 2, 3, 4}), red);
+    EXPECT_EQ(laid_over({9, 9, 9, 0}, red), red);
+    EXPECT_EQ(laid_over({0, 0, 200, 128}, {0, 0, 0, 0}), Color(0, 0, 200, 128));
+    EXPECT_EQ(laid_over({0, 0, 200, 51}, red), Color(160, 0, 40));
+    // Two halves over each other let a quarter through, and the upper one counts twice as much.
+    EXPECT_EQ(laid_over({0, 0, 240, 128}, {240, 0, 0, 128}), Color(80, 0, 160, 192));
+}
+
+TEST(Copy_Buffer, keeps_the_last_sixteen) {
+    Copy_Buffer copies;
+    EXPECT_EQ(copies.current(), nullptr);
+    copies.choose(0);
+    for (int i = 0; i < 20; ++i) {
+        copies.add({Tile(i + 1, 1), {i, 0}});
+        EXPECT_EQ(copies.current()->picture.width(), i + 1);
+        copies.choose(1);
+    }
+    EXPECT_EQ(copies.copies().size(), Copy_Buffer::capacity);
+    EXPECT_EQ(copies.copies().back().picture.width(), 5);
+    copies.choose(15);
+    copies.choose(16);
+    EXPECT_EQ(copies.current()->position, (Tile_Point{4, 0}));
+}
+
+TEST(Copy_Buffer, clones_in_four_places) {
+    const Floating_Paste copy{make_tile({"abcd", "efgh", "ijkl"}), {-2, 9}};
+    struct Row {
+        Clone_Style style;
+        Size tile;
+        Tile_Point position;
+    };
+    for (const Row& row :
+         {Row{Clone_Style::original_location, {2, 2}, {-2, 9}}, Row{Clone_Style::centred, {9, 9}, {2, 3}},
+          Row{Clone_Style::centred, {4, 8}, {0, 2}}, Row{Clone_Style::centred, {1, 2}, {-1, 0}},
+          Row{Clone_Style::top_left, {9, 9}, {0, 0}}}) {
+        const Floating_Paste clone = cloned(copy, row.style, row.tile);
+        EXPECT_EQ(clone.position, row.position) << row.tile.width;
+        EXPECT_EQ(art(clone.picture), art(copy.picture));
+    }
+    const Floating_Paste resized = cloned(copy, Clone_Style::resized, {9, 2});
+    EXPECT_EQ(resized.picture.size(), (Size{9, 2}));
+    EXPECT_EQ(resized.position, Tile_Point{});
+}
+
+// Which of them carries its selection with it is seen by painting the selected pixels first.
+TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
+    Random random(11);
+    for (int run = 0; run < 60; ++run) {
+        const Size size{1 + random.below(9), 1 + random.below(9)};
+        const Selection before = random.selection(size);
+        const Tile original = random.tile(size);
+        for (const Command command :
+             {Command::mirror, Command::flip, Command::rotate, Command::rotate_back, Command::scroll_left,
+              Command::scroll_right, Command::scroll_up, Command::scroll_down}) {
+            SCOPED_TRACE(menu_text(command));
+            Tile tile(original);
+            Selection selection = before;
+            const bool is_refused = transform_selected(tile, selection, command) == Command::skip_command;
+            EXPECT_EQ(sorted(pixels_of(tile)), sorted(pixels_of(original)));
+            EXPECT_EQ(selection.count(), before.count());
+            EXPECT_EQ(selection.bounds(), before.bounds());
+            for (int y = 0; y < size.height; ++y) {
+                for (int x = 0; x < size.width; ++x) {
+                    const Rectangle bounds = before.bounds();
+                    if (is_refused || !bounds.contains({x, y})) {
+                        EXPECT_EQ(tile.get_pixel(x, y), original.get_pixel(x, y));
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Selection_Transforms, done_often_enough_change_nothing) {
+    struct Row {
+        Command command;
+        int times;
+    };
+    Random random(12);
+    for (int run = 0; run < 40; ++run) {
+        const Size size{1 + random.below(8), 1 + random.below(8)};
+        const Selection before = random.selection(size);
+        const Tile original = random.tile(size);
+        for (const Row& row : {Row{Command::mirror, 2}, Row{Command::flip, 2}, Row{Command::rotate, 4},
+                               Row{Command::rotate_back, 4}}) {
+            Tile tile(original);
+            Selection selection = before;
+            for (int i = 0; i < row.times; ++i) {
+                static_cast<void>(transform_selected(tile, selection, row.command));
+            }
+            EXPECT_EQ(pixels_of(tile), pixels_of(original)) << menu_text(row.command);
+            EXPECT_TRUE(selection == before) << menu_text(row.command);
+        }
+    }
+}
+
+TEST(Selection_Transforms, turn_what_is_selected_about_the_middle_of_its_bounds) {
+    const Art before{"abcde", "fghij", "klmno"};
+    struct Row {
+        Command command;
+        Art tile;
+        Art mask;
+    };
+    const Art mask{".....", ".##..", "..#.."};
+    for (const Row& row :
+         {Row{Command::mirror, {"abcde", "fhgij", "kmlno"}, {".....", ".##..", ".#..."}},
+          Row{Command::flip, {"abcde", "flmij", "kghno"}, {".....", "..#..", ".##.."}},
+          Row{Command::rotate, {"abcde", "flgij", "kmhno"}, {".....", "..#..", ".##.."}},
+          Row{Command::rotate_back, {"abcde", "fhmij", "kglno"}, {".....", ".##..", ".#..."}},
+          Row{Command::scroll_right, {"abcde", "fhgij", "klmno"}, {".....", ".##..", "..#.."}},
+          Row{Command::scroll_down, {"abcde", "fgmij", "klhno"}, {".....", ".##..", "..#.."}}}) {
+        Tile tile = make_tile(before);
+        Selection selection = selected(mask);
+        EXPECT_EQ(transform_selected(tile, selection, row.command), row.command);
+        EXPECT_EQ(art(tile), row.tile) << menu_text(row.command);
+        EXPECT_EQ(mask_art(selection), row.mask) << menu_text(row.command);
+    }
+    Tile tile = make_tile(before);
+    Selection wide = selected({".....", ".###.", "..#.."});
+    EXPECT_EQ(transform_selected(tile, wide, Command::rotate), Command::skip_command);
+    EXPECT_EQ(transform_selected(tile, wide, Command::copy), Command::none);
+    EXPECT_EQ(art(tile), before);
+}
+
+TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {
+    Random random(13);
+    for (int run = 0; run < 20; ++run) {
+        Work_Area work;
+        work.resize({16, 16});
+        const Size size{1 + random.below(6), 1 + random.below(6)};
+        work.float_paste({random.tile(size), {random.below(20) - 4, random.below(20) - 4}});
+        const Work_State before = work.state();
+        for (const Command command : {Command::mirror, Command::flip}) {
+            EXPECT_EQ(work.transform_paste(command), command);
+            EXPECT_EQ(work.transform_paste(command), command);
+            EXPECT_TRUE(work == before);
+        }
+        for (const auto& [there, back] : {std::pair{Command::rotate, Command::rotate_back},
+                                          std::pair{Command::rotate_back, Command::rotate}}) {
+            work.transform_paste(there);
+            work.transform_paste(back);
+            EXPECT_TRUE(work == before) << size.width << " x " << size.height;
+            for (int i = 0; i < 4; ++i) {
+                work.transform_paste(there);
+            }
+            EXPECT_TRUE(work == before) << size.width << " x " << size.height;
+        }
+        EXPECT_EQ(work.transform_paste(Command::scroll_left), Command::none);
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,707 @@
+// What a user expects of selecting, copying and pasting, played against a simple model that keeps every state
+// as a full picture.
+
+#include "app/command_table.h"
+#include "app/options.h"
+#include "tests/whole/program_test.h"
+#include "tools/flood_fill.h"
+#include "tools/shapes.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+#include "ui/dialog_container.h"
+
+#include <algorithm>
+#include <array>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <ostream>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+struct Image {
+    Size size;
+    std::vector<Color> pixels;
+
+    explicit Image(Size of, Color color = {})
+        : size(of), pixels(static_cast<std::size_t>(of.width * of.height), color) {}
+    explicit Image(const Tile& tile)
+        : size(tile.size()), pixels(tile.pixels().begin(), tile.pixels().end()) {}
+
+    [[nodiscard]] bool contains(Tile_Point p) const {
+        return p.x >= 0 && p.y >= 0 && p.x < size.width && p.y < size.height;
+    }
+    [[nodiscard]] Color& at(Tile_Point p) {
+        return pixels.at(static_cast<std::size_t>(p.y * size.width + p.x));
+    }
+    [[nodiscard]] Color at(Tile_Point p) const {
+        return pixels.at(static_cast<std::size_t>(p.y * size.width + p.x));
+    }
+    bool operator==(const Image&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Image& image) {
+    for (std::size_t i = 0; i < image.pixels.size(); ++i) {
+        out << (i % static_cast<std::size_t>(image.size.width) == 0 ? "\n" : " ") << std::hex
+            << image.pixels[i].word() << std::dec;
+    }
+    return out;
+}
+
+struct Paste {
+    Image picture;
+    Tile_Point position;
+    bool operator==(const Paste&) const = default;
+
+    [[nodiscard]] bool is_in_picture(Tile_Point p) const {
+        return picture.contains({p.x - position.x, p.y - position.y});
+    }
+};
+
+std::optional<Paste> paste_of(const std::optional<Floating_Paste>& paste) {
+    return paste ? std::optional(Paste{Image(paste->picture), paste->position}) : std::nullopt;
+}
+
+void for_each_pixel(Size size, const std::function<void(Tile_Point)>& visit) {
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            visit({x, y});
+        }
+    }
+}
+
+struct Work {
+    std::vector<bool> mask; // as many as the tile has pixels
+    std::optional<Paste> paste;
+    bool operator==(const Work&) const = default;
+};
+
+struct State {
+    std::size_t tile = 0;
+    Image picture;
+    Work work;
+    Tool tool = Tool::pen;
+};
+
+struct Document_Model {
+    std::vector<Image> tiles;
+    std::size_t current = 0;
+    std::vector<State> states;
+    std::size_t position = 0;
+};
+
+class Model {
+public:
+    void add_document(Size tile, std::size_t tiles) {
+        Document_Model document;
+        document.tiles.assign(tiles, Image(tile));
+        document.current = tiles - 1;
+        document.states.push_back({0, document.tiles[0], {nothing(tile), {}}, Tool::pen});
+        documents.push_back(document);
+        show_document(documents.size() - 1);
+    }
+    void show_document(std::size_t index) {
+        const bool fits = documents[index].tiles[0].size == size_;
+        shown = index;
+        document().current = 0;
+        size_ = document().tiles[0].size;
+        if (!fits) {
+            work.mask = nothing(size_);
+        }
+    }
+
+    Document_Model& document() { return documents[shown]; }
+    [[nodiscard]] const Document_Model& document() const { return documents[shown]; }
+    Image& tile() { return document().tiles[document().current]; }
+    [[nodiscard]] Size size() const { return size_; }
+    [[nodiscard]] bool is_selected(Tile_Point p) const {
+        return p.x >= 0 && p.y >= 0 && p.x < size_.width && p.y < size_.height && work.mask[index(p)];
+    }
+    [[nodiscard]] bool has_selection() const { return std::ranges::find(work.mask, true) != work.mask.end(); }
+
+    // One step of the history, where nothing changed only when told so.
+    void edit(const std::function<void()>& change, bool is_always_recorded = false) {
+        const State before = state();
+        change();
+        if (is_always_recorded || before.picture != tile() || before.work != work) {
+            if (document().states[document().position].tile != document().current) {
+                push(before);
+            }
+            push(state());
+        }
+    }
+    void select_tool(Tool chosen) {
+        if (chosen != tool && chosen != Tool::selection && work.paste && mode != Selection_Mode::fixed) {
+            edit([this] { plot(); });
+        }
+        tool = chosen;
+    }
+    void select(const std::vector<bool>& area, Mouse_Button button) {
+        edit([&] {
+            for (std::size_t i = 0; i < area.size(); ++i) {
+                if (area[i]) {
+                    work.mask[i] = button == Mouse_Button::left;
+                }
+            }
+        });
+    }
+    void deselect() { work.mask = nothing(size_); }
+    void plot() {
+        if (!work.paste) {
+            return;
+        }
+        for_each_pixel(work.paste->picture.size, [this](Tile_Point p) {
+            const Tile_Point to{work.paste->position.x + p.x, work.paste->position.y + p.y};
+            if (tile().contains(to) && (!has_selection() || is_selected(to))) {
+                tile().at(to) = laid_over(work.paste->picture.at(p), tile().at(to));
+            }
+        });
+        if (mode == Selection_Mode::standard) {
+            work.paste.reset();
+        }
+    }
+    void fill(Color color) {
+        for_each_pixel(size_, [&](Tile_Point p) {
+            if (!has_selection() || is_selected(p)) {
+                tile().at(p) = color;
+            }
+        });
+    }
+    void clear() {
+        if (work.paste && !has_selection()) {
+            work.paste.reset();
+        } else {
+            fill({0, 0, 0, 0});
+        }
+    }
+    // What is selected, from the corner of its bounds.
+    [[nodiscard]] Paste lifted() {
+        Tile_Point low{size_.width, size_.height};
+        Tile_Point high{-1, -1};
+        for_each_pixel(size_, [&](Tile_Point p) {
+            if (is_selected(p)) {
+                low = {std::min(low.x, p.x), std::min(low.y, p.y)};
+                high = {std::max(high.x, p.x), std::max(high.y, p.y)};
+            }
+        });
+        Paste paste{Image({high.x - low.x + 1, high.y - low.y + 1}, {0, 0, 0, 0}), low};
+        for_each_pixel(paste.picture.size, [&](Tile_Point p) {
+            const Tile_Point from{low.x + p.x, low.y + p.y};
+            if (is_selected(from)) {
+                paste.picture.at(p) = tile().at(from);
+            }
+        });
+        return paste;
+    }
+    void copy() {
+        copies.push_front(has_selection() ? lifted() : work.paste ? *work.paste : Paste{tile(), {}});
+        if (copies.size() > Copy_Buffer::capacity) {
+            copies.pop_back();
+        }
+        current_copy = 0;
+    }
+    void floats(const Paste& paste) {
+        tool = Tool::selection;
+        plot();
+        deselect();
+        work.paste = paste;
+    }
+    void lift() {
+        const Paste paste = lifted();
+        fill({0, 0, 0, 0});
+        deselect();
+        work.paste = paste;
+    }
+    void undo() {
+        if (document().position > 0) {
+            --document().position;
+            restore();
+        }
+    }
+    void redo() {
+        if (document().position + 1 < document().states.size()) {
+            ++document().position;
+            restore();
+        }
+    }
+    void show_tile(std::size_t tile_index) {
+        if (tile_index < document().tiles.size()) {
+            document().current = tile_index;
+            deselect();
+            push(state());
+        }
+    }
+
+    std::vector<Document_Model> documents;
+    std::size_t shown = 0;
+    Work work;
+    Tool tool = Tool::pen;
+    Selection_Mode mode = Selection_Mode::standard;
+    std::deque<Paste> copies;
+    std::size_t current_copy = 0;
+
+private:
+    static std::vector<bool> nothing(Size size) {
+        return std::vector<bool>(static_cast<std::size_t>(size.width * size.height));
+    }
+    [[nodiscard]] std::size_t index(Tile_Point p) const {
+        return static_cast<std::size_t>(p.y * size_.width + p.x);
+    }
+    [[nodiscard]] State state() { return {document().current, tile(), work, tool}; }
+    void push(const State& state) {
+        auto& [tiles, current, states, position] = document();
+        states.erase(states.begin() + static_cast<std::ptrdiff_t>(position) + 1, states.end());
+        states.push_back(state);
+        if (states.size() > 18) {
+            states.erase(states.begin());
+        }
+        position = states.size() - 1;
+    }
+    void restore() {
+        const State& state = document().states[document().position];
+        document().current = state.tile;
+        tile() = state.picture;
+        work = state.work;
+        tool = state.tool;
+    }
+
+    Size size_;
+};
+
+class Selection_Model_Test : public Program_Test {
+protected:
+    void SetUp() override {
+        Program_Test::SetUp();
+        toolbox->select_brush_size(0);
+        model_.add_document({24, 24}, 1);
+        shown_documents_.push_back(&document());
+        add_tiles();
+        for (const Size size : {Size{13, 30}, Size{24, 24}}) {
+            ASSERT_TRUE(editor->documents().new_document(size));
+            model_.add_document(size, 1);
+            shown_documents_.push_back(&document());
+            add_tiles();
+        }
+    }
+
+    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
+    Tile_Point some_pixel() { return {below(model_.size().width), below(model_.size().height)}; }
+    Tile_Point some_corner() { return {below(model_.size().width + 1), below(model_.size().height + 1)}; }
+    Color some_color() {
+        return {below(3) * 100, below(3) * 100, below(3) * 100, below(3) == 0 ? below(256) : 255};
+    }
+    Mouse_Button some_button() { return below(3) == 0 ? Mouse_Button::right : Mouse_Button::left; }
+
+    // Which of the things that can be done it was.
+    int do_something();
+    void expect_same() const;
+
+    std::mt19937 random_;
+    Model model_;
+
+private:
+    static Point window_point(Tile_Point pixel, int part) {
+        const Canvas_View& canvas = editor->canvas();
+        return {canvas.origin().x + pixel.x * canvas.pixel_size() + part,
+                canvas.origin().y + pixel.y * canvas.pixel_size() + part};
+    }
+    void drag(Tile_Point from, Tile_Point to, Mouse_Button button, int part = 5) {
+        script().press(window_point(from, part), button);
+        script().motion(window_point(some_pixel(), part)).motion(window_point(to, part));
+        script().release(window_point(to, part), button);
+        play();
+    }
+    void select_tool(Tool tool) {
+        editor->execute(row_of(tool).command);
+        model_.select_tool(tool);
+    }
+    void add_tiles() {
+        for (int i = 0; i < 2; ++i) {
+            execute(Command::add_new_tile);
+            model_.document().tiles.push_back(model_.tile());
+            model_.document().current = model_.document().tiles.size() - 1;
+        }
+    }
+    static std::vector<bool> drawn_mask(Size size, const std::function<void(Drawing_Target&)>& draw) {
+        Selection selection(size);
+        selection.draw(draw);
+        std::vector<bool> mask;
+        for (const Color pixel : selection.mask().pixels()) {
+            mask.push_back(pixel == Selection::selected_color);
+        }
+        return mask;
+    }
+
+    void mark_rectangle();
+    void mark_circle();
+    void mark_pixel();
+    void pour();
+    void copy() {
+        editor->execute(Command::copy);
+        model_.copy();
+    }
+    void cut();
+    void paste();
+    void clone();
+    void move();
+    void click_with_selection_tool();
+    void nudge();
+    void change(Command command, const std::function<void()>& expected, bool is_always_recorded = false) {
+        editor->execute(command);
+        model_.edit(expected, is_always_recorded);
+    }
+    void fill();
+    void paint();
+    void go_elsewhere();
+    void choose_mode();
+    void show_next_document();
+
+    std::vector<const Tileset_Document*> shown_documents_;
+};
+
+void Selection_Model_Test::mark_rectangle() {
+    select_tool(Tool::rectangle_selector);
+    const Mouse_Button button = some_button();
+    const Tile_Point from = some_corner();
+    const Tile_Point to = below(4) == 0 ? from : some_corner();
+    // Part 0 is the corner itself.
+    drag(from, to, button, 0);
+    if (from == to) {
+        model_.edit([&] {
+            if (button == Mouse_Button::left && !model_.is_selected(from)) {
+                model_.deselect();
+            }
+        });
+        return;
+    }
+    std::vector<bool> area;
+    for_each_pixel(model_.size(), [&](Tile_Point p) {
+        area.push_back(p.x >= std::min(from.x, to.x) && p.x < std::max(from.x, to.x) &&
+                       p.y >= std::min(from.y, to.y) && p.y < std::max(from.y, to.y));
+    });
+    model_.select(area, button);
+}
+
+void Selection_Model_Test::mark_circle() {
+    select_tool(Tool::circle_selector);
+    const Mouse_Button button = some_button();
+    const Tile_Point from = some_pixel();
+    const Tile_Point to = some_pixel();
+    drag(from, to, button);
+    if (from != to) {
+        model_.select(drawn_mask(model_.size(),
+                                 [&](Drawing_Target& mask) {
+                                     draw_filled_ellipse(
+                                         mask, from, ellipse_radii(from, to),
+                                         {Selection::selected_color, Selection::selected_color});
+                                 }),
+                      button);
+    } else if (button == Mouse_Button::left && !model_.is_selected(from)) {
+        model_.edit([this] { model_.deselect(); });
+    }
+}
+
+void Selection_Model_Test::mark_pixel() {
+    select_tool(Tool::brush_selector);
+    const Mouse_Button button = some_button();
+    const Tile_Point at = some_pixel();
+    script().click(window_point(at, 5), button);
+    play();
+    std::vector<bool> area;
+    for_each_pixel(model_.size(), [&](Tile_Point p) { area.push_back(p == at); });
+    model_.select(area, button);
+}
+
+void Selection_Model_Test::pour() {
+    select_tool(Tool::wand_selector);
+    const auto mode = static_cast<Wand_Mode>(below(3) == 0 ? 1 + below(2) : 0);
+    toolbox->options().set_value(Tool_Option::wand_mode, static_cast<int>(mode));
+    const Mouse_Button button = some_button();
+    const Tile_Point at = some_pixel();
+    script().click(window_point(at, 5), button);
+    play();
+    Tile tile(model_.size().width, model_.size().height);
+    std::ranges::copy(model_.tile().pixels, tile.pixels().begin());
+    const std::vector<bool> area = drawn_mask(model_.size(), [&](Drawing_Target& mask) {
+        Drawing_Target target(tile);
+        Flood_Area(target, at, Flood_Bounds::whole_tile).for_each([&](Tile_Point p) {
+            mask.plot(p, Selection::selected_color);
+        });
+    });
+    std::vector<bool> mask = model_.work.mask;
+    for (std::size_t i = 0; i < area.size(); ++i) {
+        mask[i] = area[i] ? button == Mouse_Button::left : mask[i];
+    }
+    const bool is_quick =
+        mode != Wand_Mode::normal && mask != model_.work.mask && std::ranges::find(mask, true) != mask.end();
+    model_.edit(
+        [&] {
+            model_.work.mask = mask;
+            if (is_quick) {
+                model_.copy();
+                if (mode == Wand_Mode::quick_cut) {
+                    model_.clear();
+                }
+                const Paste copy = model_.copies[0];
+                model_.floats(copy);
+            }
+        },
+        is_quick);
+}
+
+void Selection_Model_Test::cut() {
+    if (!model_.work.paste && !model_.has_selection()) {
+        return;
+    }
+    change(
+        Command::cut,
+        [this] {
+            model_.copy();
+            model_.clear();
+        },
+        true);
+}
+
+void Selection_Model_Test::paste() {
+    if (model_.copies.empty()) {
+        editor->execute(Command::paste);
+        return;
+    }
+    change(
+        Command::paste,
+        [&] {
+            Paste copy = model_.copies[model_.current_copy];
+            const Size size = model_.size();
+            const Size own = copy.picture.size;
+            if (copy.position.x >= size.width || copy.position.y >= size.height ||
+                copy.position.x + own.width <= 0 || copy.position.y + own.height <= 0) {
+                copy.position = {(size.width - own.width) / 2, (size.height - own.height) / 2};
+            }
+            model_.floats(copy);
+        },
+        true);
+}
+
+void Selection_Model_Test::clone() {
+    constexpr int clone_item = 131;
+    Dialog_Item& style_item = *options->dialog().item(clone_item);
+    style_item.notify(Dialog_Event_Kind::increase);
+    options->load();
+    const int style = options->value(Option::clone_style);
+    if (!model_.work.paste && !model_.has_selection() && model_.copies.empty()) {
+        editor->execute(Command::clone);
+        return;
+    }
+    change(
+        Command::clone,
+        [&] {
+            if (model_.work.paste || model_.has_selection()) {
+                model_.copy();
+            }
+            Paste copy = model_.copies[model_.current_copy];
+            const Size size = model_.size();
+            const Size own = copy.picture.size;
+            if (style == 1) {
+                copy.position = {(size.width - own.width) / 2, (size.height - own.height) / 2};
+            } else if (style == 2) {
+                copy.position = {};
+            } else if (style == 3) {
+                Tile from(own.width, own.height);
+                Tile to(size.width, size.height);
+                std::ranges::copy(copy.picture.pixels, from.pixels().begin());
+                from.resample_into(to);
+                copy = {Image(to), {}};
+            }
+            model_.floats(copy);
+        },
+        true);
+}
+
+void Selection_Model_Test::move() {
+    select_tool(Tool::selection);
+    const Tile_Point from = some_pixel();
+    const Tile_Point to = some_pixel();
+    if (from == to) {
+        return;
+    }
+    drag(from, to, some_button());
+    model_.edit([&] {
+        if (!model_.work.paste && model_.is_selected(from)) {
+            model_.lift();
+        }
+        if (model_.work.paste && model_.work.paste->is_in_picture(from)) {
+            model_.work.paste->position.x += to.x - from.x;
+            model_.work.paste->position.y += to.y - from.y;
+        }
+    });
+}
+
+void Selection_Model_Test::click_with_selection_tool() {
+    select_tool(Tool::selection);
+    const Tile_Point at = some_pixel();
+    script().click(window_point(at, 5), some_button());
+    play();
+    model_.edit([&] {
+        if (model_.work.paste) {
+            if (!model_.work.paste->is_in_picture(at)) {
+                model_.plot();
+            }
+        } else if (!model_.is_selected(at)) {
+            model_.deselect();
+        }
+    });
+}
+
+void Selection_Model_Test::nudge() {
+    const bool is_seen = model_.tool == Tool::selection || model_.mode == Selection_Mode::fixed;
+    if (!model_.work.paste || !is_seen) {
+        return;
+    }
+    const int direction = below(4);
+    constexpr std::array keys{key::left, key::right, key::up, key::down};
+    constexpr std::array<Tile_Point, 4> steps{{{-1, 0}, {1, 0}, {0, -1}, {0, 1}}};
+    script().key(keys.at(static_cast<std::size_t>(direction)), Modifier::shift);
+    play();
+    model_.edit([&] {
+        model_.work.paste->position.x += steps.at(static_cast<std::size_t>(direction)).x;
+        model_.work.paste->position.y += steps.at(static_cast<std::size_t>(direction)).y;
+    });
+}
+
+void Selection_Model_Test::fill() {
+    const Color color = some_color();
+    tool_colors->set_color(Mouse_Button::left, color);
+    change(Command::fill, [&] { model_.fill(color); });
+}
+
+void Selection_Model_Test::paint() {
+    select_tool(Tool::pen);
+    const Color color = some_color();
+    const Tile_Point at = some_pixel();
+    tool_colors->set_color(Mouse_Button::left, color);
+    script().click(window_point(at, 5));
+    play();
+    model_.edit([&] {
+        if (!model_.has_selection() || model_.is_selected(at)) {
+            model_.tile().at(at) = color;
+        }
+    });
+}
+
+void Selection_Model_Test::go_elsewhere() {
+    const std::size_t current = model_.document().current;
+    switch (below(3)) {
+    case 0:
+        editor->execute(Command::next_tile);
+        model_.show_tile(current + 1);
+        break;
+    case 1:
+        editor->execute(Command::previous_tile);
+        model_.show_tile(current - 1);
+        break;
+    default: show_next_document(); break;
+    }
+}
+
+// Tabs are as wide as their titles, and what lies between them may be shown on the way.
+void Selection_Model_Test::show_next_document() {
+    const std::size_t next = (model_.shown + 1) % shown_documents_.size();
+    for (int x = 270; x < 770 && &document() != shown_documents_.at(next); x += 30) {
+        script().click({x, 53});
+        play();
+        const auto now = std::ranges::find(shown_documents_, &document());
+        const auto index = static_cast<std::size_t>(now - shown_documents_.begin());
+        if (index != model_.shown) {
+            model_.show_document(index);
+        }
+    }
+}
+
+void Selection_Model_Test::choose_mode() {
+    model_.mode = static_cast<Selection_Mode>(below(3));
+    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(model_.mode));
+}
+
+void Selection_Model_Test::expect_same() const {
+    const Tileset& tileset = document().tileset();
+    const Document_Model& expected = model_.document();
+    ASSERT_EQ(tileset.current_index(), static_cast<int>(expected.current));
+    for (std::size_t i = 0; i < expected.tiles.size(); ++i) {
+        const Image shown(tileset.tile_at(static_cast<int>(i)));
+        EXPECT_EQ(shown, expected.tiles[i]) << "tile " << i;
+    }
+    const Work_Area& work = editor->canvas().work_area();
+    for_each_pixel(model_.size(), [&](Tile_Point p) {
+        EXPECT_EQ(work.selection().contains(p), model_.is_selected(p)) << p.x << ", " << p.y;
+    });
+    EXPECT_EQ(work.has_selection(), model_.has_selection());
+    EXPECT_FALSE(work.candidate());
+    EXPECT_EQ(paste_of(work.paste()), model_.work.paste);
+    EXPECT_EQ(toolbox->current_tool(), model_.tool);
+    const Copy_Buffer& copies = editor->copies();
+    ASSERT_EQ(copies.copies().size(), model_.copies.size());
+    for (std::size_t i = 0; i < model_.copies.size(); ++i) {
+        EXPECT_EQ(paste_of(copies.copies()[i]), model_.copies[i]) << "copy " << i;
+    }
+}
+
+int Selection_Model_Test::do_something() {
+    const std::array<std::function<void()>, 20> actions{
+        [this] { mark_rectangle(); },
+        [this] { mark_circle(); },
+        [this] { mark_pixel(); },
+        [this] { pour(); },
+        [this] { copy(); },
+        [this] { cut(); },
+        [this] { paste(); },
+        [this] { clone(); },
+        [this] { move(); },
+        [this] { move(); },
+        [this] { click_with_selection_tool(); },
+        [this] { nudge(); },
+        [this] { change(Command::plot_paste, [this] { model_.plot(); }); },
+        [this] {
+            change(Command::deselect, [this] {
+                model_.plot();
+                model_.work.paste.reset();
+                model_.deselect();
+            });
+        },
+        [this] {
+            change(Command::invert_selection, [this] {
+                model_.plot();
+                model_.work.mask.flip();
+            });
+        },
+        [this] { below(2) == 0 ? fill() : change(Command::clear, [this] { model_.clear(); }); },
+        [this] { paint(); },
+        [this] {
+            editor->execute(Command::undo);
+            model_.undo();
+        },
+        [this] {
+            editor->execute(Command::redo);
+            model_.redo();
+        },
+        [this] { below(2) == 0 ? go_elsewhere() : choose_mode(); }};
+    const int choice = below(static_cast<int>(actions.size()));
+    actions.at(static_cast<std::size_t>(choice))();
+    return choice;
+}
+
+TEST_F(Selection_Model_Test, agrees_with_a_simple_model_whatever_is_done) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    random_.seed(seed);
+    for (int step = 0; step < 300 && !HasFailure(); ++step) {
+        SCOPED_TRACE("step " + std::to_string(step) + ": " + std::to_string(do_something()));
+        expect_same();
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,387 @@
+#include "app/command_table.h"
+#include "app/strokes.h"
+#include "selection/picture_formats.h"
+#include "tests/whole/program_test.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+
+#include <SDL3/SDL_clipboard.h>
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Tile_Picture = std::vector<Color>;
+
+constexpr Color black(0, 0, 0);
+constexpr Color white(255, 255, 255);
+constexpr Color red(200, 30, 40);
+constexpr Color clear(0, 0, 0, 0);
+
+class Selection_Test : public Program_Test {
+protected:
+    static Tile& tile() { return *document().tileset().current_tile(); }
+    static Tile_Picture pixels() { return {tile().pixels().begin(), tile().pixels().end()}; }
+    static Work_Area& work() { return editor->canvas().work_area(); }
+    static int count(Color color) { return static_cast<int>(std::ranges::count(tile().pixels(), color)); }
+
+    // The corner of a cell.
+    static constexpr Point corner(int column, int row) { return {400 + 10 * column, 200 + 10 * row}; }
+    void select_rectangle(Tile_Point from, Tile_Point to, Mouse_Button button = Mouse_Button::left) {
+        execute(Command::rectangle_selector);
+        script().drag({corner(from.x, from.y), corner(to.x, to.y)}, button);
+        play();
+    }
+    void drag(Tile_Point from, Tile_Point to, Mouse_Button button = Mouse_Button::left) {
+        script().press(cell(from.x, from.y), button).motion(cell(8, 17)).motion(cell(to.x, to.y));
+        script().release(cell(to.x, to.y), button);
+        play();
+    }
+    void click(Tile_Point pixel) {
+        script().click(cell(pixel.x, pixel.y));
+        play();
+    }
+    static void choose(Tool_Option option, int value) { toolbox->options().set_value(option, value); }
+    static void paint_noise(unsigned seed) {
+        std::mt19937 random(seed);
+        for (Color& pixel : tile().pixels()) {
+            pixel = Color(static_cast<int>(random() % 256), static_cast<int>(random() % 256),
+                          static_cast<int>(random() % 256));
+        }
+    }
+};
+
+TEST_F(Selection_Test, rectangles_lie_between_corners_of_cells) {
+    // The nearest corner counts.
+    execute(Command::rectangle_selector);
+    script().drag({{424, 236}, {464, 266}});
+    play();
+    EXPECT_EQ(work().selection().bounds(), (Rectangle{2, 4, 4, 3}));
+    script().drag({corner(4, 9), corner(3, 1)}, Mouse_Button::right);
+    play();
+    EXPECT_EQ(work().selection().count(), 9);
+    EXPECT_FALSE(work().selection().contains({3, 5}));
+    // A click inside keeps it, the right button's keeps it anywhere, and outside it is given up.
+    click({2, 4});
+    script().click(cell(20, 20), Mouse_Button::right);
+    play();
+    EXPECT_EQ(work().selection().count(), 9);
+    click({3, 5});
+    EXPECT_FALSE(work().has_selection());
+    select_rectangle({0, 0}, {24, 24});
+    EXPECT_EQ(work().selection().count(), 576);
+    script().key(key::space);
+    play();
+    EXPECT_FALSE(work().has_selection());
+    EXPECT_EQ(count(black), 576);
+}
+
+TEST_F(Selection_Test, nothing_outside_of_it_ever_changes) {
+    for (const Tool_Row& tool : tool_table) {
+        for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+            SCOPED_TRACE(tool.name);
+            execute(Command::deselect);
+            paint_noise(static_cast<unsigned>(tool.id));
+            select_rectangle({5, 6}, {15, 17});
+            select_rectangle({9, 9}, {12, 13}, Mouse_Button::right);
+            execute(tool.command);
+            choose(Tool_Option::scroll_move, 1);
+            toolbox->select_brush_size(4);
+            const Selection mask = work().selection();
+            const Tile_Picture before = pixels();
+            for (const auto& [from, to] : {std::pair{Tile_Point{7, 8}, Tile_Point{13, 15}},
+                                           std::pair{Tile_Point{2, 2}, Tile_Point{22, 20}}}) {
+                drag(from, to, button);
+                for (int i = 0; i < tile().pixel_count(); ++i) {
+                    const Tile_Point pixel{i % 24, i / 24};
+                    if (!mask.contains(pixel)) {
+                        ASSERT_EQ(tile().get_pixel_at(i), before[static_cast<std::size_t>(i)])
+                            << pixel.x << ", " << pixel.y;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without_loss) {
+    paint_noise(1);
+    const Tile_Picture before = pixels();
+    select_rectangle({2, 2}, {6, 5});
+    execute(Command::cut);
+    EXPECT_EQ(count(clear), 12);
+    execute(Command::paste);
+    EXPECT_EQ(toolbox->current_tool(), Tool::selection);
+    EXPECT_FALSE(work().has_selection());
+    EXPECT_EQ(count(clear), 12);
+    // The canvas shows it already.
+    EXPECT_EQ(pixel_at(cell(3, 3)), before[3 * 24 + 3]);
+    drag({3, 3}, {0, 23});
+    drag({0, 23}, {3, 3});
+    script().key(key::left, Modifier::shift).key(key::up, Modifier::shift);
+    script().key(key::right, Modifier::shift).key(key::down, Modifier::shift);
+    play();
+    click({20, 20});
+    EXPECT_FALSE(work().paste());
+    EXPECT_EQ(pixels(), before);
+    // Each of these was a step, and takes the paste with it.
+    for (int i = 0; i < 8; ++i) {
+        execute(Command::undo);
+    }
+    EXPECT_FALSE(work().paste());
+    EXPECT_EQ(work().selection().count(), 12);
+    EXPECT_EQ(count(clear), 12);
+    execute(Command::redo);
+    EXPECT_EQ(work().paste()->position, (Tile_Point{2, 2}));
+}
+
+TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
+    struct Row {
+        Selection_Mode mode;
+        bool floats_after_plot;
+        bool shows_under_pen;
+        bool is_plotted_by_pen;
+    };
+    for (const Row& row : {Row{Selection_Mode::standard, false, false, true},
+                           Row{Selection_Mode::persistent, true, false, true},
+                           Row{Selection_Mode::fixed, true, true, false}}) {
+        SCOPED_TRACE(static_cast<int>(row.mode));
+        tile().fill(red);
+        choose(Tool_Option::selection_mode, static_cast<int>(row.mode));
+        select_rectangle({2, 2}, {6, 5});
+        execute(Command::copy);
+        execute(Command::deselect);
+        tile().fill(black);
+        execute(Command::paste);
+        execute(Command::pen);
+        EXPECT_EQ(count(red), row.is_plotted_by_pen ? 12 : 0);
+        EXPECT_EQ(pixel_at(cell(3, 3)), red);
+        tile().fill(black);
+        tile().update_texture();
+        editor->redraw(Present::yes);
+        EXPECT_EQ(pixel_at(cell(3, 3)), row.shows_under_pen ? red : black);
+        EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);
+
+        execute(Command::paste);
+        tile().fill(black);
+        click({20, 20});
+        EXPECT_EQ(count(red), 12);
+        EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);
+        work().drop_paste();
+    }
+}
+
+TEST_F(Selection_Test, wand_floats_at_once_in_its_quick_modes) {
+    for (const auto& [mode, holes] : {std::pair{1, 0}, std::pair{2, 8}}) {
+        tile().fill(black);
+        for (int i = 0; i < 8; ++i) {
+            tile().set_pixel(4 + i % 4, 4 + i / 4, red);
+        }
+        // So that the history knows it.
+        execute(Command::mirror);
+        execute(Command::mirror);
+        execute(Command::wand_selector);
+        choose(Tool_Option::wand_mode, mode);
+        click({5, 5});
+        EXPECT_EQ(toolbox->current_tool(), Tool::selection);
+        EXPECT_EQ(count(clear), holes);
+        ASSERT_TRUE(work().paste());
+        EXPECT_EQ(work().paste()->position, (Tile_Point{4, 4}));
+        EXPECT_EQ(work().paste()->picture.size(), (Size{4, 2}));
+        // One step, not two.
+        execute(Command::undo);
+        EXPECT_FALSE(work().paste());
+        EXPECT_EQ(count(red), 8);
+    }
+}
+
+// The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
+class Copy_Panes_Test : public Selection_Test {
+protected:
+    static constexpr Point first_copy{1028 + 16, 266 + 151 + 4 + 26 + 16};
+    static constexpr Point next(Point point, int columns) { return {point.x + 32 * columns, point.y}; }
+
+    // Newest first: five, four, three, two pixels wide.
+    void make_copies() {
+        for (int width = 2; width < 6; ++width) {
+            paint_noise(static_cast<unsigned>(width));
+            select_rectangle({0, 0}, {width, 1});
+            execute(Command::copy);
+            execute(Command::deselect);
+        }
+    }
+};
+
+TEST_F(Copy_Panes_Test, a_click_makes_a_previous_copy_current) {
+    make_copies();
+    script().click(next(first_copy, 3));
+    play();
+    EXPECT_EQ(editor->copies().current_index(), 3U);
+    execute(Command::paste);
+    EXPECT_EQ(work().paste()->picture.size(), (Size{2, 1}));
+    // Nothing was copied there, and the panes show beside no other tool.
+    execute(Command::rectangle_selector);
+    script().click(next(first_copy, 4));
+    play();
+    execute(Command::pen);
+    script().click(first_copy);
+    play();
+    EXPECT_EQ(editor->copies().current_index(), 3U);
+}
+
+TEST_F(Copy_Panes_Test, stay_inside_the_window_beside_every_tool) {
+    make_copies();
+    for (const Command command : {Command::rectangle_selector, Command::circle_selector,
+                                  Command::brush_selector, Command::wand_selector, Command::work_selection}) {
+        execute(command);
+        const int y = std::min(toolbox->beside_entry().y, 632 - 361);
+        script().click({first_copy.x + 64, first_copy.y - 266 + y});
+        play();
+        EXPECT_EQ(editor->copies().current_index(), 2U) << menu_text(command);
+        script().click({first_copy.x, first_copy.y - 266 + y});
+        play();
+        EXPECT_EQ(editor->copies().current_index(), 0U) << menu_text(command);
+        EXPECT_EQ(pixel_at({1030, 634}), pixel_at({1030, 200}));
+    }
+}
+
+TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
+    // Two rows of four: Copy, Cut, Paste, Clone; Clear, Fill, Invert, Deselect.
+    const auto press = [&](int column, int row) {
+        script().click({1028 + 20 + column * 50, 266 + 361 - 5 - 44 + 10 + row * 23});
+        play();
+    };
+    select_rectangle({0, 0}, {4, 4});
+    press(1, 1);
+    EXPECT_EQ(count(tool_colors->color(Mouse_Button::left)), 16);
+    press(0, 0);
+    EXPECT_EQ(editor->copies().copies().size(), 1U);
+    press(0, 1);
+    EXPECT_EQ(count(clear), 16);
+    press(2, 1);
+    EXPECT_EQ(work().selection().count(), 576 - 16);
+    press(3, 1);
+    EXPECT_FALSE(work().has_selection());
+    press(2, 0);
+    EXPECT_TRUE(work().paste());
+}
+
+// What another program puts onto the clipboard.
+class Other_Program {
+public:
+    Other_Program(const char* media_type, std::vector<std::uint8_t> bytes) : bytes_(std::move(bytes)) {
+        EXPECT_TRUE(SDL_SetClipboardData(give, nullptr, this, &media_type, 1));
+    }
+    ~Other_Program() { SDL_ClearClipboardData(); }
+    Other_Program(const Other_Program&) = delete;
+    Other_Program& operator=(const Other_Program&) = delete;
+
+private:
+    static const void* give(void* self, const char* /*media_type*/, std::size_t* size) {
+        const auto& bytes = static_cast<const Other_Program*>(self)->bytes_;
+        *size = bytes.size();
+        return bytes.data();
+    }
+
+    std::vector<std::uint8_t> bytes_;
+};
+
+class Clipboard_Test : public Selection_Test {
+protected:
+    static Tile picture(Size size, Color color) {
+        Tile tile(size.width, size.height);
+        tile.fill(color);
+        return tile;
+    }
+    static Tile on_clipboard(const Picture_Format& format) {
+        std::size_t size = 0;
+        void* const data = SDL_GetClipboardData(format.media_type, &size);
+        const Decoded_Picture decoded = format.decode({static_cast<const std::uint8_t*>(data), size});
+        SDL_free(data);
+        return decoded.picture.value_or(Tile(0, 0));
+    }
+};
+
+TEST_F(Clipboard_Test, what_is_copied_is_there_for_others_in_every_format) {
+    paint_noise(5);
+    tile().set_pixel(3, 3, {1, 2, 3, 77});
+    select_rectangle({2, 2}, {7, 5});
+    execute(Command::copy);
+    for (const Picture_Format& format : picture_formats) {
+        const Tile taken = on_clipboard(format);
+        EXPECT_EQ(taken.size(), (Size{5, 3})) << format.media_type;
+        EXPECT_EQ(taken.get_pixel(1, 1), Color(1, 2, 3, 77)) << format.media_type;
+        EXPECT_EQ(taken.get_pixel(4, 2), tile_pixel(6, 4)) << format.media_type;
+    }
+    // The program does not take its own.
+    execute(Command::paste);
+    EXPECT_EQ(editor->copies().copies().size(), 1U);
+}
+
+TEST_F(Clipboard_Test, pictures_of_others_are_pasted_once_and_then_are_copies_like_any) {
+    for (const Picture_Format& format : picture_formats) {
+        SCOPED_TRACE(format.media_type);
+        execute(Command::copy);
+        const std::size_t copies = editor->copies().copies().size();
+        {
+            const Other_Program other(format.media_type, format.encode(picture({10, 4}, {9, 8, 7, 60})));
+            execute(Command::paste);
+            EXPECT_EQ(work().paste()->position, (Tile_Point{7, 10}));
+            EXPECT_EQ(work().paste()->picture.get_pixel(9, 3), Color(9, 8, 7, 60));
+            execute(Command::paste);
+            EXPECT_EQ(editor->copies().copies().size(), copies + 1);
+        }
+        // Nothing there: the current copy.
+        execute(Command::paste);
+        EXPECT_EQ(work().paste()->picture.size(), (Size{10, 4}));
+        execute(Command::deselect);
+    }
+}
+
+TEST_F(Clipboard_Test, of_a_picture_larger_than_the_tile_nothing_is_lost) {
+    const Tile large = picture({300, 30}, red);
+    const Other_Program other("image/bmp", encode_bitmap(large));
+    execute(Command::paste);
+    EXPECT_EQ(work().paste()->position, Tile_Point{});
+    EXPECT_EQ(work().paste()->picture.size(), large.size());
+    drag({20, 20}, {5, 5});
+    EXPECT_EQ(count(red), 0);
+    execute(Command::plot_paste);
+    EXPECT_EQ(count(red), 24 * 15);
+}
+
+TEST_F(Clipboard_Test, damaged_and_huge_pictures_get_a_note) {
+    execute(Command::copy);
+    const std::vector<std::uint8_t> whole = encode_bitmap(picture({10, 4}, red));
+    const std::string broken = "The picture on the clipboard can't be read.";
+    const std::string too_large = "The picture on the clipboard is too large.";
+    for (const auto& [media_type, bytes, text] :
+         {std::tuple{"image/bmp", std::vector(whole.begin(), whole.end() - 30), broken},
+          std::tuple{"image/bmp", std::vector<std::uint8_t>(3, 'B'), broken},
+          std::tuple{"image/bmp", encode_bitmap(picture({5000, 1}, red)), too_large},
+          std::tuple{"image/bmp", std::vector<std::uint8_t>(most_picture_bytes + 1), too_large}}) {
+        const Other_Program other(media_type, bytes);
+        expect_message("Note", text).key(key::enter);
+        editor->execute(Command::paste);
+        play();
+        EXPECT_FALSE(work().paste());
+        EXPECT_EQ(toolbox->current_tool(), Tool::pen);
+        // It was told once; from now on the program's own copy is meant.
+        execute(Command::paste);
+        EXPECT_TRUE(work().paste());
+        execute(Command::deselect);
+        execute(Command::pen);
+    }
+    const Other_Program text("text/plain;charset=utf-8", {'a', 'b'});
+    execute(Command::paste);
+    EXPECT_TRUE(work().paste());
+}
+
+} // namespace
+} // namespace quadrelle::testing
