@@ -62,6 +62,12 @@ std::optional<Place> Editor::pointed_place() {
     if (documents_.current().strip().area.contains(point)) {
         return Place::strip;
     }
+    if (toolbox->is_in_selection_group() && copy_panes_.current().area.contains(point)) {
+        return Place::copy_buffer;
+    }
+    if (toolbox->is_in_selection_group() && copy_panes_.previous().area.contains(point)) {
+        return Place::previous_copies;
+    }
     return color_place(point);
 }
 
@@ -76,7 +82,8 @@ Pointed Editor::pointed() {
             return Pointed_Pixel{pixel, canvas_.tile()->get_pixel(pixel.x, pixel.y)};
         }
     }
-    for (const Command command : {icon_bar_.command_at(point), toolbox->command_at(point)}) {
+    const Command button = toolbox->is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
+    for (const Command command : {icon_bar_.command_at(point), toolbox->command_at(point), button}) {
         if (command != Command::none) {
             return command;
         }

@@ -23,6 +23,8 @@ public:
     void place(Point top_left);
     void draw(const Copy_Buffer& copies) const;
 
+    [[nodiscard]] const Pane& current() const { return current_; }
+    [[nodiscard]] const Pane& previous() const { return previous_; }
     // The previous copy that is there, if there are so many; the newest one is 0.
     [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
     // Whose button is there, or none.

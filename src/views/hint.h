@@ -31,6 +31,8 @@ enum class Place : int {
     hsv_selector,
     handles,
     variations,
+    copy_buffer,
+    previous_copies,
     count
 };
 
@@ -57,6 +59,8 @@ constexpr std::array place_table = {
     Place_Row{Place::hsv_selector,        "HSV Selector",       "Drag in the square: the color of the button that you press. Drag in the bar: the hue of the square."},
     Place_Row{Place::handles,             "Handles",            "Change the lit color: drag a slider, or click on less, middle and more."},
     Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
+    Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
+    Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take."},
 };
 // clang-format on
 
