@@ -115,7 +115,7 @@ void Editor::redraw(Present present) {
     navigation_.draw(documents_.current().strip());
     strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
-    toolbox->draw();
+    toolbox->draw(pointer_.point());
     hint_lines_.set_hint(hint_of(pointed()));
     hint_lines_.draw();
     if (present == Present::yes) {

@@ -78,6 +78,7 @@ constexpr std::array places{
     Place{"color/palette_area",           Level::panes},
     Place{"color/swatch",                 Level::panes},
     Place{"color/variations",             Level::panes},
+    Place{"tools/brush_pad_panes",        Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
     Place{"tools/icon_bar",               Level::panes},
