@@ -62,7 +62,7 @@ std::optional<Place> Editor::pointed_place() {
     if (documents_.current().strip().area.contains(point)) {
         return Place::strip;
     }
-    return color_place(point);
+    return toolbox->has_brush_pad_at(point) ? Place::brush_pad : color_place(point);
 }
 
 Pointed Editor::pointed() {

@@ -152,9 +152,12 @@ bool Toolbox::delete_brush() {
     return true;
 }
 
+bool Toolbox::has_brush_pad_at(Point point) const {
+    return current_tool_ == Tool::stamp_brush && brush_pad_panes_.cell_at(point).has_value();
+}
+
 bool Toolbox::click_brush_pad(Point point) {
-    const std::optional<Tile_Point> cell = brush_pad_panes_.cell_at(point);
-    if (current_tool_ != Tool::stamp_brush || !cell || !brush_pad_.click(*cell)) {
+    if (!has_brush_pad_at(point) || !brush_pad_.click(*brush_pad_panes_.cell_at(point))) {
         return false;
     }
     take_pad_brush();

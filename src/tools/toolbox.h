@@ -86,8 +86,9 @@ public:
     [[nodiscard]] Command command_at(Point point) const;
     // The colours of the buttons stand beside the list.
     [[nodiscard]] bool shows_colors() const;
-    // True when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and presents the window, while the
-    // pointer is followed.
+    [[nodiscard]] bool has_brush_pad_at(Point point) const;
+    // True when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and presents
+    // the window, while the pointer is followed.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
 
 private:

@@ -31,6 +31,7 @@ enum class Place : int {
     hsv_selector,
     handles,
     variations,
+    brush_pad,
     count
 };
 
@@ -57,6 +58,7 @@ constexpr std::array place_table = {
     Place_Row{Place::hsv_selector,        "HSV Selector",       "Drag in the square: the color of the button that you press. Drag in the bar: the hue of the square."},
     Place_Row{Place::handles,             "Handles",            "Change the lit color: drag a slider, or click on less, middle and more."},
     Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
+    Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
 };
 // clang-format on
 
