@@ -115,7 +115,7 @@ void Editor::redraw(Present present) {
     navigation_.draw(documents_.current().strip());
     strip_picture_.draw(documents_.current().strip());
     documents_.draw_tabs();
-    toolbox->draw();
+    toolbox->draw(pointer_.point());
     if (toolbox->is_in_selection_group()) {
         copy_panes_.place(toolbox->beside_entry());
         copy_panes_.draw(copy_buffer_);

@@ -119,6 +119,9 @@ private:
     Command paste(Command command);
     Command clone(Command command);
     Command plot(Command command);
+    Command use_as_brush(Command command);
+    Command move_brush_to_pad(Command command);
+    Command delete_brush(Command command);
     void deselect();
     void fill_selected(Color color);
     void clear_selected();

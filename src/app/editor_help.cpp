@@ -68,7 +68,7 @@ std::optional<Place> Editor::pointed_place() {
     if (toolbox->is_in_selection_group() && copy_panes_.previous().area.contains(point)) {
         return Place::previous_copies;
     }
-    return color_place(point);
+    return toolbox->has_brush_pad_at(point) ? Place::brush_pad : color_place(point);
 }
 
 Pointed Editor::pointed() {

@@ -89,11 +89,10 @@ Segment_Outcome smudge_along(Drawing_Target& target, const Stroke_Segment& segme
 }
 
 Segment_Outcome fill(Drawing_Target& target, const Stroke_Segment& segment) {
-    const Color color = tool_colors->color(segment.button);
     if (toolbox->value(Tool_Option::fill_mode) == 0) {
-        flood_fill(target, segment.to, color);
+        flood_fill(target, segment.to, tool_colors->color(segment.button));
     } else {
-        flood_fill_with_brush(target, segment.to, toolbox->brush(), color);
+        flood_fill_with_brush(target, segment.to, toolbox->brush(), toolbox->brush_color(segment.button));
     }
     return Segment_Outcome::drawn;
 }

@@ -78,6 +78,9 @@ Brush_Selector::Brush_Selector()
 }
 
 void Brush_Selector::rebuild() {
+    if (owner_ == Brush_Owner::stamp_brush) {
+        owner_ = Brush_Owner::pen;
+    }
     brush_ = built_in_brush(shape_, size_index_, Color(), owner_);
     shape_icons_ = make_shape_icons(shape_);
     size_icons_ = make_size_icons(shape_, size_index_);
@@ -100,6 +103,11 @@ void Brush_Selector::select_shape(Brush_Shape shape) {
 void Brush_Selector::set_owner(Brush_Owner owner) {
     owner_ = owner;
     rebuild();
+}
+
+void Brush_Selector::set_stamp(const Brush& stamp) {
+    owner_ = Brush_Owner::stamp_brush;
+    brush_ = stamp;
 }
 
 int Brush_Selector::move(Point position) {

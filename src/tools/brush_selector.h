@@ -17,7 +17,10 @@ public:
     // 0 to 5, one less than the brush's width. Keeps the shape.
     void select_size(int size_index);
     void select_shape(Brush_Shape shape);
+    // Makes the chosen built-in brush the current one.
     void set_owner(Brush_Owner owner);
+    // A brush with colours of its own, until another built-in one is chosen.
+    void set_stamp(const Brush& stamp);
 
     // Both rows below each other; the y for what comes below.
     int move(Point position);

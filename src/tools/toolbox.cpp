@@ -1,14 +1,18 @@
 #include "tools/toolbox.h"
 
+#include "app/data_directory.h"
 #include "app/options.h"
 #include "app/screen.h"
 #include "color/standard_colors.h"
+#include "tileset/block_file.h"
+#include "tileset/data_stream.h"
 #include "tools/lightness_pace.h"
 #include "tools/tool_colors.h"
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string>
 
 namespace quadrelle {
 
@@ -45,14 +49,38 @@ void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, tool.name);
 }
 
+std::string brush_pad_path() {
+    return data_directory().path("brushpad.dat");
+}
+
+void load_brush_pad(Brush_Pad& pad) {
+    Block_File file(brush_pad_path());
+    if (file.open_read()) {
+        Data_Stream record;
+        record.load_from(file);
+        pad.load(record);
+    }
+}
+
+void save_brush_pad(const Brush_Pad& pad) {
+    Data_Stream record;
+    pad.save(record);
+    static_cast<void>(record.save_to(brush_pad_path()));
+}
+
 } // namespace
 
-Toolbox::Toolbox(Point position) : position_(position) {
+Toolbox::Toolbox(Point position)
+    : position_(position), brush_pad_panes_({position.x + side_offset, position.y}) {
     tool_colors = std::make_unique<Tool_Color_Panel>(Point{position.x + color_panel_offset, position.y});
     lay_out();
+    load_brush_pad(brush_pad_);
 }
 
 Toolbox::~Toolbox() {
+    if (brush_pad_.changed()) {
+        save_brush_pad(brush_pad_);
+    }
     tool_colors.reset();
 }
 
@@ -70,6 +98,9 @@ void Toolbox::lay_out() {
         next.y = brush_selector_.move(next);
     }
     rows_bottom_ = options_.place_rest(current_tool_, next);
+    if (current_tool_ == Tool::stamp_brush) {
+        rows_bottom_ = brush_pad_panes_.move_selected({position_.x, rows_bottom_});
+    }
 }
 
 void Toolbox::select(Command command) {
@@ -79,12 +110,58 @@ void Toolbox::select(Command command) {
     current_command_ = command;
     if (const std::optional<Brush_Owner> owner = brush_owner_of(command)) {
         brush_selector_.set_owner(*owner);
+    } else if (command == Command::stamp_brush && brush_pad_.has_current()) {
+        take_pad_brush();
     }
     const Tool tool = tool_of(command);
     if (tool != Tool::none) {
         current_tool_ = tool;
         lay_out();
     }
+}
+
+void Toolbox::take_pad_brush() {
+    if (brush_pad_.has_current()) {
+        brush_selector_.set_stamp(brush_pad_.current_brush());
+    } else {
+        brush_selector_.set_owner(Brush_Owner::pen);
+    }
+}
+
+bool Toolbox::use_as_brush(const Tile& picture, const Tile& mask) {
+    if (!brush_pad_.make_temporary(picture, mask)) {
+        return false;
+    }
+    take_pad_brush();
+    return true;
+}
+
+bool Toolbox::move_to_pad() {
+    if (!brush_pad_.move_to_pad()) {
+        return false;
+    }
+    take_pad_brush();
+    return true;
+}
+
+bool Toolbox::delete_brush() {
+    if (!brush_pad_.delete_current()) {
+        return false;
+    }
+    take_pad_brush();
+    return true;
+}
+
+bool Toolbox::has_brush_pad_at(Point point) const {
+    return current_tool_ == Tool::stamp_brush && brush_pad_panes_.cell_at(point).has_value();
+}
+
+bool Toolbox::click_brush_pad(Point point) {
+    if (!has_brush_pad_at(point) || !brush_pad_.click(*brush_pad_panes_.cell_at(point))) {
+        return false;
+    }
+    take_pad_brush();
+    return true;
 }
 
 Shape_Type Toolbox::shape_type() const {
@@ -173,7 +250,7 @@ Point Toolbox::pointer_offset(int pixel_size) const {
     return {(size.width - 1) * pixel_size / 2, (size.height - 1) * pixel_size / 2};
 }
 
-void Toolbox::draw() const {
+void Toolbox::draw(Point pointer) {
     for (std::size_t i = 0; i < tool_table.size(); ++i) {
         const Rectangle entry = entry_area(i);
         if (command_at({entry.x, entry.y}) != Command::none) {
@@ -189,6 +266,9 @@ void Toolbox::draw() const {
     } else if (current_tool_ == Tool::dropper) {
         // It takes no clicks on the others.
         tool_colors->draw(Tool_Color_Panes::both_colors);
+    }
+    if (current_tool_ == Tool::stamp_brush) {
+        brush_pad_panes_.draw(brush_pad_, pointer);
     }
 }
 
@@ -210,7 +290,8 @@ Command Toolbox::command_at(Point point) const {
 bool Toolbox::click(const Pointer_State& pointer, const std::function<void()>& redraw) {
     const Tool_Row& tool = row_of(current_tool_);
     return (tool.uses_tool_colors && tool_colors->click(pointer, redraw)) ||
-           (tool.uses_brush && brush_selector_.click(pointer.point())) || options_.click(pointer.point());
+           (tool.uses_brush && brush_selector_.click(pointer.point())) || options_.click(pointer.point()) ||
+           click_brush_pad(pointer.point());
 }
 
 } // namespace quadrelle

@@ -5,6 +5,8 @@
 #include "app/command.h"
 #include "app/geometry.h"
 #include "app/input.h"
+#include "tools/brush_pad.h"
+#include "tools/brush_pad_panes.h"
 #include "tools/brush_selector.h"
 #include "tools/canvas_action.h"
 #include "tools/pens.h"
@@ -25,8 +27,10 @@ enum class Scroll_Move : std::int32_t { both, pixels, selection };
 
 class Toolbox {
 public:
-    // The top-left corner of the tool list.
+    // The top-left corner of the tool list. Reads the brush pad from the data directory; a file that is
+    // shorter than it says is fatal.
     explicit Toolbox(Point position);
+    // Writes the brush pad when it was changed; says nothing when it cannot.
     ~Toolbox();
 
     // Any command may come here; one that selects a tool makes it the current one.
@@ -73,17 +77,28 @@ public:
     // 0 to 5.
     void select_brush_size(int size_index) { brush_selector_.select_size(size_index); }
 
-    void draw() const;
+    [[nodiscard]] const Brush_Pad& brush_pad() const { return brush_pad_; }
+    // The operations of the brush pad. What is its current brush then becomes the one that the stamp brush
+    // paints with, or a built-in one without.
+    bool use_as_brush(const Tile& picture, const Tile& mask);
+    bool move_to_pad();
+    bool delete_brush();
+
+    // What lies under the pointer may show it.
+    void draw(Point pointer);
     // The tool whose entry in the list is there and not covered, or none.
     [[nodiscard]] Command command_at(Point point) const;
     // The colours of the buttons stand beside the list.
     [[nodiscard]] bool shows_colors() const;
-    // True when an option, a brush or a colour was chosen. `redraw` draws and presents the window, while the
-    // pointer is followed.
+    [[nodiscard]] bool has_brush_pad_at(Point point) const;
+    // True when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and presents
+    // the window, while the pointer is followed.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
 
 private:
     void lay_out();
+    void take_pad_brush();
+    [[nodiscard]] bool click_brush_pad(Point point);
     [[nodiscard]] Rectangle entry_area(std::size_t index) const;
 
     Point position_;
@@ -95,6 +110,8 @@ private:
     std::int64_t last_step_time_ = -1000; // so that the first step is never too early
     Brush_Selector brush_selector_;
     Tool_Options options_;
+    Brush_Pad brush_pad_;
+    Brush_Pad_Panes brush_pad_panes_;
 };
 
 // Built at start-up inside the data directory, destroyed there too.

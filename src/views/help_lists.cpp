@@ -30,6 +30,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Click in the list of tools",           "chooses the tool"},
     {"Arrows and marks of a tool's options", "step through the choices, turn them on and off"},
     {"Click on a brush shape or size",       "chooses it"},
+    {"Click on a brush of the Brush pad",    "makes it the one that the stamp brush paints with"},
     {"Left or right button on the palette",  "takes the color for that button"},
     {"Shift and click on the palette",       "stores the color of that button there"},
     {"Drag in HSV Selector",                 "picks a hue from the bar, or a color from the square for that button"},

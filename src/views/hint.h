@@ -33,6 +33,7 @@ enum class Place : int {
     variations,
     copy_buffer,
     previous_copies,
+    brush_pad,
     count
 };
 
@@ -61,6 +62,7 @@ constexpr std::array place_table = {
     Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
     Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
     Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take."},
+    Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
 };
 // clang-format on
 

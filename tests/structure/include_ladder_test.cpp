@@ -80,6 +80,7 @@ constexpr std::array places{
     Place{"color/swatch",                 Level::panes},
     Place{"color/variations",             Level::panes},
     Place{"selection/copy_panes",         Level::panes},
+    Place{"tools/brush_pad_panes",        Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
     Place{"tools/icon_bar",               Level::panes},

@@ -1,0 +1,38 @@
+#pragma once
+
+// The panes "Selected" and "Brush pad", which show the brush pad. Know no tool.
+
+#include "tools/brush_pad.h"
+#include "ui/pane.h"
+
+#include <memory>
+#include <optional>
+
+namespace quadrelle {
+
+class Brush_Pad_Panes {
+public:
+    // The top-left corner of the board's pane. The other one has none yet.
+    explicit Brush_Pad_Panes(Point board);
+
+    // The y for what comes below.
+    int move_selected(Point position);
+    // The frame of the brush under the pointer is red.
+    void draw(const Brush_Pad& pad, Point pointer);
+    // None outside of the board's pane.
+    [[nodiscard]] std::optional<Tile_Point> cell_at(Point point) const;
+
+private:
+    void update_pictures(const Brush_Pad& pad, std::uint8_t hovered);
+    void draw_selected() const;
+
+    Pane selected_pane_;
+    Pane board_pane_;
+    // One pixel for each cell of the board, and of the current brush, which may be none.
+    Tile board_picture_;
+    std::unique_ptr<Tile> selected_picture_;
+    std::optional<int> shown_revision_;
+    std::uint8_t shown_hovered_ = 0;
+};
+
+} // namespace quadrelle

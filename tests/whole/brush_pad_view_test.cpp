@@ -1,0 +1,224 @@
+// Brushes made from what is selected, kept on the pad, chosen there and painted with.
+
+#include "tests/whole/program_test.h"
+
+#include "app/application.h"
+#include "app/menu_table.h"
+#include "tools/tool_colors.h"
+#include "tools/toolbox.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <optional>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color black(0, 0, 0);
+constexpr Color red(255, 0, 0);
+constexpr Color dark_grey(64, 64, 64);
+constexpr Color pane_background(137, 137, 137);
+
+// Where the user clicks for that cell of the board.
+Point board_point(int x, int y) {
+    return {1028 + 3 * x + 1, 58 + 3 * y + 1};
+}
+
+class Brush_Pad_View_Test : public Program_Test {
+protected:
+    static Tile& tile() { return *document().tileset().current_tile(); }
+    static Work_Area& work() { return editor->canvas().work_area(); }
+    static Color gradient(int x, int y) { return {10 * x, 10 * y, 77}; }
+
+    // Every pixel has a colour of its own.
+    static void paint_gradient() {
+        for (int y = 0; y < 24; ++y) {
+            for (int x = 0; x < 24; ++x) {
+                tile().set_pixel(x, y, gradient(x, y));
+            }
+        }
+    }
+    static void select(Tile_Point from, Tile_Point to) {
+        work().deselect();
+        work().select(selected_rectangle({24, 24}, from, to), Selection_Change::add);
+    }
+    void choose_in_edit_menu(Command command) {
+        const auto& rows = menu_table.at(1).rows;
+        const auto row = std::ranges::find(rows, command, &Menu_Row::command) - rows.begin();
+        script().press({48, 12}).press({60, 25 + 25 * static_cast<int>(row) + 12}).motion({800, 600});
+        play();
+    }
+    // A brush of that rectangle of the gradient on the pad.
+    void lay_on_pad(Tile_Point from, Tile_Point to) {
+        select(from, to);
+        choose_in_edit_menu(Command::use_as_brush);
+        choose_in_edit_menu(Command::move_to_pad);
+        execute(Command::deselect);
+    }
+    void expect_note(const std::string& text, Command command) {
+        expect_message("Note", text).key(key::escape);
+        execute(command);
+    }
+    // The tile is black but for what `expected` gives.
+    using Picture_Function = std::function<std::optional<Color>(int x, int y)>;
+    void expect_painted(const Picture_Function& expected) {
+        for (int y = 0; y < 24; ++y) {
+            for (int x = 0; x < 24; ++x) {
+                EXPECT_EQ(tile_pixel(x, y), expected(x, y).value_or(black)) << x << ", " << y;
+            }
+        }
+        tile().fill(black);
+    }
+};
+
+TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes) {
+    paint_gradient();
+    execute(Command::circle_selector);
+    script().drag({cell(5, 6), cell(7, 8)});
+    play();
+    const Selection circle = work().selection();
+    ASSERT_EQ(circle.bounds(), (Rectangle{3, 4, 5, 5}));
+    ASSERT_FALSE(circle.contains({3, 4}));
+    choose_in_edit_menu(Command::use_as_brush);
+    EXPECT_EQ(toolbox->current_tool(), Tool::stamp_brush);
+    ASSERT_EQ(toolbox->brush().size(), (Size{5, 5}));
+    execute(Command::deselect);
+    tile().fill(black);
+    const auto brush_pixel = [&](int x, int y) {
+        const bool is_set = x >= 0 && y >= 0 && x < 5 && y < 5 && circle.contains({3 + x, 4 + y});
+        return is_set ? std::optional(gradient(3 + x, 4 + y)) : std::nullopt;
+    };
+    tool_colors->set_color(Mouse_Button::left, red);
+    script().motion(cell(12, 13));
+    play();
+    EXPECT_EQ(pixel_at(cell(12, 13)), gradient(5, 6)) << "the preview is centred on the pointer";
+    EXPECT_EQ(tile_pixel(12, 13), black);
+    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+        script().click(cell(12, 13), button);
+        play();
+        expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 11); });
+    }
+    toolbox->options().set_value(Tool_Option::stamp_mode, static_cast<int>(Pen_Mode::offset));
+    script().click(cell(13, 14));
+    play();
+    expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 10); });
+    toolbox->options().set_value(Tool_Option::stamp_mode, static_cast<int>(Pen_Mode::pattern));
+    script().click(cell(13, 14));
+    play();
+    expect_painted([&](int x, int y) {
+        const bool is_covered = x >= 11 && x < 16 && y >= 12 && y < 17;
+        return is_covered ? brush_pixel(x % 5, y % 5) : std::nullopt;
+    });
+    // Filling with it, seen from the seed on.
+    execute(Command::flood_fill);
+    toolbox->options().set_value(Tool_Option::fill_mode, 1);
+    script().click(cell(7, 8));
+    play();
+    expect_painted([&](int x, int y) { return brush_pixel((x + 3) % 5, (y + 2) % 5); });
+    // A key for a size asks for a built-in brush again.
+    script().key('b').key('3').click(cell(4, 4));
+    play();
+    EXPECT_EQ(toolbox->brush().owner(), Brush_Owner::pen);
+    EXPECT_EQ(tile_pixel(4, 4), red);
+}
+
+TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) {
+    paint_gradient();
+    tile().set_pixel(3, 2, {9, 9, 9, 0});
+    tile().set_pixel(4, 2, {9, 9, 9, 100});
+    select({2, 2}, {5, 3});
+    execute(Command::copy);
+    execute(Command::paste);
+    choose_in_edit_menu(Command::use_as_brush);
+    EXPECT_FALSE(work().paste()) << "changing the tool plots it";
+    ASSERT_EQ(toolbox->brush().size(), (Size{3, 1}));
+    EXPECT_EQ(toolbox->brush().pixel(0, 0), gradient(2, 2));
+    EXPECT_EQ(toolbox->brush().pixel(1, 0), std::nullopt);
+    EXPECT_EQ(toolbox->brush().pixel(2, 0), Color(9, 9, 9, 100));
+    // A selection takes its transparent pixels along.
+    select({3, 2}, {5, 3});
+    choose_in_edit_menu(Command::use_as_brush);
+    EXPECT_EQ(toolbox->brush().pixel(0, 0), Color(9, 9, 9, 0));
+    select({3, 2}, {4, 3});
+    execute(Command::copy);
+    execute(Command::paste);
+    expect_note("Unable to add a new brush for some reason.", Command::use_as_brush);
+    EXPECT_EQ(toolbox->current_tool(), Tool::selection);
+}
+
+TEST_F(Brush_Pad_View_Test, commands_say_why_they_do_nothing) {
+    expect_note("Nothing selected to use as brush.", Command::use_as_brush);
+    expect_note("Select stamp brush tool to copy the current brush to the pad.", Command::move_to_pad);
+    expect_note("Select stamp brush tool to delete the current brush.", Command::delete_brush);
+    execute(Command::stamp_brush);
+    const std::string refused = "Failed to add brush to pad. Either it's already there,\rthere is no current "
+                                "brush or the pad is full.";
+    expect_note(refused, Command::move_to_pad);
+    expect_note("There is no brush selected to delete from the pad.", Command::delete_brush);
+    lay_on_pad({0, 0}, {2, 2});
+    expect_note(refused, Command::move_to_pad);
+    EXPECT_EQ(toolbox->brush_pad().brushes().size(), 1U);
+}
+
+TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
+    paint_gradient();
+    lay_on_pad({0, 0}, {4, 4});
+    lay_on_pad({10, 10}, {12, 13});
+    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3}));
+    // The first one lies on the cells 0 to 5, the second one on 6 to 9.
+    script().motion(board_point(0, 0));
+    play();
+    EXPECT_EQ(pixel_at(board_point(0, 0)), red);
+    EXPECT_EQ(pixel_at(board_point(6, 0)), dark_grey);
+    EXPECT_EQ(pixel_at(board_point(3, 4)), gradient(2, 3));
+    script().click(board_point(0, 0));
+    play();
+    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    script().click(board_point(6, 4)).click(board_point(30, 100));
+    play();
+    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "free cells choose nothing";
+    EXPECT_EQ(pixel_at(board_point(0, 0)), dark_grey);
+    // With other tools the pad is not there.
+    EXPECT_EQ(pixel_at(board_point(20, 150)), pane_background);
+    execute(Command::dropper);
+    script().click(board_point(0, 0));
+    play();
+    EXPECT_EQ(toolbox->brush_pad().current()->id, 2);
+    EXPECT_NE(pixel_at(board_point(20, 150)), pane_background);
+    // Brushes go one after the other; the pen's is left.
+    execute(Command::stamp_brush);
+    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3}));
+    choose_in_edit_menu(Command::delete_brush);
+    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    choose_in_edit_menu(Command::delete_brush);
+    EXPECT_EQ(toolbox->brush().owner(), Brush_Owner::pen);
+    EXPECT_FALSE(toolbox->brush_pad().has_current());
+}
+
+TEST_F(Brush_Pad_View_Test, pad_is_kept_until_the_next_start) {
+    const std::filesystem::path file(folder().data_path("brushpad.dat"));
+    const auto start_again = [] {
+        shut_down_application();
+        start_application();
+        ASSERT_TRUE(editor->show_first_frame());
+    };
+    start_again();
+    EXPECT_FALSE(std::filesystem::exists(file)) << "nothing was kept";
+    paint_gradient();
+    lay_on_pad({3, 3}, {6, 5});
+    start_again();
+    ASSERT_TRUE(std::filesystem::exists(file));
+    ASSERT_EQ(toolbox->brush_pad().brushes().size(), 1U);
+    EXPECT_FALSE(toolbox->brush_pad().has_current());
+    script().key('b').click(board_point(2, 2));
+    play();
+    ASSERT_EQ(toolbox->brush().size(), (Size{3, 2}));
+    EXPECT_EQ(toolbox->brush().pixel(2, 1), gradient(5, 4));
+    std::filesystem::remove(file);
+    start_again();
+    EXPECT_FALSE(std::filesystem::exists(file)) << "choosing changes nothing on the board";
+}
+
+} // namespace
+} // namespace quadrelle::testing
