@@ -53,9 +53,6 @@ std::optional<Place> Editor::pointed_place() {
             return place;
         }
     }
-    if (menu_bar_->contains(point)) {
-        return Place::menus;
-    }
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
     }
@@ -67,6 +64,11 @@ std::optional<Place> Editor::pointed_place() {
 
 Pointed Editor::pointed() {
     const Point point = pointer_.point();
+    // An open menu covers what else is there.
+    if (menu_bar_->contains(point)) {
+        const Command row = menu_bar_->command_at(point);
+        return row == Command::none ? Pointed(Place::menus) : Pointed(row);
+    }
     if (canvas_viewport.contains(point)) {
         if (canvas_.tile() == nullptr) {
             return Place::canvas_without_tile;

@@ -159,6 +159,12 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         execute(Command::context_info);
         EXPECT_EQ(asked, "dialog \"" + test.title + "\"");
     }
+    // An open menu's row, also over the canvas.
+    script().click({20, 12}).motion({30, 88}).check(
+        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Load"); });
+    script().motion({205, 12}).motion({270, 70}).check(
+        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Mouse commands"); });
+    script().key(key::escape);
     script().motion(cases.at(1).point).key(key::f1);
     expect_message("Lightness pen (L)", std::string(description(Command::lightness_pen))).key(key::escape);
     script().motion(cell(3, 4)).key(key::f1);
