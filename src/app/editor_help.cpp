@@ -78,7 +78,8 @@ Pointed Editor::pointed() {
             return Pointed_Pixel{pixel, canvas_.tile()->get_pixel(pixel.x, pixel.y)};
         }
     }
-    for (const Command command : {icon_bar_.command_at(point), toolbox->command_at(point)}) {
+    for (const Command command :
+         {icon_bar_.command_at(point), toolbox->command_at(point), navigation_.command_at(point)}) {
         if (command != Command::none) {
             return command;
         }

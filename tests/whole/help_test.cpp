@@ -139,6 +139,8 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         {{900, 198}, "Pen (p)", pen},
         {{100, 100}, "Preview", "The current tile"},
         {{100, 290}, "Magnification", "How large"},
+        {{60, 320}, "Tileset navigation", "Steps to"},
+        {{185, 348}, "Next tile strip (>)", "Scroll to"},
         {{100, 400}, "History", "The newest steps"},
         {{100, 500}, "Palette", "Left or right"},
         {{100, 612}, "Selected", "The color of"},
