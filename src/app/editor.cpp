@@ -239,9 +239,6 @@ bool Editor::click_strip() {
     Tileset_Document& document = documents_.current();
     const int tile = document.strip().tile_at(pointer_.point());
     if (tile >= 0 && tile != document.tileset().current_index()) {
-        if (options->value(Option::clear_selection) == 1) {
-            canvas_.work_area().deselect();
-        }
         document.tileset().select(tile);
         execute(Command::change_tile);
         size_preview();

@@ -51,6 +51,7 @@ bool leaves_selection(Command command) {
     switch (command) {
     case Command::next_tile:
     case Command::previous_tile:
+    case Command::change_tile:
     case Command::add_new_tile:
     case Command::delete_tile: return true;
     default: return false;

@@ -53,9 +53,6 @@ std::optional<Place> Editor::pointed_place() {
             return place;
         }
     }
-    if (menu_bar_->contains(point)) {
-        return Place::menus;
-    }
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
     }
@@ -73,6 +70,11 @@ std::optional<Place> Editor::pointed_place() {
 
 Pointed Editor::pointed() {
     const Point point = pointer_.point();
+    // An open menu covers what else is there.
+    if (menu_bar_->contains(point)) {
+        const Command row = menu_bar_->command_at(point);
+        return row == Command::none ? Pointed(Place::menus) : Pointed(row);
+    }
     if (canvas_viewport.contains(point)) {
         if (canvas_.tile() == nullptr) {
             return Place::canvas_without_tile;
@@ -83,7 +85,8 @@ Pointed Editor::pointed() {
         }
     }
     const Command button = toolbox->is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
-    for (const Command command : {icon_bar_.command_at(point), toolbox->command_at(point), button}) {
+    for (const Command command :
+         {icon_bar_.command_at(point), toolbox->command_at(point), button, navigation_.command_at(point)}) {
         if (command != Command::none) {
             return command;
         }

@@ -15,8 +15,12 @@ Command Editor::view_in_real_size(Command command) {
 
 Command Editor::arrange(Command command) {
     Tileset_Document& document = documents_.current();
+    const int before = document.tileset().current_index();
     const bool has_swapped = Arrangement(document.tileset()).run();
     take_current_tile();
+    if (document.tileset().current_index() != before) {
+        document.strip().show_current();
+    }
     if (has_swapped) {
         // Another picture came into view, though maybe in the same tile.
         canvas_.save_history();

@@ -84,7 +84,7 @@ void Menu_Bar::draw_header(const Menu& menu, bool is_highlighted) const {
 }
 
 void Menu_Bar::draw_open_menu(const Pointer_State& pointer) const {
-    const Menu& menu = menus_.at(static_cast<std::size_t>(open_menu_));
+    const Menu& menu = *open_menu();
     draw_header(menu, true);
     screen->draw_panel(menu.box, menu_color);
     for (const Item& item : menu.items) {
@@ -96,6 +96,25 @@ void Menu_Bar::draw_open_menu(const Pointer_State& pointer) const {
         screen->draw_text(is_lit ? Font::header : menu_font,
                           {item.area.x + text_offset.x, item.area.y + text_offset.y}, item.text);
     }
+}
+
+const Menu_Bar::Menu* Menu_Bar::open_menu() const {
+    return open_menu_ < 0 ? nullptr : &menus_.at(static_cast<std::size_t>(open_menu_));
+}
+
+bool Menu_Bar::contains(Point point) const {
+    const Menu* const menu = open_menu();
+    return area_.contains(point) || (menu != nullptr && menu->box.contains(point));
+}
+
+Command Menu_Bar::command_at(Point point) const {
+    const Menu* const menu = open_menu();
+    if (menu == nullptr) {
+        return Command::none;
+    }
+    const auto item =
+        std::ranges::find_if(menu->items, [&](const Item& row) { return row.area.contains(point); });
+    return item == menu->items.end() ? Command::none : item->command;
 }
 
 int Menu_Bar::header_at(Point point) const {
@@ -144,14 +163,9 @@ Loop_Step Menu_Bar::handle(const SDL_Event& event, Pointer_State& pointer, Comma
 }
 
 Loop_Step Menu_Bar::press(Point point, Command& chosen) const {
-    const Menu& menu = menus_.at(static_cast<std::size_t>(open_menu_));
-    if (!menu.box.contains(point)) {
-        return Loop_Step::end;
-    }
-    const auto item = std::ranges::find_if(
-        menu.items, [&](const Item& candidate) { return candidate.area.contains(point); });
-    chosen = item == menu.items.end() ? Command::none : item->command;
-    return chosen == Command::none ? Loop_Step::go_on : Loop_Step::end;
+    chosen = command_at(point);
+    const bool is_outside = !open_menu()->box.contains(point);
+    return is_outside || chosen != Command::none ? Loop_Step::end : Loop_Step::go_on;
 }
 
 } // namespace quadrelle

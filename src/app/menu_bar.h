@@ -31,7 +31,10 @@ public:
     // Runs the menu whose header lies under the pointer until an item is chosen or the menu dismissed. Keeps
     // the pointer up to date meanwhile.
     [[nodiscard]] Command click(Pointer_State& pointer);
-    [[nodiscard]] bool contains(Point point) const { return area_.contains(point); }
+    // Whether a header or the open menu is there.
+    [[nodiscard]] bool contains(Point point) const;
+    // That of the open menu's row that is there, or none.
+    [[nodiscard]] Command command_at(Point point) const;
 
 private:
     struct Item {
@@ -50,6 +53,8 @@ private:
     void add_menu(std::size_t column);
     void draw_header(const Menu& menu, bool is_highlighted) const;
     void draw_open_menu(const Pointer_State& pointer) const;
+    // Null while none is open.
+    [[nodiscard]] const Menu* open_menu() const;
     [[nodiscard]] int header_at(Point point) const;
     [[nodiscard]] Loop_Step handle(const SDL_Event& event, Pointer_State& pointer, Command& chosen);
     [[nodiscard]] Loop_Step press(Point point, Command& chosen) const;

@@ -1,8 +1,8 @@
 #include "tileset/document_statistics.h"
 
 #include "tileset/document.h"
-#include "tileset/document_tabs.h"
 #include "tileset/tileset_file.h"
+#include "ui/shown_text.h"
 #include "ui/wrapped_text.h"
 
 namespace quadrelle {
@@ -14,7 +14,7 @@ constexpr std::size_t most_name_lines = 8;
 
 // The end of a long path says more than its start.
 std::string shown_name(const std::string& name) {
-    std::vector<std::string> lines = wrapped_text(Font::regular, printable(name), name_width);
+    std::vector<std::string> lines = wrapped_text(Font::regular, shown_text(name), name_width);
     if (lines.size() > most_name_lines) {
         lines.erase(lines.begin(), lines.end() - most_name_lines);
         lines.insert(lines.begin(), "...");

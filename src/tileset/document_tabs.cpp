@@ -3,6 +3,7 @@
 #include "app/screen.h"
 #include "app/texture.h"
 #include "tileset/sprite_sheet.h"
+#include "ui/shown_text.h"
 
 #include <algorithm>
 
@@ -18,30 +19,7 @@ constexpr int arrow_gap = 1;
 constexpr Rectangle left_arrow{row.x - arrow_gap - arrow.width, row.y + 3, arrow.width, arrow.height};
 constexpr Rectangle right_arrow{row.right() + arrow_gap, row.y + 3, arrow.width, arrow.height};
 
-// The end of a long path says more than its start.
-std::string shortened(const std::string& title) {
-    std::size_t start = 0;
-    while (screen->text_width(Font::pane_header, title.substr(start)) > longest_title) {
-        ++start;
-    }
-    return start == 0 ? title : "..." + title.substr(start);
-}
-
 } // namespace
-
-std::string printable(const std::string& title) {
-    std::string text;
-    for (const char byte : title) {
-        const auto code = static_cast<unsigned char>(byte);
-        const bool continues_a_character = (code & 0xc0U) == 0x80U;
-        if (code < 0x80U) {
-            text += byte;
-        } else if (!continues_a_character) {
-            text += '?';
-        }
-    }
-    return text;
-}
 
 Document_Tabs::Document_Tabs() = default;
 Document_Tabs::~Document_Tabs() = default;
@@ -52,7 +30,9 @@ void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t 
     int x = row.x;
     for (std::size_t i = 0; i < titles.size(); ++i) {
         const Header_Style style = i == current ? Header_Style::active : Header_Style::passive;
-        auto label = screen->make_header(shortened(printable(titles[i])), style);
+        // The end of a long path says more than its start.
+        const std::string title = fitted_text(Font::pane_header, titles[i], longest_title, Left_Out::start);
+        auto label = screen->make_header(title, style);
         const Rectangle area{x, row.y, label->size().width, row.height};
         x = area.right();
         tabs_.push_back({static_cast<int>(i), area, std::move(label)});

@@ -14,9 +14,6 @@ namespace quadrelle {
 
 class Texture;
 
-// The letters are ASCII: every other character of the UTF-8 text shows as one question mark.
-[[nodiscard]] std::string printable(const std::string& title);
-
 class Document_Tabs {
 public:
     Document_Tabs();

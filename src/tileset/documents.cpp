@@ -47,7 +47,10 @@ void Documents::add(std::unique_ptr<Tileset_Document> document) {
 
 void Documents::make_current(std::size_t index) {
     current_ = index;
-    current().tileset().select(0);
+    if (current().tileset().current_index() != 0) {
+        current().tileset().select(0);
+        current().strip().show_current();
+    }
     refresh_titles();
     current_changed_();
 }

@@ -88,17 +88,25 @@ void Tile_Navigation_Pane::draw(const Tile_Strip& strip) const {
     }
 }
 
-Command Tile_Navigation_Pane::click(Point point) {
-    if (!contains(point)) {
-        return Command::none;
-    }
-    for (std::size_t i = 0; i < buttons.size(); ++i) {
+std::optional<std::size_t> Tile_Navigation_Pane::button_at(Point point) const {
+    for (std::size_t i = 0; contains(point) && i < buttons.size(); ++i) {
         if (area_of(i).contains(point)) {
-            held_ = i;
-            return buttons[i].command;
+            return i;
         }
     }
-    return Command::none;
+    return std::nullopt;
+}
+
+Command Tile_Navigation_Pane::command_at(Point point) const {
+    const std::optional<std::size_t> button = button_at(point);
+    return button ? buttons.at(*button).command : Command::none;
+}
+
+Command Tile_Navigation_Pane::click(Point point) {
+    if (const std::optional<std::size_t> button = button_at(point)) {
+        held_ = button;
+    }
+    return command_at(point);
 }
 
 } // namespace quadrelle

@@ -18,12 +18,15 @@ public:
 
     using Pane::draw;
     void draw(const Tile_Strip& strip) const;
-    // The command of the button that is there, which is held from now on, or none. A disabled button answers
-    // too: its command finds nothing to do.
+    // That of the button that is there, or none. A disabled button answers too: its command finds nothing to
+    // do.
+    [[nodiscard]] Command command_at(Point point) const;
+    // The same; the button is held from now on.
     Command click(Point point);
     void release() { held_.reset(); }
 
 private:
+    [[nodiscard]] std::optional<std::size_t> button_at(Point point) const;
     [[nodiscard]] Rectangle area_of(std::size_t button) const;
 
     std::optional<std::size_t> held_;

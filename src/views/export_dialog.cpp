@@ -53,6 +53,14 @@ void draw_mark(Point tip, Point direction) {
     draw_triangle(0, mark_length, 0, standard_color(Standard_Color::highlight));
 }
 
+// A touch pad reports parts of a step, and steps to the side.
+Point wheel_step(const SDL_MouseWheelEvent& event) {
+    const auto pixels = [](float steps) {
+        return static_cast<int>(std::clamp(steps, -100.0F, 100.0F) * scroll_step);
+    };
+    return {pixels(event.x), -pixels(event.y)};
+}
+
 } // namespace
 
 Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
@@ -83,7 +91,7 @@ Loop_Step Export_Dialog::handle(const SDL_Event& event) {
     case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
     case SDL_EVENT_MOUSE_BUTTON_UP: dragged_from_.reset(); break;
     case SDL_EVENT_MOUSE_MOTION: drag_to(pointer_of(event.motion).point()); break;
-    case SDL_EVENT_MOUSE_WHEEL: scroll_by({0, -static_cast<int>(event.wheel.y) * scroll_step}); break;
+    case SDL_EVENT_MOUSE_WHEEL: scroll_by(wheel_step(event.wheel)); break;
     default: break;
     }
     return Loop_Step::go_on;

@@ -68,6 +68,7 @@ private:
     Loop_Step handle(const SDL_Event& event);
     Loop_Step handle_key(Keycode pressed);
     bool handle_list_key(Keycode pressed);
+    void type(std::string_view text);
     Loop_Step press(Point point);
     Loop_Step press_list(Point point);
     void scroll(float amount);
@@ -137,10 +138,7 @@ Loop_Step Own_Chooser::handle(const SDL_Event& event) {
     switch (event.type) {
     case SDL_EVENT_QUIT: return Loop_Step::end;
     case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_TEXT_INPUT:
-        focus_ = Part::name;
-        name_.insert(event.text.text);
-        break;
+    case SDL_EVENT_TEXT_INPUT: type(event.text.text); break;
     case SDL_EVENT_MOUSE_WHEEL: scroll(event.wheel.y); break;
     case SDL_EVENT_MOUSE_MOTION: list_.drag(pointer_of(event.motion).point()); break;
     case SDL_EVENT_MOUSE_BUTTON_UP: list_.release(); break;
@@ -196,6 +194,15 @@ void Own_Chooser::move_to(int rows) {
     focus_ = Part::list;
     list_.move_selection(rows);
     show_selection();
+}
+
+// From the list on a new name is typed, not more of the one that is selected.
+void Own_Chooser::type(std::string_view text) {
+    if (focus_ == Part::list) {
+        name_.set_text("");
+    }
+    focus_ = Part::name;
+    name_.insert(text);
 }
 
 // A file's name can be changed in the line before it is chosen.

@@ -11,7 +11,8 @@ namespace {
 
 constexpr int keyboard_columns = 3;
 constexpr std::string_view key_legend =
-    "^ stands for Ctrl, ~ for Alt, a capital letter for Shift and the letter.";
+    "^ stands for Ctrl, ~ for Alt, a capital letter for Shift and the letter.\r"
+    "< and > are the key \\ without and with Shift; *, + and - those of the keypad.";
 
 struct Mouse_Row {
     std::string_view what;

@@ -68,18 +68,6 @@ TEST(Tile_Strip, scrolls_no_further_than_the_current_tile_needs) {
     }
 }
 
-TEST(Tile_Strip, stays_filled_when_tiles_go) {
-    Tileset tileset = tileset_of(60);
-    Tile_Strip strip(tileset);
-    strip.forward();
-    for (int left = 59; left > 0; --left) {
-        tileset.delete_current();
-        strip.show_current();
-        EXPECT_EQ(strip.first(), std::max(left - visible, 0));
-        EXPECT_GE(strip.cell_of_current(), 0);
-    }
-}
-
 TEST(Tile_Strip, finds_the_tile_under_a_point) {
     for (const int count : {0, 1, 10, 51, 60, 200}) {
         const Tileset tileset = tileset_of(count);

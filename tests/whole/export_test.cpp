@@ -112,7 +112,7 @@ TEST_F(Export_Test, shows_a_larger_picture_from_its_corner_and_moves_it) {
     expect_pixel({view.right() - 60, view.y + 10}, shown_tile(15));
     // The sixteen rows of 33 pixels are 16 pixels higher than the view.
     script().wheel(-1);
-    expect_pixel({view.right() - 60, view.y + 18}, {0, 0, 0}).wheel(5);
+    expect_pixel({view.right() - 60, view.y + 18}, {0, 0, 0}).wheel(0.5F);
     expect_pixel({view.right() - 60, view.y + 18}, shown_tile(15)).key(key::escape);
     execute(Command::export_bitmap);
 }

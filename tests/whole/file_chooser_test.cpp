@@ -143,6 +143,10 @@ TEST_F(File_Chooser_Test, walks_through_folders_by_keyboard_mouse_and_name) {
     press({key::down, key::down, key::tab, key::home, key::delete_key});
     text("sl").key(key::keypad_enter);
     EXPECT_EQ(ask(File_Dialog_Kind::save_tileset), in_art("one/two/sleep.qdl"));
+    // What is typed over the list replaces the name of the file that is selected there.
+    press({key::down, key::down});
+    text("nap").key(key::enter);
+    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset), in_art("one/two/nap.qdl"));
     script().quit();
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), "cancelled");
 }

@@ -139,6 +139,8 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         {{900, 198}, "Pen (p)", pen},
         {{100, 100}, "Preview", "The current tile"},
         {{100, 290}, "Magnification", "How large"},
+        {{60, 320}, "Tileset navigation", "Steps to"},
+        {{185, 348}, "Next tile strip (>)", "Scroll to"},
         {{100, 400}, "History", "The newest steps"},
         {{100, 500}, "Palette", "Left or right"},
         {{100, 612}, "Selected", "The color of"},
@@ -159,6 +161,12 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         execute(Command::context_info);
         EXPECT_EQ(asked, "dialog \"" + test.title + "\"");
     }
+    // An open menu's row, also over the canvas.
+    script().click({20, 12}).motion({30, 88}).check(
+        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Load"); });
+    script().motion({205, 12}).motion({270, 70}).check(
+        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Mouse commands"); });
+    script().key(key::escape);
     script().motion(cases.at(1).point).key(key::f1);
     expect_message("Lightness pen (L)", std::string(description(Command::lightness_pen))).key(key::escape);
     script().motion(cell(3, 4)).key(key::f1);

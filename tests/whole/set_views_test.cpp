@@ -200,6 +200,7 @@ TEST_F(Set_Views_Test, arrangement_agrees_with_a_simple_model_whatever_is_done) 
 
             expect_images(model.images);
             EXPECT_EQ(tileset().current_index(), model.current);
+            EXPECT_GE(document().strip().cell_of_current(), 0);
             EXPECT_EQ(canvas().tile(), tileset().current_tile());
             EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
             const int shown = model.images.at(static_cast<std::size_t>(model.current));
@@ -338,9 +339,11 @@ TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
         EXPECT_EQ(pixel_at(in_cell(59)), image_pixel(59, 2));
     });
     script().press(in_cell(41));
+    canvas().work_area().invert_selection();
     expect_loop("main").motion({5, 5});
     play();
     EXPECT_EQ(tileset().current_index(), 41);
+    EXPECT_FALSE(canvas().work_area().has_selection());
     EXPECT_EQ(pixel_at(first_pixel), image_pixel(41, 0));
     EXPECT_EQ(count_in_preview(image_pixel(41, 1)), 4);
     ASSERT_EQ(history().entries().size(), 4U);

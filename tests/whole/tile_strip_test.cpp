@@ -198,8 +198,10 @@ TEST_F(Tile_Strip_Test, click_selects_a_tile_as_a_step_of_the_history) {
     load(200);
     execute(Command::next_tile_strip);
     const std::size_t steps = document().history().entries().size();
+    editor->canvas().work_area().invert_selection();
     click(strip_cell(5));
     EXPECT_EQ(tileset().current_index(), 51);
+    EXPECT_FALSE(editor->canvas().work_area().has_selection());
     EXPECT_EQ(strip().first(), 46);
     EXPECT_EQ(editor->canvas().tile(), &tileset().tile_at(51));
     ASSERT_EQ(document().history().entries().size(), steps + 1);
@@ -304,6 +306,12 @@ TEST_F(Tile_Strip_Test, belongs_to_its_document) {
     EXPECT_EQ(strip().first(), 149);
     EXPECT_EQ(tileset().current_index(), 0);
     editor->documents().resize_current({2, 2});
+    EXPECT_EQ(strip().first(), 0);
+    // Its first tile is current again, and shows.
+    execute(Command::forward_strip);
+    tileset().select(199);
+    load(10);
+    editor->documents().close_document();
     EXPECT_EQ(strip().first(), 0);
 }
 
