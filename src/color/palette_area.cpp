@@ -2,9 +2,8 @@
 
 #include "app/screen.h"
 #include "color/standard_colors.h"
-#include "color/swatch.h"
 #include "tileset/sprite_sheet.h"
-#include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
 #include <array>
 #include <cstdio>

@@ -3,7 +3,7 @@
 #include "app/screen.h"
 #include "color/color_data.h"
 #include "color/standard_colors.h"
-#include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
 #include <string>
 

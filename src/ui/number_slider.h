@@ -45,7 +45,6 @@ public:
 
 private:
     void draw_bar(const std::function<Color(int)>& color_of) const;
-    void draw_mark(int number) const;
     void draw_number(int number) const;
 
     Number_Slider_Row row_;

@@ -6,7 +6,7 @@
 #include "color/hex_color.h"
 #include "color/standard_colors.h"
 #include "tileset/sprite_sheet.h"
-#include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
 namespace quadrelle {
 

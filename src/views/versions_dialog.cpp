@@ -1,34 +1,22 @@
 #include "views/versions_dialog.h"
 
-#include "app/canvas_painter.h"
 #include "app/events.h"
 #include "app/screen.h"
 #include "app/streaming_texture.h"
 #include "color/standard_colors.h"
 #include "ui/button_dialog_item.h"
+#include "ui/checkerboard.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "views/versions_layout.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 
 namespace quadrelle {
 
 namespace {
-
-constexpr Size checker{6, 6};
-
-// Textures do not repeat, so it is as large as the largest area that it is to lie under.
-Tile make_checkerboard(const Rectangle& area) {
-    Tile board(area.width, area.height);
-    for (int y = 0; y < board.height(); ++y) {
-        for (int x = 0; x < board.width(); ++x) {
-            board.set_pixel(x, y, checker_color({x, y}, checker));
-        }
-    }
-    return board;
-}
 
 // Lies around the view, in the gap, and is parted from it, so that it shows whatever the picture's colours.
 void draw_mark(const Rectangle& view) {
@@ -62,7 +50,8 @@ private:
     const Tile& current_;
     Versions_Layout layout_;
     Dialog_Frame frame_{"Versions"};
-    Tile checkerboard_;
+    // Textures do not repeat, so it is as large as the largest area that it is to lie under.
+    std::unique_ptr<Texture> checkerboard_;
     Button_Dialog_Item store_button_{{}, Button_Type::set};
     Button_Dialog_Item take_button_{{}, Button_Type::copy};
     std::optional<int> selected_;
@@ -72,7 +61,7 @@ private:
 
 Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
     : versions_(versions), current_(current), layout_(versions_layout(current.size(), screen->size())),
-      checkerboard_(make_checkerboard(layout_.big_view)) {
+      checkerboard_(make_checkerboard({layout_.big_view.width, layout_.big_view.height})) {
     frame_.set_size({layout_.dialog.width, layout_.dialog.height - dialog_title_height});
     store_button_.area = layout_.store_button;
     take_button_.area = layout_.take_button;
@@ -100,7 +89,7 @@ void Versions_Dialog::draw() const {
 }
 
 void Versions_Dialog::draw_view(const Tile& tile, const Rectangle& area) const {
-    checkerboard_.texture().draw_part({0, 0, area.width, area.height}, area);
+    checkerboard_->draw_part({0, 0, area.width, area.height}, area);
     tile.draw(area);
     screen->draw_outline(area.inset(-1), standard_color(Standard_Color::frame));
 }

@@ -76,7 +76,6 @@ constexpr std::array places{
     Place{"color/color_handles",          Level::panes},
     Place{"color/hsv_selector",           Level::panes},
     Place{"color/palette_area",           Level::panes},
-    Place{"color/swatch",                 Level::panes},
     Place{"color/variations",             Level::panes},
     Place{"tools/brush_selector",         Level::panes},
     Place{"tools/tool_color",             Level::panes},
