@@ -77,9 +77,9 @@ int Number_Slider::number_at(int x) const {
     return row_.low + (column * (row_.high - row_.low) * 2 + last) / (2 * last);
 }
 
-void Number_Slider::draw(int number, Slider_Focus focus, const std::function<Color(int)>& color_of) const {
+void Number_Slider::draw(int number, Focus focus, const std::function<Color(int)>& color_of) const {
     screen->draw_text(Font::pane, {area_.x, text_y(area_)}, row_.label);
-    if (focus == Slider_Focus::yes) {
+    if (focus == Focus::yes) {
         const int width = screen->text_width(Font::pane, row_.label);
         screen->fill_rect({area_.x, area_.bottom() - 3, width, 2}, standard_color(Standard_Color::highlight));
     }
