@@ -1,6 +1,6 @@
 #include "app/brush_feedback.h"
 
-#include "app/canvas_painter.h"
+#include "color/checkerboard.h"
 
 #include <algorithm>
 

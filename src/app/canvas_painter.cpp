@@ -1,21 +1,12 @@
 #include "app/canvas_painter.h"
 
-#include "color/standard_colors.h"
+#include "color/checkerboard.h"
 
 #include <algorithm>
 
 namespace quadrelle {
 
 namespace {
-
-// How the renderer multiplies channels.
-constexpr unsigned scaled(unsigned channel, unsigned factor) {
-    return channel * factor / 255;
-}
-
-constexpr std::uint8_t blended(std::uint8_t channel, std::uint8_t background, std::uint8_t alpha) {
-    return static_cast<std::uint8_t>(scaled(channel, alpha) + scaled(background, 255U - alpha));
-}
 
 // The cells that reach into `extent` pixels when the first one starts at `start`.
 int first_cell(int start, int pixel_size) {
@@ -53,14 +44,6 @@ int dash_offset(int counter, int pixel_size, int length) {
 
 } // namespace
 
-Color blended_over(Color color, Color background) {
-    if (color.a == 255) {
-        return color;
-    }
-    return {blended(color.r, background.r, color.a), blended(color.g, background.g, color.a),
-            blended(color.b, background.b, color.a)};
-}
-
 Color grid_color(Color pixel, int intensity) {
     if (pixel.is_dark()) {
         pixel.brighten(intensity);
@@ -68,11 +51,6 @@ Color grid_color(Color pixel, int intensity) {
         pixel.darken(intensity);
     }
     return pixel;
-}
-
-Color checker_color(Tile_Point pixel, Size checker) {
-    const bool is_light = (pixel.x / checker.width + pixel.y / checker.height) % 2 != 0;
-    return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
 }
 
 void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& target) {
@@ -193,7 +171,7 @@ void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns,
         const bool next_is_dimmed =
             picture.selection != nullptr && !picture.selection->contains({column, row});
         const Color next_background =
-            next_pixel.a == 255 ? background : checker_color({column, row}, picture.checker);
+            next_pixel.a == 255 ? background : checkerboard_color(column, row, picture.checker);
         if (!is_known || next_pixel != pixel || next_background != background ||
             next_is_dimmed != is_dimmed) {
             pixel = next_pixel;

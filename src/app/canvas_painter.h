@@ -50,13 +50,8 @@ struct Canvas_Picture {
     const Cell_Marker* row_marker = nullptr;
 };
 
-// The colour that shows when an area of the second colour is filled with the first one, as the renderer
-// blends.
-[[nodiscard]] Color blended_over(Color color, Color background);
 // Of the grid lines along a pixel, as translucent as the pixel itself.
 [[nodiscard]] Color grid_color(Color pixel, int intensity);
-// Of the checkerboard square that the tile pixel lies on.
-[[nodiscard]] Color checker_color(Tile_Point pixel, Size checker);
 
 class Canvas_Painter {
 public:

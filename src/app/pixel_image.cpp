@@ -2,28 +2,12 @@
 
 #include "app/renderer.h"
 #include "app/screen.h"
-#include "color/standard_colors.h"
+#include "color/checkerboard.h"
 #include "tileset/sprite_sheet.h"
 
 #include <algorithm>
 
 namespace quadrelle {
-
-namespace {
-
-constexpr int checker_edge = 4;
-
-Color checker_at(int x, int y) {
-    const bool is_light = (x / checker_edge + y / checker_edge) % 2 != 0;
-    return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
-}
-
-Color laid_over(Color above, Color below) {
-    const auto mixed = [&](int over, int under) { return (over * above.a + under * (255 - above.a)) / 255; };
-    return {mixed(above.r, below.r), mixed(above.g, below.g), mixed(above.b, below.b)};
-}
-
-} // namespace
 
 Pixel_Image::Pixel_Image(Size size)
     : size_(size), pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)),
@@ -31,7 +15,7 @@ Pixel_Image::Pixel_Image(Size size)
 
 void Pixel_Image::set_pixel(Point position, Color color) {
     Color& pixel = pixels_.at(index_of(position));
-    pixel = color.a == 255 ? color : laid_over(color, pixel);
+    pixel = blended_over(color, pixel);
 }
 
 void Pixel_Image::fill_rect(const Rectangle& area, Color color) {
@@ -45,7 +29,7 @@ void Pixel_Image::fill_rect(const Rectangle& area, Color color) {
 void Pixel_Image::fill_checkers(const Rectangle& area) {
     for (int y = 0; y < area.height; ++y) {
         for (int x = 0; x < area.width; ++x) {
-            set_pixel({area.x + x, area.y + y}, checker_at(x, y));
+            set_pixel({area.x + x, area.y + y}, checkerboard_color(x, y));
         }
     }
 }

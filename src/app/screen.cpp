@@ -242,14 +242,6 @@ void Screen::show_cursor(bool visible) {
     }
 }
 
-void Screen::set_text_input(bool on) {
-    if (on) {
-        SDL_StartTextInput(window_.get());
-    } else {
-        SDL_StopTextInput(window_.get());
-    }
-}
-
 void Screen::warp_mouse(Point position) {
     SDL_WarpMouseInWindow(window_.get(), static_cast<float>(position.x), static_cast<float>(position.y));
 }

@@ -64,8 +64,6 @@ public:
     void set_title(std::string_view text);
     void set_relative_mouse_mode(bool on);
     void show_cursor(bool visible);
-    // Whether typing arrives as text too.
-    void set_text_input(bool on);
     void warp_mouse(Point position);
     [[nodiscard]] Pointer_State read_pointer() const;
     [[nodiscard]] std::string renderer_name() const;

@@ -41,6 +41,11 @@ void Color_Data::all(std::vector<Named_Color>& list) const {
     list.insert(list.end(), rows_.begin(), rows_.end());
 }
 
+std::string color_numbers(Color color) {
+    return std::to_string(color.r) + ", " + std::to_string(color.g) + ", " + std::to_string(color.b) + ", " +
+           std::to_string(color.a);
+}
+
 std::string color_information(Color color) {
     std::array<char, 96> text{};
     std::snprintf(text.data(), text.size(), "R: %u, G: %u, B: %u\rAlpha: %u\rLuminance: %.1f",

@@ -71,6 +71,8 @@ private:
     std::map<std::uint32_t, std::string_view> names_;
 };
 
+// "97, 18, 124, 255": the channels and alpha.
+[[nodiscard]] std::string color_numbers(Color color);
 // Channels, alpha and luminance in per cent: three lines, broken by "\r".
 [[nodiscard]] std::string color_information(Color color);
 

@@ -3,7 +3,7 @@
 #include "app/events.h"
 #include "app/screen.h"
 #include "color/standard_colors.h"
-#include "color/swatch.h"
+#include "ui/swatch.h"
 
 #include <algorithm>
 #include <array>

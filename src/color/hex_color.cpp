@@ -32,13 +32,13 @@ Color color_of(std::string text) {
     return Color::from_word(word >> 8U | word << 24U);
 }
 
-} // namespace
-
 std::string_view without_blanks(std::string_view text) {
     const std::size_t first = text.find_first_not_of(blanks);
     return first == std::string_view::npos ? std::string_view()
                                            : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
 }
+
+} // namespace
 
 std::string hex_text(Color color) {
     std::array<char, 16> text{};

@@ -13,8 +13,6 @@ namespace quadrelle {
 // "#61127c", and two more digits for the alpha of a colour that is not opaque.
 [[nodiscard]] std::string hex_text(Color color);
 
-[[nodiscard]] std::string_view without_blanks(std::string_view text);
-
 // The colour, or what is wrong with the text.
 struct Hex_Reading {
     std::optional<Color> color;

@@ -1,13 +1,12 @@
 #include "color/palette_area.h"
 
 #include "app/screen.h"
+#include "color/color_data.h"
+#include "color/hex_color.h"
 #include "color/standard_colors.h"
-#include "color/swatch.h"
 #include "tileset/sprite_sheet.h"
-#include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
-#include <array>
-#include <cstdio>
 #include <string_view>
 
 namespace quadrelle {
@@ -36,17 +35,6 @@ constexpr int height_for(int client_height) {
 Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
     const Rectangle button = sprite_rect(sprite);
     return {right - button.width, client.y, button.width, button.height};
-}
-
-std::string numbers(Color color) {
-    return std::to_string(color.r) + ", " + std::to_string(color.g) + ", " + std::to_string(color.b) + ", " +
-           std::to_string(color.a);
-}
-
-std::string hexadecimal(Color color) {
-    std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), "#%02x%02x%02x", color.r, color.g, color.b);
-    return text.data();
 }
 
 } // namespace
@@ -156,8 +144,8 @@ void Selected_Color_Area::draw() const {
     screen->draw_outline(swatch, standard_color(Standard_Color::dark_frame));
     draw_swatch(swatch.inset(1), palette_.selected_color());
     const Point text{swatch.right() + text_gap, client.y - text_rise};
-    screen->draw_text(Font::pane, text, numbers(palette_.selected_color()));
-    screen->draw_text(Font::pane, {text.x, text.y + second_line}, hexadecimal(palette_.selected_color()));
+    screen->draw_text(Font::pane, text, color_numbers(palette_.selected_color()));
+    screen->draw_text(Font::pane, {text.x, text.y + second_line}, hex_text(palette_.selected_color()));
     const Rectangle button = set_button();
     screen->draw_panel(button, standard_color(Standard_Color::pane_frame));
     const int label_x = button.x + (button.width - screen->text_width(Font::pane, set_label)) / 2;

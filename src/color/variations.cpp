@@ -2,7 +2,7 @@
 
 #include "app/screen.h"
 #include "color/standard_colors.h"
-#include "color/swatch.h"
+#include "ui/swatch.h"
 
 #include <cstddef>
 #include <string_view>

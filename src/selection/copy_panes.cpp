@@ -1,10 +1,10 @@
 #include "selection/copy_panes.h"
 
-#include "app/checkerboard.h"
 #include "app/command_table.h"
 #include "app/screen.h"
 #include "app/streaming_texture.h"
 #include "color/standard_colors.h"
+#include "ui/checkerboard.h"
 
 #include <algorithm>
 
@@ -56,10 +56,10 @@ Rectangle fitted(Size picture, const Rectangle& area) {
     return centred({std::max(picture.width / step, 1), std::max(picture.height / step, 1)}, area);
 }
 
-void draw_picture(const Tile& picture, const Tile& board, const Rectangle& area) {
+void draw_picture(const Tile& picture, const Texture& board, const Rectangle& area) {
     if (picture.pixel_count() > 0) {
         const Rectangle shown = fitted(picture.size(), area);
-        board.texture().draw_part({0, 0, shown.width, shown.height}, shown);
+        board.draw_part({0, 0, shown.width, shown.height}, shown);
         picture.draw(shown);
     }
 }
@@ -86,7 +86,7 @@ Copy_Panes::Copy_Panes()
       commands_({0, 0, column_width,
                  below_title(button_rows * button_height + (button_rows - 1) * button_gap).height},
                 "Selection"),
-      checkerboard_(checkerboard({client_width, current_height})) {}
+      checkerboard_(make_checkerboard({client_width, current_height})) {}
 
 void Copy_Panes::place(Point top_left) {
     const int height = current_.area.height + previous_.area.height + commands_.area.height + 2 * element_gap;
@@ -146,12 +146,12 @@ void Copy_Panes::draw_current(const Copy_Buffer& copies) const {
     current_.draw();
     current_.clear(standard_color(Standard_Color::frame));
     if (copies.current() != nullptr) {
-        draw_picture(copies.current()->picture, checkerboard_, current_.client_area());
+        draw_picture(copies.current()->picture, *checkerboard_, current_.client_area());
     }
 }
 
 void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) const {
-    draw_picture(copies.copies()[index].picture, checkerboard_, cell(index).inset(mark_width));
+    draw_picture(copies.copies()[index].picture, *checkerboard_, cell(index).inset(mark_width));
     if (index == copies.current_index()) {
         draw_mark(cell(index));
     }

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -44,7 +45,7 @@ private:
     Pane previous_;
     Pane commands_;
     std::array<Rectangle, button_count> buttons_;
-    Tile checkerboard_;
+    std::unique_ptr<Texture> checkerboard_;
 };
 
 } // namespace quadrelle

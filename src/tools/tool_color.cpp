@@ -3,9 +3,7 @@
 #include "app/screen.h"
 #include "color/color_data.h"
 #include "color/standard_colors.h"
-#include "ui/checkerboard.h"
-
-#include <string>
+#include "ui/swatch.h"
 
 namespace quadrelle {
 
@@ -15,11 +13,6 @@ constexpr int swatch_edge = 17;
 constexpr int text_gap = 6;
 constexpr int line_step = 17;
 constexpr Size pane_size{202, 46};
-
-std::string numbers(Color color) {
-    return std::to_string(color.r) + ", " + std::to_string(color.g) + ", " + std::to_string(color.b) + ", " +
-           std::to_string(color.a);
-}
 
 } // namespace
 
@@ -35,7 +28,7 @@ void Tool_Color::draw() const {
         screen->draw_outline(swatch.inset(-2), standard_color(Standard_Color::highlight));
     }
     const int text_x = swatch.right() + text_gap;
-    screen->draw_text(Font::pane, {text_x, client.y - 1}, numbers(color_));
+    screen->draw_text(Font::pane, {text_x, client.y - 1}, color_numbers(color_));
     screen->draw_text(Font::pane, {text_x, client.y - 1 + line_step}, color_data->shown_name(color_));
 }
 

@@ -1,7 +1,8 @@
 #include "ui/checkerboard.h"
 
 #include "app/screen.h"
-#include "color/standard_colors.h"
+#include "app/surface.h"
+#include "color/checkerboard.h"
 
 #include <algorithm>
 
@@ -14,22 +15,23 @@ constexpr int square = 6;
 } // namespace
 
 void draw_checkerboard(const Rectangle& area) {
-    screen->fill_rect(area, standard_color(Standard_Color::checker_light));
-    for (int row = 0; row * square < area.height; ++row) {
-        for (int column = row % 2; column * square < area.width; column += 2) {
-            const Point corner{area.x + column * square, area.y + row * square};
-            screen->fill_rect({corner.x, corner.y, std::min(square, area.right() - corner.x),
-                               std::min(square, area.bottom() - corner.y)},
-                              standard_color(Standard_Color::checker_dark));
+    for (int y = 0; y < area.height; y += square) {
+        for (int x = 0; x < area.width; x += square) {
+            screen->fill_rect(
+                {area.x + x, area.y + y, std::min(square, area.width - x), std::min(square, area.height - y)},
+                checkerboard_color(x, y, {square, square}));
         }
     }
 }
 
-void draw_swatch(const Rectangle& area, Color color) {
-    if (color.a < 255) {
-        draw_checkerboard(area);
+std::unique_ptr<Texture> make_checkerboard(Size size) {
+    Surface surface(size);
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            surface.set_pixel(x, y, to_rgba(checkerboard_color(x, y, {square, square})));
+        }
     }
-    screen->fill_rect(area, color);
+    return std::make_unique<Texture>(surface, screen->renderer());
 }
 
 } // namespace quadrelle

@@ -4,6 +4,7 @@
 #include "color/standard_colors.h"
 #include "tileset/sprite_sheet.h"
 #include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
 #include <algorithm>
 #include <array>
@@ -76,14 +77,15 @@ int Number_Slider::number_at(int x) const {
     return row_.low + (column * (row_.high - row_.low) * 2 + last) / (2 * last);
 }
 
-void Number_Slider::draw(int number, Slider_Focus focus, const std::function<Color(int)>& color_of) const {
+void Number_Slider::draw(int number, Focus focus, const std::function<Color(int)>& color_of) const {
     screen->draw_text(Font::pane, {area_.x, text_y(area_)}, row_.label);
-    if (focus == Slider_Focus::yes) {
+    if (focus == Focus::yes) {
         const int width = screen->text_width(Font::pane, row_.label);
         screen->fill_rect({area_.x, area_.bottom() - 3, width, 2}, standard_color(Standard_Color::highlight));
     }
     draw_bar(color_of);
-    draw_mark(number);
+    const int x = bar_.x + (number - row_.low) * (bar_.width - 1) / (row_.high - row_.low);
+    draw_mark({x - 2, bar_.y - 3, 5, bar_.height + 6});
     screen->draw_sprite(Sprite::button_less, {less_.x, less_.y});
     draw_number(number);
     if (row_.middle) {
@@ -101,14 +103,6 @@ void Number_Slider::draw_bar(const std::function<Color(int)>& color_of) const {
         screen->fill_rect({x, bar_.y, std::min(shade_width, bar_.right() - x), bar_.height},
                           color_of(number_at(x)));
     }
-}
-
-// Light within dark, so that it shows on every colour.
-void Number_Slider::draw_mark(int number) const {
-    const int x = bar_.x + (number - row_.low) * (bar_.width - 1) / (row_.high - row_.low);
-    const Rectangle mark{x - 2, bar_.y - 3, 5, bar_.height + 6};
-    screen->draw_outline(mark, standard_color(Standard_Color::black));
-    screen->draw_outline(mark.inset(1), standard_color(Standard_Color::white));
 }
 
 void Number_Slider::draw_number(int number) const {

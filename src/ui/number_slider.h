@@ -5,6 +5,7 @@
 
 #include "app/geometry.h"
 #include "color/color.h"
+#include "ui/focus.h"
 
 #include <functional>
 #include <optional>
@@ -22,7 +23,6 @@ struct Number_Slider_Row {
 };
 
 enum class Slider_Part { none, bar, less, number, middle, more };
-enum class Slider_Focus { no, yes };
 
 constexpr int number_slider_height = 24;
 
@@ -32,7 +32,7 @@ public:
     Number_Slider(const Number_Slider_Row& row, Point position, int width);
 
     // The bar shows for each place the colour that the number there stands for.
-    void draw(int number, Slider_Focus focus, const std::function<Color(int)>& color_of) const;
+    void draw(int number, Focus focus, const std::function<Color(int)>& color_of) const;
 
     [[nodiscard]] bool contains(Point point) const { return area_.contains(point); }
     [[nodiscard]] Slider_Part part_at(Point point) const;
@@ -45,7 +45,6 @@ public:
 
 private:
     void draw_bar(const std::function<Color(int)>& color_of) const;
-    void draw_mark(int number) const;
     void draw_number(int number) const;
 
     Number_Slider_Row row_;

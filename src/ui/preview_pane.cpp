@@ -2,27 +2,12 @@
 
 #include "app/screen.h"
 #include "app/streaming_texture.h"
-#include "app/surface.h"
 #include "tileset/tile.h"
 #include "ui/checkerboard.h"
 
 #include <algorithm>
 
 namespace quadrelle {
-
-namespace {
-
-std::unique_ptr<Texture> make_checkerboard(Size size) {
-    Surface surface(size);
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            surface.set_pixel(x, y, to_rgba(checkerboard_color(x, y)));
-        }
-    }
-    return std::make_unique<Texture>(surface, screen->renderer());
-}
-
-} // namespace
 
 Preview_Pane::Preview_Pane(const Rectangle& below_title)
     : Pane(below_title, "Preview"),

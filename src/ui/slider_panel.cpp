@@ -28,7 +28,7 @@ Slider_Panel::Slider_Panel(std::span<const Number_Slider_Row> rows, const Rectan
 
 void Slider_Panel::draw() const {
     for (std::size_t i = 0; i < sliders_.size(); ++i) {
-        sliders_[i].draw(numbers_.number(i), focus_ == i ? Slider_Focus::yes : Slider_Focus::no,
+        sliders_[i].draw(numbers_.number(i), focus_ == i ? Focus::yes : Focus::no,
                          [this, i](int number) { return numbers_.color_of(i, number); });
     }
 }

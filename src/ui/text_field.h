@@ -1,9 +1,12 @@
 #pragma once
 
-// A line of text that is typed, with a caret. Which events reach it is its owner's business.
+// One line of UTF-8 text that the user edits. Knows nothing of what the text means; which events reach it is
+// its owner's business.
 
+#include "app/events.h"
 #include "app/geometry.h"
-#include "app/input.h"
+#include "tileset/font_table.h"
+#include "ui/focus.h"
 
 #include <cstddef>
 #include <string>
@@ -12,36 +15,44 @@
 
 namespace quadrelle {
 
-enum class Focus { no, yes };
+enum class Text_Change { none, changed };
+enum class Text_Verdict { fine, refused };
 
 class Text_Field {
 public:
-    static constexpr int height = 29;
-    static constexpr std::size_t most_characters = 4000;
-
-    explicit Text_Field(const Rectangle& area) : area_(area) {}
+    Text_Field(const Rectangle& area, Font font, std::size_t most_characters)
+        : area_(area), font_(font), most_characters_(most_characters) {}
 
     [[nodiscard]] const Rectangle& area() const { return area_; }
-    // UTF-8.
     [[nodiscard]] std::string text() const;
     // With the caret at its end.
     void set_text(std::string_view text);
-    // At the caret; without control characters and what is beyond the limit.
-    void insert(std::string_view typed);
-    // False for a key that edits nothing.
-    bool handle_key(Keycode pressed);
-    void place_caret(Point clicked);
+    // What is typed next takes the place of all.
+    void select_all();
+
+    // Typed text, clicks, the keys that delete and move, Ctrl+a and Ctrl+v.
+    Text_Change handle(const SDL_Event& event);
     // The part around the caret that has room.
-    void draw(Focus focus) const;
+    void draw(Focus focus, Text_Verdict verdict = Text_Verdict::fine) const;
 
 private:
+    Text_Change insert(std::string_view typed);
+    Text_Change handle_key(const SDL_KeyboardEvent& event);
+    Text_Change erase(std::size_t index);
+    void clear();
+    void move_caret(std::size_t caret);
+    void place_caret(Point clicked);
+    void draw_text(Focus focus) const;
     [[nodiscard]] int width_of(std::size_t from, std::size_t to) const;
     [[nodiscard]] std::size_t first_shown() const;
     [[nodiscard]] Rectangle text_area() const;
 
     Rectangle area_;
+    Font font_;
+    std::size_t most_characters_;
     std::vector<std::string> characters_;
     std::size_t caret_ = 0; // before the character with that index
+    bool is_all_selected_ = false;
 };
 
 } // namespace quadrelle

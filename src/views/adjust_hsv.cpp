@@ -40,13 +40,21 @@ constexpr Rectangle inside{frame_area.x + gap, frame_area.y + dialog_title_heigh
 constexpr int tick_y = inside.y + 3 * number_slider_height + gap;
 constexpr int buttons_y = inside.bottom() - text_button_height;
 
-// What the sliders show: the pixel that the change is seen best on.
-Color most_colorful(const Tile& tile) {
+// What the sliders show: of the pixels that change, the one on which it is seen best.
+Color most_colorful(const Drawing_Target& target) {
     const auto strength = [](Color color) {
         return std::pair(color.max_channel() - color.min_channel(), color.max_channel());
     };
-    const auto pixels = tile.pixels();
-    return pixels.empty() ? Color() : *std::ranges::max_element(pixels, {}, strength);
+    Color best;
+    for (int y = 0; y < target.size().height; ++y) {
+        for (int x = 0; x < target.size().width; ++x) {
+            const Color color = target.get({x, y});
+            if (color.a != 0 && target.is_selected({x, y}) && strength(color) > strength(best)) {
+                best = color;
+            }
+        }
+    }
+    return best;
 }
 
 class Adjust_HSV : public Slider_Numbers {
@@ -68,6 +76,7 @@ private:
     Loop_Step handle_key(const SDL_Event& event);
     Loop_Step accept();
     void toggle_all_tiles();
+    void show_change();
 
     Drawing_Target target_;
     const Tile source_;
@@ -83,7 +92,7 @@ private:
 };
 
 Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
-    : target_(target), source_(target.tile()), sample_(most_colorful(source_)), choice_(choice),
+    : target_(target), source_(target.tile()), sample_(most_colorful(target)), choice_(choice),
       sliders_(slider_rows, inside, *this), tick_{inside.x, tick_y, 120, tick_height} {
     frame_.set_area(frame_area);
     sliders_.set_focus(0);
@@ -104,7 +113,15 @@ int Adjust_HSV::number(std::size_t index) const {
 void Adjust_HSV::set_number(std::size_t index, int number) {
     adjustment_.change.*parts.at(index) =
         std::clamp(number, slider_rows.at(index).low, slider_rows.at(index).high);
-    adjust_hsv(target_, source_, adjustment_.change);
+    show_change();
+}
+
+// In all tiles every pixel changes, also those that are not selected.
+void Adjust_HSV::show_change() {
+    source_.copy_to(target_.tile());
+    Drawing_Target shown =
+        adjustment_.tiles == Adjusted_Tiles::all ? Drawing_Target(target_.tile()) : target_;
+    adjust_hsv(shown, source_, adjustment_.change);
     target_.tile().update_texture();
 }
 
@@ -200,6 +217,7 @@ void Adjust_HSV::toggle_all_tiles() {
     if (choice_ == All_Tiles_Choice::shown) {
         const bool was_all = adjustment_.tiles == Adjusted_Tiles::all;
         adjustment_.tiles = was_all ? Adjusted_Tiles::current : Adjusted_Tiles::all;
+        show_change();
     }
 }
 

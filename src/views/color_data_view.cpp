@@ -6,7 +6,8 @@
 #include "color/hex_color.h"
 #include "color/standard_colors.h"
 #include "tileset/sprite_sheet.h"
-#include "ui/checkerboard.h"
+#include "ui/shown_text.h"
+#include "ui/swatch.h"
 
 namespace quadrelle {
 
@@ -44,7 +45,7 @@ Color_Data_View::Color_Data_View(Color_Edit& edit, const Rectangle& area)
                                        swatch_size.height},
       information_(information_area(area), "Information"),
       sliders_(slider_rows, {area.x, information_.area.bottom() + gap, area.width, 0}, *this),
-      field_({area.x + label_width, sliders_.bottom() + gap, field_size.width, field_size.height},
+      field_({area.x + label_width, sliders_.bottom() + gap, field_size.width, field_size.height}, Font::pane,
              most_characters) {
     refresh();
 }
@@ -53,6 +54,7 @@ void Color_Data_View::refresh() {
     is_typing_ = false;
     refusal_.clear();
     field_.set_text(hex_text(edit_.color()));
+    field_.select_all();
 }
 
 int Color_Data_View::number(std::size_t index) const {
@@ -84,8 +86,14 @@ Color Color_Data_View::color_of(std::size_t index, int number) const {
 }
 
 void Color_Data_View::handle(const SDL_Event& event) {
-    if (event.type == SDL_EVENT_KEY_DOWN && copy_or_paste(event.key)) {
+    const Key_Chord chord = event.type == SDL_EVENT_KEY_DOWN ? key_chord_of(event.key) : Key_Chord{};
+    if (chord == Key_Chord{'c', Modifier::control}) {
+        set_clipboard_text(hex_text(edit_.color()));
         return;
+    }
+    // What is pasted is a whole colour.
+    if (chord == Key_Chord{'v', Modifier::control}) {
+        field_.select_all();
     }
     if (sliders_.handle(event) == Event_Use::left) {
         handle_field(event);
@@ -97,28 +105,13 @@ void Color_Data_View::handle_field(const SDL_Event& event) {
     if (is_press && !field_.area().contains(pointer_of(event.button).point())) {
         return;
     }
-    if (is_press || event.type == SDL_EVENT_TEXT_INPUT) {
+    const Text_Change change = field_.handle(event);
+    if (is_press || change == Text_Change::changed) {
         sliders_.set_focus(std::nullopt);
     }
-    if (field_.handle(event) == Text_Change::changed) {
+    if (change == Text_Change::changed) {
         take_text();
     }
-}
-
-bool Color_Data_View::copy_or_paste(const SDL_KeyboardEvent& event) {
-    const Key_Chord chord = key_chord_of(event);
-    if (chord == Key_Chord{'c', Modifier::control}) {
-        set_clipboard_text(hex_text(edit_.color()));
-        return true;
-    }
-    if (chord != Key_Chord{'v', Modifier::control}) {
-        return false;
-    }
-    field_.set_text(field_.text());
-    if (field_.insert(without_blanks(clipboard_text())) == Text_Change::changed) {
-        take_text();
-    }
-    return true;
 }
 
 // What the text passes through on its way to a whole one leaves nothing behind.
@@ -127,7 +120,7 @@ void Color_Data_View::take_text() {
         before_typing_ = edit_;
     }
     is_typing_ = true;
-    Hex_Reading reading = read_hex(field_.text());
+    Hex_Reading reading = read_hex(shown_text(field_.text()));
     edit_ = before_typing_;
     if (reading.color) {
         edit_.set_color(*reading.color);
@@ -142,8 +135,8 @@ void Color_Data_View::draw() const {
     const Rectangle& field = field_.area();
     const int text_y = field.y + (field.height - line_height(Font::pane)) / 2 - 1;
     screen->draw_text(Font::pane, {swatches_.x, text_y}, "Hexadecimal");
-    field_.draw(is_complete() ? Field_Mark::none : Field_Mark::refused,
-                sliders_.has_focus() ? Field_Focus::no : Field_Focus::yes);
+    field_.draw(sliders_.has_focus() ? Focus::no : Focus::yes,
+                is_complete() ? Text_Verdict::fine : Text_Verdict::refused);
     screen->draw_text(Font::pane, {field.right() + gap, text_y},
                       is_complete() ? "^c copies, ^v pastes" : std::string_view(refusal_));
 }

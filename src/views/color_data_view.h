@@ -3,9 +3,9 @@
 // The numbers of a colour, ways to change them, and what is known about it.
 
 #include "color/color_edit.h"
-#include "ui/hex_field.h"
 #include "ui/pane.h"
 #include "ui/slider_panel.h"
+#include "ui/text_field.h"
 
 #include <string>
 
@@ -34,7 +34,6 @@ public:
 
 private:
     void handle_field(const SDL_Event& event);
-    bool copy_or_paste(const SDL_KeyboardEvent& event);
     void take_text();
     void draw_swatches() const;
     void draw_information() const;
@@ -45,7 +44,7 @@ private:
     Rectangle swatches_;
     Pane information_;
     Slider_Panel sliders_;
-    Hex_Field field_;
+    Text_Field field_;
     std::string refusal_;
     bool is_typing_ = false;
 };

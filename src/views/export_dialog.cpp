@@ -1,6 +1,7 @@
 #include "views/export_dialog.h"
 
 #include "app/screen.h"
+#include "color/checkerboard.h"
 #include "color/standard_colors.h"
 #include "tileset/bitmap_export.h"
 #include "ui/dialogs.h"
@@ -15,7 +16,6 @@ constexpr Size dialog_size{522, 583};
 constexpr int view_margin = (dialog_size.width - Export_Dialog::view_size.width) / 2;
 constexpr Font caption_font = Font::pane;
 constexpr int scroll_step = 32;
-constexpr int checker_edge = 8;
 constexpr int mark_length = 7;
 constexpr int mark_inset = 5;
 
@@ -26,16 +26,6 @@ std::string caption_of(const Tile& picture, int tile_count) {
                 " tiles";
     }
     return text;
-}
-
-Color over_checkerboard(Color color, Point position) {
-    if (color.a == 255) {
-        return color;
-    }
-    const bool is_light = (position.x / checker_edge + position.y / checker_edge) % 2 != 0;
-    color.blend(standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark),
-                color.a / 255.0);
-    return color;
 }
 
 // A triangle with its tip at `tip` that points along (dx, dy), dark around and lit inside.
@@ -146,7 +136,7 @@ void Export_Dialog::compose_view() {
     for (int y = 0; y < view_.height(); ++y) {
         for (int x = 0; x < view_.width(); ++x) {
             const Color color = picture_.get_pixel(offset_.x + x, offset_.y + y);
-            view_.set_pixel(x, y, over_checkerboard(color, {x, y}));
+            view_.set_pixel(x, y, blended_over(color, checkerboard_color(x, y)));
         }
     }
     view_.update_texture();

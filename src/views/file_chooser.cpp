@@ -3,12 +3,14 @@
 #include "app/events.h"
 #include "app/files.h"
 #include "app/screen.h"
+#include "app/text_input.h"
 #include "color/standard_colors.h"
 #include "tileset/file_names.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "ui/shown_text.h"
+#include "ui/text_field.h"
 #include "views/file_list.h"
 
 #include <algorithm>
@@ -26,6 +28,8 @@ constexpr int line = 24;
 constexpr int gap = 7;
 constexpr int list_height = 15 * line + 2;
 constexpr int label_width = 60;
+constexpr int name_height = 29;
+constexpr std::size_t longest_name = 4000;
 constexpr int text_drop = 3;
 constexpr int wheel_rows = 3;
 constexpr int all_rows = std::numeric_limits<int>::max() / 2;
@@ -36,21 +40,13 @@ std::string& last_folder() {
     return folder;
 }
 
-class Text_Input {
-public:
-    Text_Input() { screen->set_text_input(true); }
-    Text_Input(const Text_Input&) = delete;
-    Text_Input& operator=(const Text_Input&) = delete;
-    ~Text_Input() { screen->set_text_input(false); }
-};
-
 struct Layout {
     explicit Layout(const Rectangle& frame)
         : path{frame.x + 2 * gap, frame.y + dialog_title_height + gap, frame.width - 4 * gap, line},
           list{frame.x + gap, path.bottom() + gap, frame.width - 2 * gap, list_height},
           note{path.x, list.bottom() + gap, path.width, line}, label{path.x, note.bottom() + gap, label_width,
-                                                                     Text_Field::height},
-          field{label.right(), label.y, frame.right() - gap - label.right(), Text_Field::height},
+                                                                     name_height},
+          field{label.right(), label.y, frame.right() - gap - label.right(), name_height},
           buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, 27} {}
 
     Rectangle path, list, note, label, field, buttons;
@@ -66,10 +62,10 @@ private:
 
     void draw() const;
     Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(Keycode pressed);
+    Loop_Step handle_key(const SDL_Event& event);
     bool handle_list_key(Keycode pressed);
-    void type(std::string_view text);
-    Loop_Step press(Point point);
+    void type(const SDL_Event& event);
+    Loop_Step press(const SDL_Event& event);
     Loop_Step press_list(Point point);
     void scroll(float amount);
     void move_to(int rows);
@@ -103,7 +99,7 @@ Dialog_Frame sized_frame(std::string_view title) {
 
 Own_Chooser::Own_Chooser(const File_Request& request)
     : request_(request), listing_(request.pattern), frame_(sized_frame(request.title)),
-      layout_(frame_.area()), list_(layout_.list, listing_), name_(layout_.field),
+      layout_(frame_.area()), list_(layout_.list, listing_), name_(layout_.field, font, longest_name),
       focus_(request.direction == File_Direction::open ? Part::list : Part::name) {
     ok_.set_position({layout_.buttons.x, layout_.buttons.y});
     cancel_.set_position({layout_.buttons.right() - cancel_.area.width, layout_.buttons.y});
@@ -137,21 +133,22 @@ void Own_Chooser::draw() const {
 Loop_Step Own_Chooser::handle(const SDL_Event& event) {
     switch (event.type) {
     case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_TEXT_INPUT: type(event.text.text); break;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event);
+    case SDL_EVENT_TEXT_INPUT: type(event); break;
     case SDL_EVENT_MOUSE_WHEEL: scroll(event.wheel.y); break;
     case SDL_EVENT_MOUSE_MOTION: list_.drag(pointer_of(event.motion).point()); break;
     case SDL_EVENT_MOUSE_BUTTON_UP: list_.release(); break;
     case SDL_EVENT_MOUSE_BUTTON_DOWN: {
         const Pointer_State pointer = pointer_of(event.button);
-        return pointer.button == Mouse_Button::left ? press(pointer.point()) : Loop_Step::go_on;
+        return pointer.button == Mouse_Button::left ? press(event) : Loop_Step::go_on;
     }
     default: break;
     }
     return Loop_Step::go_on;
 }
 
-Loop_Step Own_Chooser::handle_key(Keycode pressed) {
+Loop_Step Own_Chooser::handle_key(const SDL_Event& event) {
+    const Keycode pressed = event.key.key;
     if (pressed == key::escape) {
         return Loop_Step::end;
     }
@@ -162,7 +159,7 @@ Loop_Step Own_Chooser::handle_key(Keycode pressed) {
     if (pressed == key::tab) {
         focus_ = focus_ == Part::list ? Part::name : Part::list;
     } else if (!handle_list_key(pressed) && focus_ == Part::name) {
-        name_.handle_key(pressed);
+        name_.handle(event);
     }
     return Loop_Step::go_on;
 }
@@ -197,12 +194,12 @@ void Own_Chooser::move_to(int rows) {
 }
 
 // From the list on a new name is typed, not more of the one that is selected.
-void Own_Chooser::type(std::string_view text) {
+void Own_Chooser::type(const SDL_Event& event) {
     if (focus_ == Part::list) {
         name_.set_text("");
     }
     focus_ = Part::name;
-    name_.insert(text);
+    name_.handle(event);
 }
 
 // A file's name can be changed in the line before it is chosen.
@@ -213,14 +210,15 @@ void Own_Chooser::show_selection() {
     }
 }
 
-Loop_Step Own_Chooser::press(Point point) {
+Loop_Step Own_Chooser::press(const SDL_Event& event) {
+    const Point point = pointer_of(event.button).point();
     note_.clear();
     if (layout_.list.contains(point)) {
         return press_list(point);
     }
     if (layout_.field.contains(point)) {
         focus_ = Part::name;
-        name_.place_caret(point);
+        name_.handle(event);
     }
     if (ok_.area.contains(point)) {
         return accept();

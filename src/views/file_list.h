@@ -4,7 +4,7 @@
 
 #include "app/geometry.h"
 #include "tileset/folder_listing.h"
-#include "ui/text_field.h"
+#include "ui/focus.h"
 
 #include <optional>
 

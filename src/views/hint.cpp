@@ -2,9 +2,9 @@
 
 #include "app/command_table.h"
 #include "color/color_data.h"
+#include "color/hex_color.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace quadrelle {
 
@@ -30,12 +30,9 @@ Hint brief(Place place) {
 
 Hint brief(const Pointed_Pixel& pixel) {
     const Color color = pixel.color;
-    std::array<char, 64> numbers{};
-    std::snprintf(numbers.data(), numbers.size(), "Color: %u, %u, %u, %u   #%02X%02X%02X%02X",
-                  unsigned{color.r}, unsigned{color.g}, unsigned{color.b}, unsigned{color.a},
-                  unsigned{color.r}, unsigned{color.g}, unsigned{color.b}, unsigned{color.a});
     return {"Pixel " + std::to_string(pixel.position.x) + ", " + std::to_string(pixel.position.y),
-            std::string(numbers.data()) + "\rName: " + std::string(color_data->shown_name(color))};
+            "Color: " + color_numbers(color) + "   " + hex_text(color) +
+                "\rName: " + std::string(color_data->shown_name(color))};
 }
 
 } // namespace

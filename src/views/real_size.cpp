@@ -1,12 +1,11 @@
 #include "views/real_size.h"
 
-#include "app/canvas_painter.h"
 #include "app/events.h"
 #include "app/opaque_texture.h"
 #include "app/screen.h"
+#include "color/checkerboard.h"
 #include "tileset/sprite_sheet.h"
 #include "tileset/tile.h"
-#include "ui/checkerboard.h"
 
 #include <SDL3/SDL_keyboard.h>
 

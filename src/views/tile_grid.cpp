@@ -1,11 +1,10 @@
 #include "views/tile_grid.h"
 
-#include "app/canvas_painter.h"
 #include "app/opaque_texture.h"
 #include "app/screen.h"
+#include "color/checkerboard.h"
 #include "tileset/sprite_sheet.h"
 #include "tileset/tileset.h"
-#include "ui/checkerboard.h"
 
 #include <algorithm>
 

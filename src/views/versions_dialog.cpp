@@ -1,16 +1,17 @@
 #include "views/versions_dialog.h"
 
-#include "app/checkerboard.h"
 #include "app/events.h"
 #include "app/screen.h"
 #include "app/streaming_texture.h"
 #include "color/standard_colors.h"
 #include "ui/button_dialog_item.h"
+#include "ui/checkerboard.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "views/versions_layout.h"
 
 #include <cstddef>
+#include <memory>
 #include <string>
 
 namespace quadrelle {
@@ -49,7 +50,8 @@ private:
     const Tile& current_;
     Versions_Layout layout_;
     Dialog_Frame frame_{"Versions"};
-    Tile checkerboard_;
+    // Textures do not repeat, so it is as large as the largest area that it is to lie under.
+    std::unique_ptr<Texture> checkerboard_;
     Button_Dialog_Item store_button_{{}, Button_Type::set};
     Button_Dialog_Item take_button_{{}, Button_Type::copy};
     std::optional<int> selected_;
@@ -59,7 +61,7 @@ private:
 
 Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
     : versions_(versions), current_(current), layout_(versions_layout(current.size(), screen->size())),
-      checkerboard_(checkerboard({layout_.big_view.width, layout_.big_view.height})) {
+      checkerboard_(make_checkerboard({layout_.big_view.width, layout_.big_view.height})) {
     frame_.set_size({layout_.dialog.width, layout_.dialog.height - dialog_title_height});
     store_button_.area = layout_.store_button;
     take_button_.area = layout_.take_button;
@@ -87,7 +89,7 @@ void Versions_Dialog::draw() const {
 }
 
 void Versions_Dialog::draw_view(const Tile& tile, const Rectangle& area) const {
-    checkerboard_.texture().draw_part({0, 0, area.width, area.height}, area);
+    checkerboard_->draw_part({0, 0, area.width, area.height}, area);
     tile.draw(area);
     screen->draw_outline(area.inset(-1), standard_color(Standard_Color::frame));
 }

@@ -48,7 +48,6 @@ constexpr std::array places{
 
     Place{"app/brush_feedback",           Level::pixels},
     Place{"app/canvas_painter",           Level::pixels},
-    Place{"app/checkerboard",             Level::pixels},
     Place{"app/renderer",                 Level::pixels},
     Place{"app/streaming_texture",        Level::pixels},
     Place{"color/palette_store",          Level::pixels},
@@ -77,7 +76,6 @@ constexpr std::array places{
     Place{"color/color_handles",          Level::panes},
     Place{"color/hsv_selector",           Level::panes},
     Place{"color/palette_area",           Level::panes},
-    Place{"color/swatch",                 Level::panes},
     Place{"color/variations",             Level::panes},
     Place{"selection/copy_panes",         Level::panes},
     Place{"tools/brush_pad_panes",        Level::panes},

@@ -4,6 +4,8 @@
 #include "tests/support/window_test.h"
 #include "ui/shown_text.h"
 
+#include <SDL3/SDL.h>
+
 #include <string>
 #include <vector>
 
@@ -14,30 +16,69 @@ const std::string broken = "\xff"
                            "a\xc3"
                            "b\xe6\x97";
 
+constexpr std::size_t limit = 4000;
+
 class Text_Field_Test : public Window_Test {
 protected:
-    void press(const std::vector<Keycode>& keys) {
+    Text_Change type(const std::string& text) {
+        SDL_Event event{};
+        event.type = SDL_EVENT_TEXT_INPUT;
+        event.text.text = text.c_str();
+        return field_.handle(event);
+    }
+    void press(const std::vector<Keycode>& keys, SDL_Keymod modifiers = SDL_KMOD_NONE) {
         for (const Keycode pressed : keys) {
-            EXPECT_TRUE(field_.handle_key(pressed));
+            SDL_Event event{};
+            event.type = SDL_EVENT_KEY_DOWN;
+            event.key.key = pressed;
+            event.key.mod = modifiers;
+            field_.handle(event);
         }
     }
+    void click(int x, Uint8 clicks = 1) {
+        SDL_Event event{};
+        event.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
+        event.button.button = SDL_BUTTON_LEFT;
+        event.button.clicks = clicks;
+        event.button.x = static_cast<float>(x);
+        event.button.y = static_cast<float>(area_.y + 5);
+        field_.handle(event);
+    }
 
-    static constexpr Rectangle area_{100, 100, 200, Text_Field::height};
-    Text_Field field_{area_};
+    static constexpr Rectangle area_{100, 100, 200, 29};
+    Text_Field field_{area_, Font::regular, limit};
 };
 
 TEST_F(Text_Field_Test, edits_whole_characters) {
-    field_.insert("aü日z");
+    EXPECT_EQ(type("aü日z"), Text_Change::changed);
     press({key::left, key::backspace});
     EXPECT_EQ(field_.text(), "aüz");
     press({key::home, key::left, key::delete_key, key::right, key::right, key::right, key::delete_key});
     EXPECT_EQ(field_.text(), "üz");
     press({key::home, key::backspace});
-    field_.insert("\x1b\n1\x7f");
-    press({key::end});
-    field_.insert("2");
+    type("\x1b\n1\x7f");
+    press({key::end, 'a'});
+    type("2");
     EXPECT_EQ(field_.text(), "1üz2");
-    EXPECT_FALSE(field_.handle_key('a'));
+}
+
+TEST_F(Text_Field_Test, replaces_all_that_is_selected) {
+    field_.set_text("abc");
+    press({'a'}, SDL_KMOD_LCTRL);
+    type("d");
+    EXPECT_EQ(field_.text(), "d");
+    click(area_.right() - 5, 2);
+    press({key::backspace, key::backspace});
+    EXPECT_EQ(field_.text(), "");
+    field_.set_text("abc");
+    field_.select_all();
+    press({key::left});
+    SDL_SetClipboardText("\n日/x\n");
+    press({'v'}, SDL_KMOD_LCTRL);
+    EXPECT_EQ(field_.text(), "日/xabc");
+    field_.select_all();
+    press({'v'}, SDL_KMOD_LCTRL);
+    EXPECT_EQ(field_.text(), "日/x");
 }
 
 TEST_F(Text_Field_Test, keeps_what_is_no_text_byte_by_byte) {
@@ -49,8 +90,8 @@ TEST_F(Text_Field_Test, keeps_what_is_no_text_byte_by_byte) {
 }
 
 TEST_F(Text_Field_Test, shows_no_more_than_has_room) {
-    field_.insert(std::string(2 * Text_Field::most_characters, 'W'));
-    EXPECT_EQ(field_.text().size(), Text_Field::most_characters);
+    type(std::string(2 * limit, 'W'));
+    EXPECT_EQ(field_.text().size(), limit);
     screen->clear();
     for (const Keycode moved : {key::end, key::left, key::home}) {
         press({moved});
@@ -63,14 +104,13 @@ TEST_F(Text_Field_Test, shows_no_more_than_has_room) {
 }
 
 TEST_F(Text_Field_Test, puts_the_caret_where_it_is_clicked) {
-    field_.insert("WWiW");
-    const int letter = screen->text_width(Font::regular, "W");
-    field_.place_caret({area_.x + 6 + letter + 1, area_.y + 5});
-    field_.insert("1");
-    field_.place_caret({area_.right() - 1, area_.y + 5});
-    field_.insert("2");
-    field_.place_caret({area_.x, area_.y + 5});
-    field_.insert("3");
+    type("WWiW");
+    click(area_.x + 6 + screen->text_width(Font::regular, "W") + 1);
+    type("1");
+    click(area_.right() - 1);
+    type("2");
+    click(area_.x);
+    type("3");
     EXPECT_EQ(field_.text(), "3W1WiW2");
 }
 

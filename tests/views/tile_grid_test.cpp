@@ -1,10 +1,9 @@
 #include "views/tile_grid.h"
 
-#include "app/canvas_painter.h"
 #include "app/screen.h"
+#include "color/checkerboard.h"
 #include "tests/support/window_test.h"
 #include "tileset/tileset.h"
-#include "ui/checkerboard.h"
 
 #include <vector>
 

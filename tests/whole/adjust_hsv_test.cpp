@@ -148,6 +148,43 @@ TEST_F(Adjust_HSV_Test, changes_all_tiles_and_starts_the_history_anew) {
     EXPECT_EQ(picture(2), after);
 }
 
+TEST_F(Adjust_HSV_Test, keeps_to_the_selection_unless_all_tiles_change) {
+    execute(Command::add_new_tile);
+    paint_at_random();
+    const std::vector<Tile_Picture> before{picture(0), picture(1)};
+    const HSV_Change change{.value = 1};
+    const auto in_corner = [&] {
+        Tile_Picture pixels = changed(before[1], change);
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            pixels[i] = i % 24 < 6 && i / 24 < 4 ? pixels[i] : before[1][i];
+        }
+        return pixels;
+    };
+    editor->canvas().work_area().select(selected_rectangle({24, 24}, {0, 0}, {6, 4}), Selection_Change::add);
+    script().click({more_x, value_y}).check([&] { EXPECT_EQ(picture(1), in_corner()); });
+    script().key('a').check([&] { EXPECT_EQ(picture(1), changed(before[1], change)); });
+    script().key('a').check([&] { EXPECT_EQ(picture(1), in_corner()); }).key('a').key(key::escape);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(1), before[1]);
+
+    script().click({more_x, value_y}).key(key::enter);
+    execute(Command::adjust_hsv);
+    EXPECT_EQ(picture(1), in_corner());
+    EXPECT_EQ(picture(0), before[0]);
+}
+
+TEST_F(Adjust_HSV_Test, shows_the_sliders_in_a_color_that_changes) {
+    Tile& tile = *document().tileset().current_tile();
+    tile.fill({255, 0, 0, 0});
+    tile.set_pixel(3, 3, {60, 90, 60});
+    script().check([] {
+        EXPECT_EQ(pixel_at({bar_left, value_y}), Color(0, 0, 0));
+        EXPECT_GT(pixel_at({bar_right, value_y}).g, 200);
+    });
+    script().key(key::escape);
+    execute(Command::adjust_hsv);
+}
+
 TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_color_editor) {
     const Tile_Picture before = picture();
     execute(Command::horizontal_seam_tool);

@@ -186,6 +186,11 @@ TEST_F(Color_Editor_Test, edits_the_text_like_any_text) {
     EXPECT_EQ(edited(), Color(1, 2, 3));
 }
 
+TEST_F(Color_Editor_Test, gives_the_keys_to_the_text_that_they_edit) {
+    script().key(key::down).key(key::delete_key).key(key::right).key(key::enter).key(key::escape);
+    EXPECT_EQ(edited(), start);
+}
+
 TEST_F(Color_Editor_Test, copies_and_pastes) {
     script().key('c', Modifier::control).key(key::escape);
     EXPECT_EQ(edited(), start);

@@ -176,14 +176,14 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
 
 TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
     EXPECT_EQ(hint_at(cell(3, 4), script()),
-              (Lines{"Pixel 3, 4", "Color: 0, 0, 0, 255   #000000FF", "Name: Black"}));
+              (Lines{"Pixel 3, 4", "Color: 0, 0, 0, 255   #000000", "Name: Black"}));
     document().tileset().current_tile()->set_pixel(23, 0, {1, 171, 255, 9});
     EXPECT_EQ(hint_at(cell(23, 0), script()),
-              (Lines{"Pixel 23, 0", "Color: 1, 171, 255, 9   #01ABFF09", "Name: ---"}));
+              (Lines{"Pixel 23, 0", "Color: 1, 171, 255, 9   #01abff09", "Name: ---"}));
     // Also while drawing.
     script().press(cell(5, 5)).motion(cell(6, 5)).check([] {
         EXPECT_EQ(editor->hint_lines().lines().at(0), "Pixel 6, 5");
-        EXPECT_EQ(editor->hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #FFFFFFFF");
+        EXPECT_EQ(editor->hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #ffffff");
     });
     script().release(cell(6, 5));
     play();

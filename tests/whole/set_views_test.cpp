@@ -1,7 +1,6 @@
-#include "app/canvas_painter.h"
 #include "app/screen.h"
+#include "color/checkerboard.h"
 #include "tests/whole/program_test.h"
-#include "ui/checkerboard.h"
 #include "ui/dialogs.h"
 #include "views/arrangement.h"
 

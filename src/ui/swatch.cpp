@@ -1,7 +1,8 @@
-#include "color/swatch.h"
+#include "ui/swatch.h"
 
 #include "app/screen.h"
 #include "color/standard_colors.h"
+#include "ui/checkerboard.h"
 
 #include <algorithm>
 
@@ -12,6 +13,13 @@ namespace {
 constexpr int least_edge_for_inner_mark = 10;
 
 } // namespace
+
+void draw_swatch(const Rectangle& area, Color color) {
+    if (color.a < 255) {
+        draw_checkerboard(area);
+    }
+    screen->fill_rect(area, color);
+}
 
 void draw_mark(const Rectangle& area) {
     screen->draw_outline(area, standard_color(Standard_Color::black));
