@@ -1,6 +1,6 @@
 #include "tools/brush_pad_panes.h"
 
-#include "app/canvas_painter.h"
+#include "color/checkerboard.h"
 #include "color/standard_colors.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ void paint_brush(Tile& target, const Pad_Brush& brush, Tile_Point corner, Color 
         for (int x = 0; x < brush.brush.size().width; ++x) {
             if (const std::optional<Color> color = brush.brush.pixel(x, y)) {
                 target.set_pixel(corner.x + 1 + x, corner.y + 1 + y,
-                                 blended_over(*color, checker_color({x, y}, checker)));
+                                 blended_over(*color, checkerboard_color(x, y, checker)));
             }
         }
     }
