@@ -71,6 +71,10 @@ void Canvas_View::save_history() {
     history_ = tile_ == nullptr ? nullptr : std::make_unique<Tile>(*tile_);
 }
 
+bool Canvas_View::shows_paste() const {
+    return work_area_.paste() && !work_area_.has_selection() && toolbox->shows_floating_paste();
+}
+
 Size Canvas_View::magnified_size() const {
     return tile_ == nullptr ? Size{} : Size{tile_->width() * pixel_size_, tile_->height() * pixel_size_};
 }
@@ -202,7 +206,7 @@ void Canvas_View::show_selection(Canvas_Picture& picture) const {
     if (work_area_.has_selection()) {
         picture.selection = &work_area_.selection();
         outline(work_area_.selection(), Edge_Family::selection);
-    } else if (work_area_.paste() && toolbox->shows_floating_paste()) {
+    } else if (shows_paste()) {
         picture.paste = &*work_area_.paste();
         outline(work_area_.paste_area(), Edge_Family::paste);
     }

@@ -48,6 +48,8 @@ public:
     // What is selected on the tile and floats over it. Stays when another tile of the same size comes.
     [[nodiscard]] Work_Area& work_area() { return work_area_; }
     [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
+    // Something floats, the tool in use shows it, and no selection takes its place.
+    [[nodiscard]] bool shows_paste() const;
 
     // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
     // called.

@@ -258,13 +258,13 @@ void Editor::draw_on_canvas() {
     const bool returns =
         toolbox->current_tool() == Tool::dropper && toolbox->value(Tool_Option::dropper_return) == 1;
     std::optional<Undo_Entry> floor = missing_floor();
+    const Tile_Point pressed = canvas_.tile_point(pointer_.point());
     const Stroke_Outcome outcome =
         apply_tool(canvas_, toolbox->canvas_action(), pointer_, [this] { redraw(Present::yes); });
-    if (outcome == Stroke_Outcome::something_changed) {
-        const Command kind = row_of(toolbox->current_tool()).command;
-        float_wand_area();
-        record(canvas_.work_area().paste() && kind == Command::wand_selector ? Command::paste : kind,
-               std::move(floor));
+    const Command kind = row_of(toolbox->current_tool()).command;
+    const bool floats = float_wand_area(pressed);
+    if (floats || outcome == Stroke_Outcome::something_changed) {
+        record(floats ? Command::paste : kind, std::move(floor));
         documents_.mark_changed();
     }
     if (returns && outcome == Stroke_Outcome::color_picked) {

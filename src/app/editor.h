@@ -131,15 +131,24 @@ private:
     void float_paste(const Floating_Paste& paste);
     // True when that changed something.
     bool plot_paste();
+    // Where no selection takes its place, and its pixels are not in the tile already.
+    [[nodiscard]] bool is_paste_to_settle() const;
+    void settle_paste();
+    // Before another tool is taken or the tile is saved: what floats goes into the tile as a step of its own,
+    // unless it is fixed.
+    void plot_paste_to_leave();
     Command transform_work_area(Command command);
     bool nudge_paste(Key_Chord chord);
-    void float_wand_area();
+    // Nudges that follow each other are one step.
+    void record_nudge(std::optional<Undo_Entry> floor);
+    // Where the wand was pressed; false when nothing was selected there, or the wand only selects.
+    [[nodiscard]] bool float_wand_area(Tile_Point pressed);
 
     // Adds the current tile to the history of the current document, and before it the state that an undo
     // gives back, where the history did not know it.
     void record(Command kind, std::optional<Undo_Entry> floor);
-    // The current tile, when the history stands on another one or on nothing: adding tiles, for example,
-    // records none of them.
+    // The current state, when the history stands on another tile, on nothing, or on another work area: adding
+    // tiles, for example, records none of them, and what floats may come from another document.
     [[nodiscard]] std::optional<Undo_Entry> missing_floor();
     // False without an entry.
     bool restore(const Undo_Entry* entry);
@@ -156,6 +165,7 @@ private:
     Copy_Buffer copy_buffer_;
     Copy_Panes copy_panes_;
     System_Clipboard clipboard_;
+    std::weak_ptr<const Floating_Paste> nudged_; // as the history keeps it
     Documents documents_;
     Palette_Area palette_;
     Selected_Color_Area selected_color_;

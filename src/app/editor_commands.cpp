@@ -58,7 +58,7 @@ bool leaves_selection(Command command) {
     }
 }
 
-// Turned about the middle of the shifted tile, it could not be shifted back.
+// Turned about the middle of the shifted tile, it could not be shifted back; what is selected or floats can.
 bool turns_tile(Command command) {
     switch (command) {
     case Command::rotate:
@@ -148,7 +148,7 @@ Command Editor::dispatch(Command command) {
             result = documents_.current().handle_command(command);
         }
     };
-    if (turns_tile(command)) {
+    if (turns_tile(command) && !canvas_.work_area().has_selection() && !canvas_.shows_paste()) {
         canvas_.with_tile_in_place(handle);
     } else {
         handle();
@@ -205,9 +205,8 @@ Command Editor::select_tool(Command command) {
     if (tool == toolbox->current_tool()) {
         return command;
     }
-    const bool stays = toolbox->selection_mode() == Selection_Mode::fixed;
-    if (tool != Tool::selection && canvas_.work_area().paste() && !stays) {
-        execute(Command::plot_paste);
+    if (tool != Tool::selection) {
+        plot_paste_to_leave();
     }
     toolbox->select(command);
     return command;
@@ -301,6 +300,7 @@ Command Editor::load(Command command) {
 }
 
 Command Editor::save(Command command) {
+    plot_paste_to_leave();
     const Save_As save_as = command == Command::save_as ? Save_As::yes : Save_As::no;
     return documents_.save_document(save_as) ? command : Command::skip_command;
 }

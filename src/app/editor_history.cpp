@@ -36,15 +36,34 @@ void Editor::record(Command kind, std::optional<Undo_Entry> floor) {
 
 std::optional<Undo_Entry> Editor::missing_floor() {
     Tileset_Document& document = documents_.current();
-    const int index = document.tileset().current_index();
     std::optional<Undo_Entry> floor;
-    if (document.tileset().has_tiles() && !document.history().stands_on(index)) {
-        canvas_.with_tile_in_place([&] {
+    if (!document.tileset().has_tiles()) {
+        return floor;
+    }
+    canvas_.with_tile_in_place([&] {
+        const Undo_Entry* const entry = document.history().current();
+        const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
+                              canvas_.work_area() == entry->work;
+        if (!is_known) {
             floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool(),
                                   canvas_.work_area().state());
-        });
-    }
+        }
+    });
     return floor;
+}
+
+void Editor::record_nudge(std::optional<Undo_Entry> floor) {
+    Undo_History& history = documents_.current().history();
+    const Undo_Entry* const last = history.current();
+    if (!floor && last != nullptr && last->work.paste && last->work.paste == nudged_.lock()) {
+        // What is recorded next takes the place of what was undone.
+        static_cast<void>(history.undo());
+    }
+    record(Command::work_selection, std::move(floor));
+    documents_.mark_changed();
+    if (history.current() != nullptr) {
+        nudged_ = history.current()->work.paste;
+    }
 }
 
 Command Editor::undo(Command command) {

@@ -24,7 +24,7 @@ Command Editor::change_selection(Command command) {
     switch (command) {
     case Command::deselect: deselect(); break;
     case Command::invert_selection:
-        plot_paste();
+        settle_paste();
         work.invert_selection();
         break;
     case Command::fill: fill_selected(tool_colors->color(Mouse_Button::left)); break;
@@ -36,11 +36,14 @@ Command Editor::change_selection(Command command) {
     return is_same ? Command::skip_command : command;
 }
 
-// What floats is kept: it becomes a part of the tile.
+// What floats is kept: it becomes a part of the tile. A selection over it goes first.
 void Editor::deselect() {
-    plot_paste();
+    if (canvas_.work_area().has_selection()) {
+        canvas_.work_area().deselect();
+        return;
+    }
+    settle_paste();
     canvas_.work_area().drop_paste();
-    canvas_.work_area().deselect();
 }
 
 void Editor::fill_selected(Color color) {
@@ -53,25 +56,24 @@ void Editor::fill_selected(Color color) {
 }
 
 void Editor::clear_selected() {
-    const Work_Area& work = canvas_.work_area();
-    if (work.paste() && !work.has_selection()) {
+    if (canvas_.shows_paste()) {
         canvas_.work_area().drop_paste();
     } else {
         fill_selected(Color(0, 0, 0, 0));
     }
 }
 
-// What is selected, or what floats, or else the whole tile. Floating ends a selection, so that of both the
-// selection was meant last.
+// What is selected, or the paste that is to be seen, or else the whole tile.
 std::optional<Floating_Paste> Editor::copied() {
     const Work_Area& work = canvas_.work_area();
-    if (canvas_.tile() == nullptr) {
+    if (canvas_.tile() == nullptr || canvas_.tile()->pixel_count() == 0) {
         return std::nullopt;
     }
-    if (work.has_selection()) {
-        return lifted(*canvas_.tile(), work.selection());
+    if (canvas_.shows_paste()) {
+        return *work.paste();
     }
-    return work.paste() ? *work.paste() : Floating_Paste{*canvas_.tile(), {0, 0}};
+    return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
+                                : Floating_Paste{*canvas_.tile(), {0, 0}};
 }
 
 Command Editor::copy(Command command) {
@@ -85,8 +87,7 @@ Command Editor::copy(Command command) {
 }
 
 Command Editor::cut(Command command) {
-    const Work_Area& work = canvas_.work_area();
-    if (!work.paste() && !work.has_selection()) {
+    if (!canvas_.shows_paste() && !canvas_.work_area().has_selection()) {
         dialogs->message("Note", "Nothing selected to cut.");
         return Command::none;
     }
@@ -105,14 +106,6 @@ Floating_Paste placed(const Tile& picture, Size tile) {
     Floating_Paste paste = cloned({picture, {}}, Clone_Style::centred, tile);
     paste.position = {std::max(paste.position.x, 0), std::max(paste.position.y, 0)};
     return paste;
-}
-
-// One that lies beside the tile, as copies from a larger one may, comes into its middle.
-Floating_Paste in_view(const Floating_Paste& paste, Size tile) {
-    const bool is_beside = paste.position.x >= tile.width || paste.position.y >= tile.height ||
-                           paste.position.x + paste.picture.width() <= 0 ||
-                           paste.position.y + paste.picture.height() <= 0;
-    return is_beside ? cloned(paste, Clone_Style::centred, tile) : paste;
 }
 
 } // namespace
@@ -145,8 +138,8 @@ Command Editor::paste(Command command) {
 
 // A selection is copied first.
 Command Editor::clone(Command command) {
-    const Work_Area& work = canvas_.work_area();
-    if ((work.paste() || work.has_selection()) && copy(Command::copy) == Command::none) {
+    if ((canvas_.shows_paste() || canvas_.work_area().has_selection()) &&
+        copy(Command::copy) == Command::none) {
         return Command::none;
     }
     const Floating_Paste* const copy = copy_buffer_.current();
@@ -160,7 +153,8 @@ Command Editor::clone(Command command) {
 
 // What floats already becomes a part of the tile.
 void Editor::float_paste(const Floating_Paste& paste) {
-    plot_paste();
+    canvas_.work_area().deselect();
+    settle_paste();
     canvas_.work_area().float_paste(paste);
     select_tool(Command::work_selection);
 }
@@ -182,6 +176,26 @@ bool Editor::plot_paste() {
     return drops || !std::ranges::equal(before, tile->pixels());
 }
 
+// One that persists was plotted when its tool was left, and what was drawn over it since is to stay.
+bool Editor::is_paste_to_settle() const {
+    const Work_Area& work = canvas_.work_area();
+    const bool was_left =
+        toolbox->selection_mode() == Selection_Mode::persistent && !toolbox->shows_floating_paste();
+    return work.paste() && !work.has_selection() && !was_left;
+}
+
+void Editor::settle_paste() {
+    if (is_paste_to_settle()) {
+        plot_paste();
+    }
+}
+
+void Editor::plot_paste_to_leave() {
+    if (toolbox->selection_mode() != Selection_Mode::fixed && is_paste_to_settle()) {
+        execute(Command::plot_paste);
+    }
+}
+
 Command Editor::plot(Command command) {
     return plot_paste() ? command : Command::skip_command;
 }
@@ -191,7 +205,7 @@ Command Editor::transform_work_area(Command command) {
     if (canvas_.tile() == nullptr) {
         return Command::none;
     }
-    if (work.paste() && toolbox->shows_floating_paste()) {
+    if (canvas_.shows_paste()) {
         return work.transform_paste(command);
     }
     return work.has_selection() ? transform_selected(*canvas_.tile(), work.mutable_selection(), command)
@@ -200,7 +214,7 @@ Command Editor::transform_work_area(Command command) {
 
 bool Editor::nudge_paste(Key_Chord chord) {
     Work_Area& work = canvas_.work_area();
-    if (chord.modifier != Modifier::shift || !work.paste() || !toolbox->shows_floating_paste()) {
+    if (chord.modifier != Modifier::shift || !canvas_.shows_paste()) {
         return false;
     }
     Tile_Point position = work.paste()->position;
@@ -211,22 +225,22 @@ bool Editor::nudge_paste(Key_Chord chord) {
     case key::down: ++position.y; break;
     default: return false;
     }
+    std::optional<Undo_Entry> floor = missing_floor();
     work.move_paste_to(position);
-    record(Command::work_selection, std::nullopt);
+    record_nudge(std::move(floor));
     return true;
 }
 
-// The wand's quick modes float what it selected at once, as a copy or instead of the tile's own pixels.
-void Editor::float_wand_area() {
+// The wand's quick modes float what is selected at once, as a copy or instead of the tile's own pixels.
+bool Editor::float_wand_area(Tile_Point pressed) {
     const auto mode = static_cast<Wand_Mode>(toolbox->value(Tool_Option::wand_mode));
     if (toolbox->current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
-        !canvas_.work_area().has_selection()) {
-        return;
+        !canvas_.work_area().selection().contains(pressed)) {
+        return false;
     }
     static_cast<void>(mode == Wand_Mode::quick_cut ? cut(Command::cut) : copy(Command::copy));
-    if (copy_buffer_.current() != nullptr) {
-        float_paste(*copy_buffer_.current());
-    }
+    float_paste(*copy_buffer_.current());
+    return true;
 }
 
 } // namespace quadrelle

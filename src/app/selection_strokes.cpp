@@ -93,10 +93,12 @@ void finish_marking(Drawing_Target& /*target*/, const Stroke_Segment& segment) {
 Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = *segment.work;
     const bool has_moved = segment.from != segment.to;
-    if (has_moved && !work.paste() && work.selection().contains(segment.from)) {
+    if (has_moved && work.selection().contains(segment.from)) {
         work.lift_selection(target.tile());
     }
-    if (has_moved && work.paste() && is_in_picture(*work.paste(), segment.from)) {
+    // A selection over it is what the stroke is about.
+    const bool is_about_paste = work.paste() && !work.has_selection();
+    if (has_moved && is_about_paste && is_in_picture(*work.paste(), segment.from)) {
         const Tile_Point start = work.paste()->position;
         work.move_paste_to(
             {start.x + segment.to.x - segment.from.x, start.y + segment.to.y - segment.from.y});
@@ -107,7 +109,7 @@ Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = *segment.work;
     const bool is_click = segment.from == segment.to;
-    if (work.paste()) {
+    if (work.paste() && !work.has_selection()) {
         if (is_click && !is_in_picture(*work.paste(), segment.from)) {
             work.paste()->plot(target);
             if (toolbox->selection_mode() == Selection_Mode::standard) {
@@ -121,7 +123,11 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
 
 Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = *segment.work;
-    if (segment.from != segment.to && !work.paste() && work.has_selection()) {
+    if (work.has_selection()) {
+        if (segment.from == segment.to) {
+            toolbox->options().set_degrees(0);
+            return Segment_Outcome::nothing;
+        }
         work.lift_selection(target.tile());
     }
     const Size size = work.paste() ? work.paste()->picture.size() : target.size();

@@ -31,5 +31,7 @@ private:
 // Where a copy lies when it is cloned.
 enum class Clone_Style : int { original_location, centred, top_left, resized };
 [[nodiscard]] Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile);
+// One that lies beside the tile, as those from a larger one may, comes into its middle.
+[[nodiscard]] Floating_Paste in_view(const Floating_Paste& paste, Size tile);
 
 } // namespace quadrelle

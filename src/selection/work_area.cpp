@@ -1,5 +1,7 @@
 #include "selection/work_area.h"
 
+#include "selection/copy_buffer.h"
+
 #include <algorithm>
 
 namespace quadrelle {
@@ -20,6 +22,9 @@ std::size_t Work_State::memory_size() const {
 void Work_Area::resize(Size tile) {
     candidate_.reset();
     selection_.emplace(tile);
+    if (paste_) {
+        paste_.emplace(in_view(*paste_, tile));
+    }
     update_paste_area();
 }
 
@@ -35,6 +40,10 @@ void Work_Area::move_paste_to(Tile_Point position) {
 }
 
 void Work_Area::lift_selection(Tile& tile) {
+    if (paste_) {
+        Drawing_Target target(tile);
+        paste_->plot(target);
+    }
     const Floating_Paste paste = lifted(tile, *selection_);
     clear_selected(tile, *selection_);
     float_paste(paste);
@@ -47,6 +56,9 @@ void Work_Area::update_paste_area() {
 }
 
 Command Work_Area::transform_paste(Command command) {
+    if (command < Command::rotate || command > Command::flip) {
+        return Command::none;
+    }
     const Tile& before = paste_->picture;
     const bool turns = command == Command::rotate || command == Command::rotate_back;
     Floating_Paste after{turns ? Tile(before.height(), before.width()) : Tile(before), paste_->position};

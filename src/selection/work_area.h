@@ -24,7 +24,8 @@ class Work_Area {
 public:
     Work_Area() : selection_(Selection(Size{})) {}
 
-    // For a tile of that size. Nothing is selected; what floats stays.
+    // For a tile of that size. Nothing is selected; what floats stays, and does not come to lie beside the
+    // tile.
     void resize(Size tile);
 
     [[nodiscard]] const Selection& selection() const { return *selection_; }
@@ -46,8 +47,8 @@ public:
     void drop_paste() { paste_.reset(); }
     // Where the paste lies in the tile; only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
-    // The selected pixels leave the tile, transparent holes behind them, and float where they were. The
-    // selection is not empty.
+    // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
+    // floated before becomes a part of the tile. The selection is not empty.
     void lift_selection(Tile& tile);
 
     // Turns or mirrors the paste about its middle. The command when that was done, else none.

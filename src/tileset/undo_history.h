@@ -56,9 +56,9 @@ public:
     [[nodiscard]] std::span<const Undo_Entry> entries() const { return entries_; }
     // Index of the entry that matches what is on screen; -1 without entries.
     [[nodiscard]] int position() const { return position_; }
-    // Whether that entry is one of the tile with that index.
-    [[nodiscard]] bool stands_on(int tile_index) const {
-        return position_ >= 0 && entries_[static_cast<std::size_t>(position_)].tile_index == tile_index;
+    // That entry; null without entries.
+    [[nodiscard]] const Undo_Entry* current() const {
+        return position_ < 0 ? nullptr : &entries_[static_cast<std::size_t>(position_)];
     }
     // Memory in units of 1024 bytes, rounded down.
     [[nodiscard]] int size_kb() const;

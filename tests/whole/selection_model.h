@@ -12,6 +12,7 @@
 #include <functional>
 #include <optional>
 #include <ostream>
+#include <utility>
 #include <vector>
 
 namespace quadrelle::testing {
@@ -78,6 +79,7 @@ struct State {
     Image picture;
     Work work;
     Tool tool = Tool::pen;
+    int nudge = 0;
 };
 
 struct Document_Model {
@@ -93,9 +95,18 @@ public:
         Document_Model document;
         document.tiles.assign(tiles, Image(tile));
         document.current = tiles - 1;
-        document.states.push_back({0, document.tiles[0], {nothing(tile), {}}, Tool::pen});
+        document.states.push_back({0, document.tiles[0], {nothing(tile), {}}, Tool::pen, 0});
         documents.push_back(document);
         show_document(documents.size() - 1);
+    }
+    [[nodiscard]] bool is_beside(const Paste& paste) const {
+        return paste.position.x >= size_.width || paste.position.y >= size_.height ||
+               paste.position.x + paste.picture.size.width <= 0 ||
+               paste.position.y + paste.picture.size.height <= 0;
+    }
+    void centre(Paste& paste) const {
+        paste.position = {(size_.width - paste.picture.size.width) / 2,
+                          (size_.height - paste.picture.size.height) / 2};
     }
     void show_document(std::size_t index) {
         const bool fits = documents[index].tiles[0].size == size_;
@@ -104,6 +115,9 @@ public:
         size_ = document().tiles[0].size;
         if (!fits) {
             work.mask = nothing(size_);
+            if (work.paste && is_beside(*work.paste)) {
+                centre(*work.paste);
+            }
         }
     }
 
@@ -121,15 +135,42 @@ public:
         const State before = state();
         change();
         if (is_always_recorded || before.picture != tile() || before.work != work) {
-            if (document().states[document().position].tile != document().current) {
+            const State& last = document().states[document().position];
+            if (last.tile != document().current || last.work != before.work) {
                 push(before);
             }
             push(state());
         }
     }
+    [[nodiscard]] bool shows_paste() const {
+        return work.paste && !has_selection() && (tool == Tool::selection || mode == Selection_Mode::fixed);
+    }
+    // Steps of the same nudging are one.
+    void nudge(Tile_Point step) {
+        const Document_Model& shown_document = document();
+        const State& last = shown_document.states[shown_document.position];
+        if (last.nudge != 0 && last.nudge == last_nudge_ && last.tile == shown_document.current &&
+            last.work == work && shown_document.position > 0) {
+            --document().position;
+            work.paste->position = {work.paste->position.x + step.x, work.paste->position.y + step.y};
+            push(state());
+        } else {
+            edit([&] {
+                work.paste->position = {work.paste->position.x + step.x, work.paste->position.y + step.y};
+            });
+        }
+        document().states[document().position].nudge = ++last_nudge_;
+    }
+    // A paste that persists is in the tile already where its tool was left.
+    void settle() {
+        const bool was_left = mode == Selection_Mode::persistent && tool != Tool::selection;
+        if (!has_selection() && !was_left) {
+            plot();
+        }
+    }
     void select_tool(Tool chosen) {
         if (chosen != tool && chosen != Tool::selection && work.paste && mode != Selection_Mode::fixed) {
-            edit([this] { plot(); });
+            edit([this] { settle(); });
         }
         tool = chosen;
     }
@@ -165,7 +206,7 @@ public:
         });
     }
     void clear() {
-        if (work.paste && !has_selection()) {
+        if (shows_paste()) {
             work.paste.reset();
         } else {
             fill({0, 0, 0, 0});
@@ -191,19 +232,24 @@ public:
         return paste;
     }
     void copy() {
-        copies.push_front(has_selection() ? lifted() : work.paste ? *work.paste : Paste{tile(), {}});
+        copies.push_front(has_selection() ? lifted() : shows_paste() ? *work.paste : Paste{tile(), {}});
         if (copies.size() > Copy_Buffer::capacity) {
             copies.pop_back();
         }
         current_copy = 0;
     }
     void floats(const Paste& paste) {
-        tool = Tool::selection;
-        plot();
         deselect();
+        settle();
+        tool = Tool::selection;
         work.paste = paste;
     }
     void lift() {
+        if (work.paste) {
+            const std::vector<bool> mask = std::exchange(work.mask, nothing(size_));
+            plot();
+            work.mask = mask;
+        }
         const Paste paste = lifted();
         fill({0, 0, 0, 0});
         deselect();
@@ -244,7 +290,7 @@ private:
     [[nodiscard]] std::size_t index(Tile_Point p) const {
         return static_cast<std::size_t>(p.y * size_.width + p.x);
     }
-    [[nodiscard]] State state() { return {document().current, tile(), work, tool}; }
+    [[nodiscard]] State state() { return {document().current, tile(), work, tool, 0}; }
     void push(const State& state) {
         auto& [tiles, current, states, position] = document();
         states.erase(states.begin() + static_cast<std::ptrdiff_t>(position) + 1, states.end());
@@ -263,6 +309,7 @@ private:
     }
 
     Size size_;
+    int last_nudge_ = 0;
 };
 
 } // namespace quadrelle::testing

@@ -185,7 +185,7 @@ void Selection_Model_Test::pour() {
         mask[i] = area[i] ? button == Mouse_Button::left : mask[i];
     }
     const bool is_quick =
-        mode != Wand_Mode::normal && mask != model_.work.mask && std::ranges::find(mask, true) != mask.end();
+        mode != Wand_Mode::normal && mask[static_cast<std::size_t>(at.y * model_.size().width + at.x)];
     model_.edit(
         [&] {
             model_.work.mask = mask;
@@ -202,7 +202,7 @@ void Selection_Model_Test::pour() {
 }
 
 void Selection_Model_Test::cut() {
-    if (!model_.work.paste && !model_.has_selection()) {
+    if (!model_.shows_paste() && !model_.has_selection()) {
         return;
     }
     change(
@@ -223,11 +223,8 @@ void Selection_Model_Test::paste() {
         Command::paste,
         [&] {
             Paste copy = model_.copies[model_.current_copy];
-            const Size size = model_.size();
-            const Size own = copy.picture.size;
-            if (copy.position.x >= size.width || copy.position.y >= size.height ||
-                copy.position.x + own.width <= 0 || copy.position.y + own.height <= 0) {
-                copy.position = {(size.width - own.width) / 2, (size.height - own.height) / 2};
+            if (model_.is_beside(copy)) {
+                model_.centre(copy);
             }
             model_.floats(copy);
         },
@@ -240,21 +237,21 @@ void Selection_Model_Test::clone() {
     style_item.notify(Dialog_Event_Kind::increase);
     options->load();
     const int style = options->value(Option::clone_style);
-    if (!model_.work.paste && !model_.has_selection() && model_.copies.empty()) {
+    if (!model_.shows_paste() && !model_.has_selection() && model_.copies.empty()) {
         editor->execute(Command::clone);
         return;
     }
     change(
         Command::clone,
         [&] {
-            if (model_.work.paste || model_.has_selection()) {
+            if (model_.shows_paste() || model_.has_selection()) {
                 model_.copy();
             }
             Paste copy = model_.copies[model_.current_copy];
             const Size size = model_.size();
             const Size own = copy.picture.size;
             if (style == 1) {
-                copy.position = {(size.width - own.width) / 2, (size.height - own.height) / 2};
+                model_.centre(copy);
             } else if (style == 2) {
                 copy.position = {};
             } else if (style == 3) {
@@ -262,7 +259,12 @@ void Selection_Model_Test::clone() {
                 Tile to(size.width, size.height);
                 std::ranges::copy(copy.picture.pixels, from.pixels().begin());
                 from.resample_into(to);
-                copy = {Image(to), {}};
+                Image resized(to);
+                for_each_pixel(size, [&](Tile_Point p) {
+                    resized.at(p).a =
+                        copy.picture.at({p.x * own.width / size.width, p.y * own.height / size.height}).a;
+                });
+                copy = {resized, {}};
             }
             model_.floats(copy);
         },
@@ -278,10 +280,10 @@ void Selection_Model_Test::move() {
     }
     drag(from, to, some_button());
     model_.edit([&] {
-        if (!model_.work.paste && model_.is_selected(from)) {
+        if (model_.is_selected(from)) {
             model_.lift();
         }
-        if (model_.work.paste && model_.work.paste->is_in_picture(from)) {
+        if (model_.work.paste && !model_.has_selection() && model_.work.paste->is_in_picture(from)) {
             model_.work.paste->position.x += to.x - from.x;
             model_.work.paste->position.y += to.y - from.y;
         }
@@ -294,7 +296,7 @@ void Selection_Model_Test::click_with_selection_tool() {
     script().click(window_point(at, 5), some_button());
     play();
     model_.edit([&] {
-        if (model_.work.paste) {
+        if (model_.work.paste && !model_.has_selection()) {
             if (!model_.work.paste->is_in_picture(at)) {
                 model_.plot();
             }
@@ -305,8 +307,7 @@ void Selection_Model_Test::click_with_selection_tool() {
 }
 
 void Selection_Model_Test::nudge() {
-    const bool is_seen = model_.tool == Tool::selection || model_.mode == Selection_Mode::fixed;
-    if (!model_.work.paste || !is_seen) {
+    if (!model_.shows_paste()) {
         return;
     }
     const int direction = below(4);
@@ -314,10 +315,7 @@ void Selection_Model_Test::nudge() {
     constexpr std::array<Tile_Point, 4> steps{{{-1, 0}, {1, 0}, {0, -1}, {0, 1}}};
     script().key(keys.at(static_cast<std::size_t>(direction)), Modifier::shift);
     play();
-    model_.edit([&] {
-        model_.work.paste->position.x += steps.at(static_cast<std::size_t>(direction)).x;
-        model_.work.paste->position.y += steps.at(static_cast<std::size_t>(direction)).y;
-    });
+    model_.nudge(steps.at(static_cast<std::size_t>(direction)));
 }
 
 void Selection_Model_Test::fill() {
@@ -414,14 +412,17 @@ int Selection_Model_Test::do_something() {
         [this] { change(Command::plot_paste, [this] { model_.plot(); }); },
         [this] {
             change(Command::deselect, [this] {
-                model_.plot();
-                model_.work.paste.reset();
-                model_.deselect();
+                if (model_.has_selection()) {
+                    model_.deselect();
+                } else {
+                    model_.settle();
+                    model_.work.paste.reset();
+                }
             });
         },
         [this] {
             change(Command::invert_selection, [this] {
-                model_.plot();
+                model_.settle();
                 model_.work.mask.flip();
             });
         },

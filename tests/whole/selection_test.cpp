@@ -130,8 +130,8 @@ TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without
     click({20, 20});
     EXPECT_FALSE(work().paste());
     EXPECT_EQ(pixels(), before);
-    // Each of these was a step, and takes the paste with it.
-    for (int i = 0; i < 8; ++i) {
+    // Each of these was a step, the four nudges together, and takes the paste with it.
+    for (int i = 0; i < 5; ++i) {
         execute(Command::undo);
     }
     EXPECT_FALSE(work().paste());
