@@ -37,10 +37,11 @@ std::optional<Brush_Source> chosen_source(const Work_Area& work, const Tile* til
     if (tile == nullptr) {
         return std::nullopt;
     }
-    if (work.paste()) {
-        return source_of(*work.paste());
+    // A selection hides what floats.
+    if (work.has_selection()) {
+        return source_of(*tile, work.selection());
     }
-    return work.has_selection() ? std::optional(source_of(*tile, work.selection())) : std::nullopt;
+    return work.paste() ? std::optional(source_of(*work.paste())) : std::nullopt;
 }
 
 bool uses_stamp_brush() {
