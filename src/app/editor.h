@@ -51,6 +51,7 @@ public:
 
 private:
     struct Handler;
+    struct Handlers;
 
     // Events.
     void handle(const SDL_Event& event);

@@ -78,9 +78,9 @@ struct Editor::Handler {
 };
 
 // Commands that are not in this table go to the document.
-Command Editor::dispatch(Command command) {
+struct Editor::Handlers {
     // clang-format off
-    static constexpr std::array handlers = std::to_array<Handler>({
+    static constexpr std::array table = std::to_array<Handler>({
         {Command::pen,                 Command::line,                &Editor::select_tool},
         {Command::rectangle,           Command::circle,              &Editor::select_plain_shape},
         {Command::stamp_brush,         Command::smudge_brush,        &Editor::select_tool},
@@ -132,13 +132,17 @@ Command Editor::dispatch(Command command) {
         {Command::test,                Command::test,                &Editor::run_test},
     });
     // clang-format on
+};
+
+Command Editor::dispatch(Command command) {
     if (needs_tile(command) && !documents_.current().tileset().has_tiles()) {
         dialogs->message("Note", "This set has no tile. Tileset, Add new tile makes one.");
         return Command::skip_command;
     }
-    const auto handler = std::ranges::find_if(
-        handlers, [command](const Handler& row) { return row.first <= command && command <= row.last; });
-    if (handler != handlers.end()) {
+    const auto handler = std::ranges::find_if(Handlers::table, [command](const Handler& row) {
+        return row.first <= command && command <= row.last;
+    });
+    if (handler != Handlers::table.end()) {
         return (this->*handler->handle)(command);
     }
     Command result = Command::none;

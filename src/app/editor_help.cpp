@@ -56,7 +56,7 @@ std::optional<Place> Editor::pointed_place() {
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
     }
-    if (documents_.current().strip().area.contains(point)) {
+    if (Tile_Strip::area.contains(point)) {
         return Place::strip;
     }
     if (toolbox->is_in_selection_group() && copy_panes_.current().area.contains(point)) {

@@ -43,7 +43,6 @@ constexpr std::array step_row{
 
 constexpr int row_count = static_cast<int>(handle_rows.size());
 constexpr int buttons_in_row = static_cast<int>(step_row.size());
-constexpr int alpha_row = 3;
 constexpr int first_hsl_row = 4;
 constexpr int row_step = 17;
 constexpr int button_drop = 1;

@@ -56,7 +56,8 @@ Decoded_Picture decoded(SDL_Surface& surface) {
     Tile& picture = result.picture.emplace(surface.w, surface.h);
     const auto row_bytes = static_cast<std::size_t>(surface.w) * sizeof(Color);
     for (int y = 0; y < surface.h; ++y) {
-        const auto* const row = static_cast<const std::byte*>(converted->pixels) + y * converted->pitch;
+        const auto* const row =
+            static_cast<const std::byte*>(converted->pixels) + std::ptrdiff_t{y} * converted->pitch;
         std::memcpy(&picture.pixels()[static_cast<std::size_t>(y) * static_cast<std::size_t>(surface.w)], row,
                     row_bytes);
     }

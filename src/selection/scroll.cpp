@@ -13,7 +13,7 @@ void rotate_line(std::vector<Color>& line, int offset) {
     const auto length = static_cast<int>(line.size());
     if (length > 0) {
         const int first = ((-offset % length) + length) % length;
-        std::ranges::rotate(line, line.begin() + first);
+        std::rotate(line.begin(), line.begin() + first, line.end());
     }
 }
 

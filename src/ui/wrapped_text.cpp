@@ -32,7 +32,7 @@ std::string take_line(Font font, std::string_view& text, int width) {
         const std::size_t blank = text.substr(0, length + 1).rfind(' ');
         length = blank == std::string_view::npos || blank == 0 ? length : blank;
     }
-    const std::string line(text.substr(0, length));
+    std::string line(text.substr(0, length));
     text.remove_prefix(std::min(length + (text.substr(length, 1) == " " ? 1 : 0), text.size()));
     return line;
 }

@@ -83,6 +83,7 @@ Dialog_Container make_keyboard_dialog() {
 
 Dialog_Container make_mouse_dialog() {
     std::vector<Text_Pair> pairs;
+    pairs.reserve(mouse_rows.size());
     for (const Mouse_Row& row : mouse_rows) {
         pairs.push_back({std::string(row.what), std::string(row.does)});
     }
