@@ -143,6 +143,10 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     select({3, 2}, {4, 3});
     execute(Command::copy);
     execute(Command::paste);
+    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(Selection_Mode::persistent));
+    execute(Command::pen);
+    expect_note("Nothing selected to use as brush.", Command::use_as_brush); // it floats on out of sight
+    execute(Command::work_selection);
     expect_note("Unable to add a new brush for some reason.", Command::use_as_brush);
     EXPECT_EQ(toolbox->current_tool(), Tool::selection);
 }
