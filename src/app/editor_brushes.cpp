@@ -33,15 +33,16 @@ Brush_Source source_of(const Tile& tile, const Selection& selection) {
     return source;
 }
 
-std::optional<Brush_Source> chosen_source(const Work_Area& work, const Tile* tile) {
-    if (tile == nullptr) {
+// A paste only while it is to be seen.
+std::optional<Brush_Source> chosen_source(const Canvas_View& canvas) {
+    if (canvas.tile() == nullptr) {
         return std::nullopt;
     }
-    // A selection hides what floats.
-    if (work.has_selection()) {
-        return source_of(*tile, work.selection());
+    if (canvas.shows_paste()) {
+        return source_of(*canvas.work_area().paste());
     }
-    return work.paste() ? std::optional(source_of(*work.paste())) : std::nullopt;
+    const Work_Area& work = canvas.work_area();
+    return work.has_selection() ? std::optional(source_of(*canvas.tile(), work.selection())) : std::nullopt;
 }
 
 bool uses_stamp_brush() {
@@ -51,7 +52,7 @@ bool uses_stamp_brush() {
 } // namespace
 
 Command Editor::use_as_brush(Command command) {
-    const std::optional<Brush_Source> source = chosen_source(canvas_.work_area(), canvas_.tile());
+    const std::optional<Brush_Source> source = chosen_source(canvas_);
     if (!source) {
         dialogs->message("Note", "Nothing selected to use as brush.");
         return Command::none;

@@ -13,6 +13,11 @@ constexpr Color transparent{0, 0, 0, 0};
 // The picture is sampled as if it had been doubled so often by the scale-twice rule, which keeps its edges.
 constexpr int doublings = 3;
 
+// Black is not what a transparent pixel shows, although that may be black as well.
+bool looks_same(Color pixel, Color other) {
+    return pixel == other || (pixel.a == 0 && other.a == 0);
+}
+
 Color doubled_pixel(const Tile& picture, int x, int y, int level) {
     if (level == 0) {
         return picture.get_pixel_clamped(x, y);
@@ -24,8 +29,8 @@ Color doubled_pixel(const Tile& picture, int x, int y, int level) {
     };
     const Color side = near(x % 2 == 0 ? -1 : 1, 0);
     const Color other = near(0, y % 2 == 0 ? -1 : 1);
-    const bool is_corner = side.same_rgb(other) && !side.same_rgb(near(x % 2 == 0 ? 1 : -1, 0)) &&
-                           !other.same_rgb(near(0, y % 2 == 0 ? 1 : -1));
+    const bool is_corner = looks_same(side, other) && !looks_same(side, near(x % 2 == 0 ? 1 : -1, 0)) &&
+                           !looks_same(other, near(0, y % 2 == 0 ? 1 : -1));
     return is_corner ? side : near(0, 0);
 }
 

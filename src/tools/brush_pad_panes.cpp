@@ -61,10 +61,10 @@ int Brush_Pad_Panes::move_selected(Point position) {
 }
 
 std::optional<Tile_Point> Brush_Pad_Panes::cell_at(Point point) const {
-    const Rectangle client = board_pane_.client_area();
-    if (!client.contains(point)) {
+    if (!board_pane_.area.contains(point)) {
         return std::nullopt;
     }
+    const Rectangle client = board_pane_.client_area();
     return Tile_Point{(point.x - client.x) / cell_edge, (point.y - client.y) / cell_edge};
 }
 

@@ -19,7 +19,7 @@ public:
     int move_selected(Point position);
     // The frame of the brush under the pointer is red.
     void draw(const Brush_Pad& pad, Point pointer);
-    // None outside of the board's pane.
+    // None outside of the board's pane. Its border belongs to the cells beside it.
     [[nodiscard]] std::optional<Tile_Point> cell_at(Point point) const;
 
 private:

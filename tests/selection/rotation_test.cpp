@@ -47,17 +47,22 @@ TEST(Rotation, no_colour_comes_out_that_did_not_go_in) {
     }
 }
 
-// A disc stays a disc at every angle: its area and its middle hardly change, and its edge stays closed.
-TEST(Rotation, keeps_round_things_round) {
+Tile disc(Color color) {
     Tile picture(21, 21);
     picture.fill(Color(0, 0, 0, 0));
     for (int y = 0; y < 21; ++y) {
         for (int x = 0; x < 21; ++x) {
             if ((x - 10) * (x - 10) + (y - 10) * (y - 10) <= 64) {
-                picture.set_pixel(x, y, Color(255, 255, 255));
+                picture.set_pixel(x, y, color);
             }
         }
     }
+    return picture;
+}
+
+// A disc stays a disc at every angle: its area and its middle hardly change, and its edge stays closed.
+TEST(Rotation, keeps_round_things_round) {
+    const Tile picture = disc(Color(255, 255, 255));
     const auto area = [](const Tile& tile) {
         return std::ranges::count(tile.pixels(), Color(255, 255, 255));
     };
@@ -65,6 +70,17 @@ TEST(Rotation, keeps_round_things_round) {
         const Tile result = turned(picture, degrees, picture.size());
         EXPECT_NEAR(static_cast<double>(area(result)), static_cast<double>(area(picture)), 14) << degrees;
         EXPECT_EQ(result.white_bounds().x + result.white_bounds().width / 2, 10) << degrees;
+    }
+}
+
+// Black on transparent black is turned as any other colour is.
+TEST(Rotation, tells_black_from_transparent) {
+    const Tile white = disc(Color(255, 255, 255));
+    const Tile black = disc(Color(0, 0, 0));
+    for (int degrees = 1; degrees < 90; ++degrees) {
+        Tile expected = turned(white, degrees, white.size());
+        expected.map_colours([](Color pixel) { return pixel.a == 0 ? pixel : Color(0, 0, 0); });
+        EXPECT_TRUE(same(turned(black, degrees, black.size()), expected)) << degrees;
     }
 }
 

@@ -143,6 +143,10 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     select({3, 2}, {4, 3});
     execute(Command::copy);
     execute(Command::paste);
+    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(Selection_Mode::persistent));
+    execute(Command::pen);
+    expect_note("Nothing selected to use as brush.", Command::use_as_brush); // it floats on out of sight
+    execute(Command::work_selection);
     expect_note("Unable to add a new brush for some reason.", Command::use_as_brush);
     EXPECT_EQ(toolbox->current_tool(), Tool::selection);
 }
@@ -178,6 +182,13 @@ TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
     script().click(board_point(6, 4)).click(board_point(30, 100));
     play();
     EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "free cells choose nothing";
+    // The border counts as the cells beside it, as far as a cell is wide.
+    script().click({1028 - 2, 58 - 2});
+    play();
+    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    script().click(board_point(6, 4)).click({1028 - 3, 60}).click({1028, 40});
+    play();
+    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "the rest of the frame and the title do not";
     EXPECT_EQ(pixel_at(board_point(0, 0)), dark_grey);
     // With other tools the pad is not there.
     EXPECT_EQ(pixel_at(board_point(20, 150)), pane_background);
