@@ -131,7 +131,7 @@ constexpr std::array stroke_table = std::to_array<Stroke_Row>({
     {Canvas_Action::brush_selector,            false, true,  false, false, mark_with_brush, finish_marking},
     {Canvas_Action::wand_selector,             false, false, true,  false, mark_with_wand, finish_marking},
     {Canvas_Action::work_selection,            true,  true,  true,  false, move_paste, finish_moving},
-    {Canvas_Action::free_rotate,             true, true, true, false, rotate},
+    {Canvas_Action::free_rotate,               true,  true,  true,  false, rotate},
     {Canvas_Action::scroll,                    true,  true,  true,  false, scroll},
 });
 // clang-format on
