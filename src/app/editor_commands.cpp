@@ -276,6 +276,7 @@ Command Editor::close(Command command) {
     if (!documents_.close_document()) {
         return Command::skip_command;
     }
+    canvas_.work_area().deselect();
     size_preview();
     return command;
 }
@@ -288,7 +289,10 @@ Command Editor::make_new(Command command) {
     if (choice->keep_and_resize) {
         documents_.resize_current(choice->size);
         documents_.mark_changed();
-    } else if (!documents_.new_document(choice->size)) {
+    } else if (documents_.new_document(choice->size)) {
+        // What was selected in another set means nothing here.
+        canvas_.work_area().deselect();
+    } else {
         return Command::skip_command;
     }
     size_preview();
