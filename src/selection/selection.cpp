@@ -62,9 +62,9 @@ void Selection::count_selected() {
 
 Selection selected_rectangle(Size size, Tile_Point from, Tile_Point to) {
     const auto [left, right] =
-        std::minmax(std::clamp(from.x, 0, size.width), std::clamp(to.x, 0, size.width));
+        std::minmax({std::clamp(from.x, 0, size.width), std::clamp(to.x, 0, size.width)});
     const auto [top, bottom] =
-        std::minmax(std::clamp(from.y, 0, size.height), std::clamp(to.y, 0, size.height));
+        std::minmax({std::clamp(from.y, 0, size.height), std::clamp(to.y, 0, size.height)});
     Selection selection(size);
     selection.change([&, left = left, right = right, top = top, bottom = bottom](Tile& mask) {
         for (int y = top; y < bottom; ++y) {

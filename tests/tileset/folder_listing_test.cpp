@@ -90,7 +90,7 @@ TEST(Folder_Listing, survives_folders_that_cannot_be_read) {
     Folder_Listing listing("qdl");
     ASSERT_TRUE(listing.open(temporary.path("one")));
     const Rows before = listing.rows();
-    for (const std::string name : {"nothing", "file.qdl", std::string(255, 'n').c_str()}) {
+    for (const std::string& name : {std::string("nothing"), std::string("file.qdl"), std::string(255, 'n')}) {
         EXPECT_FALSE(listing.open(temporary.path(name)));
         EXPECT_EQ(listing.folder(), temporary.path("one"));
         EXPECT_EQ(listing.rows(), before);
