@@ -121,13 +121,9 @@ void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selectio
     }
 }
 
-Color Canvas_Painter::pixel_shown(const Canvas_Picture& picture, Tile_Point pixel) {
-    const Color color = picture.tile->get_pixel(pixel.x, pixel.y);
-    if (picture.paste == nullptr) {
-        return color;
-    }
-    const std::optional<Color> above = picture.paste->pixel_over(pixel);
-    return above ? laid_over(*above, color) : color;
+Color Canvas_Painter::pixel_shown(const Floating_Paste& paste, Tile_Point pixel, Color below) {
+    const std::optional<Color> above = paste.pixel_over(pixel);
+    return above ? laid_over(*above, below) : below;
 }
 
 void Canvas_Painter::paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
@@ -158,6 +154,8 @@ void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int
 }
 
 void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns, int row) {
+    const auto pixels = picture.tile->pixels().subspan(static_cast<std::size_t>(row) *
+                                                       static_cast<std::size_t>(picture.tile->width()));
     const int width = static_cast<int>(cell_line_.size());
     // Neighbours often show the same colour.
     Color pixel;
@@ -167,7 +165,9 @@ void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns,
     bool is_dimmed = false;
     bool is_known = false;
     for (int column = columns.first; column < columns.end; ++column) {
-        const Color next_pixel = pixel_shown(picture, {column, row});
+        const Color own = pixels[static_cast<std::size_t>(column)];
+        const Color next_pixel =
+            picture.paste == nullptr ? own : pixel_shown(*picture.paste, {column, row}, own);
         const bool next_is_dimmed =
             picture.selection != nullptr && !picture.selection->contains({column, row});
         const Color next_background =

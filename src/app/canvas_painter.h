@@ -73,7 +73,7 @@ private:
                               Range rows, const Pixel_Rows& target);
     static void paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
                               const Pixel_Rows& target);
-    [[nodiscard]] static Color pixel_shown(const Canvas_Picture& picture, Tile_Point pixel);
+    [[nodiscard]] static Color pixel_shown(const Floating_Paste& paste, Tile_Point pixel, Color below);
     void fill_cell(Range extent, Cell_Colors colors, bool shows_right_line);
 
     // One line of pixels through the cells of a row, and one along their bottom.
