@@ -1,7 +1,7 @@
 #include "font_sources.h"
 
 #include "cells.h"
-#include "tileset/font_table.h"
+#include "screen/font_table.h"
 
 #include <algorithm>
 #include <map>

@@ -3,7 +3,7 @@
 // The pixels of the sheet and who drew them.
 
 #include "palette.h"
-#include "tileset/sprite_table.h"
+#include "screen/sprite_table.h"
 
 #include <string>
 #include <vector>

@@ -2,10 +2,10 @@
 // start; and the memory it holds then.
 // Run it from the root folder, on the X server that the figures are for.
 
-#include "app/application.h"
 #include "app/editor.h"
-#include "app/events.h"
-#include "app/files.h"
+#include "app/start_up.h"
+#include "base/platform_files.h"
+#include "screen/events.h"
 #include "tileset/tileset_file.h"
 #include "tools/flood_fill.h"
 

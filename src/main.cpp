@@ -1,4 +1,4 @@
-#include "app/application.h"
+#include "app/start_up.h"
 
 #define SDL_MAIN_HANDLED
 #include <SDL3/SDL_main.h>

@@ -1,14 +1,14 @@
 #include "app/editor.h"
 
-#include "app/canvas_stroke.h"
-#include "app/command_table.h"
-#include "app/cursor.h"
-#include "app/events.h"
-#include "app/options.h"
-#include "app/screen.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
+#include "canvas/stroke_loop.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "screen/cursor.h"
+#include "screen/events.h"
+#include "screen/screen.h"
 #include "ui/dialogs.h"
+#include "ui/options.h"
 
 namespace quadrelle {
 

@@ -2,20 +2,20 @@
 
 // The program at work: takes events, routes them, carries out commands and draws the whole window.
 
-#include "app/canvas_view.h"
-#include "app/command.h"
-#include "app/input.h"
-#include "app/menu_bar.h"
-#include "color/palette_area.h"
+#include "app/documents.h"
+#include "base/input.h"
+#include "canvas/canvas_view.h"
+#include "commands/command.h"
+#include "panes/copy_panes.h"
+#include "panes/hint_lines.h"
+#include "panes/history_pane.h"
+#include "panes/icon_bar.h"
+#include "panes/menu_bar.h"
+#include "panes/palette_area.h"
+#include "panes/tile_navigation_pane.h"
+#include "panes/tile_strip_picture.h"
 #include "selection/clipboard_picture.h"
 #include "selection/copy_buffer.h"
-#include "selection/copy_panes.h"
-#include "tileset/documents.h"
-#include "tileset/history_pane.h"
-#include "tileset/tile_navigation_pane.h"
-#include "tileset/tile_strip_picture.h"
-#include "tools/icon_bar.h"
-#include "views/hint_lines.h"
 
 #include <SDL3/SDL_events.h>
 

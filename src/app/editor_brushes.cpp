@@ -1,7 +1,7 @@
 // What the editor does with the brush pad.
 
 #include "app/editor.h"
-#include "tools/toolbox.h"
+#include "panes/toolbox.h"
 #include "ui/dialogs.h"
 
 #include <optional>

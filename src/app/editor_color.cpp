@@ -2,8 +2,8 @@
 
 #include "app/editor.h"
 
+#include "panes/tool_colors.h"
 #include "tools/hsv_adjustment.h"
-#include "tools/tool_colors.h"
 #include "ui/dialogs.h"
 #include "views/adjust_hsv.h"
 #include "views/color_editor.h"

@@ -2,12 +2,12 @@
 
 #include "app/editor.h"
 
-#include "app/command_table.h"
-#include "tileset/document_export.h"
-#include "tileset/document_statistics.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
+#include "app/document_export.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 #include "ui/dialogs.h"
+#include "views/document_statistics.h"
 #include "views/help_lists.h"
 
 #include <algorithm>

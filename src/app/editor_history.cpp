@@ -2,8 +2,8 @@
 
 #include "app/editor.h"
 
-#include "app/command_table.h"
-#include "tools/toolbox.h"
+#include "commands/command_table.h"
+#include "panes/toolbox.h"
 #include "views/undo_list.h"
 
 #include <utility>

@@ -1,11 +1,11 @@
 // What the editor does with the selection, the copies, and what floats over the tile.
 
 #include "app/editor.h"
-#include "app/options.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 #include "selection/selection_transforms.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 #include "ui/dialogs.h"
+#include "ui/options.h"
 
 #include <algorithm>
 #include <optional>

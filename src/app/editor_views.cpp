@@ -2,7 +2,7 @@
 
 #include "app/editor.h"
 
-#include "views/arrangement.h"
+#include "views/arrange_select.h"
 #include "views/real_size.h"
 #include "views/tile_array.h"
 

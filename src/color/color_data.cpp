@@ -1,6 +1,6 @@
 #include "color/color_data.h"
 
-#include "app/fatal.h"
+#include "base/fatal.h"
 
 #include <algorithm>
 #include <cstddef>

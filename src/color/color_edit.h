@@ -3,7 +3,7 @@
 // A colour being edited through its channels, in both forms at once: what one form cannot say of a grey or a
 // black, the other keeps. Draws nothing.
 
-#include "app/table.h"
+#include "base/table.h"
 #include "color/color.h"
 #include "color/hsv.h"
 

@@ -1,7 +1,7 @@
 #include "color/palette_store.h"
 
-#include "tileset/block_file.h"
-#include "tileset/data_stream.h"
+#include "base/block_file.h"
+#include "base/data_stream.h"
 
 #include <algorithm>
 #include <array>

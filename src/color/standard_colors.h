@@ -2,7 +2,7 @@
 
 // The twenty fixed colours that the interface is drawn with.
 
-#include "app/table.h"
+#include "base/table.h"
 #include "color/color.h"
 
 #include <array>

@@ -3,8 +3,8 @@
 // The system's clipboard as far as it holds pictures: what this program copied is offered to others, and what
 // others copied can be taken. SDL's video must be there.
 
+#include "pixels/tile.h"
 #include "selection/picture_formats.h"
-#include "tileset/tile.h"
 
 #include <cstddef>
 #include <optional>

@@ -2,9 +2,9 @@
 
 // A picture that floats over a tile until it is plotted. It may hang over the tile's edges.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
+#include "pixels/tile.h"
 #include "selection/selection.h"
-#include "tileset/tile.h"
 #include "tools/drawing_target.h"
 
 #include <optional>

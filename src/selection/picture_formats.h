@@ -2,7 +2,7 @@
 
 // Pictures as the bytes of a file, for other programs. What comes from them is trusted in nothing.
 
-#include "tileset/tile.h"
+#include "pixels/tile.h"
 
 #include <array>
 #include <cstddef>

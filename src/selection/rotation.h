@@ -2,9 +2,9 @@
 
 // Turning a picture by any angle, crisp: no colour comes out that did not go in.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
+#include "pixels/tile.h"
 #include "selection/floating_paste.h"
-#include "tileset/tile.h"
 
 namespace quadrelle {
 

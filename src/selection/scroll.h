@@ -2,9 +2,9 @@
 
 // Moving pixels around: what leaves one edge enters at the other.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
+#include "pixels/tile.h"
 #include "selection/selection.h"
-#include "tileset/tile.h"
 
 namespace quadrelle {
 

@@ -2,8 +2,8 @@
 
 // Which pixels of a tile are selected. Knows no view and no tool.
 
-#include "app/geometry.h"
-#include "tileset/tile.h"
+#include "base/geometry.h"
+#include "pixels/tile.h"
 #include "tools/drawing_target.h"
 
 #include <functional>

@@ -3,9 +3,9 @@
 // The transforms of a tile where a part of it is selected: only that part is changed, and the selection goes
 // with its pixels.
 
-#include "app/command.h"
+#include "commands/command.h"
+#include "pixels/tile.h"
 #include "selection/selection.h"
-#include "tileset/tile.h"
 
 namespace quadrelle {
 

@@ -2,7 +2,7 @@
 
 // What is selected on the canvas, and what floats over it. Knows no view, no tool and no history.
 
-#include "app/command.h"
+#include "commands/command.h"
 #include "selection/floating_paste.h"
 #include "selection/selection.h"
 

@@ -1,6 +1,6 @@
 #include "tileset/bitmap_export.h"
 
-#include "app/atomic_file.h"
+#include "base/atomic_file.h"
 
 #include <SDL3/SDL_iostream.h>
 #include <SDL3/SDL_surface.h>

@@ -3,7 +3,7 @@
 // One open tileset: its tiles, their history, versions and strip, the file they belong to, and whether they
 // are saved.
 
-#include "app/command.h"
+#include "commands/command.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tile_versions.h"
 #include "tileset/tileset.h"

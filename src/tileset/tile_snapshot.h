@@ -2,7 +2,7 @@
 
 // A tile as it was at one moment. Knows nothing of tilesets.
 
-#include "tileset/tile.h"
+#include "pixels/tile.h"
 
 #include <cstddef>
 

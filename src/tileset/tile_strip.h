@@ -2,7 +2,7 @@
 
 // Which tiles of a set the row along the bottom of the window shows. Moves nothing but itself; draws nothing.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 namespace quadrelle {
 

@@ -2,7 +2,7 @@
 
 // An ordered sequence of tiles of one size with a current tile. Knows nothing of files and views.
 
-#include "tileset/tile.h"
+#include "pixels/tile.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "tileset/tileset_file.h"
 
-#include "app/atomic_file.h"
-#include "tileset/block_file.h"
+#include "base/atomic_file.h"
+#include "base/block_file.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 
 // The commands that turn, mirror, scroll or soften one whole tile. Knows neither sets nor views.
 
-#include "app/command.h"
-#include "tileset/tile.h"
+#include "commands/command.h"
+#include "pixels/tile.h"
 
 namespace quadrelle {
 

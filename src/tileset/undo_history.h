@@ -2,7 +2,7 @@
 
 // The last states of the tiles of a set, walked back and forth. Says what to restore; the caller restores it.
 
-#include "app/command.h"
+#include "commands/command.h"
 #include "selection/work_area.h"
 #include "tileset/tile_snapshot.h"
 #include "tools/tool_catalogue.h"

@@ -1,6 +1,6 @@
 #include "tools/brush.h"
 
-#include "tileset/tile.h"
+#include "pixels/tile.h"
 
 #include <stdexcept>
 #include <utility>

@@ -2,7 +2,7 @@
 
 // What a pen lays onto a tile: a small picture of which only the set pixels paint.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tools/brush_masks.h"
 

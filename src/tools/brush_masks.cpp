@@ -1,6 +1,6 @@
 #include "tools/brush_masks.h"
 
-#include "app/table.h"
+#include "base/table.h"
 
 namespace quadrelle {
 

@@ -2,8 +2,8 @@
 
 // The stamp brushes that the user keeps, and the board on which each lies at its own place. Draws nothing.
 
-#include "app/geometry.h"
-#include "tileset/tile.h"
+#include "base/geometry.h"
+#include "pixels/tile.h"
 #include "tools/brush.h"
 
 #include <array>

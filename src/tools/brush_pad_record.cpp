@@ -1,7 +1,7 @@
 // How the brush pad is kept in its file. Identifiers, flags and the board are deliberately taken as they are
 // read and not compared with each other.
 
-#include "tileset/data_stream.h"
+#include "base/data_stream.h"
 #include "tools/brush_pad.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 // What every tool draws on: a tile, and the selection that limits where. Knows no tool and no view.
 
-#include "tileset/tile.h"
+#include "pixels/tile.h"
 
 namespace quadrelle {
 

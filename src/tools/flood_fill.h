@@ -2,7 +2,7 @@
 
 // The area of one colour around a pixel, and filling it.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tools/brush.h"
 #include "tools/drawing_target.h"

@@ -2,7 +2,7 @@
 
 // How often the lightness pen acts while its button is held, and in which direction. Reads no clock.
 
-#include "app/input.h"
+#include "base/input.h"
 #include "tools/pens.h"
 
 #include <cstdint>

@@ -2,7 +2,7 @@
 
 // The line that all strokes, lines and outlines follow.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tools/drawing_target.h"
 

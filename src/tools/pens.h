@@ -2,7 +2,7 @@
 
 // How brushes are laid onto a tile: one position at a time, or along a stroke's segment without gaps.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tools/brush.h"
 #include "tools/drawing_target.h"

@@ -3,7 +3,7 @@
 // Rectangles and ellipses, and the figures shown while they are dragged. What lies outside the tile is cut
 // off, however far.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tools/canvas_action.h"
 #include "tools/drawing_target.h"

@@ -3,9 +3,9 @@
 // The 17 drawing tools: what each is called, which command selects it, what its stroke is, and which controls
 // it shows.
 
-#include "app/command.h"
-#include "app/table.h"
-#include "tileset/sprite_table.h"
+#include "base/table.h"
+#include "commands/command.h"
+#include "screen/sprite_table.h"
 #include "tools/canvas_action.h"
 
 #include <array>

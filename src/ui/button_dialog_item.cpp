@@ -1,8 +1,8 @@
 #include "ui/button_dialog_item.h"
 
-#include "app/screen.h"
+#include "base/data_stream.h"
 #include "color/standard_colors.h"
-#include "tileset/data_stream.h"
+#include "screen/screen.h"
 
 namespace quadrelle {
 

@@ -2,8 +2,8 @@
 
 // Buttons with a label or a sprite, and the one that is checked and unchecked.
 
-#include "app/table.h"
-#include "tileset/sprite_sheet.h"
+#include "base/table.h"
+#include "screen/sprite_sheet.h"
 #include "ui/dialog_item.h"
 
 #include <array>

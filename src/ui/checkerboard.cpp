@@ -1,8 +1,8 @@
 #include "ui/checkerboard.h"
 
-#include "app/screen.h"
-#include "app/surface.h"
-#include "color/checkerboard.h"
+#include "color/translucency.h"
+#include "screen/screen.h"
+#include "screen/surface.h"
 
 #include <algorithm>
 

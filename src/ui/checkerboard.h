@@ -2,8 +2,8 @@
 
 // The checkerboard below what is translucent, drawn on the window.
 
-#include "app/geometry.h"
-#include "app/texture.h"
+#include "base/geometry.h"
+#include "screen/texture.h"
 
 #include <memory>
 

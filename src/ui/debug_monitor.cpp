@@ -1,6 +1,6 @@
 #include "ui/debug_monitor.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 #include "ui/dialogs.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "ui/dialog_container.h"
 
-#include "app/data_directory.h"
-#include "app/screen.h"
-#include "tileset/block_file.h"
-#include "tileset/data_stream.h"
+#include "base/block_file.h"
+#include "base/data_directory.h"
+#include "base/data_stream.h"
+#include "screen/screen.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialogs.h"
 #include "ui/text_dialog.h"

@@ -2,9 +2,9 @@
 
 // A dialog: its layout, its modal loop, and the file that keeps what was chosen.
 
-#include "app/events.h"
-#include "app/input.h"
-#include "tileset/sprite_table.h"
+#include "base/input.h"
+#include "screen/events.h"
+#include "screen/sprite_table.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialog_rows.h"
 

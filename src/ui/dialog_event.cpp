@@ -1,6 +1,6 @@
 #include "ui/dialog_event.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 namespace quadrelle {
 

@@ -2,7 +2,7 @@
 
 // What a dialog item answers to a click: a kind, and the item that it is meant for.
 
-#include "app/table.h"
+#include "base/table.h"
 
 #include <array>
 #include <cstddef>

@@ -2,7 +2,7 @@
 
 // The box that a dialog is shown in.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "ui/dialog_item.h"
 
-#include "tileset/data_stream.h"
+#include "base/data_stream.h"
 #include "ui/debug_monitor.h"
 
 #include <string>

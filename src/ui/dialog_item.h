@@ -2,8 +2,8 @@
 
 // One thing in a row of a dialog: it draws itself, answers clicks with events, and can be kept in a file.
 
-#include "app/geometry.h"
-#include "tileset/font_table.h"
+#include "base/geometry.h"
+#include "screen/font_table.h"
 #include "ui/dialog_event.h"
 
 #include <cstdint>

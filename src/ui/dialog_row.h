@@ -2,7 +2,7 @@
 
 // Dialog items from left to right, and the rows that dialogs are commonly made of.
 
-#include "ui/cyclic_int.h"
+#include "base/cyclic_int.h"
 #include "ui/dialog_item.h"
 
 #include <memory>

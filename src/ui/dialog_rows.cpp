@@ -1,6 +1,6 @@
 #include "ui/dialog_rows.h"
 
-#include "tileset/data_stream.h"
+#include "base/data_stream.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "ui/dialogs.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 #include "ui/dialog_container.h"
 #include "ui/number_prompt.h"
 

@@ -3,9 +3,9 @@
 // Hosts what dialogs are drawn over, the plain text dialogs, and the panes that are always shown.
 // Knows the editor only as the backdrop that it was given.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
+#include "panes/preview_pane.h"
 #include "ui/number_info.h"
-#include "ui/preview_pane.h"
 
 #include <functional>
 #include <memory>

@@ -2,7 +2,7 @@
 
 // The root of every rectangular thing on the screen.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 namespace quadrelle {
 

@@ -1,6 +1,6 @@
 #include "ui/location_info.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 #include <string>
 

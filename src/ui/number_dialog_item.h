@@ -2,7 +2,7 @@
 
 // A number between two bounds that is stepped by other items or typed after a click.
 
-#include "ui/cyclic_int.h"
+#include "base/cyclic_int.h"
 #include "ui/dialog_item.h"
 
 namespace quadrelle {

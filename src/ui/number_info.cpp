@@ -1,6 +1,6 @@
 #include "ui/number_info.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 namespace quadrelle {
 

@@ -1,8 +1,8 @@
 #include "ui/number_prompt.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 #include "ui/dialogs.h"
 
 #include <algorithm>

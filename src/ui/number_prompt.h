@@ -2,9 +2,9 @@
 
 // A small box in which the user types a number between two bounds.
 
-#include "app/events.h"
-#include "app/geometry.h"
-#include "app/input.h"
+#include "base/geometry.h"
+#include "base/input.h"
+#include "screen/events.h"
 
 #include <optional>
 #include <string>

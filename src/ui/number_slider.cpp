@@ -1,8 +1,8 @@
 #include "ui/number_slider.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 #include "ui/checkerboard.h"
 #include "ui/swatch.h"
 

@@ -3,7 +3,7 @@
 // One number as a labelled slider with buttons beside it. Knows its bounds and where it lies, not whose
 // number it shows.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "ui/focus.h"
 

@@ -1,7 +1,7 @@
 #include "ui/pane.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "screen/screen.h"
 
 namespace quadrelle {
 

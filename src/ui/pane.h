@@ -2,9 +2,9 @@
 
 // An element with a title bar and a framed client area below it.
 
-#include "app/input.h"
-#include "app/texture.h"
+#include "base/input.h"
 #include "color/color.h"
+#include "screen/texture.h"
 #include "ui/element.h"
 
 #include <memory>

@@ -1,6 +1,6 @@
 #include "ui/shown_text.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 
 #include <algorithm>
 

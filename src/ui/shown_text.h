@@ -2,7 +2,7 @@
 
 // Texts from outside, such as file names, brought into what the fonts can show and into the room there is.
 
-#include "tileset/font_table.h"
+#include "screen/font_table.h"
 
 #include <string>
 #include <string_view>

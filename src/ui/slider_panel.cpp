@@ -1,6 +1,6 @@
 #include "ui/slider_panel.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 #include "ui/dialogs.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 // Sliders below each other, and what the pointer, the wheel and the keys do to their numbers.
 
-#include "app/events.h"
+#include "screen/events.h"
 #include "ui/number_slider.h"
 
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "ui/swatch.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "screen/screen.h"
 #include "ui/checkerboard.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 // A colour shown as an area, and the marks that show on every colour.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 
 namespace quadrelle {

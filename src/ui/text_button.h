@@ -2,7 +2,7 @@
 
 // A labelled button of a dialog that lays out itself.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 #include <string_view>
 

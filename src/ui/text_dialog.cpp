@@ -1,7 +1,7 @@
 #include "ui/text_dialog.h"
 
-#include "app/screen.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 
 namespace quadrelle {
 

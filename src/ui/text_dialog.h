@@ -2,7 +2,7 @@
 
 // Items that only show something: a text or a sprite.
 
-#include "tileset/sprite_table.h"
+#include "screen/sprite_table.h"
 #include "ui/dialog_item.h"
 
 #include <string_view>

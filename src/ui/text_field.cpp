@@ -1,9 +1,9 @@
 #include "ui/text_field.h"
 
-#include "app/screen.h"
-#include "app/text_input.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
+#include "screen/text_input.h"
 #include "ui/shown_text.h"
 
 #include <algorithm>

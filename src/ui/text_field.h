@@ -3,9 +3,9 @@
 // One line of UTF-8 text that the user edits. Knows nothing of what the text means; which events reach it is
 // its owner's business.
 
-#include "app/events.h"
-#include "app/geometry.h"
-#include "tileset/font_table.h"
+#include "base/geometry.h"
+#include "screen/events.h"
+#include "screen/font_table.h"
 #include "ui/focus.h"
 
 #include <cstddef>

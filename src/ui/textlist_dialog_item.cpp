@@ -1,8 +1,8 @@
 #include "ui/textlist_dialog_item.h"
 
-#include "app/screen.h"
-#include "tileset/data_stream.h"
-#include "tileset/sprite_sheet.h"
+#include "base/data_stream.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -2,7 +2,7 @@
 
 // One text out of a list, stepped through by other items.
 
-#include "ui/cyclic_int.h"
+#include "base/cyclic_int.h"
 #include "ui/dialog_item.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 
 // Text brought into lines of a given width.
 
-#include "tileset/font_table.h"
+#include "screen/font_table.h"
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 #include "views/about.h"
 
-#include "app/screen.h"
-#include "app/version.h"
+#include "base/version.h"
+#include "screen/screen.h"
 #include "ui/dialog_container.h"
 
 #include <SDL3/SDL_version.h>

@@ -1,9 +1,9 @@
 #include "views/adjust_hsv.h"
 
-#include "app/events.h"
-#include "app/screen.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/events.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 #include "tools/hsv_adjustment.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"

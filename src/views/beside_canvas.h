@@ -2,7 +2,7 @@
 
 // Where a dialog lies that changes what the canvas and the preview show.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 namespace quadrelle {
 

@@ -1,11 +1,11 @@
 #include "views/color_data_view.h"
 
-#include "app/screen.h"
-#include "app/text_input.h"
 #include "color/color_data.h"
 #include "color/hex_color.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
+#include "screen/text_input.h"
 #include "ui/shown_text.h"
 #include "ui/swatch.h"
 

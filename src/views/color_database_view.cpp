@@ -1,9 +1,9 @@
 #include "views/color_database_view.h"
 
-#include "app/screen.h"
 #include "color/hex_color.h"
 #include "color/standard_colors.h"
-#include "tileset/sprite_sheet.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 
 #include <algorithm>
 

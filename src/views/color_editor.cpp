@@ -1,10 +1,10 @@
 #include "views/color_editor.h"
 
-#include "app/events.h"
-#include "app/screen.h"
-#include "app/text_input.h"
 #include "color/color_edit.h"
 #include "color/standard_colors.h"
+#include "screen/events.h"
+#include "screen/screen.h"
+#include "screen/text_input.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "ui/text_button.h"

@@ -1,8 +1,8 @@
 #include "views/export_dialog.h"
 
-#include "app/screen.h"
-#include "color/checkerboard.h"
 #include "color/standard_colors.h"
+#include "color/translucency.h"
+#include "screen/screen.h"
 #include "tileset/bitmap_export.h"
 #include "ui/dialogs.h"
 

@@ -2,8 +2,8 @@
 
 // Shows the picture of a set before it is written. Writes nothing.
 
-#include "app/events.h"
-#include "tileset/tile.h"
+#include "pixels/tile.h"
+#include "screen/events.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 

@@ -2,7 +2,7 @@
 
 // The program's own dialog for choosing a file, for systems that bring none.
 
-#include "tileset/file_answer.h"
+#include "views/file_answer.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
 #include "views/file_list.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "screen/screen.h"
 #include "ui/shown_text.h"
 
 #include <algorithm>

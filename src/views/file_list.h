@@ -2,8 +2,8 @@
 
 // A folder's rows in a box: which are shown, which one is selected, and the scroll bar beside them.
 
-#include "app/geometry.h"
-#include "tileset/folder_listing.h"
+#include "base/folder_listing.h"
+#include "base/geometry.h"
 #include "ui/focus.h"
 
 #include <optional>

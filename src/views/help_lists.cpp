@@ -1,6 +1,6 @@
 #include "views/help_lists.h"
 
-#include "app/command_table.h"
+#include "commands/command_table.h"
 
 #include <array>
 #include <string_view>

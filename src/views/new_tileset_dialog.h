@@ -2,7 +2,7 @@
 
 // Asks for the tile size of a new tileset, and whether the program may end.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 
 #include <memory>
 #include <optional>

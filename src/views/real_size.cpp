@@ -1,11 +1,11 @@
 #include "views/real_size.h"
 
-#include "app/events.h"
-#include "app/opaque_texture.h"
-#include "app/screen.h"
-#include "color/checkerboard.h"
-#include "tileset/sprite_sheet.h"
-#include "tileset/tile.h"
+#include "color/translucency.h"
+#include "pixels/tile.h"
+#include "screen/events.h"
+#include "screen/opaque_texture.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 
 #include <SDL3/SDL_keyboard.h>
 

@@ -1,6 +1,6 @@
 #include "views/tile_array.h"
 
-#include "app/events.h"
+#include "screen/events.h"
 #include "tileset/tileset.h"
 #include "ui/dialogs.h"
 #include "views/tile_grid.h"

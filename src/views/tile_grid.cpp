@@ -1,9 +1,9 @@
 #include "views/tile_grid.h"
 
-#include "app/opaque_texture.h"
-#include "app/screen.h"
-#include "color/checkerboard.h"
-#include "tileset/sprite_sheet.h"
+#include "color/translucency.h"
+#include "screen/opaque_texture.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
 #include "tileset/tileset.h"
 
 #include <algorithm>

@@ -3,8 +3,8 @@
 // The tiles of a set in cells, row by row, in a panel with a title and lines of text below them. Shows one
 // page of the set; knows nothing of what its users select.
 
-#include "app/geometry.h"
-#include "tileset/sprite_table.h"
+#include "base/geometry.h"
+#include "screen/sprite_table.h"
 #include "ui/text_pane.h"
 
 #include <memory>

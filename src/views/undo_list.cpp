@@ -1,9 +1,9 @@
 #include "views/undo_list.h"
 
-#include "app/command_table.h"
-#include "app/events.h"
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "commands/command_table.h"
+#include "screen/events.h"
+#include "screen/screen.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 

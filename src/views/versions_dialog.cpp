@@ -1,9 +1,9 @@
 #include "views/versions_dialog.h"
 
-#include "app/events.h"
-#include "app/screen.h"
-#include "app/streaming_texture.h"
 #include "color/standard_colors.h"
+#include "screen/events.h"
+#include "screen/screen.h"
+#include "screen/streaming_texture.h"
 #include "ui/button_dialog_item.h"
 #include "ui/checkerboard.h"
 #include "ui/dialog_frame.h"

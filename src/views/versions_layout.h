@@ -2,7 +2,7 @@
 
 // Where the parts of the versions dialog lie, for every tile size. Draws nothing.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "tileset/tile_versions.h"
 
 #include <array>

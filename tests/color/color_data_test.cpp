@@ -1,6 +1,6 @@
 #include "color/color_data.h"
 
-#include "tests/color/scratch_files.h"
+#include "tests/support/scratch_files.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "app/command_table.h"
+#include "commands/command_table.h"
 #include "selection/copy_buffer.h"
 #include "selection/floating_paste.h"
 #include "selection/selection_transforms.h"
 #include "selection/work_area.h"
-#include "tests/tileset/tile_art.h"
+#include "tests/support/tile_art.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 
 // A folder of its own with "data/pool.bmp", in which the test runs, so that it writes no file elsewhere.
 
-#include "app/data_directory.h"
-#include "app/files.h"
-#include "tests/app/temporary_folder.h"
+#include "base/data_directory.h"
+#include "base/platform_files.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

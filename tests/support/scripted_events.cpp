@@ -1,6 +1,6 @@
 #include "tests/support/scripted_events.h"
 
-#include "app/events.h"
+#include "screen/events.h"
 
 #include <SDL3/SDL.h>
 

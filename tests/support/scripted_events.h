@@ -2,8 +2,8 @@
 
 // Plays a user: a list of events and checks that the program's own loops are fed with.
 
-#include "app/geometry.h"
-#include "app/input.h"
+#include "base/geometry.h"
+#include "base/input.h"
 
 #include <SDL3/SDL_events.h>
 

@@ -1,7 +1,7 @@
 #include "tests/support/window_test.h"
 
-#include "app/data_directory.h"
-#include "app/screen.h"
+#include "base/data_directory.h"
+#include "screen/screen.h"
 #include "ui/debug_monitor.h"
 #include "ui/dialogs.h"
 

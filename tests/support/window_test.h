@@ -2,7 +2,7 @@
 
 // Tests with a window that nobody sees: the screen, the dialogs and the log are there, nothing else is.
 
-#include "app/geometry.h"
+#include "base/geometry.h"
 #include "color/color.h"
 #include "tests/support/program_folder.h"
 #include "tests/support/scripted_events.h"

@@ -1,7 +1,7 @@
 #include "tileset/document.h"
 
-#include "app/command_table.h"
-#include "tests/tileset/tile_art.h"
+#include "commands/command_table.h"
+#include "tests/support/tile_art.h"
 
 #include <gtest/gtest.h>
 

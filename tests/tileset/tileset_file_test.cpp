@@ -1,8 +1,8 @@
 #include "tileset/tileset_file.h"
 
-#include "app/files.h"
-#include "tests/app/fatal_checks.h"
-#include "tests/app/temporary_folder.h"
+#include "base/platform_files.h"
+#include "tests/support/fatal_checks.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "tools/brush_pad.h"
 
-#include "tests/tileset/tile_art.h"
-#include "tileset/data_stream.h"
+#include "base/data_stream.h"
+#include "tests/support/tile_art.h"
 
 #include <algorithm>
 #include <random>

@@ -1,6 +1,6 @@
 #include "tools/brush.h"
 
-#include "tests/tools/drawn.h"
+#include "tests/support/drawn.h"
 #include "tools/pens.h"
 
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "tools/drawing_target.h"
 
-#include "tests/tileset/tile_art.h"
+#include "tests/support/tile_art.h"
 
 #include <gtest/gtest.h>
 

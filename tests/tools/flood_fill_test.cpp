@@ -1,6 +1,6 @@
 #include "tools/flood_fill.h"
 
-#include "tests/tools/drawn.h"
+#include "tests/support/drawn.h"
 
 #include <algorithm>
 #include <chrono>

@@ -1,6 +1,6 @@
 #include "tools/line.h"
 
-#include "tests/tools/drawn.h"
+#include "tests/support/drawn.h"
 
 #include <limits>
 #include <vector>

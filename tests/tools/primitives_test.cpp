@@ -1,6 +1,6 @@
 // What holds for everything that draws.
 
-#include "tests/tools/drawn.h"
+#include "tests/support/drawn.h"
 #include "tools/flood_fill.h"
 #include "tools/pens.h"
 #include "tools/shapes.h"

@@ -1,6 +1,6 @@
 #include "tools/shapes.h"
 
-#include "tests/tools/drawn.h"
+#include "tests/support/drawn.h"
 
 #include <array>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "ui/dialog_container.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
 #include "ui/dialogs.h"
 

@@ -1,5 +1,5 @@
+#include "base/data_stream.h"
 #include "tests/support/window_test.h"
-#include "tileset/data_stream.h"
 #include "ui/button_dialog_item.h"
 #include "ui/debug_monitor.h"
 #include "ui/dialog_rows.h"

@@ -1,7 +1,7 @@
 #include "ui/dialogs.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
 #include "ui/debug_monitor.h"
 #include "views/new_tileset_dialog.h"

@@ -1,9 +1,9 @@
 #include "ui/pane.h"
 
-#include "app/screen.h"
 #include "color/standard_colors.h"
+#include "pixels/tile.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
-#include "tileset/tile.h"
 #include "ui/dialog_pane.h"
 #include "ui/dialogs.h"
 #include "ui/location_info.h"

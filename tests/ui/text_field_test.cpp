@@ -1,6 +1,6 @@
 #include "ui/text_field.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
 #include "ui/shown_text.h"
 

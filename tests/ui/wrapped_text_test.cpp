@@ -1,6 +1,6 @@
 #include "ui/wrapped_text.h"
 
-#include "app/screen.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 #include "views/tile_grid.h"
 
-#include "app/screen.h"
-#include "color/checkerboard.h"
+#include "color/translucency.h"
+#include "screen/screen.h"
 #include "tests/support/window_test.h"
 #include "tileset/tileset.h"
 

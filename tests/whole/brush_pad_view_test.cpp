@@ -2,10 +2,10 @@
 
 #include "tests/whole/program_test.h"
 
-#include "app/application.h"
-#include "app/menu_table.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
+#include "app/start_up.h"
+#include "commands/menu_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 
 #include <algorithm>
 #include <filesystem>

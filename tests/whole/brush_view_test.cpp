@@ -2,12 +2,12 @@
 
 #include "tests/whole/program_test.h"
 
-#include "app/cursor.h"
-#include "app/options.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "screen/cursor.h"
 #include "ui/dialog_container.h"
 #include "ui/dialog_item.h"
+#include "ui/options.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,9 +1,9 @@
-#include "app/screen.h"
 #include "color/color_data.h"
 #include "color/color_edit.h"
 #include "color/standard_colors.h"
+#include "panes/tool_colors.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
 
 #include <SDL3/SDL.h>
 

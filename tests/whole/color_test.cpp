@@ -1,11 +1,11 @@
 // The column of colour panes and the palette in the whole program.
 
-#include "app/data_directory.h"
+#include "base/data_directory.h"
 #include "color/palette_store.h"
-#include "tests/color/scratch_files.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "tests/support/scratch_files.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 
 #include <SDL3/SDL_keyboard.h>
 

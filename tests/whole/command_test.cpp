@@ -1,7 +1,7 @@
-#include "app/command_table.h"
 #include "color/palette_store.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
 
 #include <algorithm>
 #include <string>

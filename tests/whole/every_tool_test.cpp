@@ -1,12 +1,12 @@
 // What holds for every tool that draws, whatever its brush, its button and the tile.
 
-#include "app/command_table.h"
-#include "app/strokes.h"
-#include "tests/tileset/tile_art.h"
+#include "canvas/stroke_table.h"
+#include "commands/command_table.h"
+#include "panes/icon_bar.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "tests/support/tile_art.h"
 #include "tests/whole/program_test.h"
-#include "tools/icon_bar.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 
 #include <algorithm>
 #include <set>

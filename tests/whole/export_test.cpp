@@ -1,8 +1,8 @@
-#include "app/screen.h"
-#include "app/surface.h"
 #include "color/standard_colors.h"
+#include "panes/tool_colors.h"
+#include "screen/screen.h"
+#include "screen/surface.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
 
 #include <filesystem>
 

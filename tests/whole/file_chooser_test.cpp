@@ -1,7 +1,7 @@
 // The program's own dialog for choosing a file, driven as a user does it.
 
-#include "app/screen.h"
-#include "tests/app/temporary_folder.h"
+#include "screen/screen.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 

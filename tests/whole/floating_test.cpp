@@ -1,8 +1,8 @@
 // What floats over the tile is neither lost nor drawn twice, wherever the user goes meanwhile.
 
+#include "panes/toolbox.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
-#include "tools/toolbox.h"
 
 #include <gtest/gtest.h>
 

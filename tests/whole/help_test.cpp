@@ -1,7 +1,7 @@
-#include "app/command_table.h"
-#include "app/screen.h"
+#include "commands/command_table.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
-#include "tileset/document_statistics.h"
+#include "views/document_statistics.h"
 #include "views/help_lists.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "tests/whole/program_test.h"
 
-#include "app/application.h"
-#include "app/screen.h"
+#include "app/start_up.h"
+#include "screen/screen.h"
 #include "ui/dialogs.h"
 
 #include <SDL3/SDL.h>

@@ -3,10 +3,10 @@
 // Tests of the whole program: everything is started as it is for a user, with a window that nobody sees, and
 // is driven by events.
 
-#include "app/command.h"
 #include "app/editor.h"
+#include "commands/command.h"
 #include "tests/support/window_test.h"
-#include "tileset/file_dialog.h"
+#include "views/file_dialog.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
+#include "panes/icon_bar.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
-#include "tools/icon_bar.h"
 
 #include <gtest/gtest.h>
 

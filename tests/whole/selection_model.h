@@ -2,9 +2,9 @@
 
 // What a user expects of selecting, copying and pasting, with every state kept as a full picture.
 
+#include "panes/toolbox.h"
 #include "selection/copy_buffer.h"
 #include "tools/tool_catalogue.h"
-#include "tools/toolbox.h"
 
 #include <algorithm>
 #include <cstddef>

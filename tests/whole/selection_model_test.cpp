@@ -1,14 +1,14 @@
 // Selecting, copying and pasting at random, against a simple model.
 
 #include "tests/whole/selection_model.h"
-#include "app/command_table.h"
-#include "app/options.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 #include "tests/whole/program_test.h"
 #include "tools/flood_fill.h"
 #include "tools/shapes.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 #include "ui/dialog_container.h"
+#include "ui/options.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "app/command_table.h"
-#include "app/strokes.h"
+#include "canvas/stroke_table.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 #include "selection/picture_formats.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 
 #include <SDL3/SDL_clipboard.h>
 

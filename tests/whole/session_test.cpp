@@ -1,9 +1,9 @@
 // Whole sessions of random work, compared with a simple model after every step.
 
-#include "app/command_table.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
-#include "tools/tool_colors.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
-#include "app/screen.h"
-#include "color/checkerboard.h"
+#include "color/translucency.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
 #include "ui/dialogs.h"
-#include "views/arrangement.h"
+#include "views/arrange_select.h"
 
 #include <SDL3/SDL_keyboard.h>
 

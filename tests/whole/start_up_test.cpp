@@ -1,12 +1,12 @@
 // From start to end: the program as a process of its own, and start and end within the test.
 
-#include "app/application.h"
+#include "app/start_up.h"
 #include "app/editor.h"
-#include "app/options.h"
 #include "color/palette_store.h"
-#include "tests/app/temporary_folder.h"
-#include "tests/color/scratch_files.h"
+#include "tests/support/scratch_files.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/support/window_test.h"
+#include "ui/options.h"
 
 #include <gtest/gtest.h>
 

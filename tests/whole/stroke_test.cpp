@@ -1,5 +1,5 @@
+#include "panes/tool_colors.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #include "tileset/tile_strip.h"
-#include "app/screen.h"
 #include "color/standard_colors.h"
-#include "tests/app/temporary_folder.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/whole/program_test.h"
-#include "tileset/sprite_sheet.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "tests/whole/program_test.h"
 
-#include "app/command_table.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
-#include "app/command_table.h"
-#include "app/screen.h"
+#include "commands/command_table.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
-#include "tools/tool_colors.h"
-#include "tools/toolbox.h"
 
 #include <string>
 #include <vector>

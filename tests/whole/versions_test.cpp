@@ -1,6 +1,6 @@
-#include "app/screen.h"
+#include "panes/toolbox.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
-#include "tools/toolbox.h"
 #include "views/versions_layout.h"
 
 #include <vector>

@@ -1,0 +1,30 @@
+#include "app/document_export.h"
+
+#include "tileset/bitmap_export.h"
+#include "tileset/document.h"
+#include "ui/dialogs.h"
+#include "views/export_dialog.h"
+#include "views/file_dialog.h"
+
+namespace quadrelle {
+
+bool export_bitmap(const Tileset_Document& document) {
+    const Tileset& tileset = document.tileset();
+    if (tileset.tile_bytes() == 0) {
+        dialogs->message("Note", "The tiles of this set have no pixels.");
+        return false;
+    }
+    const Tile picture = export_picture(tileset);
+    std::string path;
+    if (!Export_Dialog(picture, tileset.count()).run() ||
+        !choose_file(File_Dialog_Kind::export_bitmap, path)) {
+        return false;
+    }
+    const bool is_saved = save_bitmap(picture, path);
+    if (!is_saved) {
+        dialogs->message("Note", "Could not save the file.");
+    }
+    return is_saved;
+}
+
+} // namespace quadrelle

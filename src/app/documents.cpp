@@ -1,0 +1,158 @@
+#include "app/documents.h"
+
+#include "screen/screen.h"
+#include "tileset/tileset_file.h"
+#include "ui/dialogs.h"
+#include "ui/options.h"
+#include "views/file_dialog.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int last_untitled = 999;
+constexpr Size default_tile_size{24, 24};
+
+} // namespace
+
+Documents::Documents(std::function<void()> current_changed) : current_changed_(std::move(current_changed)) {}
+
+Documents::~Documents() = default;
+
+bool Documents::has_unsaved() const {
+    return std::ranges::any_of(documents_, [](const auto& document) { return document->is_modified(); });
+}
+
+bool Documents::new_document(Size tile_size) {
+    if (untitled_counter_ > last_untitled) {
+        return false;
+    }
+    Tileset tileset(tile_size);
+    tileset.add_tile();
+    const std::string name = "untitled" + std::to_string(untitled_counter_) + ".qdl";
+    ++untitled_counter_;
+    auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
+    document->history().reset(document->tileset());
+    add(std::move(document));
+    return true;
+}
+
+void Documents::add(std::unique_ptr<Tileset_Document> document) {
+    documents_.push_back(std::move(document));
+    make_current(documents_.size() - 1);
+}
+
+void Documents::make_current(std::size_t index) {
+    current_ = index;
+    if (current().tileset().current_index() != 0) {
+        current().tileset().select(0);
+        current().strip().show_current();
+    }
+    refresh_titles();
+    current_changed_();
+}
+
+void Documents::resize_current(Size tile_size) {
+    current().tileset().resize_all(tile_size);
+    current().history().clear();
+    current().strip().show_current();
+    current_changed_();
+}
+
+bool Documents::load_document() {
+    std::string path;
+    if (!choose_file(File_Dialog_Kind::load_tileset, path)) {
+        return false;
+    }
+    Loaded_Tileset loaded = load_tileset(path);
+    if (loaded.outcome != Load_Outcome::loaded) {
+        dialogs->message("Note",
+                         "Error occurred in tileset loading. This file may not be in Quadrelle format.");
+        return false;
+    }
+    auto document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
+    document->set_file(path);
+    add(std::move(document));
+    return true;
+}
+
+bool Documents::save_document(Save_As save_as) {
+    Tileset_Document& document = current();
+    if (save_as == Save_As::yes || !document.is_named()) {
+        std::string path;
+        if (!choose_file(File_Dialog_Kind::save_tileset, path)) {
+            return false;
+        }
+        document.set_file(path);
+    } else if (!document.is_modified() || !confirms_save()) {
+        return false;
+    }
+    const bool is_saved = save_tileset(document.tileset(), document.file_name()) >= 0;
+    if (is_saved) {
+        document.clear_modified();
+    }
+    refresh_titles();
+    if (!is_saved) {
+        dialogs->message("Note",
+                         "Unable to create a save file in the destination device.\rCheck out write access "
+                         "properties.");
+    }
+    return is_saved;
+}
+
+bool Documents::confirms_save() const {
+    return options->value(Option::confirm_quick_save) == 0 ||
+           dialogs->ask("Save", "Save over existing file?");
+}
+
+bool Documents::close_document() {
+    if (current().is_modified() &&
+        !dialogs->ask("Close", "Current tileset is not saved. Close it anyway?\r(Progress will be lost.)")) {
+        return false;
+    }
+    if (documents_.size() == 1) {
+        if (!new_document(default_tile_size)) {
+            return false;
+        }
+        documents_.erase(documents_.begin());
+        make_current(0);
+        return true;
+    }
+    documents_.erase(documents_.begin() + static_cast<std::ptrdiff_t>(current_));
+    make_current(std::min(current_, documents_.size() - 1));
+    return true;
+}
+
+void Documents::mark_changed() {
+    if (current().set_modified()) {
+        refresh_titles();
+    }
+}
+
+void Documents::refresh_titles() {
+    std::vector<std::string> titles;
+    titles.reserve(documents_.size());
+    for (const auto& document : documents_) {
+        titles.push_back(document->title());
+    }
+    tabs_.set_titles(titles, current_);
+    screen->set_title(current().title());
+}
+
+void Documents::draw_tabs() const {
+    tabs_.draw();
+}
+
+bool Documents::click_tab(Point point) {
+    const int tab = tabs_.tab_at(point);
+    if (tab < 0 || static_cast<std::size_t>(tab) == current_) {
+        return false;
+    }
+    make_current(static_cast<std::size_t>(tab));
+    return true;
+}
+
+} // namespace quadrelle

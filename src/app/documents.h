@@ -1,0 +1,60 @@
+#pragma once
+
+// The open documents, which of them is the current one, and the ways into and out of files.
+
+#include "base/geometry.h"
+#include "panes/document_tabs.h"
+#include "tileset/document.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quadrelle {
+
+enum class Save_As { no, yes };
+
+class Documents {
+public:
+    // `current_changed` is called whenever another document, or another set of tiles in it, becomes current.
+    explicit Documents(std::function<void()> current_changed);
+    ~Documents();
+
+    // Between the first `new_document` and the end there is always one.
+    [[nodiscard]] Tileset_Document& current() { return *documents_.at(current_); }
+    [[nodiscard]] bool has_unsaved() const;
+    [[nodiscard]] int count() const { return static_cast<int>(documents_.size()); }
+
+    // An untitled tileset of one tile. False, with nothing done, after 1000 of them.
+    bool new_document(Size tile_size);
+    // Resamples the tiles of the current document.
+    void resize_current(Size tile_size);
+    // These ask for a name where one is needed and tell the user what failed. True when it was done.
+    bool load_document();
+    bool save_document(Save_As save_as);
+    // Asks first when there is something to lose. There is always a document afterwards.
+    bool close_document();
+
+    // Marks the current document and shows that in its title.
+    void mark_changed();
+
+    void draw_tabs() const;
+    // True when another document's tab was hit; that document is the current one then.
+    bool click_tab(Point point);
+    [[nodiscard]] bool has_tab_at(Point point) const { return tabs_.tab_at(point) >= 0; }
+
+private:
+    void add(std::unique_ptr<Tileset_Document> document);
+    void make_current(std::size_t index);
+    void refresh_titles();
+    [[nodiscard]] bool confirms_save() const;
+
+    std::function<void()> current_changed_;
+    std::vector<std::unique_ptr<Tileset_Document>> documents_;
+    std::size_t current_ = 0;
+    int untitled_counter_ = 0;
+    Document_Tabs tabs_;
+};
+
+} // namespace quadrelle

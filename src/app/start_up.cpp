@@ -1,0 +1,79 @@
+#include "app/start_up.h"
+
+#include "app/editor.h"
+#include "base/data_directory.h"
+#include "base/fatal.h"
+#include "color/color_data.h"
+#include "color/palette_store.h"
+#include "panes/toolbox.h"
+#include "screen/screen.h"
+#include "ui/debug_monitor.h"
+#include "ui/dialogs.h"
+#include "ui/options.h"
+#include "views/new_tileset_dialog.h"
+
+#include <SDL3/SDL.h>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Size window_size{1232, 664};
+constexpr Point toolbox_position{816, 32};
+
+void start_video() {
+    SDL_SetHintWithPriority(SDL_HINT_APP_NAME, "Quadrelle", SDL_HINT_DEFAULT);
+    if (!SDL_Init(SDL_INIT_VIDEO)) {
+        fatal("Unable to initialize SDL video.");
+    }
+    // A video program keeps the screen from sleeping unless it says otherwise.
+    SDL_EnableScreenSaver();
+}
+
+void enter_data() {
+    if (!data_directory().enter(Data_Directory::inside)) {
+        fatal("Unable to open 'data' directory.");
+    }
+}
+
+} // namespace
+
+void start_application() {
+    start_video();
+    debug_monitor = std::make_unique<Debug_Monitor>();
+    enter_data();
+    screen = std::make_unique<Screen>(window_size);
+    palette_store = std::make_unique<Palette_Store>();
+    dialogs = std::make_unique<Dialogs>();
+    toolbox = std::make_unique<Toolbox>(toolbox_position);
+    data_directory().leave();
+    color_data = std::make_unique<Color_Data>();
+    new_tileset_dialog = std::make_unique<New_Tileset_Dialog>();
+    options = std::make_unique<Options>();
+    options->load();
+    editor = std::make_unique<Editor>();
+}
+
+void shut_down_application() {
+    options.reset();
+    editor.reset();
+    new_tileset_dialog.reset();
+    color_data.reset();
+    data_directory().enter(Data_Directory::inside);
+    palette_store.reset();
+    toolbox.reset();
+    data_directory().leave();
+    dialogs.reset();
+    screen.reset();
+    debug_monitor.reset();
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    SDL_Quit();
+}
+
+void run_application() {
+    start_application();
+    editor->run();
+    shut_down_application();
+}
+
+} // namespace quadrelle

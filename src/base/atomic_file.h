@@ -1,0 +1,35 @@
+#pragma once
+
+// A file that replaces an older one of the same name whole or not at all.
+
+#include "base/platform_files.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace quadrelle {
+
+// Written under another name in the same folder. Until `commit` succeeds the old file is untouched, and
+// without it nothing is left behind.
+class Atomic_File {
+public:
+    explicit Atomic_File(const std::string& path);
+    Atomic_File(const Atomic_File&) = delete;
+    Atomic_File& operator=(const Atomic_File&) = delete;
+    ~Atomic_File();
+
+    [[nodiscard]] bool is_open() const { return file_ != nullptr; }
+    // A failure is remembered: after it `commit` fails too.
+    bool write(std::span<const std::uint8_t> bytes);
+    // True when the new file is on the disk under its name. The last call.
+    [[nodiscard]] bool commit();
+
+private:
+    std::string target_;
+    std::string temporary_;
+    File_Handle file_;
+    bool failed_ = false;
+};
+
+} // namespace quadrelle

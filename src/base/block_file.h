@@ -1,0 +1,45 @@
+#pragma once
+
+// A binary file that is read and written in whole blocks.
+
+#include "base/platform_files.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+
+namespace quadrelle {
+
+// Closes itself. A path is UTF-8.
+class Block_File {
+public:
+    explicit Block_File(std::string path);
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] bool is_open() const { return file_ != nullptr; }
+    // True also when already open. Only regular files can be opened; `open_write` empties the file.
+    [[nodiscard]] bool open_read();
+    [[nodiscard]] bool open_write();
+    // Fills the buffer; fatal when the file holds less.
+    void read_block(std::span<std::uint8_t> buffer);
+    // Whether the block was taken; a full disk may show only at `close`.
+    bool write_block(std::span<const std::uint8_t> block);
+    // Bytes from the current position to the end, 0 when closed: to be asked before memory is taken for a
+    // length that was read from a file.
+    [[nodiscard]] std::int64_t remaining() const;
+    // False when a written block could not be stored after all.
+    bool close();
+
+private:
+    std::string path_;
+    File_Handle file_;
+};
+
+// Replaces the file whole or not at all. The size, or -1 with the old file unchanged.
+[[nodiscard]] std::int64_t write_file(const std::string& path, std::span<const std::uint8_t> bytes);
+// False when the file cannot be opened; fatal when it is shorter than the buffer.
+[[nodiscard]] bool read_file(const std::string& path, std::span<std::uint8_t> buffer);
+// Fatal also when it cannot be opened.
+void read_file_or_die(const std::string& path, std::span<std::uint8_t> buffer);
+
+} // namespace quadrelle

@@ -1,0 +1,41 @@
+#include "base/data_directory.h"
+
+#include "base/platform_files.h"
+
+#include <array>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr std::array<const char*, 2> folders = {"..", "data"};
+
+} // namespace
+
+bool Data_Directory::enter(int row) {
+    if (row == index_ || row < outside || row > inside) {
+        return false;
+    }
+    index_ = row;
+    return change_directory(folders[static_cast<std::size_t>(row)]);
+}
+
+void Data_Directory::leave() {
+    if (index_ != outside) {
+        enter(outside);
+    }
+}
+
+std::string Data_Directory::path(const std::string& file_name) const {
+    if (index_ == inside) {
+        return file_name;
+    }
+    return current_directory() + path_separator + folders[inside] + path_separator + file_name;
+}
+
+Data_Directory& data_directory() {
+    static Data_Directory directory;
+    return directory;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,95 @@
+#include "base/platform_files.h"
+
+#include "base/platform_files_backend.h"
+
+#include <SDL3/SDL_filesystem.h>
+
+namespace quadrelle {
+
+namespace {
+
+File_Fault_Hook fault_hook = nullptr;
+
+bool is_made_to_fail() {
+    return fault_hook != nullptr && fault_hook();
+}
+
+Path_Kind kind_of(SDL_PathType type) {
+    switch (type) {
+    case SDL_PATHTYPE_FILE: return Path_Kind::file;
+    case SDL_PATHTYPE_DIRECTORY: return Path_Kind::folder;
+    case SDL_PATHTYPE_OTHER: return Path_Kind::other;
+    default: return Path_Kind::nothing;
+    }
+}
+
+SDL_EnumerationResult SDLCALL add_entry(void* entries, const char* folder, const char* name) {
+    static_cast<std::vector<Folder_Entry>*>(entries)->push_back(
+        {name, path_kind(std::string(folder) + path_separator + name)});
+    return SDL_ENUM_CONTINUE;
+}
+
+} // namespace
+
+void set_file_fault_hook(File_Fault_Hook hook) {
+    fault_hook = hook;
+}
+
+File_Handle open_file(const std::string& name, File_Mode mode) {
+    if (mode != File_Mode::read && is_made_to_fail()) {
+        return nullptr;
+    }
+    return platform::open_regular_file(name, mode);
+}
+
+std::int64_t file_size(std::FILE* file) {
+    return platform::file_size(file);
+}
+
+std::size_t read_bytes(std::FILE* file, std::span<std::uint8_t> buffer) {
+    return buffer.empty() ? 0 : std::fread(buffer.data(), 1, buffer.size(), file);
+}
+
+bool write_bytes(std::FILE* file, std::span<const std::uint8_t> bytes) {
+    // A disk that runs full takes a part.
+    const std::size_t accepted = is_made_to_fail() ? bytes.size() / 2 : bytes.size();
+    const std::size_t written = bytes.empty() ? 0 : std::fwrite(bytes.data(), 1, accepted, file);
+    return written == bytes.size();
+}
+
+bool flush_to_disk(std::FILE* file) {
+    return !is_made_to_fail() && std::fflush(file) == 0 && platform::synchronize(file);
+}
+
+bool close_file(File_Handle file) {
+    const bool fails = is_made_to_fail();
+    const bool closed = std::fclose(file.release()) == 0;
+    return closed && !fails;
+}
+
+bool replace_file(const std::string& from, const std::string& to) {
+    return !is_made_to_fail() && platform::replace_file(from, to);
+}
+
+Path_Kind path_kind(const std::string& name) {
+    SDL_PathInfo info{};
+    return SDL_GetPathInfo(name.c_str(), &info) ? kind_of(info.type) : Path_Kind::nothing;
+}
+
+std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder) {
+    std::vector<Folder_Entry> entries;
+    // The library cuts separators off the end, and of "/" nothing would be left.
+    const std::string from = folder + path_separator + '.';
+    if (!SDL_EnumerateDirectory(from.c_str(), add_entry, &entries)) {
+        return std::nullopt;
+    }
+    return entries;
+}
+
+std::string folder_part(const std::string& name) {
+    const char* const separators = path_separator == '\\' ? "\\/:" : "/";
+    const std::size_t end = name.find_last_of(separators);
+    return end == std::string::npos ? std::string() : name.substr(0, end + 1);
+}
+
+} // namespace quadrelle

@@ -1,0 +1,14 @@
+#pragma once
+
+// What each platform brings to files.cpp; nothing else uses it.
+
+#include "base/platform_files.h"
+
+namespace quadrelle::platform {
+
+[[nodiscard]] File_Handle open_regular_file(const std::string& name, File_Mode mode);
+[[nodiscard]] std::int64_t file_size(std::FILE* file);
+[[nodiscard]] bool synchronize(std::FILE* file);
+[[nodiscard]] bool replace_file(const std::string& from, const std::string& to);
+
+} // namespace quadrelle::platform

@@ -1,0 +1,125 @@
+#ifndef _WIN32
+
+#include "base/platform_files_backend.h"
+
+#include <cerrno>
+#include <climits>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quadrelle {
+
+namespace {
+
+int flags(File_Mode mode) {
+    switch (mode) {
+    case File_Mode::read: return O_RDONLY;
+    case File_Mode::write: return O_WRONLY | O_CREAT;
+    case File_Mode::create: return O_WRONLY | O_CREAT | O_EXCL;
+    }
+    return O_RDONLY;
+}
+
+bool is_regular(int descriptor) {
+    struct stat status = {};
+    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+// Emptied only when it is known to be a regular file.
+bool prepare(int descriptor, File_Mode mode) {
+    return is_regular(descriptor) && (mode != File_Mode::write || ftruncate(descriptor, 0) == 0);
+}
+
+// Empty for anything but a symbolic link.
+std::string link_target(const std::string& name) {
+    std::string target(PATH_MAX, '\0');
+    const ssize_t length = readlink(name.c_str(), target.data(), target.size());
+    target.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return target;
+}
+
+} // namespace
+
+const char path_separator = '/';
+
+File_Handle platform::open_regular_file(const std::string& name, File_Mode mode) {
+    // Without waiting: a pipe would hold the program until somebody opens its other end.
+    const int descriptor = open(name.c_str(), flags(mode) | O_NONBLOCK | O_CLOEXEC, 0666);
+    if (descriptor < 0) {
+        return nullptr;
+    }
+    std::FILE* file = nullptr;
+    if (prepare(descriptor, mode)) {
+        file = fdopen(descriptor, mode == File_Mode::read ? "rb" : "wb");
+    }
+    if (file == nullptr) {
+        close(descriptor);
+    }
+    return File_Handle(file);
+}
+
+std::int64_t platform::file_size(std::FILE* file) {
+    struct stat status = {};
+    return fstat(fileno(file), &status) == 0 ? status.st_size : -1;
+}
+
+bool platform::synchronize(std::FILE* file) {
+    // Some file systems cannot do it and say so with EINVAL.
+    return fsync(fileno(file)) == 0 || errno == EINVAL;
+}
+
+bool platform::replace_file(const std::string& from, const std::string& to) {
+    return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+bool remove_file(const std::string& name) {
+    return unlink(name.c_str()) == 0;
+}
+
+bool can_replace(const std::string& name) {
+    struct stat status = {};
+    if (stat(name.c_str(), &status) != 0) {
+        return errno == ENOENT;
+    }
+    return S_ISREG(status.st_mode) && access(name.c_str(), W_OK) == 0;
+}
+
+void take_permissions(std::FILE* file, const std::string& name) {
+    struct stat status = {};
+    if (stat(name.c_str(), &status) == 0) {
+        // Where it is refused the new file keeps the bits of any new file.
+        [[maybe_unused]] const int result = fchmod(fileno(file), status.st_mode & 0777);
+    }
+}
+
+std::string resolve_links(const std::string& name) {
+    constexpr int most_links = 40;
+    std::string resolved = name;
+    for (int i = 0; i < most_links; ++i) {
+        const std::string target = link_target(resolved);
+        if (target.empty()) {
+            break;
+        }
+        // A relative one starts from the link's own folder.
+        resolved = (target.front() == '/' ? std::string() : folder_part(resolved)).append(target);
+    }
+    return resolved;
+}
+
+std::string current_directory() {
+    std::string directory(PATH_MAX, '\0');
+    if (getcwd(directory.data(), directory.size()) == nullptr) {
+        return ".";
+    }
+    directory.resize(directory.find('\0'));
+    return directory;
+}
+
+bool change_directory(const std::string& name) {
+    return chdir(name.c_str()) == 0;
+}
+
+} // namespace quadrelle
+
+#endif

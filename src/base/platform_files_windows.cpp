@@ -1,0 +1,129 @@
+#ifdef _WIN32
+
+#include "base/platform_files_backend.h"
+
+#include <fcntl.h>
+#include <io.h>
+#include <share.h>
+#include <sys/stat.h>
+#include <windows.h>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr DWORD longest_path = 32768;
+
+// Empty for a name that is no UTF-8.
+std::wstring wide(const std::string& text) {
+    const int size = static_cast<int>(text.size());
+    const int length = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(length), L'\0');
+    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, result.data(), length);
+    return result;
+}
+
+std::string narrow(const std::wstring& text) {
+    const int size = static_cast<int>(text.size());
+    const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
+    std::string result(static_cast<std::size_t>(length), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), length, nullptr, nullptr);
+    return result;
+}
+
+int flags(File_Mode mode) {
+    switch (mode) {
+    case File_Mode::read: return _O_RDONLY;
+    case File_Mode::write: return _O_WRONLY | _O_CREAT | _O_TRUNC;
+    case File_Mode::create: return _O_WRONLY | _O_CREAT | _O_EXCL;
+    }
+    return _O_RDONLY;
+}
+
+bool is_link(const std::string& name) {
+    const DWORD attributes = GetFileAttributesW(wide(name).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
+HANDLE handle_of(int descriptor) {
+    return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));
+}
+
+} // namespace
+
+const char path_separator = '\\';
+
+File_Handle platform::open_regular_file(const std::string& name, File_Mode mode) {
+    const int descriptor =
+        _wopen(wide(name).c_str(), flags(mode) | _O_BINARY | _O_NOINHERIT, _S_IREAD | _S_IWRITE);
+    if (descriptor < 0) {
+        return nullptr;
+    }
+    std::FILE* file = nullptr;
+    if (GetFileType(handle_of(descriptor)) == FILE_TYPE_DISK) {
+        file = _fdopen(descriptor, mode == File_Mode::read ? "rb" : "wb");
+    }
+    if (file == nullptr) {
+        _close(descriptor);
+    }
+    return File_Handle(file);
+}
+
+std::int64_t platform::file_size(std::FILE* file) {
+    return _filelengthi64(_fileno(file));
+}
+
+bool platform::synchronize(std::FILE* file) {
+    return _commit(_fileno(file)) == 0;
+}
+
+bool platform::replace_file(const std::string& from, const std::string& to) {
+    const DWORD options = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    return MoveFileExW(wide(from).c_str(), wide(to).c_str(), options) != 0;
+}
+
+bool remove_file(const std::string& name) {
+    return DeleteFileW(wide(name).c_str()) != 0;
+}
+
+bool can_replace(const std::string& name) {
+    const DWORD attributes = GetFileAttributesW(wide(name).c_str());
+    if (attributes == INVALID_FILE_ATTRIBUTES) {
+        return GetLastError() == ERROR_FILE_NOT_FOUND;
+    }
+    return (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DEVICE)) == 0;
+}
+
+void take_permissions(std::FILE*, const std::string&) {}
+
+std::string resolve_links(const std::string& name) {
+    if (!is_link(name)) {
+        return name;
+    }
+    const HANDLE file =
+        CreateFileW(wide(name).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        return name;
+    }
+    std::wstring path(longest_path, L'\0');
+    const DWORD length = GetFinalPathNameByHandleW(file, path.data(), longest_path, 0);
+    path.resize(length < longest_path ? length : 0);
+    CloseHandle(file);
+    return path.empty() ? name : narrow(path);
+}
+
+std::string current_directory() {
+    std::wstring directory(longest_path, L'\0');
+    const DWORD length = GetCurrentDirectoryW(longest_path, directory.data());
+    directory.resize(length < longest_path ? length : 0);
+    return directory.empty() ? "." : narrow(directory);
+}
+
+bool change_directory(const std::string& name) {
+    return SetCurrentDirectoryW(wide(name).c_str()) != 0;
+}
+
+} // namespace quadrelle
+
+#endif

@@ -1,0 +1,26 @@
+#pragma once
+
+// Shows on the canvas where the brush is about to paint: its outline and its pixels. Knows no tool.
+
+#include "base/geometry.h"
+#include "color/color.h"
+#include "color/pixel_rows.h"
+#include "tools/brush.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+// Corners of the brush's top left cell in pixels of the picture; none shows nothing. Borrows the brush.
+struct Brush_Feedback {
+    const Brush* brush = nullptr;
+    std::optional<Point> outline;
+    std::optional<Point> preview;
+    // Instead of the brush's own colours.
+    std::optional<Color> color;
+};
+
+// `pixel_size` is the edge of a cell. What lies outside the picture is left out.
+void paint_brush_feedback(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target);
+
+} // namespace quadrelle

@@ -1,0 +1,206 @@
+#include "canvas/canvas_painter.h"
+
+#include "color/translucency.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+// The cells that reach into `extent` pixels when the first one starts at `start`.
+int first_cell(int start, int pixel_size) {
+    return start >= 0 ? 0 : -start / pixel_size;
+}
+
+int end_cell(int start, int pixel_size, int extent, int count) {
+    return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
+}
+
+// As much of the picture as fits the area; where its own pixels are transparent nothing is changed.
+void draw_marker(const Cell_Marker& marker, const Rectangle& area, Point offset, const Pixel_Rows& target) {
+    const int right =
+        std::min(area.x + std::min(marker.size.width - offset.x, area.width), target.size.width);
+    const int bottom =
+        std::min(area.y + std::min(marker.size.height - offset.y, area.height), target.size.height);
+    for (int y = std::max(area.y, 0); y < bottom; ++y) {
+        for (int x = std::max(area.x, 0); x < right; ++x) {
+            const int i = (y - area.y + offset.y) * marker.size.width + x - area.x + offset.x;
+            const Color color = marker.pixels[static_cast<std::size_t>(i)];
+            if (color.a != 0) {
+                target.row(y)[x] = color;
+            }
+        }
+    }
+}
+
+// Over the pixels that are not selected.
+constexpr Color dimming(104, 112, 128, 112);
+
+// The second of two cells goes on with the line where the first one stopped, so that it reads as dashed.
+int dash_offset(int counter, int pixel_size, int length) {
+    return counter % 2 == 0 ? 0 : std::max(0, std::min(pixel_size, length - pixel_size));
+}
+
+} // namespace
+
+Color grid_color(Color pixel, int intensity) {
+    if (pixel.is_dark()) {
+        pixel.brighten(intensity);
+    } else {
+        pixel.darken(intensity);
+    }
+    return pixel;
+}
+
+void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& target) {
+    const auto width = static_cast<std::size_t>(target.size.width);
+    cell_line_.assign(width, picture.surround);
+    grid_line_.assign(width, picture.surround);
+    const int tile_rows = picture.tile == nullptr ? 0 : picture.tile->height();
+    const int tile_columns = picture.tile == nullptr ? 0 : picture.tile->width();
+    const Range columns{first_cell(picture.origin.x, picture.pixel_size),
+                        end_cell(picture.origin.x, picture.pixel_size, target.size.width, tile_columns)};
+    const Range rows{first_cell(picture.origin.y, picture.pixel_size),
+                     end_cell(picture.origin.y, picture.pixel_size, target.size.height, tile_rows)};
+
+    const int top = std::clamp(picture.origin.y + rows.first * picture.pixel_size, 0, target.size.height);
+    const int bottom = rows.end <= rows.first
+                           ? top
+                           : std::min(picture.origin.y + rows.end * picture.pixel_size, target.size.height);
+    for (int y = 0; y < top; ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    for (int y = bottom; y < target.size.height; ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    for (int row = rows.first; row < rows.end; ++row) {
+        paint_row(picture, columns, row, target);
+    }
+    if (columns.first < columns.end && rows.first < rows.end) {
+        for (const Selection_Outline& outline : picture.outlines) {
+            paint_outline(picture, outline, columns, rows, target);
+        }
+        paint_markers(picture, columns, rows, target);
+    }
+}
+
+void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selection_Outline& outline,
+                                   Range columns, Range rows, const Pixel_Rows& target) {
+    if (outline.edges == nullptr) {
+        return;
+    }
+    const Selection& selection = *outline.selection;
+    const Cell_Marker& horizontal = outline.edges->horizontal;
+    const Cell_Marker& vertical = outline.edges->vertical;
+    const int edge = picture.pixel_size;
+    for (int row = rows.first; row < rows.end; ++row) {
+        const int y = picture.origin.y + row * edge;
+        const Point down{0, dash_offset(row % picture.checker.height, edge, vertical.size.height)};
+        for (int column = columns.first; column < columns.end; ++column) {
+            if (!selection.contains({column, row})) {
+                continue;
+            }
+            const int x = picture.origin.x + column * edge;
+            const Point along{dash_offset(column % picture.checker.width, edge, horizontal.size.width), 0};
+            if (!selection.contains({column, row - 1})) {
+                draw_marker(horizontal, {x, y, edge, edge}, along, target);
+            }
+            if (!selection.contains({column, row + 1})) {
+                const int thickness = horizontal.size.height;
+                draw_marker(horizontal, {x, y + edge - thickness, edge, thickness}, along, target);
+            }
+            if (!selection.contains({column - 1, row})) {
+                draw_marker(vertical, {x, y, edge, edge}, down, target);
+            }
+            if (!selection.contains({column + 1, row})) {
+                const int thickness = vertical.size.width;
+                draw_marker(vertical, {x + edge - thickness, y, thickness, edge}, down, target);
+            }
+        }
+    }
+}
+
+Color Canvas_Painter::pixel_shown(const Floating_Paste& paste, Tile_Point pixel, Color below) {
+    const std::optional<Color> above = paste.pixel_over(pixel);
+    return above ? laid_over(*above, below) : below;
+}
+
+void Canvas_Painter::paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
+                                   const Pixel_Rows& target) {
+    const auto cell = [&picture](int column, int row) {
+        return Rectangle{picture.origin.x + column * picture.pixel_size,
+                         picture.origin.y + row * picture.pixel_size, picture.pixel_size, picture.pixel_size};
+    };
+    for (int row = rows.first; picture.column_marker != nullptr && row < rows.end; ++row) {
+        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), {}, target);
+    }
+    for (int column = columns.first; picture.row_marker != nullptr && column < columns.end; ++column) {
+        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), {}, target);
+    }
+}
+
+void Canvas_Painter::paint_row(const Canvas_Picture& picture, Range columns, int row,
+                               const Pixel_Rows& target) {
+    compose_lines(picture, columns, row);
+    const int top = picture.origin.y + row * picture.pixel_size;
+    const int grid_y = top + picture.pixel_size - 1;
+    for (int y = std::max(top, 0); y < std::min(grid_y, target.size.height); ++y) {
+        std::ranges::copy(cell_line_, target.row(y));
+    }
+    if (grid_y >= 0 && grid_y < target.size.height) {
+        std::ranges::copy(grid_line_, target.row(grid_y));
+    }
+}
+
+void Canvas_Painter::compose_lines(const Canvas_Picture& picture, Range columns, int row) {
+    const auto pixels = picture.tile->pixels().subspan(static_cast<std::size_t>(row) *
+                                                       static_cast<std::size_t>(picture.tile->width()));
+    const int width = static_cast<int>(cell_line_.size());
+    // Neighbours often show the same colour.
+    Color pixel;
+    Color background;
+    Color cell;
+    Color grid;
+    bool is_dimmed = false;
+    bool is_known = false;
+    for (int column = columns.first; column < columns.end; ++column) {
+        const Color own = pixels[static_cast<std::size_t>(column)];
+        const Color next_pixel =
+            picture.paste == nullptr ? own : pixel_shown(*picture.paste, {column, row}, own);
+        const bool next_is_dimmed =
+            picture.selection != nullptr && !picture.selection->contains({column, row});
+        const Color next_background =
+            next_pixel.a == 255 ? background : checkerboard_color(column, row, picture.checker);
+        if (!is_known || next_pixel != pixel || next_background != background ||
+            next_is_dimmed != is_dimmed) {
+            pixel = next_pixel;
+            background = next_background;
+            is_dimmed = next_is_dimmed;
+            cell = blended_over(pixel, background);
+            grid = blended_over(grid_color(pixel, picture.grid_intensity), cell);
+            if (is_dimmed) {
+                cell = blended_over(dimming, cell);
+                grid = blended_over(dimming, grid);
+            }
+            is_known = true;
+        }
+        const int left = picture.origin.x + column * picture.pixel_size;
+        fill_cell({std::max(left, 0), std::min(left + picture.pixel_size, width)}, {cell, grid},
+                  left + picture.pixel_size <= width);
+    }
+}
+
+void Canvas_Painter::fill_cell(Range extent, Cell_Colors colors, bool shows_right_line) {
+    Color* const cell = cell_line_.data();
+    Color* const grid = grid_line_.data();
+    for (int x = extent.first; x < extent.end; ++x) {
+        cell[x] = colors.cell;
+        grid[x] = colors.grid;
+    }
+    if (shows_right_line) {
+        cell[extent.end - 1] = colors.grid;
+    }
+}
+
+} // namespace quadrelle

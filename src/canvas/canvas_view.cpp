@@ -1,0 +1,254 @@
+#include "canvas/canvas_view.h"
+
+#include "color/standard_colors.h"
+#include "panes/toolbox.h"
+#include "screen/events.h"
+#include "screen/opaque_texture.h"
+#include "screen/renderer.h"
+#include "ui/options.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+// Along one axis, in window pixels.
+int centred_start(int viewport_start, int viewport_extent, int extent) {
+    return extent < viewport_extent ? viewport_start + (viewport_extent - extent) / 2 : viewport_start;
+}
+
+// Always even: that of a half that is odd is one less.
+int seam_shift_of(int extent) {
+    const int half = extent / 2;
+    return half - half % 2;
+}
+
+// Right or down, or back where negative; what leaves one edge enters at the other.
+void rotate_pixels(Tile& tile, Seam seam, int shift) {
+    const auto pixels = tile.pixels();
+    const auto rotate = [shift](auto first, auto end, int unit) {
+        std::rotate(first, shift < 0 ? first - shift * unit : end - shift * unit, end);
+    };
+    if (seam == Seam::vertical) {
+        rotate(pixels.begin(), pixels.end(), tile.width());
+        return;
+    }
+    for (auto first = pixels.begin(); first != pixels.end(); first += tile.width()) {
+        rotate(first, first + tile.width(), 1);
+    }
+}
+
+bool ends_pan(const SDL_Event& event) {
+    const bool is_release =
+        event.type == SDL_EVENT_MOUSE_BUTTON_UP && pointer_of(event.button).button != Mouse_Button::none;
+    return is_release || event.type == SDL_EVENT_QUIT;
+}
+
+} // namespace
+
+Canvas_View::Canvas_View(int pixel_size)
+    : pixel_size_(std::clamp(pixel_size, smallest_pixel_size, largest_pixel_size)),
+      texture_(std::make_unique<Opaque_Texture>(Size{canvas_viewport.width, canvas_viewport.height},
+                                                active_renderer())) {}
+
+Canvas_View::~Canvas_View() = default;
+
+void Canvas_View::set_tile(Tile* tile) {
+    undo_seam_shifts();
+    const bool is_another = tile != tile_ || (tile != nullptr && (!history_ || !history_->same_size(*tile)));
+    tile_ = tile;
+    if (is_another) {
+        save_history();
+    }
+    if (tile_ != nullptr && work_area_.selection().size() != tile_->size()) {
+        work_area_.resize(tile_->size());
+    }
+}
+
+void Canvas_View::save_history() {
+    history_ = tile_ == nullptr ? nullptr : std::make_unique<Tile>(*tile_);
+}
+
+bool Canvas_View::shows_paste() const {
+    return work_area_.paste() && !work_area_.has_selection() && toolbox->shows_floating_paste();
+}
+
+Size Canvas_View::magnified_size() const {
+    return tile_ == nullptr ? Size{} : Size{tile_->width() * pixel_size_, tile_->height() * pixel_size_};
+}
+
+bool Canvas_View::set_pixel_size(int pixel_size) {
+    if (pixel_size < smallest_pixel_size || pixel_size > largest_pixel_size) {
+        return false;
+    }
+    pixel_size_ = pixel_size;
+    return true;
+}
+
+bool Canvas_View::toggle_seam_shift(Seam seam) {
+    if (tile_ == nullptr) {
+        return false;
+    }
+    if (seam_shift(seam) != no_seam_shift) {
+        undo_seam_shift(seam);
+        return true;
+    }
+    const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
+    shift_pixels(seam, shift);
+    tile_->update_texture();
+    seam_shift(seam) = shift;
+    return true;
+}
+
+void Canvas_View::undo_seam_shifts() {
+    undo_seam_shift(Seam::horizontal);
+    undo_seam_shift(Seam::vertical);
+}
+
+// Backwards, not on: where half of the tile is odd, twice the shift would not lead around it.
+void Canvas_View::undo_seam_shift(Seam seam) {
+    const int shift = std::exchange(seam_shift(seam), no_seam_shift);
+    if (shift > 0) {
+        shift_pixels(seam, -shift);
+        tile_->update_texture();
+    }
+}
+
+void Canvas_View::shift_pixels(Seam seam, int shift) {
+    rotate_pixels(*tile_, seam, shift);
+    rotate_pixels(*history_, seam, shift);
+    work_area_.mutable_selection().change([&](Tile& mask) { rotate_pixels(mask, seam, shift); });
+    if (work_area_.paste()) {
+        Tile_Point position = work_area_.paste()->position;
+        (seam == Seam::horizontal ? position.x : position.y) += shift;
+        work_area_.move_paste_to(position);
+    }
+}
+
+void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
+    const int horizontal = std::max(horizontal_seam_shift_, 0);
+    const int vertical = std::max(vertical_seam_shift_, 0);
+    if (tile_ == nullptr || (horizontal == 0 && vertical == 0)) {
+        work();
+        return;
+    }
+    shift_pixels(Seam::horizontal, -horizontal);
+    shift_pixels(Seam::vertical, -vertical);
+    work();
+    shift_pixels(Seam::horizontal, horizontal);
+    shift_pixels(Seam::vertical, vertical);
+    tile_->update_texture();
+}
+
+bool Canvas_View::zoom(Zoom_Step step) {
+    const Size before = magnified_size();
+    if (!set_pixel_size(pixel_size_ + static_cast<int>(step))) {
+        return false;
+    }
+    const Size after = magnified_size();
+    scroll_origin((before.width - after.width) / 2, (before.height - after.height) / 2);
+    return true;
+}
+
+void Canvas_View::centre() {
+    const Size size = magnified_size();
+    origin_ = {centred_start(canvas_viewport.x, canvas_viewport.width, size.width),
+               centred_start(canvas_viewport.y, canvas_viewport.height, size.height)};
+}
+
+void Canvas_View::scroll_origin(int dx, int dy) {
+    origin_.x += dx;
+    origin_.y += dy;
+}
+
+void Canvas_View::pan(const std::function<void()>& redraw) {
+    const Point start = origin_;
+    bool has_moved = false;
+    float dx = 0;
+    float dy = 0;
+    run_modal({"pan", redraw, [&](const SDL_Event& event) {
+                   // The first motion only tells where the pointer was.
+                   if (event.type == SDL_EVENT_MOUSE_MOTION && std::exchange(has_moved, true)) {
+                       dx += event.motion.xrel;
+                       dy += event.motion.yrel;
+                       origin_ = {start.x + static_cast<int>(dx), start.y + static_cast<int>(dy)};
+                   }
+                   return ends_pan(event) ? Loop_Step::end : Loop_Step::go_on;
+               }});
+}
+
+Canvas_Picture Canvas_View::picture() const {
+    Canvas_Picture picture;
+    picture.tile = tile_;
+    picture.pixel_size = pixel_size_;
+    picture.origin = {origin_.x - canvas_viewport.x, origin_.y - canvas_viewport.y};
+    picture.grid_intensity = options->value(Option::grid_intensity);
+    picture.checker = {std::max(options->value(Option::alpha_grid_width), 1),
+                       std::max(options->value(Option::alpha_grid_height), 1)};
+    picture.surround = standard_color(Standard_Color::dark_frame);
+    const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);
+    if (horizontal_seam_shift_ != no_seam_shift && seam != nullptr) {
+        picture.column_marker = &seam->vertical;
+    }
+    if (vertical_seam_shift_ != no_seam_shift && seam != nullptr) {
+        picture.row_marker = &seam->horizontal;
+    }
+    show_selection(picture);
+    return picture;
+}
+
+void Canvas_View::show_selection(Canvas_Picture& picture) const {
+    const auto outline = [&](const Selection& selection, Edge_Family family) {
+        picture.outlines.push_back({&selection, edges_.of(family, pixel_size_)});
+    };
+    if (work_area_.has_selection()) {
+        picture.selection = &work_area_.selection();
+        outline(work_area_.selection(), Edge_Family::selection);
+    } else if (shows_paste()) {
+        picture.paste = &*work_area_.paste();
+        outline(work_area_.paste_area(), Edge_Family::paste);
+    }
+    if (work_area_.candidate()) {
+        outline(*work_area_.candidate(), Edge_Family::candidate);
+    }
+}
+
+Tile_Point Canvas_View::tool_point(Point position) const {
+    const Point offset = toolbox->pointer_offset(pixel_size_);
+    return tile_point({position.x - offset.x, position.y - offset.y});
+}
+
+// The preview lies on the pixels that would be painted; so does a blocky outline, any other follows the
+// pointer.
+Brush_Feedback Canvas_View::brush_feedback(const Hover& hover) const {
+    const Brush& brush = toolbox->brush();
+    const Tile_Point corner = toolbox->brush_corner(tool_point(hover.position));
+    const Point cell{origin_.x - canvas_viewport.x + corner.x * pixel_size_,
+                     origin_.y - canvas_viewport.y + corner.y * pixel_size_};
+    Brush_Feedback feedback{&brush, {}, {}, toolbox->brush_color(hover.button)};
+    if (toolbox->shows_brush_preview(hover.button)) {
+        feedback.preview = cell;
+    }
+    if (toolbox->shows_brush_outline()) {
+        const Point centred_on_pointer{
+            hover.position.x - canvas_viewport.x - brush.size().width * pixel_size_ / 2,
+            hover.position.y - canvas_viewport.y - brush.size().height * pixel_size_ / 2};
+        const bool is_blocky = options->value(Option::blocky_precise_brush) == 1;
+        feedback.outline = is_blocky ? cell : centred_on_pointer;
+    }
+    return feedback;
+}
+
+void Canvas_View::draw() {
+    texture_->update([this](const Pixel_Rows& rows) {
+        painter_.paint(picture(), rows);
+        if (hover_ && tile_ != nullptr) {
+            paint_brush_feedback(brush_feedback(*hover_), pixel_size_, rows);
+        }
+    });
+    texture_->draw_at({canvas_viewport.x, canvas_viewport.y});
+}
+
+} // namespace quadrelle

@@ -1,0 +1,130 @@
+#pragma once
+
+// The current tile magnified in the viewport: where its cells lie, which pixel is under the pointer, zoom and
+// pan. The tools that draw on it are driven by `Canvas_Stroke`.
+
+#include "base/geometry.h"
+#include "base/input.h"
+#include "canvas/brush_feedback.h"
+#include "canvas/canvas_painter.h"
+#include "canvas/edge_pictures.h"
+#include "commands/command.h"
+#include "selection/work_area.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace quadrelle {
+
+class Opaque_Texture;
+
+constexpr Rectangle canvas_viewport{264, 64, 512, 512};
+constexpr int smallest_pixel_size = 3;
+constexpr int largest_pixel_size = 32;
+
+// The directions in which a tile is shifted to bring its edges into the middle.
+enum class Seam { horizontal, vertical };
+
+enum class Zoom_Step : int { out = -1, in = 1 };
+
+constexpr int no_seam_shift = -1;
+
+// The pointer over the viewport, and the button of the stroke that it makes, if any.
+struct Hover {
+    Point position;
+    Mouse_Button button = Mouse_Button::none;
+};
+
+class Canvas_View {
+public:
+    explicit Canvas_View(int pixel_size);
+    ~Canvas_View();
+
+    // Borrowed; null shows an empty canvas. The tile before, if shifted, is still needed to be put right.
+    void set_tile(Tile* tile);
+    [[nodiscard]] Tile* tile() const { return tile_; }
+
+    // What is selected on the tile and floats over it. Stays when another tile of the same size comes.
+    [[nodiscard]] Work_Area& work_area() { return work_area_; }
+    [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
+    // Something floats, the tool in use shows it, and no selection takes its place.
+    [[nodiscard]] bool shows_paste() const;
+
+    // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
+    // called.
+    void save_history();
+    [[nodiscard]] const Tile* history() const { return history_.get(); }
+
+    // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
+    // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
+    // False without a tile.
+    bool toggle_seam_shift(Seam seam);
+    void undo_seam_shifts();
+    // For work on the tile as it really is, which leaves its size and stays on view.
+    void with_tile_in_place(const std::function<void()>& work);
+    // In pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small tile.
+    [[nodiscard]] int horizontal_seam_shift() const { return horizontal_seam_shift_; }
+    [[nodiscard]] int vertical_seam_shift() const { return vertical_seam_shift_; }
+
+    // False, with nothing changed, outside of the smallest and the largest size.
+    bool set_pixel_size(int pixel_size);
+    [[nodiscard]] int pixel_size() const { return pixel_size_; }
+    // By one pixel size, about the tile's centre.
+    bool zoom(Zoom_Step step);
+    // A tile larger than the viewport shows its top-left corner.
+    void centre();
+    void scroll_origin(int dx, int dy);
+    // The tile follows the pointer until a button is released; `redraw` draws and presents the window.
+    void pan(const std::function<void()>& redraw);
+
+    // In window pixels.
+    [[nodiscard]] Point origin() const { return origin_; }
+    [[nodiscard]] Size magnified_size() const;
+    // The cell under a window position, truncated toward zero: the strip one cell wide just left of or above
+    // the tile deliberately counts as its first column or row. Not limited to the tile.
+    [[nodiscard]] int tile_column(int x) const { return (x - origin_.x) / pixel_size_; }
+    [[nodiscard]] int tile_row(int y) const { return (y - origin_.y) / pixel_size_; }
+    [[nodiscard]] Tile_Point tile_point(Point position) const {
+        return {tile_column(position.x), tile_row(position.y)};
+    }
+    // The pixel that the tool in use acts on when the pointer is there: a brush lies around the pointer.
+    [[nodiscard]] Tile_Point tool_point(Point position) const;
+    // The nearest cell boundary.
+    [[nodiscard]] int nearest_column(int x) const { return tile_column(x + pixel_size_ / 2); }
+    [[nodiscard]] int nearest_row(int y) const { return tile_row(y + pixel_size_ / 2); }
+    // The corner of cells that is nearest.
+    [[nodiscard]] Tile_Point corner_point(Point position) const {
+        return {nearest_column(position.x), nearest_row(position.y)};
+    }
+
+    // Where the brush shows, if its tool has one; nowhere for none.
+    void set_hover(std::optional<Hover> hover) { hover_ = hover; }
+
+    void draw();
+
+private:
+    void undo_seam_shift(Seam seam);
+    // The pixels of the tile and all that belongs to them; not what shows them.
+    void shift_pixels(Seam seam, int shift);
+    [[nodiscard]] int& seam_shift(Seam seam) {
+        return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
+    }
+    [[nodiscard]] Canvas_Picture picture() const;
+    void show_selection(Canvas_Picture& picture) const;
+    [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover) const;
+
+    Tile* tile_ = nullptr;
+    int pixel_size_;
+    Point origin_{canvas_viewport.x, canvas_viewport.y};
+    int horizontal_seam_shift_ = no_seam_shift;
+    int vertical_seam_shift_ = no_seam_shift;
+    mutable Edge_Pictures edges_;
+    Work_Area work_area_;
+    std::unique_ptr<Tile> history_;
+    std::optional<Hover> hover_;
+    Canvas_Painter painter_;
+    std::unique_ptr<Opaque_Texture> texture_;
+};
+
+} // namespace quadrelle

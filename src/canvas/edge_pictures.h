@@ -1,0 +1,32 @@
+#pragma once
+
+// The pictures that run along the edges of cells on the canvas, read from the sheet when first needed.
+
+#include "canvas/canvas_painter.h"
+#include "screen/sprite_table.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace quadrelle {
+
+enum class Edge_Family : std::int32_t { seam, selection, candidate, paste, count };
+
+class Edge_Pictures {
+public:
+    // Larger cells get a broader line. Null without a screen: then nothing is marked.
+    [[nodiscard]] const Cell_Edges* of(Edge_Family family, int pixel_size);
+
+private:
+    struct Widths {
+        Cell_Edges narrow;
+        Cell_Edges broad;
+    };
+    void load();
+
+    bool is_loaded_ = false;
+    std::array<Widths, static_cast<std::size_t>(Edge_Family::count)> families_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,178 @@
+#include "panes/copy_panes.h"
+
+#include "color/standard_colors.h"
+#include "commands/command_table.h"
+#include "screen/screen.h"
+#include "screen/streaming_texture.h"
+#include "ui/checkerboard.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int column_width = 202;
+constexpr int column_bottom = 632;
+constexpr int client_width = column_width - 2 * pane_border;
+
+constexpr int current_height = 120;
+constexpr int cell_edge = 32;
+constexpr std::size_t cells_in_row = client_width / cell_edge;
+constexpr std::size_t cell_rows = (Copy_Buffer::capacity + cells_in_row - 1) / cells_in_row;
+static_assert(cells_in_row * cell_edge == client_width);
+// The mark of the current copy lies around its picture.
+constexpr int mark_width = 3;
+
+constexpr int button_height = 21;
+constexpr int button_gap = 2;
+constexpr std::size_t buttons_in_row = 4;
+constexpr std::array button_commands{Command::copy,
+                                     Command::cut,
+                                     Command::paste,
+                                     Command::clone,
+                                     Command::clear,
+                                     Command::fill,
+                                     Command::invert_selection,
+                                     Command::deselect};
+constexpr int button_rows = static_cast<int>(button_commands.size() / buttons_in_row);
+
+Size below_title(int client_height) {
+    return {column_width, client_height + 2 * pane_border};
+}
+
+std::string_view label(Command command) {
+    return command == Command::invert_selection ? "Invert" : row_of(command).name;
+}
+
+// Enlarged by as many whole times as fit, or reduced to every second pixel, every third, and so on.
+Rectangle fitted(Size picture, const Rectangle& area) {
+    const int times = std::min(area.width / picture.width, area.height / picture.height);
+    if (times > 0) {
+        return centred({picture.width * times, picture.height * times}, area);
+    }
+    const int step = std::max((picture.width + area.width - 1) / area.width,
+                              (picture.height + area.height - 1) / area.height);
+    return centred({std::max(picture.width / step, 1), std::max(picture.height / step, 1)}, area);
+}
+
+void draw_picture(const Tile& picture, const Texture& board, const Rectangle& area) {
+    if (picture.pixel_count() > 0) {
+        const Rectangle shown = fitted(picture.size(), area);
+        board.draw_part({0, 0, shown.width, shown.height}, shown);
+        picture.draw(shown);
+    }
+}
+
+// Light around dark: one of the two shows beside every colour.
+void draw_mark(const Rectangle& cell) {
+    screen->draw_outline(cell, standard_color(Standard_Color::highlight));
+    screen->draw_outline(cell.inset(1), standard_color(Standard_Color::highlight));
+    screen->draw_outline(cell.inset(2), standard_color(Standard_Color::black));
+}
+
+void draw_button(const Rectangle& area, std::string_view text) {
+    screen->draw_panel(area, standard_color(Standard_Color::pane_frame));
+    const int x = area.x + (area.width - screen->text_width(Font::pane, text)) / 2;
+    screen->draw_text(Font::pane, {x, area.y}, text);
+}
+
+} // namespace
+
+Copy_Panes::Copy_Panes()
+    : current_({0, 0, column_width, below_title(current_height).height}, "Copy buffer"),
+      previous_({0, 0, column_width, below_title(static_cast<int>(cell_rows) * cell_edge).height},
+                "Previous copies"),
+      commands_({0, 0, column_width,
+                 below_title(button_rows * button_height + (button_rows - 1) * button_gap).height},
+                "Selection"),
+      checkerboard_(make_checkerboard({client_width, current_height})) {}
+
+void Copy_Panes::place(Point top_left) {
+    const int height = current_.area.height + previous_.area.height + commands_.area.height + 2 * element_gap;
+    int y = std::min(top_left.y, column_bottom - height);
+    for (Pane* const pane : {&current_, &previous_, &commands_}) {
+        pane->move(top_left.x, y);
+        y = pane->area.bottom() + element_gap;
+    }
+    place_buttons();
+}
+
+void Copy_Panes::place_buttons() {
+    Point position{commands_.client_area().x, commands_.client_area().y};
+    for (std::size_t first = 0; first < button_count; first += buttons_in_row) {
+        position = place_button_row(first, position);
+    }
+}
+
+// Each as wide as its label, and what is left of the row is shared out.
+Point Copy_Panes::place_button_row(std::size_t first, Point position) {
+    const Point next{position.x, position.y + button_height + button_gap};
+    int rest = client_width - (static_cast<int>(buttons_in_row) - 1) * button_gap;
+    for (std::size_t i = first; i < first + buttons_in_row; ++i) {
+        rest -= screen->text_width(Font::pane, label(button_commands.at(i)));
+    }
+    for (std::size_t i = first; i < first + buttons_in_row; ++i) {
+        const int share = rest / static_cast<int>(first + buttons_in_row - i);
+        const int width = screen->text_width(Font::pane, label(button_commands.at(i))) + share;
+        buttons_.at(i) = {position.x, position.y, width, button_height};
+        position.x += width + button_gap;
+        rest -= share;
+    }
+    return next;
+}
+
+Rectangle Copy_Panes::cell(std::size_t index) const {
+    const Rectangle client = previous_.client_area();
+    const auto column = static_cast<int>(index % cells_in_row);
+    const auto row = static_cast<int>(index / cells_in_row);
+    return {client.x + column * cell_edge, client.y + row * cell_edge, cell_edge, cell_edge};
+}
+
+void Copy_Panes::draw(const Copy_Buffer& copies) const {
+    draw_current(copies);
+    previous_.draw();
+    previous_.clear(standard_color(Standard_Color::frame));
+    for (std::size_t i = 0; i < copies.copies().size(); ++i) {
+        draw_copy(copies, i);
+    }
+    commands_.draw();
+    for (std::size_t i = 0; i < button_count; ++i) {
+        draw_button(buttons_.at(i), label(button_commands.at(i)));
+    }
+}
+
+void Copy_Panes::draw_current(const Copy_Buffer& copies) const {
+    current_.draw();
+    current_.clear(standard_color(Standard_Color::frame));
+    if (copies.current() != nullptr) {
+        draw_picture(copies.current()->picture, *checkerboard_, current_.client_area());
+    }
+}
+
+void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) const {
+    draw_picture(copies.copies()[index].picture, *checkerboard_, cell(index).inset(mark_width));
+    if (index == copies.current_index()) {
+        draw_mark(cell(index));
+    }
+}
+
+std::optional<std::size_t> Copy_Panes::copy_at(Point point) const {
+    for (std::size_t i = 0; i < Copy_Buffer::capacity; ++i) {
+        if (cell(i).contains(point)) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+Command Copy_Panes::command_at(Point point) const {
+    for (std::size_t i = 0; i < button_count; ++i) {
+        if (buttons_.at(i).contains(point)) {
+            return button_commands.at(i);
+        }
+    }
+    return Command::none;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,51 @@
+#pragma once
+
+// The panes beside the tools that select: the current copy, the copies before it, and what can be done with
+// them and with the selection. They change nothing themselves.
+
+#include "base/geometry.h"
+#include "commands/command.h"
+#include "selection/copy_buffer.h"
+#include "ui/pane.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+namespace quadrelle {
+
+class Copy_Panes {
+public:
+    Copy_Panes();
+
+    // With that top left corner, or higher where they would leave the column.
+    void place(Point top_left);
+    void draw(const Copy_Buffer& copies) const;
+
+    [[nodiscard]] const Pane& current() const { return current_; }
+    [[nodiscard]] const Pane& previous() const { return previous_; }
+    // The previous copy that is there, if there are so many; the newest one is 0.
+    [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
+    // Whose button is there, or none.
+    [[nodiscard]] Command command_at(Point point) const;
+
+private:
+    static constexpr std::size_t button_count = 8;
+
+    void draw_current(const Copy_Buffer& copies) const;
+    void draw_copy(const Copy_Buffer& copies, std::size_t index) const;
+    [[nodiscard]] Rectangle cell(std::size_t index) const;
+    void place_buttons();
+    // Returns where the next row begins.
+    Point place_button_row(std::size_t first, Point position);
+
+    Pane current_;
+    Pane previous_;
+    Pane commands_;
+    std::array<Rectangle, button_count> buttons_;
+    std::unique_ptr<Texture> checkerboard_;
+};
+
+} // namespace quadrelle

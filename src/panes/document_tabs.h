@@ -1,0 +1,44 @@
+#pragma once
+
+// The row of tabs above the canvas, one for each open document.
+
+#include "base/geometry.h"
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace quadrelle {
+
+class Texture;
+
+class Document_Tabs {
+public:
+    Document_Tabs();
+    ~Document_Tabs();
+
+    // In the order of the documents. Tabs that do not fit beside the current one are left out; an arrow at
+    // either end of the row stands for them.
+    void set_titles(std::span<const std::string> titles, std::size_t current);
+    void draw() const;
+    // The document whose tab is there, the next hidden one for an arrow, or -1.
+    [[nodiscard]] int tab_at(Point point) const;
+
+private:
+    struct Tab {
+        int document = 0;
+        Rectangle area;
+        std::unique_ptr<Texture> label;
+    };
+    void scroll_to(std::size_t current);
+    [[nodiscard]] bool hides_first() const;
+    [[nodiscard]] bool hides_last() const;
+
+    std::vector<Tab> tabs_; // those that show
+    std::size_t first_shown_ = 0;
+    int document_count_ = 0;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,92 @@
+#pragma once
+
+// What can lie under the pointer, and what the program says about it.
+
+#include "base/geometry.h"
+#include "base/table.h"
+#include "color/color.h"
+#include "commands/command.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace quadrelle {
+
+// The places that are no command.
+enum class Place : int {
+    menus,
+    tabs,
+    canvas_without_tile,
+    preview,
+    magnification,
+    navigation,
+    strip,
+    history,
+    palette,
+    selected_color,
+    left_color,
+    right_color,
+    hsv_selector,
+    handles,
+    variations,
+    copy_buffer,
+    previous_copies,
+    brush_pad,
+    count
+};
+
+struct Place_Row {
+    Place id;
+    std::string_view title;
+    std::string_view text;
+};
+
+// clang-format off
+constexpr std::array place_table = {
+    Place_Row{Place::menus,               "Menus",              "A click opens a menu, and a click on one of its rows carries it out.\rThe key stands behind the name."},
+    Place_Row{Place::tabs,                "Open tilesets",      "A click goes to that set. An asterisk says that there is something to save."},
+    Place_Row{Place::canvas_without_tile, "No tile",            "This set has no tile yet: Tileset, Add new tile makes one."},
+    Place_Row{Place::preview,             "Preview",            "The current tile in real size, repeated as often as the options say."},
+    Place_Row{Place::magnification,       "Magnification",      "How large a pixel of the tile is shown. The wheel zooms."},
+    Place_Row{Place::navigation,          "Tileset navigation", "Steps to the previous and the next tile, and pages through the tiles along the bottom."},
+    Place_Row{Place::strip,               "Tiles of the set",   "A click goes to that tile. Tab shows the whole set."},
+    Place_Row{Place::history,             "History",            "The newest steps that can be undone. Tools, View undo history shows all."},
+    Place_Row{Place::palette,             "Palette",            "Left or right click: takes the color for that button. Shift and click: stores the button's color there."},
+    Place_Row{Place::selected_color,      "Selected",           "The color of the palette that was chosen last. Set stores the lit color there."},
+    Place_Row{Place::left_color,          "Left button color",  "What the left button draws in. A click makes it the color that handles and variations work on."},
+    Place_Row{Place::right_color,         "Right button color", "What the right button draws in. A click makes it the color that handles and variations work on."},
+    Place_Row{Place::hsv_selector,        "HSV Selector",       "Drag in the square: the color of the button that you press. Drag in the bar: the hue of the square."},
+    Place_Row{Place::handles,             "Handles",            "Change the lit color: drag a slider, or click on less, middle and more."},
+    Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
+    Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
+    Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take."},
+    Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
+};
+// clang-format on
+
+static_assert(place_table.size() == static_cast<std::size_t>(Place::count));
+static_assert(rows_follow_their_ids(place_table));
+
+struct Pointed_Pixel {
+    Tile_Point position;
+    Color color;
+};
+
+using Pointed = std::variant<Command, Place, Pointed_Pixel>;
+
+struct Hint {
+    std::string title;
+    std::string text; // lines may be parted by "\r"
+
+    bool operator==(const Hint&) const = default;
+};
+
+// Name, key and the first paragraph of the help; of a pixel its place and colour.
+[[nodiscard]] Hint hint_of(const Pointed& pointed);
+// The whole help of a command.
+[[nodiscard]] Hint help_of(Command command);
+[[nodiscard]] Hint help_of(Place place);
+
+} // namespace quadrelle

@@ -1,0 +1,50 @@
+#include "panes/history_pane.h"
+
+#include "screen/screen.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Size size_below_title{194, 34};
+constexpr int thumbnail_edge = 24;
+constexpr int thumbnail_step = 26;
+constexpr int shown_entries = 7;
+
+const Tile& thumbnail(const Undo_Entry& entry) {
+    return entry.work.selection ? entry.work.selection->mask() : entry.snapshot->tile;
+}
+
+} // namespace
+
+History_Pane::History_Pane(Point position)
+    : Pane({position.x, position.y, size_below_title.width, size_below_title.height}, "History") {}
+
+void History_Pane::draw(const Undo_History& history) const {
+    Pane::draw();
+    if (!history.entries().empty()) {
+        screen->draw_sprite(Sprite::history_list, {client_area().x - 1, client_area().y - 1});
+        draw_entries(history);
+    } else {
+        draw_frame();
+    }
+}
+
+void History_Pane::draw_entries(const Undo_History& history) const {
+    const int count = static_cast<int>(history.entries().size());
+    const int shown = std::min(count, shown_entries);
+    Point cell{client_area().x, client_area().y};
+    for (int i = count - shown; i < count; ++i) {
+        thumbnail(history.entries()[static_cast<std::size_t>(i)])
+            .draw({cell.x, cell.y, thumbnail_edge, thumbnail_edge});
+        if (i == history.position()) {
+            screen->draw_sprite(Sprite::tile_indicator, cell);
+        }
+        cell.x += thumbnail_step;
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,155 @@
+#include "panes/palette_area.h"
+
+#include "color/color_data.h"
+#include "color/hex_color.h"
+#include "color/standard_colors.h"
+#include "screen/screen.h"
+#include "screen/sprite_sheet.h"
+#include "ui/swatch.h"
+
+#include <string_view>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int pane_width = 202;
+constexpr int name_height = 19;
+constexpr Size grid_size{192, 80};
+constexpr int coarse_columns = 8;
+constexpr int coarse_rows = 4;
+constexpr int button_gap = 4;
+constexpr Size selected_size{192, 40};
+constexpr int swatch_edge = 40;
+constexpr int text_gap = 7;
+constexpr int text_rise = 4; // the letters begin below their position
+constexpr int second_line = 25;
+constexpr std::string_view set_label = "Set";
+constexpr Size set_button_size{46, 18};
+
+// The height below a pane's title bar that leaves this much room inside.
+constexpr int height_for(int client_height) {
+    return client_height + 2 * pane_border;
+}
+
+Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
+    const Rectangle button = sprite_rect(sprite);
+    return {right - button.width, client.y, button.width, button.height};
+}
+
+} // namespace
+
+Palette_Area::Palette_Area(Point position, Palette_Store& store)
+    : Pane({position.x, position.y, pane_width, height_for(name_height + grid_size.height)}, "Palette"),
+      store_(store) {}
+
+int Palette_Area::divisions() const {
+    int divisions = 1;
+    while (divisions * divisions * coarse_columns * coarse_rows < store_.count(palette_)) {
+        ++divisions;
+    }
+    return divisions;
+}
+
+int Palette_Area::columns() const {
+    return coarse_columns * divisions();
+}
+
+Size Palette_Area::cell_size() const {
+    return {grid_size.width / columns(), grid_size.height / (coarse_rows * divisions())};
+}
+
+Rectangle Palette_Area::cell(int entry) const {
+    const Size size = cell_size();
+    return {client_area().x + entry % columns() * size.width,
+            client_area().y + name_height + entry / columns() * size.height, size.width, size.height};
+}
+
+Rectangle Palette_Area::more_button() const {
+    return button_at(client_area(), Sprite::button_more, client_area().right());
+}
+
+Rectangle Palette_Area::less_button() const {
+    return button_at(client_area(), Sprite::button_less, more_button().x - button_gap);
+}
+
+// A palette from a file may have any name: what has no room before the buttons is left out.
+std::string Palette_Area::shown_name() const {
+    std::string name = store_.name(palette_).substr(0, static_cast<std::size_t>(grid_size.width));
+    std::erase_if(name, [](char letter) { return letter == '\r'; });
+    const int room = less_button().x - client_area().x - button_gap;
+    while (screen->text_width(Font::pane, name) > room) {
+        name.pop_back();
+    }
+    return name;
+}
+
+void Palette_Area::draw() const {
+    Pane::draw();
+    const Rectangle client = client_area();
+    screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
+    screen->draw_sprite(Sprite::button_less, {less_button().x, less_button().y});
+    screen->draw_sprite(Sprite::button_more, {more_button().x, more_button().y});
+    for (int entry = 0; entry < store_.count(palette_); ++entry) {
+        draw_swatch(cell(entry), store_.color(palette_, entry));
+    }
+    if (store_.count(palette_) > 0) {
+        draw_cell_mark(cell(entry_));
+    }
+}
+
+std::optional<Color> Palette_Area::click(Point point) {
+    if (less_button().contains(point)) {
+        step_palette(-1);
+    } else if (more_button().contains(point)) {
+        step_palette(1);
+    }
+    for (int entry = 0; entry < store_.count(palette_); ++entry) {
+        if (cell(entry).contains(point)) {
+            entry_ = entry;
+            return selected_color();
+        }
+    }
+    return std::nullopt;
+}
+
+void Palette_Area::step_palette(int step) {
+    palette_ = (palette_ + step + store_.size()) % store_.size();
+    entry_ = 0;
+}
+
+Color Palette_Area::move_selection(int dx, int dy) {
+    const int column = entry_ % columns() + dx;
+    const int entry = entry_ + dx + dy * columns();
+    if (column >= 0 && column < columns() && entry >= 0 && entry < store_.count(palette_)) {
+        entry_ = entry;
+    }
+    return selected_color();
+}
+
+Selected_Color_Area::Selected_Color_Area(Point position, const Palette_Area& palette)
+    : Pane({position.x, position.y, pane_width, height_for(selected_size.height)}, "Selected"),
+      palette_(palette) {}
+
+Rectangle Selected_Color_Area::set_button() const {
+    const Rectangle client = client_area();
+    return {client.right() - set_button_size.width, client.bottom() - set_button_size.height,
+            set_button_size.width, set_button_size.height};
+}
+
+void Selected_Color_Area::draw() const {
+    Pane::draw();
+    const Rectangle client = client_area();
+    const Rectangle swatch{client.x, client.y, swatch_edge, swatch_edge};
+    screen->draw_outline(swatch, standard_color(Standard_Color::dark_frame));
+    draw_swatch(swatch.inset(1), palette_.selected_color());
+    const Point text{swatch.right() + text_gap, client.y - text_rise};
+    screen->draw_text(Font::pane, text, color_numbers(palette_.selected_color()));
+    screen->draw_text(Font::pane, {text.x, text.y + second_line}, hex_text(palette_.selected_color()));
+    const Rectangle button = set_button();
+    screen->draw_panel(button, standard_color(Standard_Color::pane_frame));
+    const int label_x = button.x + (button.width - screen->text_width(Font::pane, set_label)) / 2;
+    screen->draw_text(Font::pane, {label_x, button.y - 1}, set_label);
+}
+
+} // namespace quadrelle

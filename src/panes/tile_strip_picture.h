@@ -1,0 +1,22 @@
+#pragma once
+
+// Draws a tile strip: its tiles as thumbnails, the free places behind them, the mark of the current tile.
+
+#include "screen/opaque_texture.h"
+
+namespace quadrelle {
+
+class Tile_Strip;
+
+class Tile_Strip_Picture {
+public:
+    // The screen must be there.
+    Tile_Strip_Picture();
+
+    void draw(const Tile_Strip& strip);
+
+private:
+    Opaque_Texture texture_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,35 @@
+#include "panes/tool_color.h"
+
+#include "color/color_data.h"
+#include "color/standard_colors.h"
+#include "screen/screen.h"
+#include "ui/swatch.h"
+
+namespace quadrelle {
+
+namespace {
+
+constexpr int swatch_edge = 17;
+constexpr int text_gap = 6;
+constexpr int line_step = 17;
+constexpr Size pane_size{202, 46};
+
+} // namespace
+
+Tool_Color::Tool_Color(Point position, std::string_view title, Color color)
+    : Pane({position.x, position.y, pane_size.width, pane_size.height}, title), color_(color) {}
+
+void Tool_Color::draw() const {
+    Pane::draw();
+    const Rectangle client = client_area();
+    const Rectangle swatch{client.x, client.y, swatch_edge, swatch_edge};
+    draw_swatch(swatch, color_);
+    if (is_lit_) {
+        screen->draw_outline(swatch.inset(-2), standard_color(Standard_Color::highlight));
+    }
+    const int text_x = swatch.right() + text_gap;
+    screen->draw_text(Font::pane, {text_x, client.y - 1}, color_numbers(color_));
+    screen->draw_text(Font::pane, {text_x, client.y - 1 + line_step}, color_data->shown_name(color_));
+}
+
+} // namespace quadrelle

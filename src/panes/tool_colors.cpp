@@ -1,0 +1,109 @@
+#include "panes/tool_colors.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+std::unique_ptr<Tool_Color_Panel> tool_colors;
+
+namespace {
+
+constexpr Color left_start(255, 255, 255);
+constexpr Color right_start(0, 0, 0);
+constexpr int column_bottom = 632;
+
+Point below(const Element& element) {
+    return {element.area.x, element.area.bottom() + element_gap};
+}
+
+// As a pane takes it: its height without the title bar.
+Rectangle rest_below(const Element& element) {
+    const Point corner = below(element);
+    return {corner.x, corner.y, element.area.width, column_bottom - corner.y - pane_title_height};
+}
+
+} // namespace
+
+Tool_Color_Panel::Tool_Color_Panel(Point position)
+    : panes_{Tool_Color(position, "Left button color", left_start),
+             Tool_Color(position, "Right button color", right_start)},
+      selector_({position.x, place_colors(position)},
+                [this](Mouse_Button button, Color color) { set_color(button, color); }),
+      handles_(below(selector_), [this](Color color) { set_color(active_, color); }),
+      variations_(rest_below(handles_)) {
+    show_current_color();
+}
+
+// The y below both.
+int Tool_Color_Panel::place_colors(Point position) {
+    for (Tool_Color& pane : panes_) {
+        pane.move(position.x, position.y);
+        position.y = pane.area.bottom() + element_gap;
+    }
+    return position.y;
+}
+
+void Tool_Color_Panel::set_color(Mouse_Button button, Color color) {
+    panes_.at(side(button)).set_color(color);
+    show_current_color();
+}
+
+void Tool_Color_Panel::show_current_color() {
+    handles_.set_color(current_color());
+    variations_.set_color(current_color());
+}
+
+void Tool_Color_Panel::swap() {
+    const Color left = color(Mouse_Button::left);
+    set_color(Mouse_Button::left, color(Mouse_Button::right));
+    set_color(Mouse_Button::right, left);
+}
+
+void Tool_Color_Panel::reset() {
+    set_color(Mouse_Button::left, left_start);
+    set_color(Mouse_Button::right, right_start);
+}
+
+void Tool_Color_Panel::draw(Tool_Color_Panes shown) {
+    for (Tool_Color& pane : panes_) {
+        pane.set_lit(&pane == &panes_.at(side(active_)));
+        pane.draw();
+    }
+    if (shown == Tool_Color_Panes::all) {
+        selector_.draw();
+        handles_.draw();
+        variations_.draw();
+    }
+}
+
+bool Tool_Color_Panel::click(const Pointer_State& pointer, const std::function<void()>& redraw) {
+    const Point point = pointer.point();
+    if (const std::optional<Color> variation = variations_.click(point)) {
+        set_color(pointer.button, *variation);
+        return true;
+    }
+    return click_side(point) || selector_.click(pointer.button, point, redraw) ||
+           handles_.click(point, redraw);
+}
+
+bool Tool_Color_Panel::click_side(Point point) {
+    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+        if (panes_.at(side(button)).contains(point.x, point.y) && active_ != button) {
+            active_ = button;
+            show_current_color();
+            return true;
+        }
+    }
+    return false;
+}
+
+Mouse_Button Tool_Color_Panel::side_at(Point point) const {
+    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+        if (panes_.at(side(button)).area.contains(point)) {
+            return button;
+        }
+    }
+    return Mouse_Button::none;
+}
+
+} // namespace quadrelle

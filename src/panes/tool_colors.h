@@ -1,0 +1,62 @@
+#pragma once
+
+// The colours of the two mouse buttons, the panes that show them, and below those the panes that change them.
+
+#include "base/input.h"
+#include "panes/color_handles.h"
+#include "panes/hsv_selector.h"
+#include "panes/tool_color.h"
+#include "panes/variations.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+
+namespace quadrelle {
+
+enum class Tool_Color_Panes { both_colors, all };
+
+class Tool_Color_Panel {
+public:
+    // The top-left corner of the upper pane.
+    explicit Tool_Color_Panel(Point position);
+
+    // Any button but the left one stands for the right one.
+    [[nodiscard]] Color color(Mouse_Button button) const { return panes_.at(side(button)).color(); }
+    void set_color(Mouse_Button button, Color color);
+    // Of the side that was clicked last, the left one at first. The handles and variations are about it.
+    [[nodiscard]] Color current_color() const { return color(active_); }
+    [[nodiscard]] Mouse_Button active_side() const { return active_; }
+    void swap();
+    // White and black, as at start.
+    void reset();
+
+    void draw(Tool_Color_Panes shown);
+    // A click on a colour makes its side the active one; the other panes pick and change colours, also along
+    // the pointer's motions: `redraw` then draws and presents the window. True when something was chosen.
+    bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
+    [[nodiscard]] const HSV_Selector& selector() const { return selector_; }
+    [[nodiscard]] const Color_Handles& handles() const { return handles_; }
+    [[nodiscard]] const Color_Variations& variations() const { return variations_; }
+    // The side whose pane is there, or none.
+    [[nodiscard]] Mouse_Button side_at(Point point) const;
+
+private:
+    int place_colors(Point position);
+    bool click_side(Point point);
+    void show_current_color();
+    [[nodiscard]] static std::size_t side(Mouse_Button button) {
+        return button == Mouse_Button::left ? 0 : 1;
+    }
+
+    std::array<Tool_Color, 2> panes_;
+    Mouse_Button active_ = Mouse_Button::left;
+    HSV_Selector selector_;
+    Color_Handles handles_;
+    Color_Variations variations_;
+};
+
+// Built and destroyed by the toolbox.
+extern std::unique_ptr<Tool_Color_Panel> tool_colors;
+
+} // namespace quadrelle

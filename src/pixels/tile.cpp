@@ -1,0 +1,191 @@
+#include "pixels/tile.h"
+
+#include "screen/renderer.h"
+#include "screen/streaming_texture.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr std::size_t bytes_per_pixel = 4;
+
+std::size_t checked_pixel_count(int width, int height) {
+    const std::int64_t count = static_cast<std::int64_t>(width) * height;
+    if (width < 0 || height < 0 || count > std::numeric_limits<int>::max()) {
+        throw std::length_error("tile size");
+    }
+    return static_cast<std::size_t>(count);
+}
+
+} // namespace
+
+Tile::Tile(int width, int height)
+    : width_(width), height_(height), pixels_(checked_pixel_count(width, height)) {}
+
+Tile::Tile(const Tile& other) : width_(other.width_), height_(other.height_), pixels_(other.pixels_) {}
+
+Tile::~Tile() = default;
+
+std::size_t Tile::memory_size() const {
+    const std::size_t pixel_bytes = pixels_.size() * bytes_per_pixel;
+    return 12 + pixel_bytes + Streaming_Texture::memory_size(size());
+}
+
+Color Tile::get_pixel_clamped(int x, int y) const {
+    // Not std::clamp, whose bounds must not cross: they do without pixels.
+    return get_pixel(std::min(std::max(x, 0), width_ - 1), std::min(std::max(y, 0), height_ - 1));
+}
+
+void Tile::fill(Color color) {
+    std::ranges::fill(pixels_, color);
+}
+
+void Tile::copy_to(Tile& other) const {
+    other.copy_from(*this);
+    other.update_texture();
+}
+
+void Tile::copy_from(const Tile& other) {
+    const std::size_t count = std::min(pixels_.size(), other.pixels_.size());
+    std::ranges::copy(other.pixels().first(count), pixels_.begin());
+}
+
+void Tile::swap_pixels(Tile& other) {
+    std::ranges::swap_ranges(pixels_, other.pixels_);
+    update_texture();
+    other.update_texture();
+}
+
+void Tile::paste_into(Tile& other, int dx, int dy) const {
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x < width_; ++x) {
+            other.set_pixel(dx + x, dy + y, get_pixel(x, y));
+        }
+    }
+    other.update_texture();
+}
+
+void Tile::paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha) const {
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x < width_; ++x) {
+            Color color = get_pixel(x, y);
+            color.a = color.a == 0 ? color.a : alpha;
+            other.set_pixel(dx + x, dy + y, color);
+        }
+    }
+    other.update_texture();
+}
+
+void Tile::mask_into(const Tile& source, Tile& target) const {
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x < width_; ++x) {
+            target.set_pixel(x, y, is_white_at(x, y) ? source.get_pixel(x, y) : Color{0, 0, 0, 0});
+        }
+    }
+    target.update_texture();
+}
+
+bool Tile::overlaps(const Tile& target, int dx, int dy) const {
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x < width_; ++x) {
+            const bool is_taken = target.is_outside(dx + x, dy + y) || target.alpha_at(dx + x, dy + y) != 0;
+            if (is_taken && !is_empty_at(x, y)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+Rectangle Tile::white_bounds() const {
+    Rectangle bounds{width_ + 2, height_ + 2, 0, 0};
+    Tile_Point last{-1, -1};
+    for (int y = 0; y < height_; ++y) {
+        for (int x = 0; x < width_; ++x) {
+            if (is_white_at(x, y)) {
+                bounds.x = std::min(bounds.x, x);
+                bounds.y = std::min(bounds.y, y);
+                last = {std::max(last.x, x), std::max(last.y, y)};
+            }
+        }
+    }
+    bounds.width = last.x - bounds.x + 1;
+    bounds.height = last.y - bounds.y + 1;
+    return bounds;
+}
+
+void Tile::replace_near(int x, int y, Color match, Color color) {
+    for (int near_y = y - 1; near_y <= y + 1; ++near_y) {
+        for (int near_x = x - 1; near_x <= x + 1; ++near_x) {
+            if (get_pixel(near_x, near_y).same_rgb(match)) {
+                set_pixel(near_x, near_y, color);
+            }
+        }
+    }
+}
+
+void Tile::replace_alpha(std::uint8_t from, std::uint8_t to) {
+    for (Color& pixel : pixels_) {
+        pixel.a = pixel.a == from ? to : pixel.a;
+    }
+}
+
+void Tile::key_transparency(Color key) {
+    for (Color& pixel : pixels_) {
+        pixel.a = pixel.same_rgb(key) ? 0 : 255;
+    }
+}
+
+void Tile::blend_towards(Color color, double factor) {
+    for (Color& pixel : pixels_) {
+        pixel.blend(color, factor);
+    }
+}
+
+void Tile::read_pixels(std::span<const std::uint8_t> bytes) {
+    const std::size_t count = std::min(pixels_.size(), bytes.size() / bytes_per_pixel);
+    const std::uint8_t* source = bytes.data();
+    for (Color& pixel : pixels().first(count)) {
+        pixel = {source[3], source[2], source[1], source[0]};
+        source += bytes_per_pixel;
+    }
+}
+
+void Tile::write_pixels(std::span<std::uint8_t> bytes) const {
+    const std::size_t count = std::min(pixels_.size(), bytes.size() / bytes_per_pixel);
+    std::uint8_t* target = bytes.data();
+    for (const Color pixel : pixels().first(count)) {
+        *target++ = pixel.a;
+        *target++ = pixel.b;
+        *target++ = pixel.g;
+        *target++ = pixel.r;
+    }
+}
+
+void Tile::update_texture() {
+    // One that is not made yet starts with the pixels of that time.
+    if (texture_) {
+        texture_->upload(pixels_);
+    }
+}
+
+void Tile::draw(Point position) const {
+    texture().draw_at(position);
+}
+
+void Tile::draw(const Rectangle& destination) const {
+    texture().draw(destination);
+}
+
+const Streaming_Texture& Tile::texture() const {
+    if (!texture_) {
+        texture_ = std::make_unique<Streaming_Texture>(pixels_, size(), active_renderer());
+    }
+    return *texture_;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,59 @@
+#pragma once
+
+// The one place where events are taken, and the one loop that every modal view runs.
+
+#include "base/input.h"
+
+#include <SDL3/SDL_events.h>
+
+#include <functional>
+#include <string_view>
+
+namespace quadrelle {
+
+// Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
+[[nodiscard]] SDL_Event wait_event(std::string_view loop);
+
+enum class Loop_Step { go_on, end };
+
+// What a loop does while no event comes: each time that many milliseconds have gone by. True when there is
+// something new to draw. Nothing by default.
+struct Loop_Tick {
+    int milliseconds = 0;
+    std::function<bool()> work;
+};
+
+// Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event
+// like the others: a modal loop consumes it.
+struct Modal_Loop {
+    std::string_view name;
+    std::function<void()> draw;
+    std::function<Loop_Step(const SDL_Event&)> handle;
+    Loop_Tick tick = {};
+};
+void run_modal(const Modal_Loop& loop);
+
+enum class Idle_Outcome { nothing_happened, events_taken };
+
+// Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
+Idle_Outcome idle(std::string_view loop);
+
+// Whether a key, or a mouse button, was released since the last call, in whichever loop that was.
+[[nodiscard]] bool take_key_release();
+[[nodiscard]] bool take_button_release();
+
+// Drops every event that waits.
+void discard_events();
+
+// Whether a shift key is held now.
+[[nodiscard]] bool is_shift_held();
+
+// Called with the loop's name before each wait; a test feeds its next event from here.
+using Wait_Watcher = std::function<void(std::string_view loop)>;
+void set_wait_watcher(Wait_Watcher watcher);
+
+[[nodiscard]] Pointer_State pointer_of(const SDL_MouseButtonEvent& event);
+[[nodiscard]] Pointer_State pointer_of(const SDL_MouseMotionEvent& event);
+[[nodiscard]] Key_Chord key_chord_of(const SDL_KeyboardEvent& event);
+
+} // namespace quadrelle

@@ -1,0 +1,28 @@
+#include "screen/text_input.h"
+
+#include "screen/screen.h"
+
+#include <SDL3/SDL.h>
+
+#include <memory>
+
+namespace quadrelle {
+
+Text_Input::Text_Input() {
+    SDL_StartTextInput(SDL_GetRenderWindow(screen->renderer()));
+}
+
+Text_Input::~Text_Input() {
+    SDL_StopTextInput(SDL_GetRenderWindow(screen->renderer()));
+}
+
+std::string clipboard_text() {
+    const std::unique_ptr<char, void (*)(void*)> text(SDL_GetClipboardText(), SDL_free);
+    return text ? text.get() : "";
+}
+
+void set_clipboard_text(const std::string& text) {
+    SDL_SetClipboardText(text.c_str());
+}
+
+} // namespace quadrelle

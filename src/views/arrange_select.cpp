@@ -1,0 +1,112 @@
+#include "views/arrange_select.h"
+
+#include "tileset/tileset.h"
+#include "ui/dialogs.h"
+
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr const char* title = "Arrange/Select";
+
+} // namespace
+
+Arrangement::Arrangement(Tileset& tileset) : tileset_(tileset), grid_(title, tileset) {}
+
+Arrangement::Arrangement(Tileset& tileset, Size cells, Size cell)
+    : tileset_(tileset), grid_(title, tileset, cells, cell) {}
+
+bool Arrangement::run() {
+    start_ = tileset_.current_index();
+    primary_ = start_;
+    secondary_ = 0;
+    hovered_ = -1;
+    has_swapped_ = false;
+    const Dialog_Layer layer([this] { draw(); });
+    run_modal(
+        {title, [] { dialogs->show_backdrop(); }, [this](const SDL_Event& event) { return handle(event); }});
+    return has_swapped_;
+}
+
+void Arrangement::draw() const {
+    grid_.draw(text());
+    if (tileset_.has_tiles()) {
+        draw_marker(Sprite::first_big_marker, primary_);
+        draw_marker(Sprite::second_big_marker, secondary_);
+    }
+}
+
+// The row deliberately comes from the number of rows, which is that of the columns in the grid of the
+// command.
+void Arrangement::draw_marker(Sprite marker, int tile) const {
+    grid_.draw_marker(marker, tile % grid_.columns(), tile / grid_.rows());
+}
+
+std::string Arrangement::text() const {
+    return "Tab: Swap tiles - Space: Select current tile\r"
+           "Tile: " +
+           (hovered_ < 0 ? "?" : std::to_string(hovered_)) + "  (primary: " + std::to_string(primary_) +
+           ", secondary: " + std::to_string(secondary_) +
+           ")    \r"
+           "Note: Swapping tiles clears undo history.";
+}
+
+Loop_Step Arrangement::handle(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_QUIT: return Loop_Step::end;
+    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
+    case SDL_EVENT_MOUSE_MOTION:
+        hovered_ = grid_.tile_at(pointer_of(event.motion).point());
+        return Loop_Step::go_on;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event.button);
+    default: return Loop_Step::go_on;
+    }
+}
+
+// A key that is held down acts once: the tiles do not flicker.
+Loop_Step Arrangement::handle_key(const SDL_KeyboardEvent& event) {
+    if (event.repeat) {
+        return Loop_Step::go_on;
+    }
+    switch (event.key) {
+    case key::escape:
+    case key::enter:
+    case 'y': return Loop_Step::end;
+    case key::space: select_primary(); return Loop_Step::end;
+    case key::tab: swap(); return Loop_Step::go_on;
+    default: return Loop_Step::go_on;
+    }
+}
+
+void Arrangement::select_primary() {
+    if (primary_ != start_) {
+        tileset_.select(primary_);
+    }
+}
+
+void Arrangement::swap() {
+    if (tileset_.swap_tiles(primary_, secondary_)) {
+        std::swap(primary_, secondary_);
+        has_swapped_ = true;
+        grid_.refresh();
+    }
+}
+
+// The one place where the middle button acts, and the right one does not.
+Loop_Step Arrangement::press(const SDL_MouseButtonEvent& event) {
+    const Point position = pointer_of(event).point();
+    hovered_ = grid_.tile_at(position);
+    if (hovered_ < 0) {
+        return grid_.is_on_title(position) ? Loop_Step::end : Loop_Step::go_on;
+    }
+    if (event.button == SDL_BUTTON_LEFT) {
+        primary_ = hovered_;
+    } else if (event.button == SDL_BUTTON_MIDDLE) {
+        secondary_ = hovered_;
+    }
+    return Loop_Step::go_on;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,44 @@
+#pragma once
+
+// "Arrange/Select": two tiles of the set are picked and exchange their images, and one of them can become the
+// current tile.
+
+#include "base/geometry.h"
+#include "screen/events.h"
+#include "views/tile_grid.h"
+
+#include <string>
+
+namespace quadrelle {
+
+class Tileset;
+
+class Arrangement {
+public:
+    // 16 x 16 cells of 32 x 32. Tiles that the grid has no cell for can neither be seen nor picked.
+    explicit Arrangement(Tileset& tileset);
+    Arrangement(Tileset& tileset, Size cells, Size cell);
+
+    // Waits until it is closed. Whether any swap was made, even one that was taken back.
+    bool run();
+
+private:
+    void draw() const;
+    void draw_marker(Sprite marker, int tile) const;
+    [[nodiscard]] std::string text() const;
+    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle_key(const SDL_KeyboardEvent& event);
+    Loop_Step press(const SDL_MouseButtonEvent& event);
+    void swap();
+    void select_primary();
+
+    Tileset& tileset_;
+    Tile_Grid grid_;
+    int start_ = 0;
+    int primary_ = 0;
+    int secondary_ = 0;
+    int hovered_ = -1;
+    bool has_swapped_ = false;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,392 @@
+#include "app/documents.h"
+
+#include "screen/screen.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/whole/program_test.h"
+#include "tileset/tileset_file.h"
+#include "ui/dialog_container.h"
+#include "ui/options.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color white(255, 255, 255);
+const std::string product = "Quadrelle 0.90 - ";
+const std::string save_failed = "Unable to create a save file in the destination device.\rCheck out write "
+                                "access properties.";
+const std::string load_failed =
+    "Error occurred in tileset loading. This file may not be in Quadrelle format.";
+const std::string close_question = "Current tileset is not saved. Close it anyway?\r(Progress will be lost.)";
+
+class Documents_Test : public Program_Test {
+protected:
+    static Documents& documents() { return editor->documents(); }
+    static std::string name() { return document().file_name(); }
+
+    void draw_pixel(int x, int y) {
+        script().click(cell(x, y));
+        play();
+    }
+    void choose(const std::string& path) { answer_files(File_Answer_State::chosen, path); }
+    std::string in_folder(const std::string& file) { return folder().folder().path(file); }
+    // Saved there, as the current document's file.
+    std::string save_as(const std::string& file) {
+        choose(in_folder(file));
+        execute(Command::save_as);
+        return in_folder(file);
+    }
+    // Inside the tab of that document, while all fit and the others' names are given.
+    static Point tab_after(const std::vector<std::string>& titles) {
+        int x = 264;
+        for (const std::string& title : titles) {
+            x += screen->make_header(title, Header_Style::passive)->size().width;
+        }
+        return {x + 3, 50};
+    }
+};
+
+TEST_F(Documents_Test, save_asks_for_a_name_once_and_forces_its_extension) {
+    draw_pixel(2, 3);
+    choose(in_folder("tiles.png"));
+    script().key('s', Modifier::control);
+    play();
+    EXPECT_EQ(asked_file(), File_Dialog_Kind::save_tileset);
+    const std::string path = in_folder("tiles.qdl");
+    EXPECT_EQ(window_title(), product + path);
+    EXPECT_TRUE(document().is_named());
+    const Bytes bytes = stored(path);
+    ASSERT_EQ(bytes.size(), 11U + 24 * 24 * 4);
+    EXPECT_EQ(bytes.at(11 + (3 * 24 + 2) * 4 + 1), 255);
+
+    // Unmodified: nothing is asked and nothing written.
+    answer_files(File_Answer_State::cancelled);
+    std::filesystem::remove(native(path));
+    execute(Command::save);
+    EXPECT_FALSE(std::filesystem::exists(native(path)));
+
+    draw_pixel(4, 4);
+    execute(Command::save);
+    EXPECT_EQ(asked_file(), std::nullopt);
+    EXPECT_EQ(stored(path).at(11 + (4 * 24 + 4) * 4 + 1), 255);
+    EXPECT_EQ(window_title(), product + path);
+
+    const std::string second = save_as("second");
+    EXPECT_EQ(asked_file(), File_Dialog_Kind::save_tileset);
+    EXPECT_EQ(stored(second + ".qdl"), stored(path));
+    EXPECT_EQ(window_title(), product + second + ".qdl");
+}
+
+TEST_F(Documents_Test, cancelled_or_failed_file_dialogs_change_nothing) {
+    draw_pixel(2, 3);
+    for (const Command command : {Command::save, Command::save_as, Command::load}) {
+        answer_files(File_Answer_State::cancelled);
+        execute(command);
+        EXPECT_NE(asked_file(), std::nullopt);
+        answer_files(File_Answer_State::failed);
+        expect_message("Note", "Unknown error occurred in file dialog.").key(key::escape);
+        execute(command);
+    }
+    EXPECT_EQ(window_title(), product + "untitled0.qdl*");
+    EXPECT_FALSE(document().is_named());
+    EXPECT_EQ(documents().count(), 1);
+}
+
+TEST_F(Documents_Test, failed_save_keeps_the_name_and_the_mark) {
+    draw_pixel(2, 3);
+    const std::string path = in_folder("missing/tiles.qdl");
+    choose(path);
+    expect_message("Note", save_failed).key(key::enter);
+    execute(Command::save_as);
+    EXPECT_TRUE(document().is_named());
+    EXPECT_EQ(window_title(), product + path + "*");
+
+    answer_files(File_Answer_State::cancelled);
+    expect_message("Note", save_failed).key(key::enter);
+    execute(Command::save);
+    EXPECT_EQ(asked_file(), std::nullopt);
+    EXPECT_TRUE(document().is_modified());
+}
+
+TEST_F(Documents_Test, save_over_a_file_asks_where_the_option_says_so) {
+    const std::string path = save_as("tiles.qdl");
+    const Bytes before = stored(path);
+    constexpr int confirm_quick_save_id = 70;
+    Dialog_Item& tick = *options->dialog().item(confirm_quick_save_id);
+    tick.click({tick.area.x + 1, tick.area.y + 1});
+    options->load();
+    ASSERT_EQ(options->value(Option::confirm_quick_save), 1);
+
+    execute(Command::save);
+    draw_pixel(1, 1);
+    expect_question("Save", "Save over existing file?").key(key::escape);
+    execute(Command::save);
+    EXPECT_EQ(stored(path), before);
+    EXPECT_TRUE(document().is_modified());
+    script().key(key::enter);
+    execute(Command::save);
+    EXPECT_NE(stored(path), before);
+    EXPECT_FALSE(document().is_modified());
+}
+
+TEST_F(Documents_Test, load_opens_the_same_tiles_as_another_document) {
+    draw_pixel(2, 3);
+    execute(Command::add_new_tile);
+    draw_pixel(5, 6);
+    const std::string path = save_as("täles.qdl");
+    choose(path);
+    execute(Command::load);
+    EXPECT_EQ(asked_file(), File_Dialog_Kind::load_tileset);
+    EXPECT_EQ(documents().count(), 2);
+    EXPECT_EQ(window_title(), product + path);
+    EXPECT_TRUE(document().is_named());
+    EXPECT_EQ(document().tileset().count(), 2);
+    EXPECT_EQ(document().tileset().current_index(), 0);
+    EXPECT_EQ(pixel_at(cell(2, 3)), white);
+    execute(Command::next_tile);
+    EXPECT_EQ(pixel_at(cell(5, 6)), white);
+    EXPECT_NE(pixel_at(cell(2, 3)), white);
+}
+
+TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
+    store(in_folder("wrong.qdl"), Bytes(100, 'Q'));
+    for (const char* file : {"wrong.qdl", "missing.qdl", ""}) {
+        choose(in_folder(file));
+        expect_message("Note", load_failed).key(key::enter);
+        execute(Command::load);
+    }
+    EXPECT_EQ(documents().count(), 1);
+    EXPECT_EQ(window_title(), product + "untitled0.qdl");
+}
+
+// The dialog is built anew each time it is shown; this one has the same layout.
+struct New_Dialog_Layout {
+    Dialog_Container dialog{"New tileset"};
+    New_Dialog_Layout() {
+        dialog.add_row(make_number_row(11, "Width:", {24, 6, 64}));
+        dialog.add_row(make_number_row(21, "Height:", {24, 6, 64}));
+        dialog.add_row(make_tick_row(30, "Keep and resize", Tick::off));
+        dialog.finish_ok_cancel();
+    }
+    [[nodiscard]] Point item(int id) const {
+        const Rectangle& area = dialog.item(id)->area;
+        return {area.x + 2, area.y + 2};
+    }
+};
+
+TEST_F(Documents_Test, new_takes_the_size_that_is_typed) {
+    const New_Dialog_Layout layout;
+    draw_pixel(1, 1);
+    script().press(layout.item(11)).press_number({5, 5}, 2).type("40").key(key::enter);
+    script().press(layout.item(21)).type("8").key(key::enter).key(key::enter);
+    execute(Command::new_tileset);
+    EXPECT_EQ(window_title(), product + "untitled1.qdl");
+    EXPECT_EQ(document().tileset().tile_size(), (Size{40, 8}));
+    EXPECT_EQ(document().tileset().count(), 1);
+    EXPECT_EQ(editor->canvas().magnified_size(), (Size{400, 80}));
+    EXPECT_EQ(editor->canvas().origin(), (Point{320, 280}));
+
+    script().key(key::escape);
+    execute(Command::new_tileset);
+    EXPECT_EQ(documents().count(), 2);
+}
+
+TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
+    const New_Dialog_Layout layout;
+    draw_pixel(2, 2);
+    draw_pixel(3, 2);
+    draw_pixel(2, 3);
+    draw_pixel(3, 3);
+    script().press(layout.item(11)).type("12").key(key::enter).press(layout.item(21)).type("12");
+    script().key(key::enter).press(layout.item(30)).key(key::enter);
+    document().clear_modified();
+    execute(Command::new_tileset);
+    EXPECT_EQ(documents().count(), 1);
+    EXPECT_EQ(document().tileset().tile_size(), (Size{12, 12}));
+    EXPECT_EQ(tile_pixel(1, 1), white);
+    EXPECT_EQ(tile_pixel(2, 1), Color(0, 0, 0));
+    EXPECT_TRUE(document().is_modified());
+    EXPECT_EQ(editor->canvas().magnified_size(), (Size{120, 120}));
+}
+
+TEST_F(Documents_Test, thousand_and_first_new_does_nothing) {
+    for (int i = 1; i < 1000; ++i) {
+        ASSERT_TRUE(documents().new_document({8, 8}));
+        ASSERT_TRUE(documents().close_document());
+    }
+    ASSERT_EQ(documents().count(), 1);
+    const std::string before = window_title();
+    script().key(key::enter);
+    execute(Command::new_tileset);
+    EXPECT_EQ(documents().count(), 1);
+    EXPECT_EQ(window_title(), before);
+    // Nothing could take the place of the last document: it stays.
+    execute(Command::close);
+    EXPECT_EQ(documents().count(), 1);
+    draw_pixel(1, 1);
+    EXPECT_EQ(tile_pixel(1, 1), white);
+}
+
+TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
+    draw_pixel(1, 1);
+    expect_question("Close", close_question).key(key::escape);
+    execute(Command::close);
+    EXPECT_EQ(window_title(), product + "untitled0.qdl*");
+    expect_question("Close", close_question).quit();
+    execute(Command::close);
+    EXPECT_EQ(tile_pixel(1, 1), white);
+
+    script().key(key::enter);
+    execute(Command::close);
+    EXPECT_EQ(window_title(), product + "untitled1.qdl");
+    EXPECT_EQ(documents().count(), 1);
+    EXPECT_EQ(tile_pixel(1, 1), Color(0, 0, 0));
+    script().motion({1, 1});
+    play();
+    EXPECT_NE(pixel_at(cell(1, 1)), white);
+    execute(Command::close);
+    EXPECT_EQ(window_title(), product + "untitled2.qdl");
+}
+
+TEST_F(Documents_Test, close_makes_the_next_document_current_or_else_the_one_before) {
+    documents().new_document({8, 8});
+    documents().new_document({9, 9});
+    ASSERT_TRUE(documents().click_tab(tab_after({"untitled0.qdl"})));
+    execute(Command::close);
+    EXPECT_EQ(name(), "untitled2.qdl");
+    execute(Command::close);
+    EXPECT_EQ(name(), "untitled0.qdl");
+    EXPECT_EQ(document().tileset().tile_size(), (Size{24, 24}));
+}
+
+TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) {
+    draw_pixel(1, 1);
+    execute(Command::add_new_tile);
+    documents().new_document({10, 10});
+    script().click(tab_after({}));
+    play();
+    EXPECT_EQ(window_title(), product + "untitled0.qdl*");
+    EXPECT_EQ(document().tileset().current_index(), 0);
+    EXPECT_EQ(pixel_at(cell(1, 1)), white);
+    // Its own tab does nothing: the tile stays.
+    execute(Command::next_tile);
+    script().click(tab_after({}));
+    play();
+    EXPECT_EQ(document().tileset().current_index(), 1);
+    script().click(tab_after({"untitled0.qdl*"}), Mouse_Button::right);
+    play();
+    EXPECT_EQ(name(), "untitled1.qdl");
+    EXPECT_EQ(editor->canvas().magnified_size(), (Size{100, 100}));
+}
+
+TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
+    constexpr Point left_arrow{255, 53};
+    constexpr Point right_arrow{768, 53};
+    for (int i = 0; i < 11; ++i) {
+        documents().new_document({8, 8});
+    }
+    script().click(left_arrow);
+    play();
+    const std::string hidden = name();
+    // A tab that shows stays in its place when it is chosen.
+    script().click({500, 53}).click(tab_after({}));
+    play();
+    EXPECT_EQ(name(), hidden);
+    EXPECT_NE(hidden, "untitled11.qdl");
+    // That tab is the first one in the row now, and others are hidden behind it.
+    script().click(right_arrow);
+    play();
+    EXPECT_NE(name(), hidden);
+    // Leftwards until the first tab shows; then there is no arrow any more.
+    for (int i = 0; i < 12; ++i) {
+        script().click(left_arrow);
+    }
+    play();
+    const std::string reached = name();
+    script().click(left_arrow);
+    play();
+    EXPECT_EQ(name(), reached);
+    script().click(tab_after({}));
+    play();
+    EXPECT_EQ(name(), "untitled0.qdl");
+}
+
+// What the list of documents should be, told plainly.
+struct Model {
+    struct Entry {
+        std::string name;
+        int tiles = 1;
+        bool is_modified = false;
+    };
+    std::vector<Entry> entries{{"untitled0.qdl"}};
+    std::size_t current = 0;
+    int next_untitled = 1;
+
+    [[nodiscard]] Entry& entry() { return entries.at(current); }
+    void add() {
+        entries.push_back({"untitled" + std::to_string(next_untitled++) + ".qdl"});
+        current = entries.size() - 1;
+    }
+    void close() {
+        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(current));
+        if (entries.empty()) {
+            add();
+        }
+        current = std::min(current, entries.size() - 1);
+    }
+};
+
+TEST_F(Documents_Test, random_walk_agrees_with_a_plain_model) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::minstd_rand random(seed);
+    Model model;
+    for (int i = 0; i < 300; ++i) {
+        switch (random() % 5) {
+        case 0:
+            if (model.entries.size() < 3) {
+                documents().new_document({8, 8});
+                model.add();
+            }
+            break;
+        case 1:
+            if (model.entry().is_modified) {
+                script().key(key::enter);
+            }
+            execute(Command::close);
+            model.close();
+            break;
+        case 2: {
+            const std::size_t chosen = random() % model.entries.size();
+            std::vector<std::string> before;
+            for (std::size_t k = 0; k < chosen; ++k) {
+                before.push_back(model.entries[k].name + (model.entries[k].is_modified ? "*" : ""));
+            }
+            EXPECT_EQ(documents().click_tab(tab_after(before)), chosen != model.current);
+            model.current = chosen;
+            break;
+        }
+        case 3:
+            execute(Command::add_new_tile);
+            ++model.entry().tiles;
+            model.entry().is_modified = true;
+            break;
+        default: {
+            const bool unsaved = std::ranges::any_of(model.entries, &Model::Entry::is_modified);
+            EXPECT_EQ(documents().has_unsaved(), unsaved);
+        }
+        }
+        ASSERT_EQ(documents().count(), static_cast<int>(model.entries.size())) << "step " << i;
+        ASSERT_EQ(window_title(), product + model.entry().name + (model.entry().is_modified ? "*" : ""));
+        ASSERT_EQ(document().tileset().count(), model.entry().tiles);
+        ASSERT_EQ(editor->canvas().tile(), document().tileset().current_tile());
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

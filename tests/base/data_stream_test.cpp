@@ -1,0 +1,220 @@
+#include "base/data_stream.h"
+
+#include "base/block_file.h"
+#include "pixels/tile.h"
+#include "tests/support/scratch_files.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <random>
+#include <string>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
+
+Data_Stream loaded(const std::string& path) {
+    Block_File file(path);
+    EXPECT_TRUE(file.open_read());
+    Data_Stream record;
+    record.load_from(file);
+    return record;
+}
+
+std::string fatal_line(const std::string& path) {
+    return "Error: Unable to load block from  " + path + "!\n";
+}
+
+} // namespace
+
+TEST(Data_Stream, numbers_put_their_comma_in_front_and_texts_behind) {
+    Data_Stream record;
+    record.write_int(1);
+    record.write_quad({-2, 3, largest, smallest});
+    record.write_bool(true);
+    EXPECT_EQ(record.text(), "1,-2,3,2147483647,-2147483648,1");
+
+    std::string text = "abc";
+    record = Data_Stream();
+    record.write_int(3);
+    record.write_text(text);
+    record.write_pair({4, 5});
+    EXPECT_EQ(record.text(), "3abc,,4,5");
+
+    record = Data_Stream();
+    record.write_color({1, 2, 3, 4});
+    record.write_real(0.5F);
+    record.write_real(-1234.0625F);
+    EXPECT_EQ(record.text(), "1,2,3,4,0.500000,-1234.062500");
+    record.write_real(std::numeric_limits<float>::lowest());
+    EXPECT_EQ(record.text().substr(29), ",-340282346638528859811704183484516925440.000000");
+}
+
+TEST(Data_Stream, an_empty_text_is_replaced_for_the_caller_too) {
+    Data_Stream record;
+    std::string text;
+    record.write_text(text);
+    EXPECT_EQ(record.text(), "Rolololo,");
+    EXPECT_EQ(text, "Rolololo");
+}
+
+TEST(Data_Stream, a_number_is_the_leading_part_of_its_token) {
+    Data_Stream record("12x,5,,7, +8,-9 1:--3,0x10");
+    for (const std::int32_t expected : {12, 5, 0, 7, 8, -9, 0, 0, 0, 0}) {
+        EXPECT_EQ(record.read_int(), expected);
+    }
+    Data_Stream reals("0.5,-1.25e2x,.5,abc,1e-3,+2,nan,inf,-1e39,1e-400,1e400:");
+    for (const float expected : {0.5F, -125.0F, 0.5F, 0.0F, 0.001F, 2.0F, 0.0F, 0.0F,
+                                 std::numeric_limits<float>::lowest(), 0.0F, 0.0F}) {
+        EXPECT_EQ(reals.read_real(), expected);
+    }
+    Data_Stream flags("1,0,2,-1,true");
+    for (const bool expected : {true, false, false, false, false}) {
+        EXPECT_EQ(flags.read_bool(), expected);
+    }
+}
+
+TEST(Data_Stream, too_large_integers_become_the_nearest) {
+    Data_Stream record("2147483648,-2147483649,999999999999999,-99999999999999");
+    for (const std::int32_t expected : {largest, smallest, largest, smallest}) {
+        EXPECT_EQ(record.read_int(), expected);
+    }
+}
+
+TEST(Data_Stream, a_number_goes_on_in_the_next_read_after_16_bytes) {
+    Data_Stream longer("00000000000000012345,6");
+    EXPECT_EQ(longer.read_int(), 1);
+    EXPECT_EQ(longer.read_int(), 2345);
+    EXPECT_EQ(longer.read_int(), 6);
+    // The separator right behind 16 bytes is left over as an empty token.
+    Data_Stream exact("0000000000000012,6");
+    EXPECT_EQ(exact.read_int(), 12);
+    EXPECT_EQ(exact.read_int(), 0);
+    EXPECT_EQ(exact.read_int(), 6);
+}
+
+TEST(Data_Stream, integers_agree_with_the_c_library_on_any_token) {
+    std::mt19937 random(7);
+    constexpr std::string_view letters = "0123456789+- x.";
+    for (int i = 0; i < 20000; ++i) {
+        std::string token;
+        for (auto length = random() % 9; length > 0; --length) {
+            token += letters[random() % letters.size()];
+        }
+        EXPECT_EQ(Data_Stream(token + ",1").read_int(), std::strtol(token.c_str(), nullptr, 10)) << token;
+    }
+}
+
+TEST(Data_Stream, reading_past_the_end_gives_nothing) {
+    Tile tile(2, 2);
+    tile.fill({1, 2, 3, 4});
+    Data_Stream record("7");
+    EXPECT_FALSE(record.is_at_end());
+    EXPECT_EQ(record.read_pair(), (std::array<std::int32_t, 2>{7, 0}));
+    EXPECT_TRUE(record.is_at_end());
+    std::array<std::uint8_t, 3> bytes = {1, 2, 3};
+    record.read_bytes(bytes);
+    record.read_tile(tile);
+    EXPECT_EQ(bytes, (std::array<std::uint8_t, 3>{}));
+    EXPECT_EQ(tile.get_pixel(1, 1), Color(0, 0, 0, 0));
+    EXPECT_EQ(record.read_text(), "");
+    EXPECT_EQ(record.read_real(), 0.0F);
+    EXPECT_EQ(record.read_byte(), 0);
+    EXPECT_EQ(record.read_color(), Color(0, 0, 0, 0));
+    EXPECT_TRUE(Data_Stream(":").is_at_end());
+    EXPECT_FALSE(Data_Stream(",:").is_at_end());
+}
+
+TEST(Data_Stream, a_tile_is_alpha_blue_green_red) {
+    Tile tile(2, 1);
+    tile.set_pixel(0, 0, {10, 20, 30, 255});
+    tile.set_pixel(1, 0, {1, 2, 3, 4});
+    Data_Stream record;
+    record.write_tile(tile);
+    EXPECT_EQ(record.text(), "\xff\x1e\x14\x0a\x04\x03\x02\x01");
+    record.write_bool(true);
+    Tile copy(2, 1);
+    record.read_tile(copy);
+    EXPECT_EQ(copy.get_pixel(0, 0), tile.get_pixel(0, 0));
+    EXPECT_EQ(copy.get_pixel(1, 0), tile.get_pixel(1, 0));
+    EXPECT_TRUE(record.read_bool());
+}
+
+// The bytes hold separators and zeros, which must not end them.
+TEST(Data_Stream, file_round_trip_of_every_kind) {
+    const test::Scratch_Folder folder;
+    const std::string path = folder.file("record.dat");
+    const std::array<std::uint8_t, 5> bytes = {':', ',', 0, 255, ','};
+    std::string text = "some text";
+    Data_Stream written;
+    written.write_bytes(bytes);
+    written.write_quad({1, -2, 3, smallest});
+    written.write_text(text);
+    written.write_color({9, 8, 7, 6});
+    ASSERT_TRUE(written.save_to(path));
+    EXPECT_EQ(written.text(), "");
+
+    Data_Stream record = loaded(path);
+    std::array<std::uint8_t, 5> read{};
+    record.read_bytes(read);
+    EXPECT_EQ(read, bytes);
+    EXPECT_EQ(record.read_pair(), (std::array<std::int32_t, 2>{1, -2}));
+    EXPECT_EQ(record.read_int(), 3);
+    EXPECT_EQ(record.read_text(), "-2147483648some text");
+    EXPECT_EQ(record.read_text(), "");
+    EXPECT_EQ(record.read_color(), Color(9, 8, 7, 6));
+    EXPECT_TRUE(record.is_at_end());
+}
+
+TEST(Data_Stream, both_ways_of_saving_write_the_length_the_text_and_a_colon) {
+    const test::Scratch_Folder folder;
+    for (const bool by_path : {false, true}) {
+        const std::string path = folder.file(by_path ? "path" : "file");
+        Data_Stream record("1,2,3");
+        Block_File file(path);
+        ASSERT_TRUE(by_path || file.open_write());
+        if (by_path) {
+            EXPECT_TRUE(record.save_to(path));
+        } else {
+            record.save_to(file);
+            file.close();
+        }
+        EXPECT_EQ(test::bytes_of_file(path), std::string("\x06\0\0\0", 4) + "1,2,3:");
+    }
+    EXPECT_FALSE(Data_Stream("1").save_to(folder.file("no such folder/file")));
+}
+
+TEST(Data_Stream, loading_starts_anew_and_a_length_of_zero_keeps_the_text) {
+    const test::Scratch_Folder folder;
+    const std::string path = folder.file("record.dat");
+    test::put_bytes(path, std::string(4, '\0') + "9,9");
+    Data_Stream record("5,6");
+    EXPECT_EQ(record.read_int(), 5);
+    Block_File file(path);
+    ASSERT_TRUE(file.open_read());
+    record.load_from(file);
+    EXPECT_EQ(record.read_int(), 5);
+}
+
+TEST(Data_Stream, a_file_shorter_than_it_says_is_fatal) {
+    const test::Scratch_Folder folder;
+    const std::string path = folder.file("record.dat");
+    const std::string whole = test::record_bytes("12,345,6");
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        test::put_bytes(path, whole.substr(0, length));
+        EXPECT_EQ(test::fatal_output([&] { loaded(path); }), fatal_line(path)) << length;
+    }
+    test::put_bytes(path, "\xff\xff\xff\xff few");
+    EXPECT_EQ(test::fatal_output([&] { loaded(path); }), fatal_line(path));
+    test::put_bytes(path, whole + "what follows is not looked at");
+    EXPECT_EQ(loaded(path).text(), "12,345,6:");
+}
+
+} // namespace quadrelle

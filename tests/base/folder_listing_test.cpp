@@ -1,0 +1,122 @@
+#include "base/folder_listing.h"
+
+#include "base/file_names.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+using Rows = std::vector<Listed_Row>;
+
+Listed_Row folder(const std::string& name) {
+    return {Listed_Kind::folder, name};
+}
+Listed_Row file(const std::string& name) {
+    return {Listed_Kind::file, name};
+}
+const Listed_Row up{Listed_Kind::parent, ".."};
+
+TEST(File_Names, lead_from_folder_to_folder) {
+    EXPECT_EQ(parent_folder("/a/b"), "/a");
+    EXPECT_EQ(parent_folder("/a//b//"), "/a");
+    EXPECT_EQ(parent_folder("/a"), "/");
+    EXPECT_EQ(parent_folder("/"), "");
+    EXPECT_EQ(joined_path("/", "a"), "/a");
+
+    struct Case {
+        std::string typed;
+        std::string expected;
+    };
+    const std::vector<Case> cases{{"x", "/a/b/x"},
+                                  {"..", "/a"},
+                                  {"../../../..", "/"},
+                                  {"/", "/"},
+                                  {"/c//d/", "/c/d"},
+                                  {"./x/../y z", "/a/b/y z"},
+                                  {"/../x", "/x"},
+                                  {"...", "/a/b/..."},
+                                  {"\xff/ü", "/a/b/\xff/ü"},
+                                  {"../b/./.", "/a/b"},
+                                  {"x\\y", "/a/b/x\\y"},
+                                  {"", "/a/b"},
+                                  {"../.hidden", "/a/.hidden"}};
+    for (const Case& test : cases) {
+        EXPECT_EQ(resolved_path("/a/b", test.typed), test.expected) << test.typed;
+    }
+}
+
+TEST(Folder_Listing, shows_folders_first_and_files_of_its_kind) {
+    const Temporary_Folder temporary;
+    const std::string bad = "bad\xff\xfe.qdl";
+    std::string longest = "x.qdl";
+    longest.insert(0, 250, 'x');
+    for (const std::string name : {"b.qdl", "A.QDL", "a.qdl", "c.bmp", "qdl", ".hidden.qdl", "Z.qdl"}) {
+        store(temporary.path(name), {});
+    }
+    store(temporary.path(longest), {});
+    std::ofstream(temporary.native_path() / bad);
+    for (const char* const name : {"zoo", "Art", ".git", "tiles.qdl"}) {
+        std::filesystem::create_directory(temporary.native_path() / name);
+    }
+    std::filesystem::create_directory_symlink("zoo", temporary.native_path() / "link");
+    std::filesystem::create_symlink("nowhere", temporary.native_path() / "broken.qdl");
+
+    const std::string path = temporary.path("zoo/..");
+    Folder_Listing tilesets("qdl");
+    ASSERT_TRUE(tilesets.open(path));
+    EXPECT_EQ(tilesets.rows(),
+              (Rows{up, folder("Art"), folder("link"), folder("tiles.qdl"), folder("zoo"), file("A.QDL"),
+                    file("a.qdl"), file("b.qdl"), file(bad), file(longest), file("Z.qdl")}));
+    EXPECT_EQ(tilesets.find("zoo"), 4);
+    EXPECT_EQ(tilesets.find("c.bmp"), std::nullopt);
+    EXPECT_EQ(tilesets.path_of(8), path + "/" + bad);
+
+    Folder_Listing all("*");
+    ASSERT_TRUE(all.open(path));
+    EXPECT_EQ(all.rows().size(), tilesets.rows().size() + 2);
+}
+
+TEST(Folder_Listing, survives_folders_that_cannot_be_read) {
+    const Temporary_Folder temporary;
+    std::filesystem::create_directories(temporary.native_path() / "one" / "two");
+    store(temporary.path("file.qdl"), {});
+    Folder_Listing listing("qdl");
+    ASSERT_TRUE(listing.open(temporary.path("one")));
+    const Rows before = listing.rows();
+    for (const std::string& name : {std::string("nothing"), std::string("file.qdl"), std::string(255, 'n')}) {
+        EXPECT_FALSE(listing.open(temporary.path(name)));
+        EXPECT_EQ(listing.folder(), temporary.path("one"));
+        EXPECT_EQ(listing.rows(), before);
+    }
+    std::filesystem::remove_all(temporary.native_path() / "one");
+    ASSERT_TRUE(listing.open_nearest(temporary.path("one/two")));
+    EXPECT_EQ(listing.folder(), temporary.native_path());
+    EXPECT_EQ(listing.rows(), (Rows{up, file("file.qdl")}));
+    ASSERT_TRUE(listing.open("/"));
+    EXPECT_FALSE(listing.find("..")) << "there is nothing above the root";
+}
+
+TEST(Folder_Listing, sorts_thousands_of_files) {
+    const Temporary_Folder temporary;
+    constexpr int count = 3000;
+    for (int i = 0; i < count; ++i) {
+        store(temporary.path((i % 2 == 0 ? "T" : "t") + std::to_string(10000 + i * 7 % count) + ".qdl"), {});
+    }
+    Folder_Listing listing("qdl");
+    ASSERT_TRUE(listing.open(temporary.path("")));
+    ASSERT_EQ(listing.rows().size(), count + 1);
+    for (int i = 0; i < count; ++i) {
+        EXPECT_EQ(listing.rows()[static_cast<std::size_t>(i) + 1].name.substr(1),
+                  std::to_string(10000 + i) + ".qdl");
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

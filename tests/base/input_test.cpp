@@ -1,0 +1,68 @@
+#include "screen/events.h"
+
+#include <SDL3/SDL.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace quadrelle {
+namespace {
+
+static_assert(key::tab == SDLK_TAB && key::escape == SDLK_ESCAPE && key::enter == SDLK_RETURN);
+static_assert(key::backspace == SDLK_BACKSPACE && key::delete_key == SDLK_DELETE && key::f1 == SDLK_F1);
+static_assert(key::left == SDLK_LEFT && key::right == SDLK_RIGHT && key::up == SDLK_UP);
+static_assert(key::down == SDLK_DOWN && key::space == SDLK_SPACE);
+static_assert(key::keypad_plus == SDLK_KP_PLUS && key::keypad_minus == SDLK_KP_MINUS);
+static_assert(key::keypad_multiply == SDLK_KP_MULTIPLY && key::keypad_enter == SDLK_KP_ENTER);
+static_assert(key::keypad_0 == SDLK_KP_0 && key::keypad_1 == SDLK_KP_1);
+static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTRL);
+static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
+static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
+
+struct Modifier_Case {
+    SDL_Keymod held;
+    Modifier expected;
+};
+
+TEST(Key_Chord, has_the_strongest_modifier_of_either_side) {
+    constexpr std::array cases{
+        Modifier_Case{SDL_KMOD_NONE, Modifier::none},
+        Modifier_Case{SDL_KMOD_RSHIFT, Modifier::shift},
+        Modifier_Case{SDL_KMOD_RCTRL, Modifier::control},
+        Modifier_Case{SDL_KMOD_RALT, Modifier::alt},
+        Modifier_Case{SDL_KMOD_LSHIFT | SDL_KMOD_LCTRL | SDL_KMOD_LALT, Modifier::shift},
+        Modifier_Case{SDL_KMOD_LCTRL | SDL_KMOD_RALT, Modifier::control},
+        Modifier_Case{SDL_KMOD_NUM | SDL_KMOD_CAPS | SDL_KMOD_LGUI, Modifier::none},
+        Modifier_Case{SDL_KMOD_NUM | SDL_KMOD_LALT, Modifier::alt},
+    };
+    for (const Modifier_Case& test : cases) {
+        SDL_KeyboardEvent event{};
+        event.key = SDLK_A;
+        event.mod = test.held;
+        EXPECT_EQ(key_chord_of(event), (Key_Chord{'a', test.expected})) << test.held;
+    }
+}
+
+TEST(Key_Chord, of_a_modifier_alone_has_no_key) {
+    for (const Keycode alone : {key::left_control, key::left_shift, key::left_alt, key::right_control,
+                                key::right_shift, key::right_alt}) {
+        EXPECT_EQ(make_key_chord(alone, {false, true, false}), (Key_Chord{key::none, Modifier::control}));
+    }
+}
+
+TEST(Pointer_State, keeps_only_the_buttons_that_act_and_truncates_toward_zero) {
+    SDL_MouseButtonEvent event{};
+    event.x = 12.9F;
+    event.y = -0.9F;
+    constexpr std::array expected = {Mouse_Button::none,  Mouse_Button::left, Mouse_Button::none,
+                                     Mouse_Button::right, Mouse_Button::none, Mouse_Button::none};
+    for (std::size_t number = 0; number < expected.size(); ++number) {
+        event.button = static_cast<Uint8>(number);
+        EXPECT_EQ(pointer_of(event).button, expected.at(number)) << number;
+    }
+    EXPECT_EQ(pointer_of(event).point(), (Point{12, 0}));
+}
+
+} // namespace
+} // namespace quadrelle

@@ -1,0 +1,166 @@
+#include "base/platform_files.h"
+
+#include "base/atomic_file.h"
+#include "base/data_directory.h"
+#include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace quadrelle {
+
+using testing::Bytes;
+using testing::store;
+using testing::stored;
+using testing::Temporary_Folder;
+
+namespace {
+
+int operations_left = 0;
+
+// Steps into a folder, and back out at the end of the test.
+class Visit {
+public:
+    explicit Visit(const Temporary_Folder& folder) : home_(current_directory()) {
+        EXPECT_TRUE(change_directory(folder.path("")));
+    }
+    Visit(const Visit&) = delete;
+    Visit& operator=(const Visit&) = delete;
+    ~Visit() { EXPECT_TRUE(change_directory(home_)); }
+
+private:
+    std::string home_;
+};
+
+} // namespace
+
+TEST(Files, names_outside_ascii_name_the_same_file_everywhere) {
+    const Temporary_Folder folder;
+    for (const std::string name : {"плитки.qdl", "磁貼 ✎.qdl", "ünï cödé", "🎨"}) {
+        const std::string path = folder.path(name);
+        File_Handle file = open_file(path, File_Mode::create);
+        ASSERT_TRUE(file) << name;
+        EXPECT_TRUE(write_bytes(file.get(), Bytes{1, 2}));
+        EXPECT_TRUE(close_file(std::move(file)));
+        EXPECT_EQ(stored(path), (Bytes{1, 2})) << name;
+        EXPECT_TRUE(replace_file(path, path + "2"));
+        EXPECT_TRUE(remove_file(path + "2"));
+    }
+    EXPECT_EQ(folder.entry_count(), 0);
+}
+
+TEST(Files, modes_respect_what_is_there) {
+    const Temporary_Folder folder;
+    const std::string path = folder.path("file");
+    EXPECT_FALSE(open_file(path, File_Mode::read));
+    store(path, {1, 2, 3});
+    EXPECT_FALSE(open_file(path, File_Mode::create));
+    EXPECT_EQ(file_size(open_file(path, File_Mode::read).get()), 3);
+    EXPECT_EQ(file_size(open_file(path, File_Mode::write).get()), 0);
+    for (const File_Mode mode : {File_Mode::read, File_Mode::write, File_Mode::create}) {
+        EXPECT_FALSE(open_file(folder.path(""), mode)) << "a folder";
+        EXPECT_FALSE(open_file("", mode));
+    }
+}
+
+TEST(Files, the_folder_part_ends_with_its_separator) {
+    EXPECT_EQ(folder_part("tiles.qdl"), "");
+    EXPECT_EQ(folder_part("/tiles.qdl"), "/");
+    EXPECT_EQ(folder_part("/a/b c/tiles.qdl"), "/a/b c/");
+}
+
+TEST(Files, an_atomic_file_appears_only_when_committed) {
+    const Temporary_Folder folder;
+    const std::string path = folder.path("file");
+    store(path, {1});
+    {
+        Atomic_File abandoned(path);
+        EXPECT_TRUE(abandoned.write(Bytes{2, 3}));
+    }
+    EXPECT_EQ(stored(path), (Bytes{1}));
+    Atomic_File file(path);
+    EXPECT_TRUE(file.write(Bytes{2}) && file.write(Bytes{3}));
+    EXPECT_EQ(stored(path), (Bytes{1}));
+    EXPECT_TRUE(file.commit());
+    EXPECT_FALSE(file.commit());
+    EXPECT_EQ(stored(path), (Bytes{2, 3}));
+    EXPECT_EQ(folder.entry_count(), 1);
+}
+
+TEST(Files, an_atomic_file_that_missed_a_block_is_never_committed) {
+    const Temporary_Folder folder;
+    const std::string path = folder.path("file");
+    Atomic_File file(path);
+    operations_left = 0;
+    set_file_fault_hook([] { return operations_left-- == 0; });
+    EXPECT_FALSE(file.write(Bytes{1, 2, 3}));
+    EXPECT_FALSE(file.write(Bytes{4}));
+    EXPECT_FALSE(file.commit());
+    set_file_fault_hook(nullptr);
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(Data_Directory, steps_in_and_out) {
+    const Temporary_Folder folder;
+    const Visit visit(folder);
+    std::filesystem::create_directory(folder.native_path() / "data");
+    store(folder.path("data/palette.dat"), {1});
+    Data_Directory directory;
+    EXPECT_EQ(stored(directory.path("palette.dat")), (Bytes{1}));
+    EXPECT_FALSE(directory.enter(Data_Directory::outside));
+    ASSERT_TRUE(directory.enter(Data_Directory::inside));
+    EXPECT_FALSE(directory.enter(Data_Directory::inside));
+    EXPECT_EQ(stored("palette.dat"), (Bytes{1}));
+    EXPECT_EQ(stored(directory.path("palette.dat")), (Bytes{1}));
+    directory.leave();
+    directory.leave();
+    EXPECT_EQ(directory.index(), Data_Directory::outside);
+    EXPECT_EQ(stored("data/palette.dat"), (Bytes{1}));
+}
+
+TEST(Data_Directory, tells_when_there_is_none) {
+    const Temporary_Folder folder;
+    const Visit visit(folder);
+    Data_Directory directory;
+    EXPECT_FALSE(directory.enter(Data_Directory::inside));
+    EXPECT_EQ(directory.index(), Data_Directory::inside);
+}
+
+#ifndef _WIN32
+
+TEST(Files, pipes_and_devices_are_refused_without_waiting) {
+    const Temporary_Folder folder;
+    const std::string pipe = folder.path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    for (const std::string& path : {pipe, std::string("/dev/zero"), std::string("/dev/tty")}) {
+        EXPECT_FALSE(open_file(path, File_Mode::read)) << path;
+        EXPECT_FALSE(open_file(path, File_Mode::write)) << path;
+        EXPECT_FALSE(can_replace(path)) << path;
+        EXPECT_FALSE(Atomic_File(path).is_open()) << path;
+    }
+    EXPECT_EQ(folder.entry_count(), 1);
+}
+
+TEST(Files, links_are_followed_to_their_end) {
+    const Temporary_Folder folder;
+    std::filesystem::create_directory(folder.native_path() / "deep");
+    const auto link = [&](const char* to, const char* name) {
+        ASSERT_EQ(symlink(to, folder.path(name).c_str()), 0);
+    };
+    link("deep/second", "first");
+    link("../not yet there", "deep/second");
+    link(folder.path("first").c_str(), "absolute");
+    link("round", "round");
+    EXPECT_EQ(std::filesystem::weakly_canonical(resolve_links(folder.path("absolute"))),
+              std::filesystem::weakly_canonical(folder.path("not yet there")));
+    EXPECT_EQ(resolve_links(folder.path("deep")), folder.path("deep"));
+    EXPECT_FALSE(Atomic_File(folder.path("round")).is_open());
+}
+
+#endif
+
+} // namespace quadrelle

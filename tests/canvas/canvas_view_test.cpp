@@ -1,0 +1,103 @@
+#include "canvas/canvas_view.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace quadrelle {
+namespace {
+
+// No window is there: the view computes, but shows nothing.
+class Canvas_View_Test : public ::testing::Test {
+protected:
+    void show(Tile& tile, int pixel_size) {
+        view.set_tile(&tile);
+        ASSERT_TRUE(view.set_pixel_size(pixel_size));
+        view.centre();
+    }
+
+    Canvas_View view{10};
+};
+
+struct Centre_Case {
+    Size tile;
+    int pixel_size;
+    Point origin;
+};
+
+TEST_F(Canvas_View_Test, centres_what_fits_and_shows_the_corner_of_what_does_not) {
+    constexpr std::array cases{
+        Centre_Case{{24, 24}, 10, {400, 200}}, Centre_Case{{24, 25}, 21, {268, 64}},
+        Centre_Case{{1, 3}, 3, {518, 315}},    Centre_Case{{64, 64}, 8, {264, 64}},
+        Centre_Case{{255, 10}, 3, {264, 305}}, Centre_Case{{73, 72}, 7, {264, 68}},
+    };
+    for (const Centre_Case& test : cases) {
+        Tile tile(test.tile.width, test.tile.height);
+        show(tile, test.pixel_size);
+        EXPECT_EQ(view.origin(), test.origin) << test.tile.width << " x " << test.tile.height;
+    }
+}
+
+TEST_F(Canvas_View_Test, cells_are_found_with_truncation_toward_zero) {
+    struct Case {
+        int x, column, nearest;
+    };
+    constexpr std::array cases{
+        Case{385, -1, -1}, Case{386, -1, 0},  Case{390, -1, 0},     Case{391, 0, 0}, Case{399, 0, 0},
+        Case{400, 0, 0},   Case{404, 0, 0},   Case{405, 0, 1},      Case{409, 0, 1}, Case{410, 1, 1},
+        Case{639, 23, 24}, Case{640, 24, 24}, Case{-200, -60, -59},
+    };
+    Tile tile(24, 24);
+    show(tile, 10);
+    for (const Case& test : cases) {
+        EXPECT_EQ(view.tile_column(test.x), test.column) << test.x;
+        EXPECT_EQ(view.tile_row(test.x - 200), test.column) << test.x;
+        EXPECT_EQ(view.nearest_column(test.x), test.nearest) << test.x;
+        EXPECT_EQ(view.nearest_row(test.x - 200), test.nearest) << test.x;
+    }
+    EXPECT_EQ(view.tile_point({415, 239}), (Tile_Point{1, 3}));
+}
+
+TEST_F(Canvas_View_Test, zoom_keeps_the_middle_and_comes_back) {
+    for (const int extent : {1, 2, 5, 24, 63, 255}) {
+        Tile tile(extent, extent + 1);
+        for (int pixel_size = smallest_pixel_size; pixel_size < largest_pixel_size; ++pixel_size) {
+            show(tile, pixel_size);
+            view.scroll_origin(-13, 7);
+            const Point before = view.origin();
+            ASSERT_TRUE(view.zoom(Zoom_Step::in));
+            EXPECT_EQ(view.origin(), (Point{before.x - extent / 2, before.y - (extent + 1) / 2}));
+            EXPECT_EQ(view.magnified_size().width, extent * (pixel_size + 1));
+            ASSERT_TRUE(view.zoom(Zoom_Step::out));
+            EXPECT_EQ(view.origin(), before);
+        }
+    }
+}
+
+TEST_F(Canvas_View_Test, sizes_outside_of_the_limits_change_nothing) {
+    Tile tile(24, 24);
+    for (const auto& [limit, step] :
+         {std::pair{smallest_pixel_size, Zoom_Step::out}, std::pair{largest_pixel_size, Zoom_Step::in}}) {
+        show(tile, limit);
+        view.scroll_origin(5, -9);
+        const Point before = view.origin();
+        EXPECT_FALSE(view.zoom(step));
+        EXPECT_EQ(view.pixel_size(), limit);
+        EXPECT_EQ(view.origin(), before);
+    }
+    EXPECT_FALSE(view.set_pixel_size(2));
+    EXPECT_FALSE(view.set_pixel_size(33));
+    EXPECT_EQ(Canvas_View(-1).pixel_size(), smallest_pixel_size);
+    EXPECT_EQ(Canvas_View(1000).pixel_size(), largest_pixel_size);
+}
+
+TEST_F(Canvas_View_Test, works_without_a_tile) {
+    view.set_tile(nullptr);
+    EXPECT_EQ(view.magnified_size(), Size{});
+    EXPECT_TRUE(view.zoom(Zoom_Step::in));
+    view.centre();
+    EXPECT_EQ(view.tile_column(view.origin().x), 0);
+}
+
+} // namespace
+} // namespace quadrelle

@@ -1,0 +1,89 @@
+#include "panes/brush_selector.h"
+
+#include "color/standard_colors.h"
+#include "tests/support/window_test.h"
+
+#include <optional>
+#include <utility>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Point position{816, 62};
+constexpr Color lit = standard_color(Standard_Color::highlight);
+
+class Brush_Selector_Test : public Window_Test {
+protected:
+    void SetUp() override {
+        Window_Test::SetUp();
+        selector_.emplace();
+        below_ = selector_->move(position);
+    }
+    void TearDown() override {
+        selector_.reset();
+        Window_Test::TearDown();
+    }
+
+    // Icons of 18 x 18 pixels, five pixels inside of a row that stands below its title bar of 21.
+    static Point icon(int row_top, int index) { return {position.x + 5 + 18 * index, row_top + 21 + 4}; }
+    [[nodiscard]] static Point shape_icon(int index) { return icon(position.y, index); }
+    [[nodiscard]] Point size_icon(int index) const {
+        const int row_height = (below_ - position.y) / 2;
+        return icon(position.y + row_height, index);
+    }
+    static Point inside(Point corner) { return {corner.x + 9, corner.y + 9}; }
+
+    std::optional<Brush_Selector> selector_;
+    int below_ = 0;
+};
+
+TEST_F(Brush_Selector_Test, starts_with_one_pixel) {
+    EXPECT_EQ(selector_->brush().size(), (Size{1, 1}));
+}
+
+TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
+    EXPECT_TRUE(selector_->click(inside(size_icon(5))));
+    EXPECT_EQ(selector_->brush().size(), (Size{6, 6}));
+    EXPECT_FALSE(selector_->brush().pixel(0, 0));
+    EXPECT_TRUE(selector_->click(inside(shape_icon(1))));
+    EXPECT_TRUE(selector_->brush().pixel(0, 0));
+    EXPECT_EQ(selector_->brush().size(), (Size{6, 6}));
+    // What is chosen already is nobody's click, as is what has no icon.
+    EXPECT_FALSE(selector_->click(inside(size_icon(5))));
+    EXPECT_FALSE(selector_->click(inside(shape_icon(1))));
+    EXPECT_FALSE(selector_->click(inside(size_icon(6))));
+    EXPECT_FALSE(selector_->click(inside(shape_icon(7))));
+    EXPECT_FALSE(selector_->click({position.x + 9, position.y + 10}));
+}
+
+TEST_F(Brush_Selector_Test, icons_meet_at_their_edges) {
+    selector_->select_size(2);
+    const Point third = size_icon(3);
+    EXPECT_TRUE(selector_->click(third));
+    EXPECT_EQ(selector_->brush().size().width, 4);
+    EXPECT_TRUE(selector_->click({third.x - 1, third.y + 17}));
+    EXPECT_EQ(selector_->brush().size().width, 3);
+    EXPECT_FALSE(selector_->click({third.x, third.y - 1}));
+    EXPECT_FALSE(selector_->click({third.x, third.y + 18}));
+}
+
+TEST_F(Brush_Selector_Test, lights_the_chosen_icons_and_shows_masks_at_twice_their_size) {
+    selector_->select_shape(Brush_Shape::square);
+    selector_->select_size(3);
+    selector_->draw();
+    for (int i = 0; i < brush_shape_count; ++i) {
+        EXPECT_EQ(pixel_at(shape_icon(i)) == lit, i == 1) << i;
+    }
+    for (int i = 0; i < brush_size_count; ++i) {
+        EXPECT_EQ(pixel_at(size_icon(i)) == lit, i == 3) << i;
+    }
+    // A square of 4: eight pixels in the middle of the icon's eighteen.
+    const Point corner = size_icon(3);
+    for (const auto& [offset, is_set] : {std::pair{4, false}, {5, true}, {12, true}, {13, false}}) {
+        EXPECT_EQ(pixel_at({corner.x + offset, corner.y + 9}) == lit, is_set) << offset;
+        EXPECT_EQ(pixel_at({corner.x + 9, corner.y + offset}) == lit, is_set) << offset;
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,176 @@
+#include "panes/color_handles.h"
+
+#include "tests/support/window_test.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <optional>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Point position{1026, 339};
+
+class Color_Handles_Test : public Window_Test {
+protected:
+    void SetUp() override {
+        Window_Test::SetUp();
+        handles_.emplace(position, [this](Color color) { handed_on_.push_back(color); });
+    }
+    void TearDown() override {
+        handles_.reset();
+        Window_Test::TearDown();
+    }
+
+    // The middle of a button: 0 less, 1 middle, 2 more.
+    static Point button(int row, int column) {
+        return {position.x + 5 + 1 + 135 + 20 * column + 7, position.y + 26 + 1 + 17 * row + 8};
+    }
+    static Point slider(int row, int column) {
+        return {position.x + 5 + 1 + 17 + column, position.y + 26 + 1 + 17 * row + 8};
+    }
+    [[nodiscard]] Color after_press(Color from, int row, int column) {
+        handles_->set_color(from);
+        EXPECT_TRUE(handles_->click(button(row, column), [] {}));
+        return handed_on_.back();
+    }
+
+    std::optional<Color_Handles> handles_;
+    std::vector<Color> handed_on_;
+};
+
+constexpr Color mixed{40, 130, 250, 77};
+
+TEST_F(Color_Handles_Test, channels_step_by_one_and_stop_at_their_bounds) {
+    for (int row = 0; row < 4; ++row) {
+        const auto with = [row](int level) {
+            std::array<int, 4> channels{mixed.r, mixed.g, mixed.b, mixed.a};
+            channels.at(static_cast<std::size_t>(row)) = level;
+            return Color(channels[0], channels[1], channels[2], channels[3]);
+        };
+        struct Case {
+            int before, button, after;
+        };
+        for (const Case& test : {Case{0, 0, 0},
+                                 {1, 0, 0},
+                                 {200, 0, 199},
+                                 {255, 0, 254},
+                                 {0, 1, 128},
+                                 {128, 1, 128},
+                                 {255, 1, 128},
+                                 {0, 2, 1},
+                                 {200, 2, 201},
+                                 {254, 2, 255},
+                                 {255, 2, 255}}) {
+            EXPECT_EQ(after_press(with(test.before), row, test.button), with(test.after))
+                << row << ": " << test.before << ", button " << test.button;
+        }
+    }
+}
+
+// From the definition of the form: at full saturation one channel is empty up to the middle lightness.
+TEST_F(Color_Handles_Test, saturation_and_lightness_step_by_a_113th) {
+    struct Case {
+        Color before;
+        int row, button;
+        Color after;
+    };
+    for (const Case& test : {
+             Case{{255, 0, 0}, 4, 2, {255, 0, 0}},      // full already
+             {{255, 0, 0}, 4, 0, {254, 1, 1}},          // 112/113 of the way from grey
+             {{255, 0, 0}, 4, 1, {191, 64, 64}},        // half
+             {{100, 100, 100}, 4, 0, {100, 100, 100}},  // none
+             {{100, 100, 100}, 4, 2, {101, 99, 99}},    // a grey turns to red
+             {{255, 255, 255}, 5, 2, {255, 255, 255}},  // white
+             {{255, 255, 255}, 5, 0, {253, 253, 253}},  // 112/113
+             {{255, 255, 255}, 5, 1, {128, 128, 128}},  // half
+             {{0, 0, 0}, 5, 0, {0, 0, 0}},              // black
+             {{0, 0, 0}, 5, 2, {2, 2, 2}},              // 1/113
+             {{0, 0, 255, 90}, 5, 1, {0, 0, 255, 255}}, // deliberately opaque
+             {{254, 254, 254}, 5, 2, {255, 255, 255}},  // the bound, less than a step away
+         }) {
+        EXPECT_EQ(after_press(test.before, test.row, test.button), test.after)
+            << test.row << ", button " << test.button;
+    }
+}
+
+// The saturation goes there and back although the conversion would change the colour each time.
+TEST_F(Color_Handles_Test, steps_of_saturation_and_lightness_do_not_drift) {
+    handles_->set_color({200, 100, 100});
+    for (const int column : {0, 2}) {
+        for (int i = 0; i < 30; ++i) {
+            EXPECT_TRUE(handles_->click(button(4, column), [] {}));
+            handles_->set_color(handed_on_.back()); // as who takes the colours tells
+        }
+    }
+    EXPECT_EQ(handed_on_.back(), Color(193, 107, 107));
+}
+
+TEST_F(Color_Handles_Test, nothing_happens_beside_the_buttons_and_sliders) {
+    for (int row = 0; row < 6; ++row) {
+        const int y = button(row, 0).y;
+        for (const int x : {position.x + 5, position.x + 5 + 1 + 7, button(row, 0).x + 8,
+                            button(row, 1).x - 8, button(row, 1).x + 8, button(row, 2).x + 8}) {
+            EXPECT_FALSE(handles_->click({x, y}, [] { FAIL(); })) << row << ": " << x;
+        }
+    }
+    EXPECT_TRUE(handed_on_.empty());
+}
+
+TEST_F(Color_Handles_Test, a_slider_follows_the_pointer_with_its_channel) {
+    struct Step {
+        int column;
+        int level; // of a channel
+        int share; // in 112ths
+    };
+    constexpr auto steps = std::to_array<Step>(
+        {{0, 0, 0}, {112, 255, 112}, {56, 128, 56}, {-40, 0, 0}, {9999, 255, 112}, {1, 2, 1}, {28, 64, 28}});
+    for (int row = 0; row < 6; ++row) {
+        handles_->set_color({255, 0, 0});
+        Script script;
+        std::vector<Color> seen;
+        for (const Step& step : steps) {
+            // Far above or below, the slider stays held.
+            script.motion({slider(row, step.column).x, step.level}).check([&] {
+                seen.push_back(handed_on_.back());
+                handles_->set_color(handed_on_.back());
+            });
+        }
+        script.release(slider(row, 28));
+        EXPECT_TRUE(handles_->click(slider(row, 3), [this] { handles_->draw(); }));
+        ASSERT_EQ(seen.size(), steps.size());
+        for (std::size_t i = 0; i < steps.size(); ++i) {
+            const int level = steps.at(i).level;
+            const double share = steps.at(i).share / 112.0;
+            if (row < 4) {
+                EXPECT_EQ(seen[i].channel(row), level) << row << ": " << i;
+                EXPECT_EQ(seen[i].channel((row + 1) % 4), (row + 1) % 4 == 0 || row == 2 ? 255 : 0);
+            } else {
+                const int largest = std::max({int{seen[i].r}, int{seen[i].g}, int{seen[i].b}});
+                const int smallest = std::min({int{seen[i].r}, int{seen[i].g}, int{seen[i].b}});
+                const double expected = row == 4 ? share : 1.0 - std::abs(2.0 * share - 1.0);
+                EXPECT_NEAR((largest - smallest) / 255.0, expected, 0.005) << row << ": " << i;
+                EXPECT_NEAR((largest + smallest) / 510.0, row == 4 ? 0.5 : share, 0.005);
+            }
+        }
+    }
+}
+
+TEST_F(Color_Handles_Test, rows_show_where_their_channel_stands) {
+    for (const int level : {0, 128, 255}) {
+        handles_->set_color({level, 255 - level, level, level});
+        handles_->draw();
+        for (const int row : {0, 1, 2, 3}) {
+            const int shown = row == 1 ? 255 - level : level;
+            const Point marker{slider(row, (shown * 112 + 127) / 255).x, slider(row, 0).y + 3};
+            EXPECT_EQ(pixel_at({marker.x, marker.y}), Color(255, 255, 255)) << row << ": " << level;
+            EXPECT_EQ(pixel_at({marker.x - 2, marker.y + 2}), Color(0, 0, 0));
+            EXPECT_EQ(pixel_at({marker.x + 2, marker.y + 2}), Color(0, 0, 0));
+        }
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

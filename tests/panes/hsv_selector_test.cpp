@@ -1,0 +1,210 @@
+#include "panes/hsv_selector.h"
+
+#include "screen/cursor.h"
+#include "tests/support/window_test.h"
+
+#include <SDL3/SDL_mouse.h>
+
+#include <array>
+#include <cstdlib>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Point position{1026, 174};
+constexpr Color red{255, 0, 0};
+constexpr Color unset{1, 2, 3, 4};
+
+class HSV_Selector_Test : public Window_Test {
+protected:
+    void SetUp() override {
+        Window_Test::SetUp();
+        selector_.emplace(position, [this](Mouse_Button side, Color color) {
+            picked_.push_back({side, color});
+        });
+    }
+    void TearDown() override {
+        selector_.reset();
+        Window_Test::TearDown();
+    }
+
+    struct Picked {
+        Mouse_Button side;
+        Color color;
+        bool operator==(const Picked&) const = default;
+    };
+
+    [[nodiscard]] HSV_Selector& selector() { return *selector_; }
+    [[nodiscard]] Point square(int x, int y) const {
+        return {selector_->square_rect().x + x, selector_->square_rect().y + y};
+    }
+    [[nodiscard]] Point bar(int x, int y) const {
+        return {selector_->bar_rect().x + x, selector_->bar_rect().y + y};
+    }
+    void expect_square_of(Color hue);
+    // A press at the first point and motions to the others; the button is released at the end.
+    bool drag(const std::vector<Point>& points, Mouse_Button side = Mouse_Button::left) {
+        Script script;
+        for (std::size_t i = 1; i < points.size(); ++i) {
+            script.motion(points[i]).check([this] { seen_.push_back(last()); });
+        }
+        script.release(points.back(), side);
+        return selector_->click(side, points.front(), [this] { selector_->draw(); });
+    }
+    [[nodiscard]] Color last() const { return picked_.empty() ? unset : picked_.back().color; }
+
+    std::optional<HSV_Selector> selector_;
+    std::vector<Picked> picked_;
+    std::vector<Color> seen_; // the last picked colour after each motion
+};
+
+bool is_near(int shown, double exact) {
+    // Both gradients truncate.
+    return shown <= exact + 0.01 && shown > exact - 2.01;
+}
+
+// Straight lines between the corners: white and the hue above, black below.
+void HSV_Selector_Test::expect_square_of(Color hue) {
+    for (int y = 0; y < 128; y += y < 3 || y > 122 ? 1 : 7) {
+        for (int x = 0; x < 128; x += x < 3 || x > 122 ? 1 : 7) {
+            const double light = 1.0 - y / 127.0;
+            const double share = x / 127.0;
+            const Color shown = pixel_at(square(x, y));
+            for (int channel = 0; channel < 3; ++channel) {
+                const double exact = light * (255 * (1 - share) + hue.channel(channel) * share);
+                EXPECT_TRUE(is_near(shown.channel(channel), exact)) << x << ", " << y << ": " << exact;
+            }
+        }
+    }
+    EXPECT_EQ(pixel_at(square(0, 0)), Color(255, 255, 255));
+    EXPECT_EQ(pixel_at(square(127, 0)), hue);
+    EXPECT_EQ(pixel_at(square(0, 127)), Color(0, 0, 0));
+    EXPECT_EQ(pixel_at(square(127, 127)), Color(0, 0, 0));
+}
+
+TEST_F(HSV_Selector_Test, square_runs_from_white_and_the_hue_to_black) {
+    selector().draw();
+    expect_square_of(red);
+    for (const Color hue : {Color(0, 254, 255), Color(255, 77, 0), Color(130, 0, 255)}) {
+        selector().set_hue(hue);
+        selector().draw();
+        expect_square_of(hue);
+    }
+}
+
+// One channel of each strip runs up or down by two a row, so that it never comes back to where it ends.
+TEST_F(HSV_Selector_Test, bar_goes_around_the_hues_strip_by_strip) {
+    selector().draw();
+    for (int y = 0; y < 128; ++y) {
+        const int up = 2 * y;
+        const int down = 255 - 2 * y;
+        const std::array<Color, 6> row{Color{255, 0, up}, {down, 0, 255}, {0, up, 255},
+                                       {0, 255, down},    {up, 255, 0},   {255, down, 0}};
+        for (int x = 0; x < 54; x += x % 9 == 0 ? 8 : 1) {
+            EXPECT_EQ(pixel_at(bar(x, y)), row.at(static_cast<std::size_t>(x / 9))) << x << ", " << y;
+        }
+    }
+}
+
+TEST_F(HSV_Selector_Test, pictures_lie_inside_and_move_with_the_pane) {
+    EXPECT_EQ(selector().area, (Rectangle{1026, 174, 202, 161}));
+    EXPECT_EQ(selector().square_rect(), (Rectangle{1032, 201, 128, 128}));
+    EXPECT_EQ(selector().bar_rect(), (Rectangle{1167, 201, 54, 128}));
+    selector().move(100, 50);
+    EXPECT_EQ(selector().square_rect(), (Rectangle{106, 77, 128, 128}));
+    EXPECT_EQ(selector().bar_rect(), (Rectangle{241, 77, 54, 128}));
+}
+
+TEST_F(HSV_Selector_Test, nothing_is_picked_beside_the_pictures) {
+    for (const Point outside : {square(-1, 0), square(0, -1), square(128, 5), square(5, 128), bar(-1, 5),
+                                bar(54, 5), bar(5, 128)}) {
+        EXPECT_FALSE(selector().click(Mouse_Button::left, outside, [] { FAIL(); }));
+    }
+    EXPECT_TRUE(picked_.empty());
+}
+
+struct Drag {
+    Point from;
+    Point to;
+    Point held; // where the pointer is kept
+};
+
+TEST_F(HSV_Selector_Test, a_drag_from_the_square_stays_in_it_and_picks_for_its_side) {
+    for (const Mouse_Button side : {Mouse_Button::left, Mouse_Button::right}) {
+        for (const Drag& test : {Drag{{10, 20}, {10, 20}, {10, 20}},
+                                 {{10, 20}, {300, 30}, {127, 30}},
+                                 {{10, 20}, {-400, 30}, {0, 30}},
+                                 {{10, 20}, {64, -150}, {64, 0}},
+                                 {{10, 20}, {64, 400}, {64, 127}},
+                                 {{10, 20}, {-5, -5}, {0, 0}},
+                                 {{10, 20}, {128, 128}, {127, 127}},
+                                 {{10, 20}, {150, 64}, {127, 64}}}) {
+            selector().draw();
+            const Color first = pixel_at(square(test.from.x, test.from.y));
+            const Color held = pixel_at(square(test.held.x, test.held.y));
+            picked_.clear();
+            seen_.clear();
+            EXPECT_TRUE(drag({square(test.from.x, test.from.y), square(test.to.x, test.to.y)}, side));
+            EXPECT_EQ(picked_.front(), (Picked{side, first}));
+            EXPECT_EQ(picked_.back(), (Picked{side, held})) << test.to.x << ", " << test.to.y;
+            EXPECT_EQ(seen_, std::vector{held});
+        }
+    }
+}
+
+TEST_F(HSV_Selector_Test, a_drag_on_the_bar_changes_the_hue_of_the_square_only) {
+    for (const Drag& test : {Drag{{3, 20}, {30, 64}, {30, 64}},
+                             {{3, 20}, {-60, 64}, {0, 64}},
+                             {{3, 20}, {200, 64}, {53, 64}},
+                             {{30, 20}, {30, -300}, {30, 0}},
+                             {{30, 20}, {30, 500}, {30, 127}}}) {
+        selector().draw();
+        const Color hue = pixel_at(bar(test.held.x, test.held.y));
+        EXPECT_FALSE(drag({bar(test.from.x, test.from.y), bar(test.to.x, test.to.y)}));
+        selector().draw();
+        expect_square_of(hue);
+    }
+    EXPECT_TRUE(picked_.empty());
+}
+
+TEST_F(HSV_Selector_Test, a_marker_stands_for_the_hidden_pointer_until_the_button_is_released) {
+    selector().draw();
+    const Point ring{square(60, 60).x - 5 + 2, square(60, 60).y - 5 + 2};
+    int held_outside = 0;
+    const auto expect_marker = [&] {
+        EXPECT_EQ(current_cursor(), Cursor::hidden);
+        EXPECT_TRUE(has_picture({ring.x - 2, ring.y - 2, 11, 11}));
+        ++held_outside;
+    };
+    const auto contrast = [&] { return std::abs(pixel_at({ring.x + 3, ring.y - 2}).g - last().g); };
+    Script script;
+    script.check(expect_marker)
+        .check([&] { EXPECT_GT(contrast(), 40); })
+        .key('a')
+        .check(expect_marker)
+        .release(square(60, 60));
+    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_EQ(held_outside, 2);
+    EXPECT_EQ(current_cursor(), Cursor::shown);
+    selector().draw();
+    EXPECT_LT(contrast(), 40);
+}
+
+TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_event) {
+    Script script;
+    script.motion(square(500, 64))
+        .check([this] {
+            float x = 0;
+            float y = 0;
+            SDL_GetMouseState(&x, &y);
+            EXPECT_EQ((Point{static_cast<int>(x), static_cast<int>(y)}), square(127, 64));
+        })
+        .quit();
+    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_TRUE(script.is_played());
+    EXPECT_FALSE(SDL_HasEvents(SDL_EVENT_QUIT, SDL_EVENT_MOUSE_WHEEL));
+}
+
+} // namespace
+} // namespace quadrelle::testing

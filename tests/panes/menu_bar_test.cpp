@@ -1,0 +1,147 @@
+#include "panes/menu_bar.h"
+
+#include "color/standard_colors.h"
+#include "commands/menu_table.h"
+#include "screen/screen.h"
+#include "tests/whole/program_test.h"
+
+#include <string>
+
+namespace quadrelle::testing {
+namespace {
+
+enum Menu : std::size_t { file, edit, tile, tileset, tools, help };
+
+class Menu_Bar_Test : public Program_Test {
+protected:
+    static int left_of(std::size_t menu) {
+        int x = 0;
+        for (std::size_t i = 0; i < menu; ++i) {
+            x += screen->text_width(Font::regular, menu_table.at(i).header);
+        }
+        return x;
+    }
+    static Point header(std::size_t menu) { return {left_of(menu) + 8, 12}; }
+    static Point item(std::size_t menu, std::size_t row) {
+        return {left_of(menu) + 8, 25 + 25 * static_cast<int>(row) + 12};
+    }
+    static std::size_t row_with(std::size_t menu, Command command) {
+        const auto& rows = menu_table.at(menu).rows;
+        return static_cast<std::size_t>(std::ranges::find(rows, command, &Menu_Row::command) - rows.begin());
+    }
+    Script& expect_menu() { return expect_loop("menu"); }
+    Script& expect_closed() { return expect_loop("main").motion({600, 650}); }
+};
+
+constexpr Color lit = standard_color(Standard_Color::highlight_deep);
+
+TEST_F(Menu_Bar_Test, every_item_runs_its_command) {
+    struct Case {
+        std::size_t menu;
+        Command command;
+        const char* loop;
+    };
+    const std::vector<Case> cases{
+        {file, Command::new_tileset, "dialog \"New tileset\""},
+        {file, Command::options, "dialog \"Options\""},
+        {file, Command::quit, "dialog \"Quit\""},
+        {help, Command::about, "dialog \"About\""},
+    };
+    for (const Case& test : cases) {
+        SCOPED_TRACE(test.loop);
+        script().click(header(test.menu)).press(item(test.menu, row_with(test.menu, test.command)));
+        expect_loop(test.loop).key(key::escape);
+        expect_closed();
+        play();
+    }
+}
+
+TEST_F(Menu_Bar_Test, slides_to_the_neighbour_and_back_over_what_it_covers) {
+    script().press(header(file)).motion(item(file, 2)).motion(header(edit)).motion(header(tileset));
+    expect_menu().motion(item(file, 0)).press(item(tileset, row_with(tileset, Command::add_new_tile)));
+    expect_closed();
+    play();
+    EXPECT_EQ(document().tileset().count(), 2);
+}
+
+TEST_F(Menu_Bar_Test, stays_open_on_separators_and_closes_outside) {
+    script().press(header(file)).press(item(file, 1));
+    expect_menu().press(item(file, 3));
+    expect_menu().press(cell(4, 4));
+    expect_closed();
+    // The header itself lies outside of its box.
+    script().press(header(file)).press(header(file));
+    expect_closed();
+    // The margin below the last item is inside, and no item.
+    const int last = 25 + 25 * static_cast<int>(menu_table.at(help).rows.size());
+    script().press(header(help)).press({left_of(help) + 8, last + 2});
+    expect_menu().press({left_of(help) + 8, last + 3});
+    expect_closed();
+    play();
+    EXPECT_EQ(tile_pixel(4, 4), Color(0, 0, 0));
+}
+
+TEST_F(Menu_Bar_Test, swallows_the_key_or_the_window_close_that_closes_it) {
+    document().set_modified();
+    // A keyboard sends the modifier first: the menu takes the chord as a whole.
+    script().press(header(file)).key(key::left_control, Modifier::control);
+    expect_menu().key('s', Modifier::control);
+    expect_closed().press(header(edit)).key(key::escape);
+    expect_closed().press(header(edit)).quit();
+    expect_closed();
+    play();
+    EXPECT_EQ(asked_file(), std::nullopt);
+    EXPECT_TRUE(document().is_modified());
+}
+
+TEST_F(Menu_Bar_Test, opens_by_the_right_button_and_ignores_all_others) {
+    script().press_number(header(file), 2);
+    expect_closed().press(header(file), Mouse_Button::right);
+    expect_menu().press_number(item(file, 0), 2);
+    expect_menu().press_number(cell(4, 4), 4);
+    expect_menu().press(cell(4, 4), Mouse_Button::right);
+    expect_closed();
+    play();
+    EXPECT_EQ(tile_pixel(4, 4), Color(0, 0, 0));
+}
+
+TEST_F(Menu_Bar_Test, lights_what_the_pointer_is_on) {
+    const auto lights = [this](Point where, Point corner, bool is_lit) {
+        script().motion(where).check([corner, is_lit] { EXPECT_EQ(pixel_at(corner) == lit, is_lit); });
+    };
+    const Point header_corner{left_of(tile) + 2, 2};
+    lights(header(tile), header_corner, true);
+    lights(header(edit), header_corner, false);
+    script().motion({600, 650}).press(header(edit));
+    lights(item(edit, 0), {left_of(edit) + 2, 27}, true);
+    lights(item(edit, 2), {left_of(edit) + 2, 27 + 50}, false);
+    script().key(key::escape);
+    play();
+}
+
+// Their rows hold a blank, the menu shows the commands' names.
+TEST_F(Menu_Bar_Test, shows_the_brush_commands_by_name) {
+    script().press(header(edit)).check([] {
+        for (const Command command : {Command::use_as_brush, Command::move_to_pad, Command::delete_brush}) {
+            const Point point = item(edit, row_with(edit, command));
+            EXPECT_TRUE(has_picture({point.x, point.y - 10, 60, 20}));
+        }
+    });
+    script().key(key::escape);
+    play();
+}
+
+TEST_F(Menu_Bar_Test, no_open_menu_is_left_behind) {
+    const Point inside_box = item(file, 5);
+    const Color before = pixel_at(inside_box);
+    script().press(header(file)).check([&] {
+        EXPECT_NE(pixel_at({inside_box.x, 24 + 25 * 13 + 1}), before);
+    });
+    script().press({600, 650});
+    expect_closed();
+    play();
+    EXPECT_EQ(pixel_at(inside_box), before);
+}
+
+} // namespace
+} // namespace quadrelle::testing

@@ -1,0 +1,105 @@
+#include "screen/surface.h"
+
+#include "pixels/tile.h"
+#include "tests/support/fatal_checks.h"
+#include "tests/support/temporary_folder.h"
+
+#include <SDL3/SDL.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Rgba_Quad magenta{255, 0, 255, 255};
+
+// A bitmap file of one row.
+std::string save_row(const Temporary_Folder& folder, const std::vector<Rgba_Quad>& pixels,
+                     SDL_PixelFormat format) {
+    const std::string path = folder.path("row.bmp");
+    SDL_Surface* row = SDL_CreateSurface(static_cast<int>(pixels.size()), 1, format);
+    for (std::size_t x = 0; x < pixels.size(); ++x) {
+        const Rgba_Quad pixel = pixels[x];
+        SDL_WriteSurfacePixel(row, static_cast<int>(x), 0, pixel.r, pixel.g, pixel.b, pixel.a);
+    }
+    EXPECT_TRUE(SDL_SaveBMP(row, path.c_str())) << SDL_GetError();
+    SDL_DestroySurface(row);
+    return path;
+}
+
+TEST(Surface_Test, loads_the_key_colour_as_transparent_and_all_else_as_opaque) {
+    const Temporary_Folder folder;
+    const std::vector<Rgba_Quad> pixels{
+        magenta, {254, 0, 255, 255}, {255, 0, 255, 9}, {1, 2, 3, 0}, {0, 0, 0, 255}};
+    for (const SDL_PixelFormat format : {SDL_PIXELFORMAT_ARGB8888, SDL_PIXELFORMAT_BGR24}) {
+        const Surface keyed(save_row(folder, pixels, format), magenta);
+        ASSERT_EQ(keyed.size(), (Size{5, 1}));
+        EXPECT_EQ(keyed.get_pixel(0, 0), (Rgba_Quad{255, 0, 255, 0}));
+        EXPECT_EQ(keyed.get_pixel(1, 0), (Rgba_Quad{254, 0, 255, 255}));
+        EXPECT_EQ(keyed.get_pixel(2, 0), (Rgba_Quad{255, 0, 255, 0}));
+        EXPECT_EQ(keyed.get_pixel(3, 0), (Rgba_Quad{1, 2, 3, 255}));
+        EXPECT_EQ(keyed.get_pixel(4, 0), (Rgba_Quad{0, 0, 0, 255}));
+    }
+    const Surface plain(save_row(folder, pixels, SDL_PIXELFORMAT_ARGB8888));
+    EXPECT_EQ(plain.get_pixel(0, 0), magenta);
+    EXPECT_EQ(plain.get_pixel(3, 0), (Rgba_Quad{1, 2, 3, 255}));
+}
+
+TEST(Surface_Test, files_that_are_no_bitmaps_are_fatal) {
+    const Temporary_Folder folder;
+    const std::string path = folder.path("no.bmp");
+    const std::string message = "Could not load SDL surface from %s. " + path;
+    EXPECT_FATAL(const Surface missing(path), message);
+    store(path, {'B', 'M', 1, 2, 3});
+    EXPECT_FATAL(const Surface wrong(path), message);
+}
+
+TEST(Surface_Test, outside_reads_magenta_and_takes_nothing) {
+    Surface surface(Size{3, 2});
+    surface.fill({1, 2, 3, 4});
+    for (const Point outside : {Point{-1, 0}, {3, 0}, {0, -1}, {0, 2}, {1 << 20, 1 << 20}}) {
+        EXPECT_EQ(surface.get_pixel(outside.x, outside.y), magenta);
+        surface.set_pixel(outside.x, outside.y, {9, 9, 9, 9});
+    }
+    surface.set_pixel(2, 1, {5, 6, 7, 8});
+    EXPECT_EQ(surface.get_pixel(2, 1), (Rgba_Quad{5, 6, 7, 8}));
+    EXPECT_EQ(surface.get_pixel(2, 0), (Rgba_Quad{1, 2, 3, 4}));
+    EXPECT_EQ(surface.get_pixel(0, 1), (Rgba_Quad{1, 2, 3, 4}));
+}
+
+TEST(Surface_Test, begins_transparent_and_fills_its_rectangles_only) {
+    Surface surface(Size{4, 4});
+    EXPECT_EQ(surface.get_pixel(3, 3), Rgba_Quad{});
+    surface.fill_rect({1, 1, 2, 9}, Color(10, 20, 30, 40));
+    EXPECT_EQ(surface.get_pixel(1, 3), (Rgba_Quad{10, 20, 30, 40}));
+    EXPECT_EQ(surface.get_pixel(0, 1), Rgba_Quad{});
+    EXPECT_EQ(surface.get_pixel(3, 1), Rgba_Quad{});
+    EXPECT_EQ(surface.get_pixel(1, 0), Rgba_Quad{});
+}
+
+TEST(Surface_Test, copies_tiles_as_they_are_and_blits_around_its_key) {
+    Tile tile(2, 2);
+    tile.set_pixel(1, 0, {10, 20, 30, 40});
+    Surface surface(Size{4, 3});
+    surface.draw_tile(tile, 3, 1);
+    EXPECT_EQ(surface.get_pixel(3, 1), (Rgba_Quad{0, 0, 0, 255}));
+    surface.draw_tile(tile, 2, 1);
+    EXPECT_EQ(surface.get_pixel(3, 1), (Rgba_Quad{10, 20, 30, 40}));
+
+    Surface source(Size{2, 1});
+    source.fill({1, 2, 3, 255});
+    source.set_pixel(0, 0, magenta);
+    source.set_color_key(255, 0, 255);
+    Surface target(Size{4, 1});
+    target.fill({7, 7, 7, 255});
+    source.blit_to(target, {0, 0, 2, 1}, {1, 0, 2, 1});
+    EXPECT_EQ(target.get_pixel(1, 0), (Rgba_Quad{7, 7, 7, 255}));
+    EXPECT_EQ(target.get_pixel(2, 0), (Rgba_Quad{1, 2, 3, 255}));
+    EXPECT_EQ(target.get_pixel(3, 0), (Rgba_Quad{7, 7, 7, 255}));
+}
+
+} // namespace
+} // namespace quadrelle::testing

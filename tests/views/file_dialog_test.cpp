@@ -1,0 +1,74 @@
+#include "views/file_dialog.h"
+
+#include "base/file_names.h"
+#include "tests/support/window_test.h"
+
+#include <optional>
+#include <vector>
+
+namespace quadrelle::testing {
+namespace {
+
+struct Extension_Case {
+    std::string path;
+    std::string expected;
+};
+
+TEST(File_Dialog_Names, get_the_extension_of_their_kind) {
+    const std::vector<Extension_Case> cases{
+        {"/a/tiles", "/a/tiles.qdl"},
+        {"/a/tiles.qdl", "/a/tiles.qdl"},
+        {"/a/tiles.png", "/a/tiles.qdl"},
+        {"/a/tiles.", "/a/tiles.qdl"},
+        {"/a/a.b.png", "/a/a.b.qdl"},
+        {"/a.b/tiles", "/a.b/tiles.qdl"},
+        {"C:\\a.b\\tiles", "C:\\a.b\\tiles.qdl"},
+        {"/a/.tiles", "/a/.tiles.qdl"},
+        {"/a/tïles.ü", "/a/tïles.qdl"},
+    };
+    for (const Extension_Case& test : cases) {
+        EXPECT_EQ(with_extension(test.path, "qdl"), test.expected);
+    }
+}
+
+class File_Dialog_Test : public Window_Test {
+protected:
+    void TearDown() override {
+        set_file_chooser({});
+        Window_Test::TearDown();
+    }
+
+    // The path that comes out, if any.
+    static std::optional<std::string> choose(File_Dialog_Kind kind, const File_Answer& answer) {
+        std::string path = "before";
+        set_file_chooser([&](File_Dialog_Kind asked) {
+            EXPECT_EQ(asked, kind);
+            return answer;
+        });
+        if (choose_file(kind, path)) {
+            return path;
+        }
+        EXPECT_EQ(path, "before");
+        return std::nullopt;
+    }
+};
+
+TEST_F(File_Dialog_Test, forces_the_extension_only_where_something_is_saved) {
+    const File_Answer answer{File_Answer_State::chosen, "/a/b.c.txt"};
+    EXPECT_EQ(choose(File_Dialog_Kind::load_tileset, answer), "/a/b.c.txt");
+    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, answer), "/a/b.c.qdl");
+    EXPECT_EQ(choose(File_Dialog_Kind::open_any, answer), "/a/b.c.txt");
+    EXPECT_EQ(choose(File_Dialog_Kind::import_bitmap, answer), "/a/b.c.txt");
+    EXPECT_EQ(choose(File_Dialog_Kind::export_bitmap, answer), "/a/b.c.bmp");
+}
+
+TEST_F(File_Dialog_Test, is_silent_when_cancelled_and_tells_of_an_error) {
+    Script script;
+    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, {File_Answer_State::cancelled, "/a/b"}), std::nullopt);
+    script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Note\""); }).key(key::enter);
+    EXPECT_EQ(choose(File_Dialog_Kind::load_tileset, {File_Answer_State::failed, "/a/b"}), std::nullopt);
+    EXPECT_TRUE(script.is_played());
+}
+
+} // namespace
+} // namespace quadrelle::testing
