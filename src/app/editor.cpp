@@ -18,6 +18,8 @@ namespace {
 
 constexpr Size first_tile_size{24, 24};
 
+constexpr Rectangle preview_area{31, 32, 202, 202};
+constexpr Rectangle magnification_area{31, 259, 202, 26};
 constexpr Point palette_position{31, 427};
 constexpr Point navigation_position{31, 310};
 constexpr Point history_position{31, 368};
@@ -41,6 +43,7 @@ int fitting_repeat(int tile_extent, int repeat) {
 
 Editor::Editor()
     : canvas_(options->value(Option::editor_pixel_size)), documents_([this] { take_current_tile(); }),
+      preview_(preview_area), magnification_(magnification_area, "Magnification", "x"),
       palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
       history_pane_(history_position), navigation_(navigation_position),
       menu_bar_(std::make_unique<Menu_Bar>([this] { redraw(Present::no); })), icon_bar_(icon_bar_top) {
@@ -86,14 +89,14 @@ void Editor::handle_one_event() {
 
 void Editor::size_preview() {
     const Size tile = documents_.current().tileset().tile_size();
-    dialogs->preview().set_repeat(fitting_repeat(tile.width, options->value(Option::repeat_x_tiles)),
-                                  fitting_repeat(tile.height, options->value(Option::repeat_y_tiles)));
+    preview_.set_repeat(fitting_repeat(tile.width, options->value(Option::repeat_x_tiles)),
+                        fitting_repeat(tile.height, options->value(Option::repeat_y_tiles)));
 }
 
 void Editor::take_current_tile() {
     Tileset& tileset = documents_.current().tileset();
     canvas_.set_tile(tileset.current_tile());
-    dialogs->preview().set_tile(tileset.current_tile());
+    preview_.set_tile(tileset.current_tile());
     // Without a tile there is nothing to centre yet.
     if (tileset.has_tiles() && tileset.tile_size() != shown_tile_size_) {
         shown_tile_size_ = tileset.tile_size();
@@ -108,7 +111,9 @@ void Editor::redraw(Present present) {
     canvas_.draw();
     menu_bar_->draw(pointer_);
     icon_bar_.draw([this](Command icon) { return is_lit(icon); });
-    dialogs->draw(canvas_.pixel_size());
+    preview_.draw();
+    magnification_.set_value(canvas_.pixel_size());
+    magnification_.draw();
     palette_.draw();
     selected_color_.draw();
     history_pane_.draw(documents_.current().history());

@@ -12,10 +12,12 @@
 #include "panes/icon_bar.h"
 #include "panes/menu_bar.h"
 #include "panes/palette_area.h"
+#include "panes/preview_pane.h"
 #include "panes/tile_navigation_pane.h"
 #include "panes/tile_strip_picture.h"
 #include "selection/clipboard_picture.h"
 #include "selection/copy_buffer.h"
+#include "ui/number_info.h"
 
 #include <SDL3/SDL_events.h>
 
@@ -48,6 +50,7 @@ public:
     [[nodiscard]] Canvas_View& canvas() { return canvas_; }
     [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
     [[nodiscard]] const Copy_Buffer& copies() const { return copy_buffer_; }
+    [[nodiscard]] const Preview_Pane& preview() const { return preview_; }
 
 private:
     struct Handler;
@@ -168,6 +171,8 @@ private:
     System_Clipboard clipboard_;
     std::weak_ptr<const Floating_Paste> nudged_; // as the history keeps it
     Documents documents_;
+    Preview_Pane preview_;
+    Number_Info magnification_; // shown as "21x"
     Palette_Area palette_;
     Selected_Color_Area selected_color_;
     History_Pane history_pane_;

@@ -41,13 +41,12 @@ std::optional<Place> color_place(Point point) {
 
 std::optional<Place> Editor::pointed_place() {
     const Point point = pointer_.point();
-    const std::array<std::pair<const Pane*, Place>, 6> panes{
-        {{&dialogs->preview(), Place::preview},
-         {&dialogs->magnification(), Place::magnification},
-         {&navigation_, Place::navigation},
-         {&history_pane_, Place::history},
-         {&palette_, Place::palette},
-         {&selected_color_, Place::selected_color}}};
+    const std::array<std::pair<const Pane*, Place>, 6> panes{{{&preview_, Place::preview},
+                                                              {&magnification_, Place::magnification},
+                                                              {&navigation_, Place::navigation},
+                                                              {&history_pane_, Place::history},
+                                                              {&palette_, Place::palette},
+                                                              {&selected_color_, Place::selected_color}}};
     for (const auto& [pane, place] : panes) {
         if (pane->area.contains(point)) {
             return place;

@@ -1,7 +1,6 @@
 #include "base/data_stream.h"
 
 #include "base/block_file.h"
-#include "pixels/tile.h"
 
 #include <algorithm>
 #include <charconv>
@@ -9,7 +8,6 @@
 #include <limits>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 namespace quadrelle {
 
@@ -79,12 +77,6 @@ void Data_Stream::write_bytes(std::span<const std::uint8_t> bytes) {
     text_.append(bytes.begin(), bytes.end());
 }
 
-void Data_Stream::write_tile(const Tile& tile) {
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(tile.pixel_count()) * 4);
-    tile.write_pixels(bytes);
-    write_bytes(bytes);
-}
-
 void Data_Stream::write_quad(const std::array<std::int32_t, 4>& numbers) {
     for (const std::int32_t number : numbers) {
         write_int(number);
@@ -95,10 +87,6 @@ void Data_Stream::write_pair(const std::array<std::int32_t, 2>& numbers) {
     for (const std::int32_t number : numbers) {
         write_int(number);
     }
-}
-
-void Data_Stream::write_color(Color color) {
-    write_quad({color.r, color.g, color.b, color.a});
 }
 
 // A token of 16 bytes and more leaves its separator for the next read.
@@ -151,12 +139,6 @@ std::uint8_t Data_Stream::read_byte() {
     return position_ < text_.size() ? static_cast<std::uint8_t>(text_[position_++]) : std::uint8_t{0};
 }
 
-void Data_Stream::read_tile(Tile& tile) {
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(tile.pixel_count()) * 4);
-    read_bytes(bytes);
-    tile.read_pixels(bytes);
-}
-
 std::array<std::int32_t, 4> Data_Stream::read_quad() {
     std::array<std::int32_t, 4> numbers{};
     std::ranges::generate(numbers, [this] { return read_int(); });
@@ -167,11 +149,6 @@ std::array<std::int32_t, 2> Data_Stream::read_pair() {
     std::array<std::int32_t, 2> numbers{};
     std::ranges::generate(numbers, [this] { return read_int(); });
     return numbers;
-}
-
-Color Data_Stream::read_color() {
-    const auto [r, g, b, a] = read_quad();
-    return {r, g, b, a};
 }
 
 std::string Data_Stream::take_file_form() {

@@ -3,8 +3,6 @@
 // The record of the small data files: tokens of text between commas, read in the order of writing.
 // Knows nothing about what its users keep in it.
 
-#include "color/color.h"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -16,7 +14,6 @@
 namespace quadrelle {
 
 class Block_File;
-class Tile;
 
 // Numbers and bytes put their comma in front, texts behind: a text is joined to the number before it
 // ("3abc,") and followed by an empty token when a number comes next ("abc,,3"). Files depend on this, so it
@@ -37,11 +34,8 @@ public:
     // An empty text is replaced by "Rolololo", in the caller's string too.
     void write_text(std::string& text);
     void write_bytes(std::span<const std::uint8_t> bytes);
-    // The pixels row by row, each as alpha, blue, green, red.
-    void write_tile(const Tile& tile);
     void write_quad(const std::array<std::int32_t, 4>& numbers);
     void write_pair(const std::array<std::int32_t, 2>& numbers);
-    void write_color(Color color);
 
     // Numbers are taken from at most 16 bytes; a longer token goes on in the next read. What follows the
     // leading number in a token is dropped, no number is 0, too large ones become the nearest.
@@ -54,11 +48,8 @@ public:
     // Fills the buffer and skips the separator behind its bytes.
     void read_bytes(std::span<std::uint8_t> bytes);
     [[nodiscard]] std::uint8_t read_byte();
-    // Fills a tile of the written size; its texture is left to the caller.
-    void read_tile(Tile& tile);
     [[nodiscard]] std::array<std::int32_t, 4> read_quad();
     [[nodiscard]] std::array<std::int32_t, 2> read_pair();
-    [[nodiscard]] Color read_color();
 
     // Writes the record to a file open for writing: its length in four bytes, the text and a colon. Clears
     // it.

@@ -68,7 +68,7 @@ std::vector<Palette> read_palettes(Data_Stream& record) {
 void write_palette(Data_Stream& record, Palette& palette) {
     record.write_int(static_cast<std::int32_t>(palette.colors.size()));
     for (const Color color : palette.colors) {
-        record.write_color(color);
+        record.write_quad({color.r, color.g, color.b, color.a});
     }
     record.write_text(palette.name);
 }

@@ -1,9 +1,7 @@
 #include "screen/surface.h"
 
-#include "base/fatal.h"
-#include "pixels/tile.h"
-
 #include <SDL3/SDL.h>
+#include "base/fatal.h"
 
 namespace quadrelle {
 
@@ -113,14 +111,6 @@ void Surface::set_pixel(int x, int y, Rgba_Quad color) {
 
 Rgba_Quad Surface::get_pixel(int x, int y) const {
     return contains(x, y) ? to_quad(*pixel(x, y)) : Rgba_Quad{255, 0, 255, 255};
-}
-
-void Surface::draw_tile(const Tile& tile, int x, int y) {
-    for (int row = 0; row < tile.height(); ++row) {
-        for (int column = 0; column < tile.width(); ++column) {
-            set_pixel(x + column, y + row, to_rgba(tile.get_pixel(column, row)));
-        }
-    }
 }
 
 } // namespace quadrelle

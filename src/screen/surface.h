@@ -14,8 +14,6 @@ struct SDL_Surface;
 
 namespace quadrelle {
 
-class Tile;
-
 // Red, green, blue, alpha: the byte order of the surface operations.
 struct Rgba_Quad {
     std::uint8_t r = 0;
@@ -49,8 +47,6 @@ public:
     void set_pixel(int x, int y, Rgba_Quad color);
     // Outside the surface: opaque magenta.
     [[nodiscard]] Rgba_Quad get_pixel(int x, int y) const;
-    // Every pixel of the tile as it is, its top-left corner at (x, y).
-    void draw_tile(const Tile& tile, int x, int y);
 
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] SDL_Surface* handle() const { return surface_.get(); }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace quadrelle {
 
@@ -28,10 +29,26 @@ std::uint8_t checked_identifier(int number) {
     return number >= 1 && number <= 255 ? static_cast<std::uint8_t>(number) : std::uint8_t{0};
 }
 
+constexpr std::size_t pixel_size = 4;
+
+// The pixels row by row, each as alpha, blue, green, red.
+void write_tile(Data_Stream& record, const Tile& tile) {
+    std::vector<std::uint8_t> bytes(tile.pixels().size() * pixel_size);
+    tile.write_pixels(bytes);
+    record.write_bytes(bytes);
+}
+
+// Fills a tile of the written size.
+void read_tile(Data_Stream& record, Tile& tile) {
+    std::vector<std::uint8_t> bytes(tile.pixels().size() * pixel_size);
+    record.read_bytes(bytes);
+    tile.read_pixels(bytes);
+}
+
 void write_sized_tile(Data_Stream& record, const Tile& tile) {
     record.write_int(tile.width());
     record.write_int(tile.height());
-    record.write_tile(tile);
+    write_tile(record, tile);
 }
 
 // None for another size.
@@ -41,7 +58,7 @@ std::optional<Tile> read_sized_tile(Data_Stream& record, Size expected) {
         return std::nullopt;
     }
     std::optional<Tile> tile(std::in_place, size.width, size.height);
-    record.read_tile(*tile);
+    read_tile(record, *tile);
     return tile;
 }
 
@@ -89,7 +106,7 @@ std::unique_ptr<Pad_Brush> read_brush(Data_Stream& record) {
 void Brush_Pad::load(Data_Stream& record) {
     temporary_.reset();
     brushes_.clear();
-    record.read_tile(board_);
+    read_tile(record, board_);
     std::ranges::generate(used_, [&record] { return record.read_bool(); });
     read_brushes(record);
     changed_ = false;
@@ -111,7 +128,7 @@ void Brush_Pad::read_brushes(Data_Stream& record) {
 }
 
 void Brush_Pad::save(Data_Stream& record) const {
-    record.write_tile(board_);
+    write_tile(record, board_);
     for (const bool is_used : used_) {
         record.write_bool(is_used);
     }

@@ -12,9 +12,6 @@ std::unique_ptr<Dialogs> dialogs;
 
 namespace {
 
-constexpr Rectangle preview_area{31, 32, 202, 202};
-constexpr Rectangle magnification_area{31, 259, 202, 26};
-
 // The text leaves a margin above the buttons, and is wide enough for the title.
 void add_text(Dialog_Container& dialog, std::string_view text) {
     Dialog_Item& item = *dialog.add_text_row(text).items().front();
@@ -24,7 +21,7 @@ void add_text(Dialog_Container& dialog, std::string_view text) {
 
 } // namespace
 
-Dialogs::Dialogs() : preview_(preview_area), magnification_(magnification_area, "Magnification", "x") {}
+Dialogs::Dialogs() = default;
 
 Dialogs::~Dialogs() = default;
 
@@ -64,12 +61,6 @@ void Dialogs::draw_backdrop() const {
 void Dialogs::show_backdrop() const {
     draw_backdrop();
     screen->present();
-}
-
-void Dialogs::draw(int magnification) {
-    preview_.draw();
-    magnification_.set_value(magnification);
-    magnification_.draw();
 }
 
 Dialog_Layer::Dialog_Layer(Draw_Function draw) {

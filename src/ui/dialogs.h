@@ -1,11 +1,9 @@
 #pragma once
 
-// Hosts what dialogs are drawn over, the plain text dialogs, and the panes that are always shown.
+// Hosts what dialogs are drawn over and the plain text dialogs.
 // Knows the editor only as the backdrop that it was given.
 
 #include "base/geometry.h"
-#include "panes/preview_pane.h"
-#include "ui/number_info.h"
 
 #include <functional>
 #include <memory>
@@ -44,18 +42,11 @@ public:
     void draw_backdrop() const;
     void show_backdrop() const;
 
-    // The preview and the magnification, which is shown as "21x".
-    void draw(int magnification);
-    [[nodiscard]] Preview_Pane& preview() { return preview_; }
-    [[nodiscard]] const Pane& magnification() const { return magnification_; }
-
 private:
     friend class Dialog_Layer;
 
     Draw_Function backdrop_;
     std::vector<Draw_Function> layers_;
-    Preview_Pane preview_;
-    Number_Info magnification_;
 };
 
 // Built at start-up after the screen, destroyed before it.

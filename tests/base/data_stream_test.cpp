@@ -1,7 +1,6 @@
 #include "base/data_stream.h"
 
 #include "base/block_file.h"
-#include "pixels/tile.h"
 #include "tests/support/scratch_files.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +48,7 @@ TEST(Data_Stream, numbers_put_their_comma_in_front_and_texts_behind) {
     EXPECT_EQ(record.text(), "3abc,,4,5");
 
     record = Data_Stream();
-    record.write_color({1, 2, 3, 4});
+    record.write_quad({1, 2, 3, 4});
     record.write_real(0.5F);
     record.write_real(-1234.0625F);
     EXPECT_EQ(record.text(), "1,2,3,4,0.500000,-1234.062500");
@@ -113,38 +112,19 @@ TEST(Data_Stream, integers_agree_with_the_c_library_on_any_token) {
 }
 
 TEST(Data_Stream, reading_past_the_end_gives_nothing) {
-    Tile tile(2, 2);
-    tile.fill({1, 2, 3, 4});
     Data_Stream record("7");
     EXPECT_FALSE(record.is_at_end());
     EXPECT_EQ(record.read_pair(), (std::array<std::int32_t, 2>{7, 0}));
     EXPECT_TRUE(record.is_at_end());
     std::array<std::uint8_t, 3> bytes = {1, 2, 3};
     record.read_bytes(bytes);
-    record.read_tile(tile);
     EXPECT_EQ(bytes, (std::array<std::uint8_t, 3>{}));
-    EXPECT_EQ(tile.get_pixel(1, 1), Color(0, 0, 0, 0));
     EXPECT_EQ(record.read_text(), "");
     EXPECT_EQ(record.read_real(), 0.0F);
     EXPECT_EQ(record.read_byte(), 0);
-    EXPECT_EQ(record.read_color(), Color(0, 0, 0, 0));
+    EXPECT_EQ(record.read_quad(), (std::array<std::int32_t, 4>{}));
     EXPECT_TRUE(Data_Stream(":").is_at_end());
     EXPECT_FALSE(Data_Stream(",:").is_at_end());
-}
-
-TEST(Data_Stream, a_tile_is_alpha_blue_green_red) {
-    Tile tile(2, 1);
-    tile.set_pixel(0, 0, {10, 20, 30, 255});
-    tile.set_pixel(1, 0, {1, 2, 3, 4});
-    Data_Stream record;
-    record.write_tile(tile);
-    EXPECT_EQ(record.text(), "\xff\x1e\x14\x0a\x04\x03\x02\x01");
-    record.write_bool(true);
-    Tile copy(2, 1);
-    record.read_tile(copy);
-    EXPECT_EQ(copy.get_pixel(0, 0), tile.get_pixel(0, 0));
-    EXPECT_EQ(copy.get_pixel(1, 0), tile.get_pixel(1, 0));
-    EXPECT_TRUE(record.read_bool());
 }
 
 // The bytes hold separators and zeros, which must not end them.
@@ -157,7 +137,7 @@ TEST(Data_Stream, file_round_trip_of_every_kind) {
     written.write_bytes(bytes);
     written.write_quad({1, -2, 3, smallest});
     written.write_text(text);
-    written.write_color({9, 8, 7, 6});
+    written.write_quad({9, 8, 7, 6});
     ASSERT_TRUE(written.save_to(path));
     EXPECT_EQ(written.text(), "");
 
@@ -169,7 +149,7 @@ TEST(Data_Stream, file_round_trip_of_every_kind) {
     EXPECT_EQ(record.read_int(), 3);
     EXPECT_EQ(record.read_text(), "-2147483648some text");
     EXPECT_EQ(record.read_text(), "");
-    EXPECT_EQ(record.read_color(), Color(9, 8, 7, 6));
+    EXPECT_EQ(record.read_quad(), (std::array<std::int32_t, 4>{9, 8, 7, 6}));
     EXPECT_TRUE(record.is_at_end());
 }
 

@@ -2,6 +2,7 @@
 
 #include "screen/font_table.h"
 #include "screen/sprite_table.h"
+#include "tests/support/project_paths.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -67,12 +68,8 @@ private:
     testing::Bytes bytes_;
 };
 
-fs::path source_folder() {
-    return QUADRELLE_SOURCE_DIR;
-}
-
 const Bitmap& committed_sheet() {
-    static const Bitmap sheet(source_folder() / "data" / "pool.bmp");
+    static const Bitmap sheet(testing::source_folder() / "data" / "pool.bmp");
     return sheet;
 }
 
@@ -131,7 +128,7 @@ int text_width(Font font, const std::string& text) {
 
 // The widths of the grids, in the order in which they stand in the source.
 std::vector<int> intended_widths(const std::string& file_name) {
-    std::ifstream source(source_folder() / "art" / "fonts" / file_name);
+    std::ifstream source(testing::source_folder() / "art" / "fonts" / file_name);
     std::vector<int> widths;
     for (std::string line; std::getline(source, line);)
         if (line.starts_with("= ") && std::getline(source, line))
@@ -230,8 +227,6 @@ TEST(Sheet_Asset, numbers_do_not_jump_and_long_lines_fit) {
               640);
 }
 
-#ifdef QUADRELLE_PROGRAM
-
 constexpr const char* program_suffix =
 #ifdef _WIN32
     ".exe";
@@ -243,13 +238,12 @@ constexpr const char* program_suffix =
 class Composer : public ::testing::Test {
 protected:
     void SetUp() override {
-        program_ =
-            fs::path(QUADRELLE_PROGRAM).parent_path() / (std::string("compose_sheet") + program_suffix);
+        program_ = testing::built_program().parent_path() / (std::string("compose_sheet") + program_suffix);
         if (!fs::exists(program_))
             GTEST_SKIP() << "this build has no composer";
         fs::create_directories(art() / "sprites");
-        fs::copy(source_folder() / "art" / "palette.txt", art());
-        fs::copy(source_folder() / "art" / "fonts", art() / "fonts");
+        fs::copy(testing::source_folder() / "art" / "palette.txt", art());
+        fs::copy(testing::source_folder() / "art" / "fonts", art() / "fonts");
     }
 
     fs::path art() const { return folder_.native_path() / "art"; }
@@ -357,8 +351,6 @@ TEST_F(Composer, misses_no_glyph) {
     write("fonts/pane.txt", "");
     EXPECT_NE(complaints().find("no glyphs for the \"pane font\""), std::string::npos);
 }
-
-#endif
 
 } // namespace
 } // namespace quadrelle

@@ -80,15 +80,7 @@ TEST(Surface_Test, begins_transparent_and_fills_its_rectangles_only) {
     EXPECT_EQ(surface.get_pixel(1, 0), Rgba_Quad{});
 }
 
-TEST(Surface_Test, copies_tiles_as_they_are_and_blits_around_its_key) {
-    Tile tile(2, 2);
-    tile.set_pixel(1, 0, {10, 20, 30, 40});
-    Surface surface(Size{4, 3});
-    surface.draw_tile(tile, 3, 1);
-    EXPECT_EQ(surface.get_pixel(3, 1), (Rgba_Quad{0, 0, 0, 255}));
-    surface.draw_tile(tile, 2, 1);
-    EXPECT_EQ(surface.get_pixel(3, 1), (Rgba_Quad{10, 20, 30, 40}));
-
+TEST(Surface_Test, blits_around_its_key) {
     Surface source(Size{2, 1});
     source.fill({1, 2, 3, 255});
     source.set_pixel(0, 0, magenta);

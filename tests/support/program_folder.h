@@ -4,6 +4,7 @@
 
 #include "base/data_directory.h"
 #include "base/platform_files.h"
+#include "tests/support/project_paths.h"
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
@@ -18,8 +19,7 @@ public:
     Program_Folder() : home_(current_directory()) {
         const std::filesystem::path data = folder_.native_path() / "data";
         std::filesystem::create_directory(data);
-        std::filesystem::copy_file(std::filesystem::path(QUADRELLE_SOURCE_DIR) / "data" / "pool.bmp",
-                                   data / "pool.bmp");
+        std::filesystem::copy_file(source_folder() / "data" / "pool.bmp", data / "pool.bmp");
         EXPECT_TRUE(change_directory(folder_.path("")));
     }
     Program_Folder(const Program_Folder&) = delete;

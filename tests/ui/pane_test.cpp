@@ -1,4 +1,5 @@
 #include "ui/pane.h"
+#include "panes/preview_pane.h"
 
 #include "color/standard_colors.h"
 #include "pixels/tile.h"
@@ -135,7 +136,7 @@ TEST_F(Pane_Test, option_panes_answer_clicks_without_a_dialog) {
 }
 
 TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
-    Preview_Pane& preview = dialogs->preview();
+    Preview_Pane preview({31, 32, 202, 202});
     const Rectangle client = preview.client_area();
     EXPECT_EQ(client, (Rectangle{36, 58, 192, 192}));
     Tile tile(24, 24);
@@ -145,7 +146,7 @@ TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
     tile.set_pixel(1, 1, {1, 2, 3});
     preview.set_tile(&tile);
     preview.set_repeat(2, 3);
-    dialogs->draw(21);
+    preview.draw();
     const Point corner{client.x + 72, client.y + 60};
     EXPECT_EQ(pixel_at({corner.x - 1, corner.y}), background);
     EXPECT_EQ(pixel_at(corner), standard_color(Standard_Color::checker_dark));
@@ -158,7 +159,7 @@ TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
 }
 
 TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
-    Preview_Pane& preview = dialogs->preview();
+    Preview_Pane preview({31, 32, 202, 202});
     const Rectangle client = preview.client_area();
     for (const Size size : {Size{255, 255}, Size{64, 1}, Size{0, 0}}) {
         Tile tile(size.width, size.height);
@@ -167,7 +168,7 @@ TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
         for (const int repeat : {-1, 0, 1, 21, 1000000}) {
             preview.set_repeat(repeat, repeat);
             screen->fill_rect({0, 0, 400, 400}, clear_color);
-            dialogs->draw(3);
+            preview.draw();
             EXPECT_EQ(pixel_at({client.x - 1, client.y + 96}), background);
             EXPECT_EQ(pixel_at({client.right(), client.y + 96}), background);
             EXPECT_EQ(pixel_at({client.x + 96, client.bottom()}), background);

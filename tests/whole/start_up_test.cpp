@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "app/editor.h"
 #include "color/palette_store.h"
+#include "tests/support/project_paths.h"
 #include "tests/support/scratch_files.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/window_test.h"
@@ -18,8 +19,6 @@
 namespace quadrelle::testing {
 namespace {
 
-#ifdef QUADRELLE_PROGRAM
-
 std::string text_of(const std::string& path) {
     const Bytes bytes = stored(path);
     return {bytes.begin(), bytes.end()};
@@ -31,7 +30,7 @@ protected:
 
     void use_real_sheet() {
         std::filesystem::create_directory(folder_.native_path() / "data");
-        std::filesystem::copy_file(std::filesystem::path(QUADRELLE_SOURCE_DIR) / "data" / "pool.bmp",
+        std::filesystem::copy_file(source_folder() / "data" / "pool.bmp",
                                    folder_.native_path() / "data" / "pool.bmp");
     }
     [[nodiscard]] std::string path(const std::string& name) const { return folder_.path(name); }
@@ -40,8 +39,8 @@ protected:
     // The exit status; 137 when it had to be killed because it went on running.
     [[nodiscard]] int run() const {
         const std::string command = "cd '" + path("") +
-                                    "' && SDL_VIDEO_DRIVER=dummy timeout --signal=KILL 2 '" QUADRELLE_PROGRAM
-                                    "' > output 2> errors";
+                                    "' && SDL_VIDEO_DRIVER=dummy timeout --signal=KILL 2 '" +
+                                    built_program().string() + "' > output 2> errors";
         return std::system(command.c_str()) / 256;
     }
     void expect_fatal(const std::string& text) const {
@@ -88,8 +87,6 @@ TEST_F(Start_Up_Process, runs_until_it_is_told_otherwise) {
     EXPECT_EQ(run(), 137);
     EXPECT_EQ(text_of(path("output")), "");
 }
-
-#endif
 
 // Complete files that no program of ours wrote.
 TEST(Start_Up, takes_data_files_with_any_content) {
