@@ -226,7 +226,8 @@ std::unique_ptr<Texture> Screen::make_header(std::string_view title, Header_Styl
 }
 
 void Screen::set_title(std::string_view text) {
-    const std::string title = std::string(product_name) + " " + product_version + " - " + std::string(text);
+    std::string title(product_name);
+    title.append(" ").append(product_version).append(" - ").append(text);
     SDL_SetWindowTitle(window_.get(), title.c_str());
 }
 
