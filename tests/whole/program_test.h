@@ -49,8 +49,11 @@ protected:
     void answer_files(File_Answer_State state, const std::string& path = {});
     [[nodiscard]] std::optional<File_Dialog_Kind> asked_file() const { return asked_file_; }
 
-private:
+    // The window's pixels row by row, as words of colours.
     using Picture = std::vector<std::uint32_t>;
+    [[nodiscard]] static Picture window_picture();
+
+private:
     struct Shown_Dialog {
         std::string title;
         std::string text;
@@ -58,7 +61,6 @@ private:
         Picture window;
     };
 
-    [[nodiscard]] static Picture window_picture();
     Script& expect_dialog(Shown_Dialog expected);
     void compare_shown_dialogs();
     void compare(const Shown_Dialog& shown);

@@ -1,0 +1,77 @@
+#include "tests/support/stored_picture.h"
+
+#include "base/platform_files.h"
+#include "screen/screen.h"
+#include "selection/picture_formats.h"
+#include "tests/support/project_paths.h"
+
+#include <SDL3/SDL_stdinc.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle::testing {
+
+namespace {
+
+constexpr Picture_Format format = picture_formats.front();
+
+void write_picture(const std::string& path, const Tile& picture) {
+    const std::vector<std::uint8_t> bytes = format.encode(picture);
+    const File_Handle file = open_file(path, File_Mode::write);
+    EXPECT_TRUE(file && !bytes.empty() && write_bytes(file.get(), bytes)) << path;
+}
+
+// Without pixels where there is no such picture.
+Tile read_picture(const std::string& path) {
+    const File_Handle file = open_file(path, File_Mode::read);
+    std::vector<std::uint8_t> bytes(file ? static_cast<std::size_t>(file_size(file.get())) : 0);
+    const bool is_read = file && read_bytes(file.get(), bytes) == bytes.size();
+    return is_read ? format.decode(bytes).picture.value_or(Tile(0, 0)) : Tile(0, 0);
+}
+
+std::string differences(const Tile& shown, const Tile& stored) {
+    int count = 0;
+    Point first{shown.width(), shown.height()};
+    Point last;
+    for (int i = 0; i < shown.pixel_count(); ++i) {
+        if (shown.get_pixel_at(i) != stored.get_pixel_at(i)) {
+            const Point point{i % shown.width(), i / shown.width()};
+            first = {std::min(first.x, point.x), std::min(first.y, point.y)};
+            last = {std::max(last.x, point.x), std::max(last.y, point.y)};
+            ++count;
+        }
+    }
+    const auto text = [](Point point) {
+        return "(" + std::to_string(point.x) + ", " + std::to_string(point.y) + ")";
+    };
+    return std::to_string(count) + " pixels differ, from " + text(first) + " to " + text(last);
+}
+
+} // namespace
+
+void expect_stored_picture(const std::string& name, std::span<const std::uint32_t> window) {
+    if (std::string_view(format.media_type) != "image/png") {
+        GTEST_SKIP() << "there is no libpng to read the stored picture with";
+    }
+    Tile shown(screen->size().width, screen->size().height);
+    ASSERT_EQ(window.size(), shown.pixels().size());
+    std::ranges::transform(window, shown.pixels().begin(), Color::from_word);
+    const std::string path = (source_folder() / "tests" / "pictures" / (name + ".png")).string();
+    if (SDL_getenv("QUADRELLE_WRITE_PICTURES") != nullptr) {
+        write_picture(path, shown);
+        GTEST_SKIP() << "written anew, and not compared: " << path;
+    }
+    const Tile stored = read_picture(path);
+    ASSERT_EQ(stored.size(), shown.size()) << "no such picture: " << path;
+    if (!std::ranges::equal(shown.pixels(), stored.pixels())) {
+        const std::string copy = ::testing::TempDir() + name + ".png";
+        write_picture(copy, shown);
+        ADD_FAILURE() << differences(shown, stored) << "; stored: " << path << "; shown: " << copy;
+    }
+}
+
+} // namespace quadrelle::testing
