@@ -55,6 +55,12 @@ void Documents::make_current(std::size_t index) {
     current_changed_();
 }
 
+void Documents::show_tile(int index) {
+    current().tileset().select(index);
+    current_changed_();
+    current().strip().show_current();
+}
+
 void Documents::resize_current(Size tile_size) {
     current().tileset().resize_all(tile_size);
     current().history().clear();

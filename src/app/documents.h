@@ -17,7 +17,7 @@ enum class Save_As { no, yes };
 
 class Documents {
 public:
-    // `current_changed` is called whenever another document, or another set of tiles in it, becomes current.
+    // `current_changed` is called whenever another document, tile or set of tiles becomes current.
     explicit Documents(std::function<void()> current_changed);
     ~Documents();
 
@@ -28,6 +28,8 @@ public:
 
     // An untitled tileset of one tile. False, with nothing done, after 1000 of them.
     bool new_document(Size tile_size);
+    // Another tile of the current document, which its strip then shows.
+    void show_tile(int index);
     // Resamples the tiles of the current document.
     void resize_current(Size tile_size);
     // These ask for a name where one is needed and tell the user what failed. True when it was done.

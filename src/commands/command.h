@@ -7,7 +7,7 @@
 namespace quadrelle {
 
 enum class Command : std::int32_t {
-    none = -1, // also: refused or failed
+    none = -1, // also the answer of a command that was not carried out
     pen,
     dropper,
     lightness_pen,

@@ -143,11 +143,6 @@ constexpr std::array descriptions = std::to_array<Description>({
 });
 // clang-format on
 
-constexpr std::array recorded_without_inverse = {
-    Command::deselect, Command::invert_selection, Command::fill,       Command::clear, Command::cut,
-    Command::paste,    Command::anti_alias,       Command::plot_paste,
-};
-
 } // namespace
 
 Command find_command(Key_Chord chord) {
@@ -158,14 +153,6 @@ Command find_command(Key_Chord chord) {
         return Key_Chord{candidate.key, candidate.modifier} == chord;
     });
     return row == command_table.end() ? Command::none : row->id;
-}
-
-bool is_recorded(Command command) {
-    if (command == Command::none || row_of(command).category == Command_Category::unrecorded) {
-        return false;
-    }
-    return row_of(command).inverse != Command::none ||
-           std::ranges::find(recorded_without_inverse, command) != recorded_without_inverse.end();
 }
 
 std::string menu_text(Command command) {

@@ -1,6 +1,6 @@
 #include "panes/tool_colors.h"
 
-#include <optional>
+#include <utility>
 
 namespace quadrelle {
 
@@ -97,13 +97,20 @@ bool Tool_Color_Panel::click_side(Point point) {
     return false;
 }
 
-Mouse_Button Tool_Color_Panel::side_at(Point point) const {
-    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-        if (panes_.at(side(button)).area.contains(point)) {
-            return button;
+std::optional<Place> Tool_Color_Panel::place_at(Point point, Tool_Color_Panes shown) const {
+    const std::array<std::pair<const Pane*, Place>, 5> panes{
+        {{&panes_.at(side(Mouse_Button::left)), Place::left_color},
+         {&panes_.at(side(Mouse_Button::right)), Place::right_color},
+         {&selector_, Place::hsv_selector},
+         {&handles_, Place::handles},
+         {&variations_, Place::variations}}};
+    const std::size_t shown_count = shown == Tool_Color_Panes::all ? panes.size() : panes_.size();
+    for (std::size_t i = 0; i < shown_count; ++i) {
+        if (panes.at(i).first->area.contains(point)) {
+            return panes.at(i).second;
         }
     }
-    return Mouse_Button::none;
+    return std::nullopt;
 }
 
 } // namespace quadrelle

@@ -4,6 +4,7 @@
 
 #include "base/input.h"
 #include "panes/color_handles.h"
+#include "panes/hint.h"
 #include "panes/hsv_selector.h"
 #include "panes/tool_color.h"
 #include "panes/variations.h"
@@ -11,6 +12,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace quadrelle {
 
@@ -35,11 +37,8 @@ public:
     // A click on a colour makes its side the active one; the other panes pick and change colours, also along
     // the pointer's motions: `redraw` then draws and presents the window. True when something was chosen.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
-    [[nodiscard]] const HSV_Selector& selector() const { return selector_; }
-    [[nodiscard]] const Color_Handles& handles() const { return handles_; }
-    [[nodiscard]] const Color_Variations& variations() const { return variations_; }
-    // The side whose pane is there, or none.
-    [[nodiscard]] Mouse_Button side_at(Point point) const;
+    // Which of the panes that are shown is there, if any.
+    [[nodiscard]] std::optional<Place> place_at(Point point, Tool_Color_Panes shown) const;
 
 private:
     int place_colors(Point position);

@@ -4,6 +4,7 @@
 #include "base/data_directory.h"
 #include "base/data_stream.h"
 #include "color/standard_colors.h"
+#include "commands/command_table.h"
 #include "panes/tool_colors.h"
 #include "screen/screen.h"
 #include "tools/lightness_pace.h"
@@ -184,7 +185,7 @@ std::optional<Pixel_Operation> Toolbox::lightness_step(std::int64_t now, Mouse_B
 }
 
 bool Toolbox::uses_brush() const {
-    return current_tool_ == Tool::stamp_brush || row_of(current_tool_).uses_brush;
+    return row_of(row_of(current_tool_).command).has(Command_Trait::brush);
 }
 
 bool Toolbox::is_in_selection_group() const {
@@ -272,8 +273,15 @@ void Toolbox::draw(Point pointer) {
     }
 }
 
-bool Toolbox::shows_colors() const {
-    return row_of(current_tool_).uses_tool_colors || current_tool_ == Tool::dropper;
+std::optional<Place> Toolbox::place_at(Point point) const {
+    if (has_brush_pad_at(point)) {
+        return Place::brush_pad;
+    }
+    if (row_of(current_tool_).uses_tool_colors) {
+        return tool_colors->place_at(point, Tool_Color_Panes::all);
+    }
+    return current_tool_ == Tool::dropper ? tool_colors->place_at(point, Tool_Color_Panes::both_colors)
+                                          : std::nullopt;
 }
 
 Command Toolbox::command_at(Point point) const {

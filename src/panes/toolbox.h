@@ -7,6 +7,7 @@
 #include "commands/command.h"
 #include "panes/brush_pad_panes.h"
 #include "panes/brush_selector.h"
+#include "panes/hint.h"
 #include "panes/tool_options.h"
 #include "tools/brush_pad.h"
 #include "tools/canvas_action.h"
@@ -88,9 +89,8 @@ public:
     void draw(Point pointer);
     // The tool whose entry in the list is there and not covered, or none.
     [[nodiscard]] Command command_at(Point point) const;
-    // The colours of the buttons stand beside the list.
-    [[nodiscard]] bool shows_colors() const;
-    [[nodiscard]] bool has_brush_pad_at(Point point) const;
+    // The pane beside the list that is there, if any.
+    [[nodiscard]] std::optional<Place> place_at(Point point) const;
     // True when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and presents
     // the window, while the pointer is followed.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
@@ -98,6 +98,7 @@ public:
 private:
     void lay_out();
     void take_pad_brush();
+    [[nodiscard]] bool has_brush_pad_at(Point point) const;
     [[nodiscard]] bool click_brush_pad(Point point);
     [[nodiscard]] Rectangle entry_area(std::size_t index) const;
 

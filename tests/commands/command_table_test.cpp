@@ -56,48 +56,11 @@ TEST(Command_Table, key_chords_find_their_commands) {
     }
 }
 
-TEST(Command_Table, every_key_finds_the_row_it_stands_in) {
-    for (const Command_Row& row : command_table) {
-        EXPECT_EQ(row.key_label == " ", row.key == key::none) << row.name;
-        if (row.key != key::none) {
-            EXPECT_EQ(find_command({row.key, row.modifier}), row.id) << row.name;
-        }
-    }
-}
-
 TEST(Command_Table, menu_text_is_the_name_and_the_key) {
     EXPECT_EQ(menu_text(Command::save), "Save (^s)");
     EXPECT_EQ(menu_text(Command::rotate_back), "Rotate back (R)");
     EXPECT_EQ(menu_text(Command::test), "Test (~t)");
     EXPECT_EQ(menu_text(Command::save_as), "Save as...");
-}
-
-TEST(Command_Table, inverse_commands_are_symmetric_where_they_undo_by_themselves) {
-    for (const Command_Row& row : command_table) {
-        if (row.inverse != Command::none && row.category == Command_Category::pixels &&
-            row.id != Command::clone) {
-            EXPECT_EQ(row_of(row.inverse).inverse, row.id) << row.name;
-        }
-    }
-}
-
-TEST(Command_Table, recorded_are_the_commands_that_undo_can_take_back) {
-    const std::vector<Command> recorded{
-        Command::deselect,    Command::invert_selection,
-        Command::fill,        Command::clear,
-        Command::scroll_left, Command::scroll_right,
-        Command::scroll_up,   Command::scroll_down,
-        Command::rotate,      Command::rotate_back,
-        Command::mirror,      Command::flip,
-        Command::next_tile,   Command::previous_tile,
-        Command::change_tile, Command::cut,
-        Command::paste,       Command::clone,
-        Command::anti_alias,  Command::plot_paste,
-    };
-    for (const Command_Row& row : command_table) {
-        EXPECT_EQ(is_recorded(row.id), std::ranges::find(recorded, row.id) != recorded.end()) << row.name;
-    }
-    EXPECT_FALSE(is_recorded(Command::none));
 }
 
 TEST(Command_Table, help_has_lines_that_fit_and_a_placeholder_for_the_rest) {

@@ -30,7 +30,7 @@ protected:
         script.motion(point);
         editor->handle_one_event();
         editor->redraw(Present::yes);
-        return editor->hint_lines().lines();
+        return editor->panes().hint_lines().lines();
     }
     void expect_lists_to_fit(Dialog_Container dialog) {
         const Rectangle frame = dialog.frame().area();
@@ -163,9 +163,9 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
     }
     // An open menu's row, also over the canvas.
     script().click({20, 12}).motion({30, 88}).check(
-        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Load"); });
+        [] { EXPECT_EQ(editor->panes().hint_lines().lines().at(0), "Load"); });
     script().motion({205, 12}).motion({270, 70}).check(
-        [] { EXPECT_EQ(editor->hint_lines().lines().at(0), "Mouse commands"); });
+        [] { EXPECT_EQ(editor->panes().hint_lines().lines().at(0), "Mouse commands"); });
     script().key(key::escape);
     script().motion(cases.at(1).point).key(key::f1);
     expect_message("Lightness pen (L)", std::string(description(Command::lightness_pen))).key(key::escape);
@@ -182,8 +182,8 @@ TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
               (Lines{"Pixel 23, 0", "Color: 1, 171, 255, 9   #01abff09", "Name: ---"}));
     // Also while drawing.
     script().press(cell(5, 5)).motion(cell(6, 5)).check([] {
-        EXPECT_EQ(editor->hint_lines().lines().at(0), "Pixel 6, 5");
-        EXPECT_EQ(editor->hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #ffffff");
+        EXPECT_EQ(editor->panes().hint_lines().lines().at(0), "Pixel 6, 5");
+        EXPECT_EQ(editor->panes().hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #ffffff");
     });
     script().release(cell(6, 5));
     play();

@@ -80,7 +80,7 @@ std::string Program_Test::window_title() {
 }
 
 int Program_Test::count_in_preview(Color color) {
-    const Rectangle area = editor->preview().client_area();
+    const Rectangle area = editor->panes().preview().client_area();
     const Picture window = window_picture();
     int count = 0;
     for (int y = area.y; y < area.bottom(); ++y) {

@@ -1,12 +1,13 @@
-// What the editor does with the brush pad.
+#include "app/brush_commands.h"
 
-#include "app/editor.h"
+#include "app/editor_parts.h"
+#include "app/tool_commands.h"
 #include "panes/toolbox.h"
 #include "ui/dialogs.h"
 
 #include <optional>
 
-namespace quadrelle {
+namespace quadrelle::brush_commands {
 
 namespace {
 
@@ -49,46 +50,48 @@ bool uses_stamp_brush() {
     return toolbox->current_tool() == Tool::stamp_brush;
 }
 
+Outcome refuse(std::string_view reason) {
+    dialogs->message("Note", reason);
+    return Outcome::refused;
+}
+
 } // namespace
 
-Command Editor::use_as_brush(Command command) {
-    const std::optional<Brush_Source> source = chosen_source(canvas_);
+Outcome use_as_brush(Editor_Parts& editor) {
+    const std::optional<Brush_Source> source = chosen_source(editor.canvas);
     if (!source) {
-        dialogs->message("Note", "Nothing selected to use as brush.");
-        return Command::none;
+        return refuse("Nothing selected to use as brush.");
     }
     if (!toolbox->use_as_brush(source->picture, source->mask)) {
-        dialogs->message("Note", "Unable to add a new brush for some reason.");
-        return Command::none;
+        return refuse("Unable to add a new brush for some reason.");
     }
-    select_tool(Command::stamp_brush);
-    return command;
+    return tool_commands::select_tool(editor, Tool::stamp_brush);
 }
 
-Command Editor::move_brush_to_pad(Command command) {
+Outcome move_to_pad(Editor_Parts& /*editor*/) {
     if (!uses_stamp_brush()) {
-        dialogs->message("Note", "Select stamp brush tool to copy the current brush to the pad.");
-        return Command::none;
+        return refuse("Select stamp brush tool to copy the current brush to the pad.");
     }
     if (!toolbox->move_to_pad()) {
-        dialogs->message("Note",
-                         "Failed to add brush to pad. Either it's already there,\rthere is no current "
-                         "brush or the pad is full.");
-        return Command::none;
+        return refuse("Failed to add brush to pad. Either it's already there,\rthere is no current "
+                      "brush or the pad is full.");
     }
-    return command;
+    return Outcome::done;
 }
 
-Command Editor::delete_brush(Command command) {
+Outcome delete_brush(Editor_Parts& /*editor*/) {
     if (!uses_stamp_brush()) {
-        dialogs->message("Note", "Select stamp brush tool to delete the current brush.");
-        return Command::none;
+        return refuse("Select stamp brush tool to delete the current brush.");
     }
     if (!toolbox->delete_brush()) {
-        dialogs->message("Note", "There is no brush selected to delete from the pad.");
-        return Command::none;
+        return refuse("There is no brush selected to delete from the pad.");
     }
-    return command;
+    return Outcome::done;
 }
 
-} // namespace quadrelle
+Outcome select_size(Editor_Parts& /*editor*/, int size_index) {
+    toolbox->select_brush_size(size_index);
+    return Outcome::done;
+}
+
+} // namespace quadrelle::brush_commands

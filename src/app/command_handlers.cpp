@@ -1,0 +1,157 @@
+#include "app/command_handlers.h"
+
+#include "app/brush_commands.h"
+#include "app/edit_commands.h"
+#include "app/editor_parts.h"
+#include "app/file_commands.h"
+#include "app/help_commands.h"
+#include "app/tile_commands.h"
+#include "app/tileset_commands.h"
+#include "app/tool_commands.h"
+#include "app/view_commands.h"
+#include "base/table.h"
+#include "commands/command_table.h"
+#include "ui/dialogs.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quadrelle {
+
+namespace {
+
+using Handler = Outcome (*)(Editor_Parts& editor);
+
+// The handler that always gets the same argument.
+template <auto handler, auto argument>
+Outcome with(Editor_Parts& editor) {
+    return handler(editor, argument);
+}
+
+Outcome nothing(Editor_Parts& /*editor*/) {
+    return Outcome::done;
+}
+
+Outcome nobody(Editor_Parts& /*editor*/) {
+    return Outcome::unknown;
+}
+
+struct Handler_Row {
+    Command id;
+    Handler handler;
+};
+
+// clang-format off
+constexpr std::array<Handler_Row, command_count> handlers{{
+    {Command::pen,                   with<tool_commands::select_tool, Tool::pen>},
+    {Command::dropper,               with<tool_commands::select_tool, Tool::dropper>},
+    {Command::lightness_pen,         with<tool_commands::select_tool, Tool::lightness_pen>},
+    {Command::colorize_pen,          with<tool_commands::select_tool, Tool::colorize_pen>},
+    {Command::flood_fill,            with<tool_commands::select_tool, Tool::flood_fill>},
+    {Command::line,                  with<tool_commands::select_tool, Tool::line>},
+    {Command::rectangle,             with<tool_commands::select_plain, Tool::rectangle>},
+    {Command::circle,                with<tool_commands::select_plain, Tool::ellipse>},
+    {Command::stamp_brush,           with<tool_commands::select_tool, Tool::stamp_brush>},
+    {Command::smudge_brush,          with<tool_commands::select_tool, Tool::smudge_brush>},
+    {Command::save_history_buffer,   tile_commands::save_history_buffer},
+    {Command::swap_tool_colors,      tool_commands::swap_colors},
+    {Command::select_brush_size_1,   with<brush_commands::select_size, 0>},
+    {Command::select_brush_size_2,   with<brush_commands::select_size, 1>},
+    {Command::select_brush_size_3,   with<brush_commands::select_size, 2>},
+    {Command::select_brush_size_4,   with<brush_commands::select_size, 3>},
+    {Command::select_brush_size_5,   with<brush_commands::select_size, 4>},
+    {Command::select_brush_size_6,   with<brush_commands::select_size, 5>},
+    {Command::color_left,            with<tool_commands::step_in_palette, Point{-1, 0}>},
+    {Command::color_right,           with<tool_commands::step_in_palette, Point{1, 0}>},
+    {Command::color_down,            with<tool_commands::step_in_palette, Point{0, 1}>},
+    {Command::color_up,              with<tool_commands::step_in_palette, Point{0, -1}>},
+    {Command::rectangle_selector,    with<tool_commands::select_tool, Tool::rectangle_selector>},
+    {Command::circle_selector,       with<tool_commands::select_tool, Tool::circle_selector>},
+    {Command::brush_selector,        with<tool_commands::select_tool, Tool::brush_selector>},
+    {Command::wand_selector,         with<tool_commands::select_tool, Tool::wand_selector>},
+    {Command::deselect,              edit_commands::deselect},
+    {Command::invert_selection,      edit_commands::invert_selection},
+    {Command::fill,                  edit_commands::fill},
+    {Command::clear,                 edit_commands::clear},
+    {Command::work_selection,        with<tool_commands::select_tool, Tool::selection>},
+    {Command::scroll_left,           with<tile_commands::transform, Command::scroll_left>},
+    {Command::scroll_right,          with<tile_commands::transform, Command::scroll_right>},
+    {Command::scroll_up,             with<tile_commands::transform, Command::scroll_up>},
+    {Command::scroll_down,           with<tile_commands::transform, Command::scroll_down>},
+    {Command::rotate,                with<tile_commands::turn, Command::rotate>},
+    {Command::rotate_back,           with<tile_commands::turn, Command::rotate_back>},
+    {Command::mirror,                with<tile_commands::turn, Command::mirror>},
+    {Command::flip,                  with<tile_commands::turn, Command::flip>},
+    {Command::horizontal_seam_tool,  with<tile_commands::shift_to_seam, Seam::horizontal>},
+    {Command::vertical_seam_tool,    with<tile_commands::shift_to_seam, Seam::vertical>},
+    {Command::scroll,                with<tool_commands::select_tool, Tool::scroll>},
+    {Command::free_rotate,           with<tool_commands::select_tool, Tool::rotate>},
+    {Command::next_tile,             with<tileset_commands::leave_to_document, Command::next_tile>},
+    {Command::previous_tile,         with<tileset_commands::leave_to_document, Command::previous_tile>},
+    {Command::next_tile_strip,       with<tileset_commands::leave_to_document, Command::next_tile_strip>},
+    {Command::previous_tile_strip,   with<tileset_commands::leave_to_document, Command::previous_tile_strip>},
+    {Command::change_tile,           nothing},
+    {Command::rewind_strip,          with<tileset_commands::leave_to_document, Command::rewind_strip>},
+    {Command::forward_strip,         with<tileset_commands::leave_to_document, Command::forward_strip>},
+    {Command::copy,                  edit_commands::copy},
+    {Command::use_as_brush,          brush_commands::use_as_brush},
+    {Command::cut,                   edit_commands::cut},
+    {Command::paste,                 edit_commands::paste},
+    {Command::clone,                 edit_commands::clone},
+    {Command::delete_brush,          brush_commands::delete_brush},
+    {Command::move_to_pad,           brush_commands::move_to_pad},
+    {Command::close,                 file_commands::close},
+    {Command::new_tileset,           file_commands::make_new},
+    {Command::load,                  file_commands::load},
+    {Command::import_from_bmp,       nothing},
+    {Command::export_bitmap,         file_commands::export_picture},
+    {Command::save_as,               file_commands::save_as},
+    {Command::save,                  file_commands::save},
+    {Command::quit,                  file_commands::quit},
+    {Command::view_in_real_size,     view_commands::view_in_real_size},
+    {Command::arrange_select,        tileset_commands::arrange_select},
+    {Command::add_new_tile,          with<tileset_commands::leave_to_document, Command::add_new_tile>},
+    {Command::insert_new_tile,       with<tileset_commands::leave_to_document, Command::insert_new_tile>},
+    {Command::delete_tile,           with<tileset_commands::leave_to_document, Command::delete_tile>},
+    {Command::statistics,            tileset_commands::statistics},
+    {Command::view_tile_array,       tileset_commands::view_tile_array},
+    {Command::anti_alias,            with<tile_commands::transform, Command::anti_alias>},
+    {Command::center_tile_on_view,   view_commands::centre},
+    {Command::adjust_hsv,            tile_commands::adjust_hsv},
+    {Command::zoom_tile_up,          with<view_commands::zoom, Zoom_Step::in>},
+    {Command::zoom_tile_down,        with<view_commands::zoom, Zoom_Step::out>},
+    {Command::color_editor,          tool_commands::edit_color},
+    {Command::map_editor,            nobody},
+    {Command::versions,              tile_commands::versions},
+    {Command::options,               file_commands::edit_options},
+    {Command::context_info,          help_commands::context_info},
+    {Command::about,                 help_commands::about},
+    {Command::keyboard_commands,     help_commands::keyboard_commands},
+    {Command::mouse_commands,        help_commands::mouse_commands},
+    {Command::view_undo_history,     edit_commands::view_undo_history},
+    {Command::debug_monitor,         help_commands::debug_monitor},
+    {Command::plot_paste,            edit_commands::plot_paste},
+    {Command::undo,                  edit_commands::undo},
+    {Command::redo,                  edit_commands::redo},
+    {Command::filled_rectangle,      with<tool_commands::select_filled, Tool::rectangle>},
+    {Command::filled_circle,         with<tool_commands::select_filled, Tool::ellipse>},
+    {Command::skip_command,          nothing},
+    {Command::test,                  help_commands::test},
+}};
+// clang-format on
+
+static_assert(rows_follow_their_ids(handlers));
+static_assert(std::ranges::all_of(handlers, [](const Handler_Row& row) { return row.handler != nullptr; }));
+
+} // namespace
+
+Outcome carry_out(Editor_Parts& editor, Command command) {
+    const bool has_tile = editor.documents.current().tileset().has_tiles();
+    if (row_of(command).has(Command_Trait::needs_tile) && !has_tile) {
+        dialogs->message("Note", "This set has no tile. Tileset, Add new tile makes one.");
+        return Outcome::refused;
+    }
+    return handlers.at(static_cast<std::size_t>(command)).handler(editor);
+}
+
+} // namespace quadrelle

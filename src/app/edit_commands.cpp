@@ -1,0 +1,82 @@
+#include "app/edit_commands.h"
+
+#include "app/editor_parts.h"
+#include "panes/tool_colors.h"
+#include "ui/dialogs.h"
+#include "ui/options.h"
+#include "views/undo_list.h"
+
+namespace quadrelle::edit_commands {
+
+namespace {
+
+// False after the user was told that such a picture cannot be taken.
+bool take_from_other_program(Selection_Desk& desk) {
+    const Picture_Fault fault = desk.take_clipboard();
+    if (fault != Picture_Fault::none) {
+        dialogs->message("Note", fault == Picture_Fault::too_large
+                                     ? "The picture on the clipboard is too large."
+                                     : "The picture on the clipboard can't be read.");
+    }
+    return fault == Picture_Fault::none;
+}
+
+} // namespace
+
+Outcome undo(Editor_Parts& editor) {
+    return editor.recorder.undo() ? Outcome::done : Outcome::refused;
+}
+
+Outcome redo(Editor_Parts& editor) {
+    return editor.recorder.redo() ? Outcome::done : Outcome::refused;
+}
+
+Outcome view_undo_history(Editor_Parts& editor) {
+    show_undo_list(editor.documents.current().history());
+    return Outcome::done;
+}
+
+Outcome copy(Editor_Parts& editor) {
+    return editor.desk.copy();
+}
+
+Outcome cut(Editor_Parts& editor) {
+    if (!editor.desk.has_something()) {
+        dialogs->message("Note", "Nothing selected to cut.");
+        return Outcome::refused;
+    }
+    return editor.desk.cut();
+}
+
+Outcome paste(Editor_Parts& editor) {
+    if (editor.canvas.tile() == nullptr || !take_from_other_program(editor.desk)) {
+        return Outcome::refused;
+    }
+    return editor.desk.paste();
+}
+
+Outcome clone(Editor_Parts& editor) {
+    return editor.desk.clone(static_cast<Clone_Style>(options->value(Option::clone_style)));
+}
+
+Outcome plot_paste(Editor_Parts& editor) {
+    return editor.desk.plot();
+}
+
+Outcome deselect(Editor_Parts& editor) {
+    return editor.desk.deselect();
+}
+
+Outcome invert_selection(Editor_Parts& editor) {
+    return editor.desk.invert();
+}
+
+Outcome fill(Editor_Parts& editor) {
+    return editor.desk.fill(tool_colors->color(Mouse_Button::left));
+}
+
+Outcome clear(Editor_Parts& editor) {
+    return editor.desk.clear();
+}
+
+} // namespace quadrelle::edit_commands

@@ -1,0 +1,39 @@
+#include "app/editor_parts.h"
+
+#include "commands/command_table.h"
+#include "ui/options.h"
+
+namespace quadrelle {
+
+Editor_Parts::Editor_Parts(const Redraw& redraw_window)
+    : redraw(redraw_window), canvas(options->value(Option::editor_pixel_size)),
+      documents([this] { show_current_tile(); }), recorder(documents, canvas), desk(canvas, recorder),
+      panes(canvas, documents, desk.copies(), redraw_window) {}
+
+void Editor_Parts::show_current_tile() {
+    Tileset& tileset = documents.current().tileset();
+    canvas.set_tile(tileset.current_tile());
+    panes.show_in_preview(tileset.current_tile());
+    // Without a tile there is nothing to centre yet.
+    if (tileset.has_tiles() && tileset.tile_size() != shown_tile_size) {
+        shown_tile_size = tileset.tile_size();
+        canvas.centre();
+        panes.size_preview();
+    }
+}
+
+void Editor_Parts::follow_up(Command done) {
+    const Command_Row& row = row_of(done);
+    if (row.has(Command_Trait::leaves_selection) && options->value(Option::clear_selection) == 1) {
+        canvas.work_area().deselect();
+    }
+    if (row.category == Command_Category::structure || row.category == Command_Category::tile_switch) {
+        show_current_tile();
+        documents.current().strip().show_current();
+    }
+    if (row.category == Command_Category::structure) {
+        documents.mark_changed();
+    }
+}
+
+} // namespace quadrelle

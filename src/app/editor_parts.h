@@ -1,0 +1,39 @@
+#pragma once
+
+// What the editor consists of, and what commands, keys and the mouse work on.
+
+#include "app/documents.h"
+#include "app/recorder.h"
+#include "app/selection_desk.h"
+#include "app/window_panes.h"
+#include "base/input.h"
+#include "canvas/canvas_view.h"
+
+namespace quadrelle {
+
+constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
+
+struct Editor_Parts {
+    explicit Editor_Parts(const Redraw& redraw_window);
+    // The parts refer to each other.
+    Editor_Parts(const Editor_Parts&) = delete;
+    Editor_Parts& operator=(const Editor_Parts&) = delete;
+
+    // After another tile, or a set of another size, came into view.
+    void show_current_tile();
+    // What follows from a command that was carried out.
+    void follow_up(Command done);
+
+    Redraw redraw;
+    Pointer_State pointer = pointer_nowhere;
+    bool is_control_held = false;
+    bool is_quit_requested = false;
+    Size shown_tile_size;
+    Canvas_View canvas;
+    Documents documents;
+    Recorder recorder;
+    Selection_Desk desk;
+    Window_Panes panes;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,80 @@
+#include "app/file_commands.h"
+
+#include "app/document_export.h"
+#include "app/editor_parts.h"
+#include "ui/options.h"
+#include "views/new_tileset_dialog.h"
+
+namespace quadrelle::file_commands {
+
+namespace {
+
+// Saving is not a command of the whole set, but writes its tiles.
+Outcome save_document(Editor_Parts& editor, Save_As save_as) {
+    editor.canvas.undo_seam_shifts();
+    editor.desk.settle_before_leaving();
+    return editor.documents.save_document(save_as) ? Outcome::done : Outcome::refused;
+}
+
+} // namespace
+
+Outcome make_new(Editor_Parts& editor) {
+    const auto choice = new_tileset_dialog->run();
+    if (!choice) {
+        return Outcome::refused;
+    }
+    if (choice->keep_and_resize) {
+        editor.documents.resize_current(choice->size);
+        editor.documents.mark_changed();
+    } else if (editor.documents.new_document(choice->size)) {
+        // What was selected in another set means nothing here.
+        editor.canvas.work_area().deselect();
+    } else {
+        return Outcome::refused;
+    }
+    editor.panes.size_preview();
+    return Outcome::done;
+}
+
+Outcome load(Editor_Parts& editor) {
+    if (!editor.documents.load_document()) {
+        return Outcome::refused;
+    }
+    editor.recorder.record(Command::change_tile);
+    return Outcome::done;
+}
+
+Outcome save(Editor_Parts& editor) {
+    return save_document(editor, Save_As::no);
+}
+
+Outcome save_as(Editor_Parts& editor) {
+    return save_document(editor, Save_As::yes);
+}
+
+Outcome export_picture(Editor_Parts& editor) {
+    return export_bitmap(editor.documents.current()) ? Outcome::done : Outcome::refused;
+}
+
+Outcome close(Editor_Parts& editor) {
+    if (!editor.documents.close_document()) {
+        return Outcome::refused;
+    }
+    editor.canvas.work_area().deselect();
+    editor.panes.size_preview();
+    return Outcome::done;
+}
+
+Outcome edit_options(Editor_Parts& editor) {
+    if (options->edit()) {
+        editor.panes.size_preview();
+    }
+    return Outcome::done;
+}
+
+Outcome quit(Editor_Parts& editor) {
+    editor.is_quit_requested = new_tileset_dialog->confirm_quit(editor.documents.has_unsaved());
+    return Outcome::done;
+}
+
+} // namespace quadrelle::file_commands

@@ -1,0 +1,51 @@
+#include "app/help_commands.h"
+
+#include "app/editor_parts.h"
+#include "panes/toolbox.h"
+#include "screen/screen.h"
+#include "ui/debug_monitor.h"
+#include "ui/dialogs.h"
+#include "views/about.h"
+#include "views/help_lists.h"
+
+#include <variant>
+
+namespace quadrelle::help_commands {
+
+Outcome context_info(Editor_Parts& editor) {
+    const Pointed thing = editor.panes.pointed(editor.pointer.point());
+    const auto* const place = std::get_if<Place>(&thing);
+    const auto* const other = std::get_if<Command>(&thing);
+    const Hint help =
+        place != nullptr ? help_of(*place) : help_of(other != nullptr ? *other : toolbox->current_command());
+    dialogs->message(help.title, help.text);
+    return Outcome::done;
+}
+
+Outcome keyboard_commands(Editor_Parts& /*editor*/) {
+    make_keyboard_dialog().run();
+    return Outcome::done;
+}
+
+Outcome mouse_commands(Editor_Parts& /*editor*/) {
+    make_mouse_dialog().run();
+    return Outcome::done;
+}
+
+Outcome about(Editor_Parts& /*editor*/) {
+    show_about();
+    return Outcome::done;
+}
+
+Outcome debug_monitor(Editor_Parts& /*editor*/) {
+    quadrelle::debug_monitor->show();
+    return Outcome::done;
+}
+
+// What a developer wants to see first when something looks wrong on another machine.
+Outcome test(Editor_Parts& editor) {
+    quadrelle::debug_monitor->write("Renderer: " + screen->renderer_name());
+    return debug_monitor(editor);
+}
+
+} // namespace quadrelle::help_commands

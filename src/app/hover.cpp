@@ -1,0 +1,44 @@
+#include "app/hover.h"
+
+#include "canvas/canvas_view.h"
+#include "panes/toolbox.h"
+#include "screen/cursor.h"
+#include "ui/options.h"
+
+#include <optional>
+
+namespace quadrelle {
+
+namespace {
+
+bool is_over_tile(const Canvas_View& canvas, Point point) {
+    return canvas_viewport.contains(point) && canvas.tile() != nullptr;
+}
+
+} // namespace
+
+void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
+    const bool is_over = is_over_tile(canvas, pointer.point());
+    canvas.set_hover(is_over ? std::optional(Hover{pointer.point()}) : std::nullopt);
+    const bool is_replaced = is_over && options->value(Option::hide_or_show_cursor) > 0 &&
+                             (toolbox->shows_brush_outline() || toolbox->shows_brush_preview());
+    set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);
+}
+
+void hide_hover(Canvas_View& canvas) {
+    canvas.set_hover(std::nullopt);
+    set_cursor(Cursor::shown);
+}
+
+void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer) {
+    if (!is_over_tile(canvas, pointer.point())) {
+        return;
+    }
+    const Tile_Point pixel = canvas.tile_point(pointer.point());
+    toolbox->options().set_location({pixel.x, pixel.y});
+    if (!canvas.tile()->is_outside(pixel.x, pixel.y)) {
+        toolbox->options().set_dropper_color(canvas.tile()->get_pixel(pixel.x, pixel.y));
+    }
+}
+
+} // namespace quadrelle

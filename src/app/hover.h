@@ -1,0 +1,20 @@
+#pragma once
+
+// What follows the pointer while no button is held: the brush and the cursor over the canvas, and the figures
+// of the pixel under it.
+
+#include "base/input.h"
+
+namespace quadrelle {
+
+class Canvas_View;
+
+// The brush shows at the pointer, and the cursor where the brush does not.
+void show_hover(Canvas_View& canvas, const Pointer_State& pointer);
+// While a command runs, which may show a dialog over the canvas.
+void hide_hover(Canvas_View& canvas);
+
+// The toolbox says what is there.
+void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer);
+
+} // namespace quadrelle

@@ -1,0 +1,55 @@
+#include "app/mouse_press.h"
+
+#include "app/editor_parts.h"
+#include "app/tool_commands.h"
+#include "canvas/stroke_loop.h"
+#include "panes/toolbox.h"
+
+namespace quadrelle {
+
+namespace {
+
+bool picks_and_returns() {
+    return toolbox->current_tool() == Tool::dropper && toolbox->value(Tool_Option::dropper_return) == 1;
+}
+
+void draw_on_canvas(Editor_Parts& editor) {
+    const bool returns = picks_and_returns();
+    const Tile_Point pressed = editor.canvas.tile_point(editor.pointer.point());
+    Stroke_Outcome outcome = Stroke_Outcome::nothing_changed;
+    editor.recorder.step([&] {
+        outcome = apply_tool(editor.canvas, toolbox->canvas_action(), editor.pointer,
+                             [&editor] { editor.redraw(Present::yes); });
+        const Command tool = row_of(toolbox->current_tool()).command;
+        if (editor.desk.float_wand_area(pressed)) {
+            return Command::paste;
+        }
+        return outcome == Stroke_Outcome::something_changed ? tool : Command::none;
+    });
+    if (returns && outcome == Stroke_Outcome::color_picked) {
+        tool_commands::select_tool(editor, tool_of(toolbox->previous_command()));
+    }
+}
+
+} // namespace
+
+Command press_mouse(Editor_Parts& editor) {
+    const Mouse_Button button = editor.pointer.button;
+    if (editor.is_control_held && button == Mouse_Button::right) {
+        editor.canvas.pan([&editor] { editor.redraw(Present::yes); });
+        editor.is_control_held = false;
+        return Command::none;
+    }
+    if (button == Mouse_Button::none) {
+        return Command::none;
+    }
+    if (!canvas_viewport.contains(editor.pointer.point())) {
+        return editor.panes.click(editor.pointer);
+    }
+    if (editor.canvas.tile() != nullptr) {
+        draw_on_canvas(editor);
+    }
+    return Command::none;
+}
+
+} // namespace quadrelle

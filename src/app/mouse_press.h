@@ -1,0 +1,15 @@
+#pragma once
+
+// What a press of a mouse button does: it pans, draws on the canvas, or goes to the pane that it hits.
+
+#include "commands/command.h"
+
+namespace quadrelle {
+
+struct Editor_Parts;
+
+// Of the button and at the place that `editor.pointer` holds. The command that is still to be carried out, or
+// none.
+[[nodiscard]] Command press_mouse(Editor_Parts& editor);
+
+} // namespace quadrelle

@@ -1,0 +1,104 @@
+#include "app/recorder.h"
+
+#include "app/documents.h"
+#include "canvas/canvas_view.h"
+#include "commands/command_table.h"
+#include "panes/toolbox.h"
+
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+// A tile from another one, or none, is where the next state comes from.
+bool is_edit(Command kind) {
+    return row_of(kind).category == Command_Category::pixels ||
+           row_of(kind).category == Command_Category::selection;
+}
+
+} // namespace
+
+void Recorder::step(const Edit& edit, Merge merge) {
+    std::optional<Undo_Entry> floor = missing_floor();
+    const Command kind = edit();
+    if (kind == Command::none) {
+        return;
+    }
+    Undo_History& history = documents_.current().history();
+    if (floor && is_edit(kind)) {
+        history.add(std::move(*floor));
+    } else if (!floor && merge == Merge::with_last && stands_on_merged_step()) {
+        history.give_up_current();
+    }
+    record(kind);
+    documents_.mark_changed();
+    if (merge == Merge::with_last && history.current() != nullptr) {
+        merged_ = history.current()->work.paste;
+    }
+}
+
+void Recorder::record(Command kind) {
+    Tileset_Document& document = documents_.current();
+    if (document.tileset().has_tiles()) {
+        canvas_.with_tile_in_place([&] { document.history().add(entry_of(kind)); });
+    }
+}
+
+bool Recorder::undo() {
+    return restore(documents_.current().history().undo());
+}
+
+bool Recorder::redo() {
+    return restore(documents_.current().history().redo());
+}
+
+// The current state, when the history stands on another tile, on nothing, or on another work area: adding
+// tiles, for example, records none of them, and what floats may come from another document.
+std::optional<Undo_Entry> Recorder::missing_floor() {
+    Tileset_Document& document = documents_.current();
+    std::optional<Undo_Entry> floor;
+    if (!document.tileset().has_tiles()) {
+        return floor;
+    }
+    canvas_.with_tile_in_place([&] {
+        const Undo_Entry* const entry = document.history().current();
+        const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
+                              canvas_.work_area() == entry->work;
+        if (!is_known) {
+            floor = entry_of(Command::change_tile);
+        }
+    });
+    return floor;
+}
+
+Undo_Entry Recorder::entry_of(Command kind) const {
+    return undo_entry_of(documents_.current().tileset(), kind, toolbox->current_tool(),
+                         canvas_.work_area().state());
+}
+
+bool Recorder::stands_on_merged_step() {
+    const Undo_Entry* const last = documents_.current().history().current();
+    return last != nullptr && last->work.paste && last->work.paste == merged_.lock();
+}
+
+bool Recorder::restore(const Undo_Entry* entry) {
+    if (entry == nullptr) {
+        return false;
+    }
+    Tileset& tileset = documents_.current().tileset();
+    if (entry->tile_index != tileset.current_index()) {
+        documents_.show_tile(entry->tile_index);
+    }
+    canvas_.with_tile_in_place([&] {
+        entry->snapshot->tile.copy_to(*tileset.current_tile());
+        canvas_.work_area().restore(entry->work);
+    });
+    if (entry->tool != toolbox->current_tool()) {
+        toolbox->select(row_of(entry->tool).command);
+    }
+    documents_.mark_changed();
+    return true;
+}
+
+} // namespace quadrelle

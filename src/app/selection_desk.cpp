@@ -1,0 +1,230 @@
+#include "app/selection_desk.h"
+
+#include "app/recorder.h"
+#include "canvas/canvas_view.h"
+#include "panes/toolbox.h"
+#include "selection/selection_transforms.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace quadrelle {
+
+namespace {
+
+// In the middle of the tile, but not beyond its top left corner, so that a large one shows from there on.
+Floating_Paste placed(const Tile& picture, Size tile) {
+    Floating_Paste paste = cloned({picture, {}}, Clone_Style::centred, tile);
+    paste.position = {std::max(paste.position.x, 0), std::max(paste.position.y, 0)};
+    return paste;
+}
+
+} // namespace
+
+bool Selection_Desk::has_something() const {
+    return canvas_.shows_paste() || canvas_.work_area().has_selection();
+}
+
+Outcome Selection_Desk::change(const std::function<void()>& work) {
+    Tile* const tile = canvas_.tile();
+    if (tile == nullptr) {
+        return Outcome::refused;
+    }
+    const Work_State before = canvas_.work_area().state();
+    const std::vector<Color> pixels(tile->pixels().begin(), tile->pixels().end());
+    work();
+    tile->update_texture();
+    const bool is_same = canvas_.work_area() == before && std::ranges::equal(pixels, tile->pixels());
+    return is_same ? Outcome::refused : Outcome::done;
+}
+
+Outcome Selection_Desk::deselect() {
+    return change([this] {
+        if (canvas_.work_area().has_selection()) {
+            canvas_.work_area().deselect();
+            return;
+        }
+        settle();
+        canvas_.work_area().drop_paste();
+    });
+}
+
+Outcome Selection_Desk::invert() {
+    return change([this] {
+        settle();
+        canvas_.work_area().invert_selection();
+    });
+}
+
+Outcome Selection_Desk::fill(Color color) {
+    return change([&] { fill_selected(color); });
+}
+
+Outcome Selection_Desk::clear() {
+    return change([this] { clear_selected(); });
+}
+
+void Selection_Desk::fill_selected(Color color) {
+    Drawing_Target target = canvas_.work_area().target(*canvas_.tile());
+    for (int y = 0; y < target.size().height; ++y) {
+        for (int x = 0; x < target.size().width; ++x) {
+            target.plot({x, y}, color);
+        }
+    }
+}
+
+void Selection_Desk::clear_selected() {
+    if (canvas_.shows_paste()) {
+        canvas_.work_area().drop_paste();
+    } else {
+        fill_selected(Color(0, 0, 0, 0));
+    }
+}
+
+std::optional<Floating_Paste> Selection_Desk::what_to_copy() const {
+    const Work_Area& work = canvas_.work_area();
+    if (canvas_.tile() == nullptr || canvas_.tile()->pixel_count() == 0) {
+        return std::nullopt;
+    }
+    if (canvas_.shows_paste()) {
+        return *work.paste();
+    }
+    return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
+                                : Floating_Paste{*canvas_.tile(), {0, 0}};
+}
+
+Outcome Selection_Desk::copy() {
+    const std::optional<Floating_Paste> copy = what_to_copy();
+    if (!copy) {
+        return Outcome::refused;
+    }
+    copies_.add(*copy);
+    clipboard_.offer(copy->picture);
+    return Outcome::done;
+}
+
+Outcome Selection_Desk::cut() {
+    const Outcome outcome = copy();
+    if (outcome == Outcome::done) {
+        clear_selected();
+        canvas_.tile()->update_texture();
+    }
+    return outcome;
+}
+
+Picture_Fault Selection_Desk::take_clipboard() {
+    const Clipboard_Picture taken = clipboard_.take();
+    if (taken.picture) {
+        copies_.add(placed(*taken.picture, canvas_.tile()->size()));
+    }
+    return taken.fault;
+}
+
+Outcome Selection_Desk::paste() {
+    const Floating_Paste* const copy = copies_.current();
+    if (copy == nullptr) {
+        return Outcome::refused;
+    }
+    float_picture(in_view(*copy, canvas_.tile()->size()));
+    return Outcome::done;
+}
+
+Outcome Selection_Desk::clone(Clone_Style style) {
+    if (has_something() && copy() != Outcome::done) {
+        return Outcome::refused;
+    }
+    const Floating_Paste* const copy = copies_.current();
+    if (copy == nullptr || canvas_.tile() == nullptr) {
+        return Outcome::refused;
+    }
+    float_picture(cloned(*copy, style, canvas_.tile()->size()));
+    return Outcome::done;
+}
+
+void Selection_Desk::float_picture(const Floating_Paste& picture) {
+    canvas_.work_area().deselect();
+    settle();
+    canvas_.work_area().float_paste(picture);
+    if (toolbox->current_tool() != Tool::selection) {
+        toolbox->select(Command::work_selection);
+    }
+}
+
+bool Selection_Desk::float_wand_area(Tile_Point pressed) {
+    const auto mode = static_cast<Wand_Mode>(toolbox->value(Tool_Option::wand_mode));
+    if (toolbox->current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
+        !canvas_.work_area().selection().contains(pressed)) {
+        return false;
+    }
+    static_cast<void>(mode == Wand_Mode::quick_cut ? cut() : copy());
+    float_picture(*copies_.current());
+    return true;
+}
+
+bool Selection_Desk::nudge(int dx, int dy) {
+    if (!canvas_.shows_paste()) {
+        return false;
+    }
+    const auto move = [&] {
+        Work_Area& work = canvas_.work_area();
+        const Tile_Point position = work.paste()->position;
+        work.move_paste_to({position.x + dx, position.y + dy});
+        return Command::work_selection;
+    };
+    recorder_.step(move, Merge::with_last);
+    return true;
+}
+
+Outcome Selection_Desk::transform(Command command) {
+    Work_Area& work = canvas_.work_area();
+    if (canvas_.tile() == nullptr) {
+        return Outcome::unknown;
+    }
+    if (canvas_.shows_paste()) {
+        return outcome_of(work.transform_paste(command));
+    }
+    return work.has_selection()
+               ? outcome_of(transform_selected(*canvas_.tile(), work.mutable_selection(), command))
+               : Outcome::unknown;
+}
+
+// It floats on unless the mode of the tool lets it go.
+void Selection_Desk::plot_paste() {
+    Work_Area& work = canvas_.work_area();
+    if (!work.paste() || canvas_.tile() == nullptr) {
+        return;
+    }
+    Drawing_Target target = work.target(*canvas_.tile());
+    work.paste()->plot(target);
+    canvas_.tile()->update_texture();
+    if (toolbox->selection_mode() == Selection_Mode::standard) {
+        work.drop_paste();
+    }
+}
+
+Outcome Selection_Desk::plot() {
+    return change([this] { plot_paste(); });
+}
+
+// Where no selection takes its place, and its pixels are not in the tile already: one that persists was
+// plotted when its tool was left, and what was drawn over it since is to stay.
+bool Selection_Desk::is_to_settle() const {
+    const Work_Area& work = canvas_.work_area();
+    const bool was_left =
+        toolbox->selection_mode() == Selection_Mode::persistent && !toolbox->shows_floating_paste();
+    return work.paste() && !work.has_selection() && !was_left;
+}
+
+void Selection_Desk::settle() {
+    if (is_to_settle()) {
+        plot_paste();
+    }
+}
+
+void Selection_Desk::settle_before_leaving() {
+    if (toolbox->selection_mode() != Selection_Mode::fixed && is_to_settle()) {
+        recorder_.step([this] { return plot() == Outcome::done ? Command::plot_paste : Command::none; });
+    }
+}
+
+} // namespace quadrelle

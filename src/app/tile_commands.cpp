@@ -1,0 +1,106 @@
+#include "app/tile_commands.h"
+
+#include "app/editor_parts.h"
+#include "app/tileset_commands.h"
+#include "tools/hsv_adjustment.h"
+#include "ui/dialogs.h"
+#include "views/adjust_hsv.h"
+#include "views/versions_dialog.h"
+
+#include <optional>
+
+namespace quadrelle::tile_commands {
+
+namespace {
+
+Outcome adjust_current_tile(Editor_Parts& editor, const HSV_Change& change) {
+    Outcome outcome = Outcome::refused;
+    editor.recorder.step([&] {
+        Drawing_Target target = editor.canvas.work_area().target(*editor.canvas.tile());
+        if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::nothing_changed) {
+            return Command::none;
+        }
+        target.tile().update_texture();
+        outcome = Outcome::done;
+        return Command::adjust_hsv;
+    });
+    return outcome;
+}
+
+// One step of the history holds one tile, so that this cannot be one: the history starts anew.
+Outcome adjust_all_tiles(Editor_Parts& editor, const HSV_Change& change) {
+    Tileset_Document& document = editor.documents.current();
+    Outcome outcome = Outcome::refused;
+    for (int i = 0; i < document.tileset().count(); ++i) {
+        Drawing_Target target(document.tileset().tile_at(i));
+        if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::tile_changed) {
+            target.tile().update_texture();
+            outcome = Outcome::done;
+        }
+    }
+    if (outcome == Outcome::done) {
+        editor.canvas.with_tile_in_place([&] { document.history().reset(document.tileset()); });
+        editor.documents.mark_changed();
+    }
+    return outcome;
+}
+
+} // namespace
+
+Outcome transform(Editor_Parts& editor, Command command) {
+    const Outcome outcome = editor.desk.transform(command);
+    return outcome == Outcome::unknown ? tileset_commands::leave_to_document(editor, command) : outcome;
+}
+
+// Turned about the middle of the shifted tile, it could not be shifted back; what is selected or floats can.
+Outcome turn(Editor_Parts& editor, Command command) {
+    if (editor.desk.has_something()) {
+        return transform(editor, command);
+    }
+    Outcome outcome = Outcome::refused;
+    editor.canvas.with_tile_in_place([&] { outcome = transform(editor, command); });
+    return outcome;
+}
+
+Outcome adjust_hsv(Editor_Parts& editor) {
+    if (editor.canvas.tile() == nullptr) {
+        dialogs->message("Note", "There is no tile to adjust.");
+        return Outcome::refused;
+    }
+    const bool has_others = editor.documents.current().tileset().count() > 1;
+    const std::optional<HSV_Adjustment> wanted =
+        ask_hsv_adjustment(editor.canvas.work_area().target(*editor.canvas.tile()),
+                           has_others ? All_Tiles_Choice::shown : All_Tiles_Choice::hidden);
+    if (!wanted) {
+        return Outcome::refused;
+    }
+    return wanted->tiles == Adjusted_Tiles::all ? adjust_all_tiles(editor, wanted->change)
+                                                : adjust_current_tile(editor, wanted->change);
+}
+
+Outcome shift_to_seam(Editor_Parts& editor, Seam seam) {
+    return editor.canvas.toggle_seam_shift(seam) ? Outcome::done : Outcome::refused;
+}
+
+Outcome save_history_buffer(Editor_Parts& editor) {
+    editor.canvas.save_history();
+    return Outcome::done;
+}
+
+// Without pixels there is nothing to keep. What is taken back is a paste like others from there on.
+Outcome versions(Editor_Parts& editor) {
+    Tileset_Document& document = editor.documents.current();
+    const Tile* const tile = document.tileset().current_tile();
+    if (tile == nullptr || tile->pixel_count() == 0) {
+        return Outcome::refused;
+    }
+    if (const std::optional<int> slot = show_versions(document.versions(), *tile)) {
+        editor.recorder.step([&] {
+            editor.desk.float_picture({document.versions().copy(*slot, tile->size()), {0, 0}});
+            return Command::paste;
+        });
+    }
+    return Outcome::done;
+}
+
+} // namespace quadrelle::tile_commands

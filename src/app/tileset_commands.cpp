@@ -1,0 +1,64 @@
+#include "app/tileset_commands.h"
+
+#include "app/editor_parts.h"
+#include "ui/dialogs.h"
+#include "views/arrange_select.h"
+#include "views/document_statistics.h"
+#include "views/tile_array.h"
+
+#include <optional>
+
+namespace quadrelle::tileset_commands {
+
+Outcome leave_to_document(Editor_Parts& editor, Command command) {
+    return outcome_of(editor.documents.current().handle_command(command));
+}
+
+Outcome arrange_select(Editor_Parts& editor) {
+    Tileset_Document& document = editor.documents.current();
+    const int before = document.tileset().current_index();
+    const bool has_swapped = Arrangement(document.tileset()).run();
+    editor.show_current_tile();
+    if (document.tileset().current_index() != before) {
+        document.strip().show_current();
+    }
+    if (has_swapped) {
+        // Another picture came into view, though maybe in the same tile.
+        editor.canvas.save_history();
+        document.history().reset(document.tileset());
+        editor.documents.mark_changed();
+    }
+    return Outcome::done;
+}
+
+// A click is the command "Change tile". After a mere look the seam tools stand as before.
+Outcome view_tile_array(Editor_Parts& editor) {
+    Tileset& tileset = editor.documents.current().tileset();
+    Canvas_View& canvas = editor.canvas;
+    const bool has_horizontal_shift = canvas.horizontal_seam_shift() != no_seam_shift;
+    const bool has_vertical_shift = canvas.vertical_seam_shift() != no_seam_shift;
+    canvas.undo_seam_shifts();
+    const std::optional<int> clicked = show_tile_array(tileset);
+    if (clicked && *clicked != tileset.current_index()) {
+        editor.recorder.step([&] {
+            tileset.select(*clicked);
+            editor.follow_up(Command::change_tile);
+            return Command::change_tile;
+        });
+        return Outcome::done;
+    }
+    if (has_horizontal_shift) {
+        canvas.toggle_seam_shift(Seam::horizontal);
+    }
+    if (has_vertical_shift) {
+        canvas.toggle_seam_shift(Seam::vertical);
+    }
+    return Outcome::done;
+}
+
+Outcome statistics(Editor_Parts& editor) {
+    dialogs->message("Statistics", statistics_text(editor.documents.current()));
+    return Outcome::done;
+}
+
+} // namespace quadrelle::tileset_commands

@@ -1,0 +1,66 @@
+#include "app/tool_commands.h"
+
+#include "app/editor_parts.h"
+#include "app/tile_commands.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "views/color_editor.h"
+
+namespace quadrelle::tool_commands {
+
+namespace {
+
+Tool_Option type_of(Tool shape) {
+    return shape == Tool::ellipse ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
+}
+
+} // namespace
+
+Outcome select_tool(Editor_Parts& editor, Tool tool) {
+    if (tool == toolbox->current_tool()) {
+        return Outcome::done;
+    }
+    if (tool != Tool::selection) {
+        editor.desk.settle_before_leaving();
+    }
+    toolbox->select(row_of(tool).command);
+    return Outcome::done;
+}
+
+Outcome select_plain(Editor_Parts& editor, Tool shape) {
+    const Tool_Option type = type_of(shape);
+    if (toolbox->value(type) == static_cast<int>(Shape_Type::filled)) {
+        toolbox->options().set_value(type, static_cast<int>(Shape_Type::outline));
+    }
+    return select_tool(editor, shape);
+}
+
+Outcome select_filled(Editor_Parts& editor, Tool shape) {
+    toolbox->options().set_value(type_of(shape), static_cast<int>(Shape_Type::filled));
+    return select_tool(editor, shape);
+}
+
+Outcome swap_colors(Editor_Parts& /*editor*/) {
+    tool_colors->swap();
+    return Outcome::done;
+}
+
+Outcome step_in_palette(Editor_Parts& editor, Point step) {
+    if (row_of(toolbox->current_tool()).uses_tool_colors) {
+        tool_colors->set_color(Mouse_Button::left, editor.panes.palette().move_selection(step.x, step.y));
+    }
+    return Outcome::done;
+}
+
+Outcome edit_color(Editor_Parts& editor) {
+    const Color_Choice choice = quadrelle::edit_color(tool_colors->color(Mouse_Button::left));
+    if (choice.color) {
+        tool_colors->set_color(Mouse_Button::left, *choice.color);
+    }
+    if (choice.request == Color_Request::adjust_tile) {
+        tile_commands::adjust_hsv(editor);
+    }
+    return Outcome::done;
+}
+
+} // namespace quadrelle::tool_commands

@@ -1,0 +1,27 @@
+#pragma once
+
+// The commands that select a tool or its colours.
+
+#include "base/geometry.h"
+#include "commands/outcome.h"
+#include "tools/tool_catalogue.h"
+
+namespace quadrelle {
+
+struct Editor_Parts;
+
+namespace tool_commands {
+
+Outcome select_tool(Editor_Parts& editor, Tool tool);
+// Rectangles and ellipses. The plain one leaves the filled type, but not the one with an outline too.
+Outcome select_plain(Editor_Parts& editor, Tool shape);
+Outcome select_filled(Editor_Parts& editor, Tool shape);
+
+Outcome swap_colors(Editor_Parts& editor);
+// Selects another entry of the palette, so many columns and rows away.
+Outcome step_in_palette(Editor_Parts& editor, Point step);
+Outcome edit_color(Editor_Parts& editor);
+
+} // namespace tool_commands
+
+} // namespace quadrelle

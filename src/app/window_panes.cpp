@@ -1,0 +1,230 @@
+#include "app/window_panes.h"
+
+#include "app/documents.h"
+#include "canvas/canvas_view.h"
+#include "panes/tool_colors.h"
+#include "panes/toolbox.h"
+#include "screen/events.h"
+#include "ui/options.h"
+
+#include <array>
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Rectangle preview_area{31, 32, 202, 202};
+constexpr Rectangle magnification_area{31, 259, 202, 26};
+constexpr Point navigation_position{31, 310};
+constexpr Point history_position{31, 368};
+constexpr Point palette_position{31, 427};
+constexpr int icon_bar_top = 32;
+
+constexpr Pointer_State nowhere{-1, -1, Mouse_Button::none};
+
+Point below(const Element& element) {
+    return {element.area.x, element.area.bottom() + element_gap};
+}
+
+// Columns or rows of the preview that fit into its 192 pixels.
+int fitting_repeat(int tile_extent, int repeat) {
+    if (tile_extent <= 0) {
+        return 0;
+    }
+    return tile_extent * repeat > 191 ? 192 / tile_extent : repeat;
+}
+
+} // namespace
+
+Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw)
+    : canvas_(canvas), documents_(documents), copies_(copies), redraw_(std::move(redraw)),
+      preview_(preview_area), magnification_(magnification_area, "Magnification", "x"),
+      palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
+      history_(history_position), navigation_(navigation_position),
+      menu_bar_([this] { redraw_(Present::no); }), icon_bar_(icon_bar_top) {}
+
+void Window_Panes::size_preview() {
+    const Size tile = documents_.current().tileset().tile_size();
+    preview_.set_repeat(fitting_repeat(tile.width, options->value(Option::repeat_x_tiles)),
+                        fitting_repeat(tile.height, options->value(Option::repeat_y_tiles)));
+}
+
+void Window_Panes::draw(const Pointer_State& pointer) {
+    menu_bar_.draw(pointer);
+    icon_bar_.draw([this](Command icon) { return is_lit(icon); });
+    draw_panes();
+    documents_.draw_tabs();
+    toolbox->draw(pointer.point());
+    if (toolbox->is_in_selection_group()) {
+        copy_panes_.place(toolbox->beside_entry());
+        copy_panes_.draw(copies_);
+    }
+    hint_lines_.set_hint(hint_of(pointed(pointer.point())));
+    hint_lines_.draw();
+}
+
+void Window_Panes::draw_panes() {
+    const Tileset_Document& document = documents_.current();
+    preview_.draw();
+    magnification_.set_value(canvas_.pixel_size());
+    magnification_.draw();
+    palette_.draw();
+    selected_color_.draw();
+    history_.draw(document.history());
+    navigation_.draw(document.strip());
+    strip_picture_.draw(document.strip());
+}
+
+// Rectangle and circle have an icon for each of two types.
+bool Window_Panes::is_lit(Command icon) const {
+    const Command current = toolbox->current_command();
+    const bool is_filled = toolbox->shape_type() == Shape_Type::filled;
+    switch (icon) {
+    case Command::rectangle:
+    case Command::circle: return current == icon && !is_filled;
+    case Command::filled_rectangle: return current == Command::rectangle && is_filled;
+    case Command::filled_circle: return current == Command::circle && is_filled;
+    case Command::horizontal_seam_tool: return canvas_.horizontal_seam_shift() >= 0;
+    case Command::vertical_seam_tool: return canvas_.vertical_seam_shift() >= 0;
+    default: return current == icon;
+    }
+}
+
+Pointed Window_Panes::pointed(Point point) const {
+    // An open menu covers what else is there.
+    if (menu_bar_.contains(point)) {
+        const Command row = menu_bar_.command_at(point);
+        return row == Command::none ? Pointed(Place::menus) : Pointed(row);
+    }
+    if (const std::optional<Pointed> on_canvas = pointed_on_canvas(point)) {
+        return *on_canvas;
+    }
+    if (const Command command = command_at(point); command != Command::none) {
+        return command;
+    }
+    if (const std::optional<Place> place = place_at(point)) {
+        return *place;
+    }
+    return toolbox->current_command();
+}
+
+std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
+    if (!canvas_viewport.contains(point)) {
+        return std::nullopt;
+    }
+    if (canvas_.tile() == nullptr) {
+        return Place::canvas_without_tile;
+    }
+    const Tile_Point pixel = canvas_.tile_point(point);
+    if (canvas_.tile()->is_outside(pixel.x, pixel.y)) {
+        return std::nullopt;
+    }
+    return Pointed_Pixel{pixel, canvas_.tile()->get_pixel(pixel.x, pixel.y)};
+}
+
+Command Window_Panes::command_at(Point point) const {
+    const Command copying = toolbox->is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
+    for (const Command command :
+         {icon_bar_.command_at(point), toolbox->command_at(point), copying, navigation_.command_at(point)}) {
+        if (command != Command::none) {
+            return command;
+        }
+    }
+    return Command::none;
+}
+
+std::optional<Place> Window_Panes::place_at(Point point) const {
+    if (const std::optional<Place> place = pane_at(point)) {
+        return place;
+    }
+    if (documents_.has_tab_at(point)) {
+        return Place::tabs;
+    }
+    if (Tile_Strip::area.contains(point)) {
+        return Place::strip;
+    }
+    return toolbox->place_at(point);
+}
+
+std::optional<Place> Window_Panes::pane_at(Point point) const {
+    const std::array<std::pair<const Pane*, Place>, 6> panes{{{&preview_, Place::preview},
+                                                              {&magnification_, Place::magnification},
+                                                              {&navigation_, Place::navigation},
+                                                              {&history_, Place::history},
+                                                              {&palette_, Place::palette},
+                                                              {&selected_color_, Place::selected_color}}};
+    for (const auto& [pane, place] : panes) {
+        if (pane->area.contains(point)) {
+            return place;
+        }
+    }
+    if (toolbox->is_in_selection_group() && copy_panes_.current().area.contains(point)) {
+        return Place::copy_buffer;
+    }
+    if (toolbox->is_in_selection_group() && copy_panes_.previous().area.contains(point)) {
+        return Place::previous_copies;
+    }
+    return std::nullopt;
+}
+
+Command Window_Panes::click(Pointer_State& pointer) {
+    if (take_click(pointer)) {
+        return Command::none;
+    }
+    const Command command = click_buttons(pointer);
+    if (command != Command::none) {
+        return command;
+    }
+    const Command chosen = menu_bar_.click(pointer);
+    if (chosen != Command::none) {
+        // Nothing under the closed menu reacts to where it was clicked.
+        pointer = nowhere;
+    }
+    return chosen;
+}
+
+// What a pane does by itself: options, brushes, colours, copies and tabs are chosen.
+bool Window_Panes::take_click(const Pointer_State& pointer) {
+    const Point point = pointer.point();
+    if (toolbox->click(pointer, [this] { redraw_(Present::yes); })) {
+        return true;
+    }
+    if (selected_color_.set_button().contains(point)) {
+        palette_.store(tool_colors->current_color());
+        return true;
+    }
+    if (const std::optional<Color> color = palette_.click(point)) {
+        if (is_shift_held()) {
+            palette_.store(tool_colors->color(pointer.button));
+        } else {
+            tool_colors->set_color(pointer.button, *color);
+        }
+        return true;
+    }
+    if (const std::optional<std::size_t> copy = copy_panes_.copy_at(point);
+        copy && toolbox->is_in_selection_group()) {
+        copies_.choose(*copy);
+        return true;
+    }
+    return documents_.click_tab(point);
+}
+
+// The tools of the list are taken with either button, all else with the left one.
+Command Window_Panes::click_buttons(const Pointer_State& pointer) {
+    const Point point = pointer.point();
+    if (pointer.button != Mouse_Button::left) {
+        return toolbox->command_at(point);
+    }
+    Tileset_Document& document = documents_.current();
+    const int tile = document.strip().tile_at(point);
+    if (tile >= 0 && tile != document.tileset().current_index()) {
+        document.tileset().select(tile);
+        size_preview();
+        return Command::change_tile;
+    }
+    static_cast<void>(navigation_.click(point));
+    return command_at(point);
+}
+
+} // namespace quadrelle

@@ -1,0 +1,79 @@
+#pragma once
+
+// The panes that are always on the window: where they stand, what lies under the pointer, and what a click on
+// them does.
+
+#include "panes/copy_panes.h"
+#include "panes/hint_lines.h"
+#include "panes/history_pane.h"
+#include "panes/icon_bar.h"
+#include "panes/menu_bar.h"
+#include "panes/palette_area.h"
+#include "panes/preview_pane.h"
+#include "panes/tile_navigation_pane.h"
+#include "panes/tile_strip_picture.h"
+#include "ui/number_info.h"
+
+#include <functional>
+#include <optional>
+
+namespace quadrelle {
+
+class Canvas_View;
+class Documents;
+
+enum class Present { no, yes };
+
+// Draws the whole window.
+using Redraw = std::function<void(Present)>;
+
+class Window_Panes {
+public:
+    // Borrows what the panes show.
+    Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw);
+
+    void draw(const Pointer_State& pointer);
+    // The current tool where there is nothing else.
+    [[nodiscard]] Pointed pointed(Point point) const;
+    // What was hit answers, or gives the command that is still to be carried out.
+    [[nodiscard]] Command click(Pointer_State& pointer);
+    // No button of the mouse is held any more.
+    void release() { navigation_.release(); }
+
+    // What the preview repeats: null for nothing, else borrowed until another one comes.
+    void show_in_preview(const Tile* tile) { preview_.set_tile(tile); }
+    // As often as the options say and as there is room.
+    void size_preview();
+
+    [[nodiscard]] Palette_Area& palette() { return palette_; }
+    [[nodiscard]] const Preview_Pane& preview() const { return preview_; }
+    [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
+
+private:
+    void draw_panes();
+    [[nodiscard]] bool is_lit(Command icon) const;
+    [[nodiscard]] std::optional<Pointed> pointed_on_canvas(Point point) const;
+    [[nodiscard]] Command command_at(Point point) const;
+    [[nodiscard]] std::optional<Place> place_at(Point point) const;
+    [[nodiscard]] std::optional<Place> pane_at(Point point) const;
+    [[nodiscard]] bool take_click(const Pointer_State& pointer);
+    [[nodiscard]] Command click_buttons(const Pointer_State& pointer);
+
+    Canvas_View& canvas_;
+    Documents& documents_;
+    Copy_Buffer& copies_;
+    Redraw redraw_;
+    Copy_Panes copy_panes_;
+    Preview_Pane preview_;
+    Number_Info magnification_; // shown as "21x"
+    Palette_Area palette_;
+    Selected_Color_Area selected_color_;
+    History_Pane history_;
+    Tile_Navigation_Pane navigation_;
+    Tile_Strip_Picture strip_picture_;
+    Menu_Bar menu_bar_;
+    Icon_Bar icon_bar_;
+    Hint_Lines hint_lines_;
+};
+
+} // namespace quadrelle
