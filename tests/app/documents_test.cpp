@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -80,21 +79,6 @@ TEST_F(Documents_Test, save_asks_for_a_name_once_and_forces_its_extension) {
     EXPECT_EQ(asked_file(), File_Dialog_Kind::save_tileset);
     EXPECT_EQ(stored(second + ".qdl"), stored(path));
     EXPECT_EQ(window_title(), product + second + ".qdl");
-}
-
-TEST_F(Documents_Test, cancelled_or_failed_file_dialogs_change_nothing) {
-    draw_pixel(2, 3);
-    for (const Command command : {Command::save, Command::save_as, Command::load}) {
-        answer_files(File_Answer_State::cancelled);
-        execute(command);
-        EXPECT_NE(asked_file(), std::nullopt);
-        answer_files(File_Answer_State::failed);
-        expect_message("Note", "Unknown error occurred in file dialog.").key(key::escape);
-        execute(command);
-    }
-    EXPECT_EQ(window_title(), product + "untitled0.qdl*");
-    EXPECT_FALSE(document().is_named());
-    EXPECT_EQ(documents().count(), 1);
 }
 
 TEST_F(Documents_Test, failed_save_keeps_the_name_and_the_mark) {
@@ -253,17 +237,6 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     EXPECT_EQ(window_title(), product + "untitled2.qdl");
 }
 
-TEST_F(Documents_Test, close_makes_the_next_document_current_or_else_the_one_before) {
-    documents().new_document({8, 8});
-    documents().new_document({9, 9});
-    ASSERT_TRUE(documents().click_tab(tab_after({"untitled0.qdl"})));
-    execute(Command::close);
-    EXPECT_EQ(name(), "untitled2.qdl");
-    execute(Command::close);
-    EXPECT_EQ(name(), "untitled0.qdl");
-    EXPECT_EQ(document().tileset().tile_size(), (Size{24, 24}));
-}
-
 TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) {
     draw_pixel(1, 1);
     execute(Command::add_new_tile);
@@ -340,53 +313,6 @@ struct Model {
         current = std::min(current, entries.size() - 1);
     }
 };
-
-TEST_F(Documents_Test, random_walk_agrees_with_a_plain_model) {
-    const unsigned seed = std::random_device()();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::minstd_rand random(seed);
-    Model model;
-    for (int i = 0; i < 300; ++i) {
-        switch (random() % 5) {
-        case 0:
-            if (model.entries.size() < 3) {
-                documents().new_document({8, 8});
-                model.add();
-            }
-            break;
-        case 1:
-            if (model.entry().is_modified) {
-                script().key(key::enter);
-            }
-            execute(Command::close);
-            model.close();
-            break;
-        case 2: {
-            const std::size_t chosen = random() % model.entries.size();
-            std::vector<std::string> before;
-            for (std::size_t k = 0; k < chosen; ++k) {
-                before.push_back(model.entries[k].name + (model.entries[k].is_modified ? "*" : ""));
-            }
-            EXPECT_EQ(documents().click_tab(tab_after(before)), chosen != model.current);
-            model.current = chosen;
-            break;
-        }
-        case 3:
-            execute(Command::add_new_tile);
-            ++model.entry().tiles;
-            model.entry().is_modified = true;
-            break;
-        default: {
-            const bool unsaved = std::ranges::any_of(model.entries, &Model::Entry::is_modified);
-            EXPECT_EQ(documents().has_unsaved(), unsaved);
-        }
-        }
-        ASSERT_EQ(documents().count(), static_cast<int>(model.entries.size())) << "step " << i;
-        ASSERT_EQ(window_title(), product + model.entry().name + (model.entry().is_modified ? "*" : ""));
-        ASSERT_EQ(document().tileset().count(), model.entry().tiles);
-        ASSERT_EQ(editor->canvas().tile(), document().tileset().current_tile());
-    }
-}
 
 } // namespace
 } // namespace quadrelle::testing

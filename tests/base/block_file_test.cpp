@@ -30,24 +30,6 @@ TEST(Block_File, reads_blocks_until_one_is_short) {
     EXPECT_FATAL(file.read_block(block), "Unable to load block from  " + path);
 }
 
-TEST(Block_File, writes_blocks_and_can_be_opened_again) {
-    const Temporary_Folder folder;
-    const std::string path = folder.path("blocks");
-    Block_File file(path);
-    EXPECT_FALSE(file.write_block(Bytes{1}));
-    for (int i = 0; i < 2; ++i) {
-        ASSERT_TRUE(file.open_write());
-        EXPECT_TRUE(file.write_block(Bytes{1, 2}));
-        EXPECT_TRUE(file.write_block(Bytes{3}));
-        EXPECT_TRUE(file.close());
-        EXPECT_FALSE(file.is_open());
-    }
-    EXPECT_EQ(stored(path), (Bytes{1, 2, 3}));
-    EXPECT_FALSE(Block_File(folder.path("missing")).open_read());
-    EXPECT_FALSE(Block_File(folder.path("missing/blocks")).open_write());
-    EXPECT_EQ(Block_File(path).remaining(), 0);
-}
-
 TEST(Block_File, whole_files_come_back) {
     const Temporary_Folder folder;
     const std::string path = folder.path("whole");
@@ -58,18 +40,6 @@ TEST(Block_File, whole_files_come_back) {
     EXPECT_EQ(bytes, (Bytes{5, 6}));
     EXPECT_EQ(folder.entry_count(), 1);
     EXPECT_EQ(write_file(folder.path("missing/whole"), bytes), -1);
-}
-
-TEST(Block_File, missing_and_short_files_are_told_apart) {
-    const Temporary_Folder folder;
-    const std::string missing = folder.path("missing");
-    const std::string path = folder.path("short");
-    store(path, {1});
-    Bytes bytes(2);
-    EXPECT_FALSE(read_file(missing, bytes));
-    EXPECT_FATAL(read_file_or_die(missing, bytes), "Unable to load file  " + missing);
-    EXPECT_FATAL(static_cast<void>(read_file(path, bytes)), "Unable to load block from  " + path);
-    EXPECT_FATAL(read_file_or_die(path, bytes), "Unable to load block from  " + path);
 }
 
 } // namespace quadrelle

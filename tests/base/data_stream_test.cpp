@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <limits>
 #include <random>
 #include <string>
@@ -80,25 +79,6 @@ TEST(Data_Stream, a_number_is_the_leading_part_of_its_token) {
     }
 }
 
-TEST(Data_Stream, too_large_integers_become_the_nearest) {
-    Data_Stream record("2147483648,-2147483649,999999999999999,-99999999999999");
-    for (const std::int32_t expected : {largest, smallest, largest, smallest}) {
-        EXPECT_EQ(record.read_int(), expected);
-    }
-}
-
-TEST(Data_Stream, a_number_goes_on_in_the_next_read_after_16_bytes) {
-    Data_Stream longer("00000000000000012345,6");
-    EXPECT_EQ(longer.read_int(), 1);
-    EXPECT_EQ(longer.read_int(), 2345);
-    EXPECT_EQ(longer.read_int(), 6);
-    // The separator right behind 16 bytes is left over as an empty token.
-    Data_Stream exact("0000000000000012,6");
-    EXPECT_EQ(exact.read_int(), 12);
-    EXPECT_EQ(exact.read_int(), 0);
-    EXPECT_EQ(exact.read_int(), 6);
-}
-
 TEST(Data_Stream, integers_agree_with_the_c_library_on_any_token) {
     std::mt19937 random(7);
     constexpr std::string_view letters = "0123456789+- x.";
@@ -151,24 +131,6 @@ TEST(Data_Stream, file_round_trip_of_every_kind) {
     EXPECT_EQ(record.read_text(), "");
     EXPECT_EQ(record.read_quad(), (std::array<std::int32_t, 4>{9, 8, 7, 6}));
     EXPECT_TRUE(record.is_at_end());
-}
-
-TEST(Data_Stream, both_ways_of_saving_write_the_length_the_text_and_a_colon) {
-    const test::Scratch_Folder folder;
-    for (const bool by_path : {false, true}) {
-        const std::string path = folder.file(by_path ? "path" : "file");
-        Data_Stream record("1,2,3");
-        Block_File file(path);
-        ASSERT_TRUE(by_path || file.open_write());
-        if (by_path) {
-            EXPECT_TRUE(record.save_to(path));
-        } else {
-            record.save_to(file);
-            file.close();
-        }
-        EXPECT_EQ(test::bytes_of_file(path), std::string("\x06\0\0\0", 4) + "1,2,3:");
-    }
-    EXPECT_FALSE(Data_Stream("1").save_to(folder.file("no such folder/file")));
 }
 
 TEST(Data_Stream, loading_starts_anew_and_a_length_of_zero_keeps_the_text) {

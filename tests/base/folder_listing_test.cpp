@@ -103,20 +103,5 @@ TEST(Folder_Listing, survives_folders_that_cannot_be_read) {
     EXPECT_FALSE(listing.find("..")) << "there is nothing above the root";
 }
 
-TEST(Folder_Listing, sorts_thousands_of_files) {
-    const Temporary_Folder temporary;
-    constexpr int count = 3000;
-    for (int i = 0; i < count; ++i) {
-        store(temporary.path((i % 2 == 0 ? "T" : "t") + std::to_string(10000 + i * 7 % count) + ".qdl"), {});
-    }
-    Folder_Listing listing("qdl");
-    ASSERT_TRUE(listing.open(temporary.path("")));
-    ASSERT_EQ(listing.rows().size(), count + 1);
-    for (int i = 0; i < count; ++i) {
-        EXPECT_EQ(listing.rows()[static_cast<std::size_t>(i) + 1].name.substr(1),
-                  std::to_string(10000 + i) + ".qdl");
-    }
-}
-
 } // namespace
 } // namespace quadrelle::testing

@@ -44,13 +44,6 @@ TEST(Key_Chord, has_the_strongest_modifier_of_either_side) {
     }
 }
 
-TEST(Key_Chord, of_a_modifier_alone_has_no_key) {
-    for (const Keycode alone : {key::left_control, key::left_shift, key::left_alt, key::right_control,
-                                key::right_shift, key::right_alt}) {
-        EXPECT_EQ(make_key_chord(alone, {false, true, false}), (Key_Chord{key::none, Modifier::control}));
-    }
-}
-
 TEST(Pointer_State, keeps_only_the_buttons_that_act_and_truncates_toward_zero) {
     SDL_MouseButtonEvent event{};
     event.x = 12.9F;

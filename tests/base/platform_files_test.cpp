@@ -53,26 +53,6 @@ TEST(Files, names_outside_ascii_name_the_same_file_everywhere) {
     EXPECT_EQ(folder.entry_count(), 0);
 }
 
-TEST(Files, modes_respect_what_is_there) {
-    const Temporary_Folder folder;
-    const std::string path = folder.path("file");
-    EXPECT_FALSE(open_file(path, File_Mode::read));
-    store(path, {1, 2, 3});
-    EXPECT_FALSE(open_file(path, File_Mode::create));
-    EXPECT_EQ(file_size(open_file(path, File_Mode::read).get()), 3);
-    EXPECT_EQ(file_size(open_file(path, File_Mode::write).get()), 0);
-    for (const File_Mode mode : {File_Mode::read, File_Mode::write, File_Mode::create}) {
-        EXPECT_FALSE(open_file(folder.path(""), mode)) << "a folder";
-        EXPECT_FALSE(open_file("", mode));
-    }
-}
-
-TEST(Files, the_folder_part_ends_with_its_separator) {
-    EXPECT_EQ(folder_part("tiles.qdl"), "");
-    EXPECT_EQ(folder_part("/tiles.qdl"), "/");
-    EXPECT_EQ(folder_part("/a/b c/tiles.qdl"), "/a/b c/");
-}
-
 TEST(Files, an_atomic_file_appears_only_when_committed) {
     const Temporary_Folder folder;
     const std::string path = folder.path("file");

@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <memory>
 #include <ostream>
 #include <random>
 #include <vector>
@@ -135,38 +133,6 @@ TEST(Canvas_Painter, paints_what_rectangles_drawn_cell_by_cell_show) {
             picture.pixel_size = pixel_size;
             picture.origin = origin;
             expect_same_as_rectangles(picture);
-        }
-    }
-}
-
-// Of three by two, with a hole; the last column of each is cut off by cells of two pixels.
-TEST(Canvas_Painter, lays_markers_over_the_cells_of_the_middle_and_nowhere_else) {
-    const Tile tile = random_tile({9, 7}, 7);
-    const Color mark(255, 0, 1);
-    const Cell_Marker marker{{3, 2}, {mark, {0, 0, 0, 0}, mark, mark, mark, mark}};
-    Canvas_Picture picture;
-    picture.tile = &tile;
-    for (const int edge : {2, 5}) {
-        for (const Point origin :
-             {Point{5, 4}, Point{-21, -17}, Point{-22, 3}, Point{80, 70}, Point{95, -16}}) {
-            picture.pixel_size = edge;
-            picture.origin = origin;
-            std::vector<Color> expected = composed(picture);
-            for (int y = 0; y < viewport.height; ++y) {
-                for (int x = 0; x < viewport.width; ++x) {
-                    const Point in_tile{x - origin.x, y - origin.y};
-                    const Point in_cell{in_tile.x - 4 * edge, in_tile.y % edge};
-                    const bool is_marked = in_tile.y >= 0 && in_tile.y < 7 * edge && in_cell.x >= 0 &&
-                                           in_cell.x < std::min(3, edge) && in_cell.y < 2 &&
-                                           (in_cell.x != 1 || in_cell.y != 0);
-                    if (is_marked) {
-                        expected[static_cast<std::size_t>(y * viewport.width + x)] = mark;
-                    }
-                }
-            }
-            picture.column_marker = &marker;
-            EXPECT_EQ(composed(picture), expected) << edge << ": " << origin.x << ", " << origin.y;
-            picture.column_marker = nullptr;
         }
     }
 }

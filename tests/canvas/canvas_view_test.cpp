@@ -74,30 +74,5 @@ TEST_F(Canvas_View_Test, zoom_keeps_the_middle_and_comes_back) {
     }
 }
 
-TEST_F(Canvas_View_Test, sizes_outside_of_the_limits_change_nothing) {
-    Tile tile(24, 24);
-    for (const auto& [limit, step] :
-         {std::pair{smallest_pixel_size, Zoom_Step::out}, std::pair{largest_pixel_size, Zoom_Step::in}}) {
-        show(tile, limit);
-        view.scroll_origin(5, -9);
-        const Point before = view.origin();
-        EXPECT_FALSE(view.zoom(step));
-        EXPECT_EQ(view.pixel_size(), limit);
-        EXPECT_EQ(view.origin(), before);
-    }
-    EXPECT_FALSE(view.set_pixel_size(2));
-    EXPECT_FALSE(view.set_pixel_size(33));
-    EXPECT_EQ(Canvas_View(-1).pixel_size(), smallest_pixel_size);
-    EXPECT_EQ(Canvas_View(1000).pixel_size(), largest_pixel_size);
-}
-
-TEST_F(Canvas_View_Test, works_without_a_tile) {
-    view.set_tile(nullptr);
-    EXPECT_EQ(view.magnified_size(), Size{});
-    EXPECT_TRUE(view.zoom(Zoom_Step::in));
-    view.centre();
-    EXPECT_EQ(view.tile_column(view.origin().x), 0);
-}
-
 } // namespace
 } // namespace quadrelle

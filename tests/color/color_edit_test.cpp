@@ -58,14 +58,6 @@ TEST(color_edit, keeps_the_hue_through_every_grey) {
     }
 }
 
-TEST(color_edit, keeps_hue_and_saturation_through_black) {
-    Color_Edit edit(Color(97, 18, 124));
-    edit.set_number(Color_Channel::value, 0);
-    EXPECT_EQ(edit.color(), Color(0, 0, 0));
-    edit.set_number(Color_Channel::value, 49);
-    EXPECT_TRUE(is_nearest(edit.color(), {97.7, 18.1, 124.95})) << edit.color().word();
-}
-
 TEST(color_edit, stops_or_wraps_at_both_ends_of_every_number) {
     for (const Color_Channel_Row& row : color_channels) {
         SCOPED_TRACE(row.name);

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -39,19 +38,6 @@ void for_many_colors(Action action) {
 }
 
 } // namespace
-
-TEST(Color, word_and_channels_agree) {
-    const Color color(1, 2, 3, 4);
-    EXPECT_EQ(color.word(), 0x04010203U);
-    EXPECT_EQ(Color::from_word(0xfe010280U), Color(1, 2, 128, 254));
-    EXPECT_EQ(Color().word(), 0xff000000U);
-    const std::array expected = {1, 2, 3, 4, 4};
-    for (int i = 0; i < 5; ++i) {
-        EXPECT_EQ(color.channel(i), expected[static_cast<std::size_t>(i)]);
-    }
-    EXPECT_EQ(color.channel(7), 4);
-    EXPECT_EQ(color.channel(-1), 4);
-}
 
 TEST(Color, addition_wraps_and_clamped_addition_tells_of_its_bound) {
     EXPECT_EQ(changed({100, 1, 255, 200}, [](Color& c) { c.add(200, -2, 1, 56); }), Color(44, 255, 0, 0));
@@ -170,13 +156,6 @@ TEST(Color, luminance_follows_the_curve_of_the_eye) {
     EXPECT_TRUE(Color(100, 100, 100).is_dark());
     EXPECT_FALSE(Color(137, 137, 137).is_dark());
     EXPECT_FALSE(Color(0, 255, 0).is_dark());
-}
-
-TEST(Color, standard_colors_that_carry_transparency) {
-    for (const Standard_Color_Row& row : standard_colors) {
-        const bool is_clear = row.id == Standard_Color::transparent || row.id == Standard_Color::color_key;
-        EXPECT_EQ(row.color.a, is_clear ? 0 : row.id == Standard_Color::faint_white ? 80 : 255);
-    }
 }
 
 } // namespace quadrelle

@@ -29,13 +29,6 @@ TEST(hsv_change, agrees_with_an_independent_conversion) {
     });
 }
 
-TEST(hsv_change, of_the_hue_loses_nothing) {
-    for_grid_colors([](Color color) {
-        ASSERT_EQ(adjusted(color, {.hue = 120}), Color(color.b, color.r, color.g));
-        ASSERT_EQ(adjusted(adjusted(color, {.hue = 180}), {.hue = -180}), color);
-    });
-}
-
 TEST(hsv_change, leaves_greys_grey_and_reaches_both_ends) {
     for (int level = 0; level < 256; ++level) {
         const Color grey(level, level, level, 9);

@@ -100,17 +100,6 @@ TEST_F(Palette_File, a_written_file_is_misread) {
     EXPECT_EQ(store.color(0, 0), Color(0, 0, 0));
 }
 
-TEST_F(Palette_File, what_lies_outside_is_not_there) {
-    Palette_Store store(path);
-    for (const auto& [palette, entry] : {std::pair{-1, 0}, {3, 0}, {0, -1}, {0, 32}}) {
-        store.set_color(palette, entry, {1, 2, 3});
-        EXPECT_EQ(store.color(palette, entry), Color());
-    }
-    EXPECT_FALSE(store.changed());
-    EXPECT_EQ(store.name(3), "");
-    EXPECT_EQ(store.count(-1), 0);
-}
-
 TEST_F(Palette_File, a_file_without_palettes_leaves_the_built_in_ones) {
     for (const char* text : {"", "0", "-1", "x,32,Name", "-2147483649,1,a", "5", "5,"}) {
         put_record(text);
@@ -121,27 +110,6 @@ TEST_F(Palette_File, a_file_without_palettes_leaves_the_built_in_ones) {
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
     expect_built_in(Palette_Store(path));
-}
-
-TEST_F(Palette_File, hostile_counts_are_bounded) {
-    put_record("99999999999,99999999999,Big,-99999999999,None,0,Zero");
-    {
-        const Palette_Store store(path);
-        EXPECT_EQ(store.size(), 3);
-        EXPECT_EQ(store.count(0), 1024);
-        EXPECT_EQ(store.count(1), 0);
-        EXPECT_EQ(store.count(2), 0);
-        EXPECT_EQ(store.name(2), "Zero");
-        expect_usable(store, "three palettes");
-    }
-    std::string many = "2147483647";
-    for (int i = 0; i < 5000; ++i) {
-        many += ",9999,n";
-    }
-    put_record(many);
-    const Palette_Store store(path);
-    EXPECT_EQ(store.size(), 256);
-    expect_usable(store, "many palettes");
 }
 
 TEST_F(Palette_File, flipped_and_random_bytes_load_or_are_fatal) {
@@ -170,14 +138,6 @@ TEST_F(Palette_File, flipped_and_random_bytes_load_or_are_fatal) {
         put_record(text);
         expect_usable(Palette_Store(path), text);
     }
-}
-
-TEST_F(Palette_File, a_place_that_cannot_be_written_is_passed_over_in_silence) {
-    {
-        Palette_Store store(folder.file("missing/palette.dat"));
-        store.set_color(0, 0, {1, 2, 3});
-    }
-    EXPECT_FALSE(std::filesystem::exists(folder.file("missing")));
 }
 
 } // namespace quadrelle

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <set>
 #include <vector>
 
 namespace quadrelle {
@@ -53,37 +51,6 @@ TEST(Command_Table, key_chords_find_their_commands) {
     for (const Chord_Case& test : cases) {
         EXPECT_EQ(find_command(make_key_chord(test.key, test.held)), test.expected)
             << "key " << test.key << " with " << test.held.shift << test.held.control << test.held.alt;
-    }
-}
-
-TEST(Command_Table, menu_text_is_the_name_and_the_key) {
-    EXPECT_EQ(menu_text(Command::save), "Save (^s)");
-    EXPECT_EQ(menu_text(Command::rotate_back), "Rotate back (R)");
-    EXPECT_EQ(menu_text(Command::test), "Test (~t)");
-    EXPECT_EQ(menu_text(Command::save_as), "Save as...");
-}
-
-TEST(Command_Table, help_has_lines_that_fit_and_a_placeholder_for_the_rest) {
-    EXPECT_EQ(description(Command::save), "dsc");
-    EXPECT_EQ(description(Command::test), "debug test");
-    EXPECT_TRUE(description(Command::pen).ends_with("color for the left mouse button."));
-    for (const Command_Row& row : command_table) {
-        EXPECT_FALSE(description(row.id).empty()) << row.name;
-        EXPECT_EQ(description(row.id).find('\n'), std::string_view::npos) << row.name;
-    }
-}
-
-TEST(Menu_Table, names_no_command_twice) {
-    std::multiset<Command> commands;
-    for (const Menu_Column& column : menu_table) {
-        for (const Menu_Row& row : column.rows) {
-            if (row.command != Command::none) {
-                commands.insert(row.command);
-            }
-        }
-    }
-    for (const Command command : commands) {
-        EXPECT_EQ(commands.count(command), 1U) << row_of(command).name;
     }
 }
 

@@ -37,10 +37,6 @@ protected:
     int below_ = 0;
 };
 
-TEST_F(Brush_Selector_Test, starts_with_one_pixel) {
-    EXPECT_EQ(selector_->brush().size(), (Size{1, 1}));
-}
-
 TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
     EXPECT_TRUE(selector_->click(inside(size_icon(5))));
     EXPECT_EQ(selector_->brush().size(), (Size{6, 6}));
@@ -54,17 +50,6 @@ TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
     EXPECT_FALSE(selector_->click(inside(size_icon(6))));
     EXPECT_FALSE(selector_->click(inside(shape_icon(7))));
     EXPECT_FALSE(selector_->click({position.x + 9, position.y + 10}));
-}
-
-TEST_F(Brush_Selector_Test, icons_meet_at_their_edges) {
-    selector_->select_size(2);
-    const Point third = size_icon(3);
-    EXPECT_TRUE(selector_->click(third));
-    EXPECT_EQ(selector_->brush().size().width, 4);
-    EXPECT_TRUE(selector_->click({third.x - 1, third.y + 17}));
-    EXPECT_EQ(selector_->brush().size().width, 3);
-    EXPECT_FALSE(selector_->click({third.x, third.y - 1}));
-    EXPECT_FALSE(selector_->click({third.x, third.y + 18}));
 }
 
 TEST_F(Brush_Selector_Test, lights_the_chosen_icons_and_shows_masks_at_twice_their_size) {

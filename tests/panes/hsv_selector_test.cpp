@@ -107,23 +107,6 @@ TEST_F(HSV_Selector_Test, bar_goes_around_the_hues_strip_by_strip) {
     }
 }
 
-TEST_F(HSV_Selector_Test, pictures_lie_inside_and_move_with_the_pane) {
-    EXPECT_EQ(selector().area, (Rectangle{1026, 174, 202, 161}));
-    EXPECT_EQ(selector().square_rect(), (Rectangle{1032, 201, 128, 128}));
-    EXPECT_EQ(selector().bar_rect(), (Rectangle{1167, 201, 54, 128}));
-    selector().move(100, 50);
-    EXPECT_EQ(selector().square_rect(), (Rectangle{106, 77, 128, 128}));
-    EXPECT_EQ(selector().bar_rect(), (Rectangle{241, 77, 54, 128}));
-}
-
-TEST_F(HSV_Selector_Test, nothing_is_picked_beside_the_pictures) {
-    for (const Point outside : {square(-1, 0), square(0, -1), square(128, 5), square(5, 128), bar(-1, 5),
-                                bar(54, 5), bar(5, 128)}) {
-        EXPECT_FALSE(selector().click(Mouse_Button::left, outside, [] { FAIL(); }));
-    }
-    EXPECT_TRUE(picked_.empty());
-}
-
 struct Drag {
     Point from;
     Point to;
@@ -151,21 +134,6 @@ TEST_F(HSV_Selector_Test, a_drag_from_the_square_stays_in_it_and_picks_for_its_s
             EXPECT_EQ(seen_, std::vector{held});
         }
     }
-}
-
-TEST_F(HSV_Selector_Test, a_drag_on_the_bar_changes_the_hue_of_the_square_only) {
-    for (const Drag& test : {Drag{{3, 20}, {30, 64}, {30, 64}},
-                             {{3, 20}, {-60, 64}, {0, 64}},
-                             {{3, 20}, {200, 64}, {53, 64}},
-                             {{30, 20}, {30, -300}, {30, 0}},
-                             {{30, 20}, {30, 500}, {30, 127}}}) {
-        selector().draw();
-        const Color hue = pixel_at(bar(test.held.x, test.held.y));
-        EXPECT_FALSE(drag({bar(test.from.x, test.from.y), bar(test.to.x, test.to.y)}));
-        selector().draw();
-        expect_square_of(hue);
-    }
-    EXPECT_TRUE(picked_.empty());
 }
 
 TEST_F(HSV_Selector_Test, a_marker_stands_for_the_hidden_pointer_until_the_button_is_released) {

@@ -5,8 +5,6 @@
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 
-#include <string>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -34,27 +32,6 @@ protected:
 };
 
 constexpr Color lit = standard_color(Standard_Color::highlight_deep);
-
-TEST_F(Menu_Bar_Test, every_item_runs_its_command) {
-    struct Case {
-        std::size_t menu;
-        Command command;
-        const char* loop;
-    };
-    const std::vector<Case> cases{
-        {file, Command::new_tileset, "dialog \"New tileset\""},
-        {file, Command::options, "dialog \"Options\""},
-        {file, Command::quit, "dialog \"Quit\""},
-        {help, Command::about, "dialog \"About\""},
-    };
-    for (const Case& test : cases) {
-        SCOPED_TRACE(test.loop);
-        script().click(header(test.menu)).press(item(test.menu, row_with(test.menu, test.command)));
-        expect_loop(test.loop).key(key::escape);
-        expect_closed();
-        play();
-    }
-}
 
 TEST_F(Menu_Bar_Test, slides_to_the_neighbour_and_back_over_what_it_covers) {
     script().press(header(file)).motion(item(file, 2)).motion(header(edit)).motion(header(tileset));
@@ -117,30 +94,6 @@ TEST_F(Menu_Bar_Test, lights_what_the_pointer_is_on) {
     lights(item(edit, 2), {left_of(edit) + 2, 27 + 50}, false);
     script().key(key::escape);
     play();
-}
-
-// Their rows hold a blank, the menu shows the commands' names.
-TEST_F(Menu_Bar_Test, shows_the_brush_commands_by_name) {
-    script().press(header(edit)).check([] {
-        for (const Command command : {Command::use_as_brush, Command::move_to_pad, Command::delete_brush}) {
-            const Point point = item(edit, row_with(edit, command));
-            EXPECT_TRUE(has_picture({point.x, point.y - 10, 60, 20}));
-        }
-    });
-    script().key(key::escape);
-    play();
-}
-
-TEST_F(Menu_Bar_Test, no_open_menu_is_left_behind) {
-    const Point inside_box = item(file, 5);
-    const Color before = pixel_at(inside_box);
-    script().press(header(file)).check([&] {
-        EXPECT_NE(pixel_at({inside_box.x, 24 + 25 * 13 + 1}), before);
-    });
-    script().press({600, 650});
-    expect_closed();
-    play();
-    EXPECT_EQ(pixel_at(inside_box), before);
 }
 
 } // namespace

@@ -3,9 +3,6 @@
 #include "tests/support/scratch_files.h"
 #include "tests/support/window_test.h"
 
-#include <algorithm>
-#include <optional>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -52,28 +49,6 @@ TEST_F(Palette_Area_Test, shows_and_selects_the_entries) {
     EXPECT_EQ(area.selected_color(), selected);
 }
 
-TEST_F(Palette_Area_Test, selection_moves_by_steps_and_stays_at_the_edges) {
-    Palette_Store store("missing.dat");
-    Palette_Area area(position, store);
-    struct Step {
-        int dx, dy, entry;
-    };
-    for (const Step& step : {Step{-1, 0, 0},
-                             {0, -1, 0},
-                             {1, 0, 1},
-                             {0, 1, 9},
-                             {0, 1, 17},
-                             {0, 1, 25},
-                             {0, 1, 25},
-                             {-1, 0, 24},
-                             {-1, 0, 24},
-                             {0, -1, 16}}) {
-        EXPECT_EQ(area.move_selection(step.dx, step.dy), store.color(0, step.entry));
-    }
-    area.click(cell(area, 7, 0));
-    EXPECT_EQ(area.move_selection(1, 0), store.color(0, 7));
-}
-
 TEST_F(Palette_Area_Test, buttons_step_through_the_palettes_and_around) {
     Palette_Store store("missing.dat");
     Palette_Area area(position, store);
@@ -114,18 +89,6 @@ TEST_F(Palette_Area_Test, every_number_of_entries_has_its_room) {
     }
 }
 
-TEST_F(Palette_Area_Test, a_palette_without_entries_has_nothing_to_select) {
-    Palette_Store store = store_with(0);
-    ASSERT_EQ(store.count(0), 0);
-    Palette_Area area(position, store);
-    area.draw();
-    EXPECT_FALSE(has_picture({cell(area, 0, 0).x - 12, cell(area, 0, 0).y - 10, 192, 80}));
-    EXPECT_EQ(area.click(cell(area, 0, 0)), std::nullopt);
-    EXPECT_EQ(area.click(more(area)), std::nullopt);
-    EXPECT_EQ(area.move_selection(1, 0), Color());
-    EXPECT_EQ(area.move_selection(0, -1), Color());
-}
-
 TEST_F(Palette_Area_Test, the_selected_entry_is_outlined_in_dark_and_light) {
     Palette_Store store("missing.dat");
     Palette_Area area(position, store);
@@ -137,76 +100,6 @@ TEST_F(Palette_Area_Test, the_selected_entry_is_outlined_in_dark_and_light) {
         const Point corner{cell(area, i, 2).x - 12, cell(area, i, 2).y - 10};
         EXPECT_EQ(pixel_at(corner), Color(0, 0, 0));
         EXPECT_EQ(pixel_at({corner.x + 1, corner.y + 1}), Color(255, 255, 255));
-    }
-}
-
-TEST_F(Palette_Area_Test, a_colour_is_stored_in_the_selected_entry) {
-    Palette_Store store("stored.dat");
-    Palette_Area area(position, store);
-    area.click(more(area));
-    area.click(cell(area, 2, 3));
-    EXPECT_FALSE(store.changed());
-    area.store({1, 2, 3, 4});
-    EXPECT_TRUE(store.changed());
-    EXPECT_EQ(store.color(1, 26), Color(1, 2, 3, 4));
-    EXPECT_EQ(area.selected_color(), Color(1, 2, 3, 4));
-}
-
-TEST_F(Palette_Area_Test, selected_colour_is_shown_beside_its_numbers) {
-    Palette_Store store("missing.dat");
-    Palette_Area area(position, store);
-    const Selected_Color_Area selected({31, 577}, area);
-    area.click(cell(area, 3, 1));
-    selected.draw();
-    const Rectangle client = selected.client_area();
-    EXPECT_EQ(pixel_at({client.x + 11, client.y + 11}), store.color(0, 11));
-    EXPECT_TRUE(has_picture({client.x + 45, client.y, 100, 16}));
-    EXPECT_TRUE(has_picture({client.x + 45, client.y + 24, 80, 16}));
-    EXPECT_TRUE(has_picture(selected.set_button().inset(3)));
-}
-
-TEST_F(Palette_Area_Test, a_long_name_ends_before_the_buttons) {
-    test::put_bytes("palette.dat", test::record_bytes("1,4,W\r" + std::string(5000, 'W')));
-    Palette_Store store("palette.dat");
-    const Palette_Area area(position, store);
-    area.draw();
-    const Rectangle client = area.client_area();
-    EXPECT_TRUE(has_picture({client.x + 100, client.y, 40, 16}));
-    EXPECT_FALSE(has_picture({less(area).x - 13, client.y, 3, 16}));
-    EXPECT_FALSE(has_picture({client.x, client.y + 17, 150, 2}));
-}
-
-// Parts of a written file in any order and number, with some bytes replaced.
-std::string mutated(const std::string& text, std::mt19937& random) {
-    std::string result;
-    for (auto parts = random() % 6; parts > 0; --parts) {
-        result += text.substr(random() % text.size(), random() % 120);
-    }
-    for (auto changes = random() % 4; changes > 0 && !result.empty(); --changes) {
-        result[random() % result.size()] = static_cast<char>(random());
-    }
-    return random() % 3 == 0 ? result : std::to_string(random() % 300) + "," + result;
-}
-
-TEST_F(Palette_Area_Test, whatever_the_file_holds_can_be_shown_and_used) {
-    {
-        Palette_Store store("palette.dat");
-        store.set_color(2, 31, {1, 2, 3, 4});
-    }
-    const std::string written = test::bytes_of_file("palette.dat").substr(4);
-    std::mt19937 random(7);
-    for (int i = 0; i < 300; ++i) {
-        test::put_bytes("palette.dat", test::record_bytes(mutated(written, random)));
-        Palette_Store store("palette.dat");
-        Palette_Area area(position, store);
-        ASSERT_LE(store.size(), 256);
-        for (int step = 0; step < std::min(store.size(), 4); ++step) {
-            ASSERT_LE(store.count(step), 1024);
-            area.click(cell(area, 1, 1));
-            area.store({9, 8, 7});
-            area.draw();
-            area.click(less(area));
-        }
     }
 }
 

@@ -79,19 +79,6 @@ TEST(Color_Ramp, hues_go_once_around_and_stay_when_one_is_taken) {
     }
 }
 
-TEST(Color_Ramp, shadows_turn_to_blue_and_lights_to_yellow) {
-    for (const Color color : {Color(150, 40, 40), Color(40, 150, 60), Color(130, 40, 150)}) {
-        const Color_Ramp ramp = make_ramp(Ramp_Kind::cool_to_warm, color, {});
-        const Color shadow = ramp.colors[2];
-        const Color light = ramp.colors[9];
-        EXPECT_LT(distance(hue_of(shadow), 245), distance(hue_of(color), 245));
-        EXPECT_LT(distance(hue_of(light), 55), distance(hue_of(color), 55));
-    }
-    const Color_Ramp grey = make_ramp(Ramp_Kind::cool_to_warm, {128, 128, 128}, {});
-    EXPECT_GT(grey.colors[1].b, grey.colors[1].r);
-    EXPECT_GT(grey.colors[10].r, grey.colors[10].b);
-}
-
 TEST(Color_Ramp, a_grey_takes_the_hue_of_the_reference) {
     const Color_Ramp ramp = make_ramp(Ramp_Kind::saturation, {90, 90, 90}, {0, 255, 0});
     EXPECT_EQ(ramp.own, 0);

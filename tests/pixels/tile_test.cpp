@@ -50,38 +50,6 @@ TEST(Tile, pastes_only_what_falls_inside) {
     EXPECT_EQ(pasted(3, 0), (Art{"...", "..."}));
 }
 
-TEST(Tile, pastes_with_an_alpha_of_its_own_where_it_is_not_transparent) {
-    Tile target = make_tile({"###"});
-    Tile source(2, 1);
-    source.set_pixel(0, 0, {1, 2, 3, 0});
-    source.set_pixel(1, 0, {4, 5, 6, 200});
-    source.paste_into_with_alpha(target, 1, 0, 77);
-    EXPECT_EQ(target.get_pixel(0, 0), art_color('#'));
-    EXPECT_EQ(target.get_pixel(1, 0), (Color{1, 2, 3, 0}));
-    EXPECT_EQ(target.get_pixel(2, 0), (Color{4, 5, 6, 77}));
-}
-
-TEST(Tile, masks_by_white_whatever_its_alpha) {
-    Tile mask = make_tile({"#.", "a#"});
-    mask.set_pixel(1, 1, {255, 255, 255, 0});
-    Tile target = make_tile({"zz", "zz"});
-    mask.mask_into(make_tile({"ab", "cd"}), target);
-    EXPECT_EQ(art(target), (Art{"a ", " d"}));
-}
-
-TEST(Tile, overlaps_where_a_pixel_leaves_the_target_or_meets_one) {
-    const Tile piece = make_tile({" a", "a "});
-    EXPECT_FALSE(piece.overlaps(make_tile({"   ", "   "}), 0, 0));
-    EXPECT_FALSE(piece.overlaps(make_tile({"b  ", " b "}), 0, 0));
-    EXPECT_TRUE(piece.overlaps(make_tile({" b ", "   "}), 0, 0));
-    EXPECT_TRUE(piece.overlaps(make_tile({"   ", "   "}), 2, 0));
-    EXPECT_TRUE(piece.overlaps(make_tile({"   ", "   "}), -1, 0));
-    EXPECT_FALSE(make_tile({" ", "a"}).overlaps(make_tile({"   "}), 1, -1));
-    Tile pale(1, 1);
-    pale.fill({9, 0, 0, 0});
-    EXPECT_TRUE(pale.overlaps(make_tile({"."}), 0, 0)) << "only black is empty";
-}
-
 TEST(Tile, finds_the_bounds_of_white) {
     EXPECT_EQ(make_tile({"....", ".#..", "...#"}).white_bounds(), (Rectangle{1, 1, 3, 2}));
     EXPECT_EQ(make_tile({"#"}).white_bounds(), (Rectangle{0, 0, 1, 1}));
@@ -100,25 +68,6 @@ TEST(Tile, replaces_only_the_nine_pixels_around) {
     EXPECT_EQ(art(tile), (Art{"zzza", "zbza", "zzza", "aaaa"}));
     tile.replace_near(4, 4, match, art_color('y'));
     EXPECT_EQ(art(tile), (Art{"zzza", "zbza", "zzza", "aaay"}));
-}
-
-TEST(Tile, changes_alpha_by_alpha_and_by_key) {
-    Tile tile(3, 1);
-    tile.set_pixel(0, 0, {1, 1, 1, 10});
-    tile.set_pixel(1, 0, {2, 2, 2, 20});
-    tile.replace_alpha(10, 99);
-    EXPECT_EQ(tile.alpha_at(0, 0), 99);
-    EXPECT_EQ(tile.alpha_at(1, 0), 20);
-    tile.key_transparency({1, 1, 1, 255});
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{1, 1, 1, 0}));
-    EXPECT_EQ(tile.get_pixel(1, 0), (Color{2, 2, 2, 255}));
-}
-
-TEST(Tile, blends_by_the_share_that_each_pixel_keeps) {
-    Tile tile(1, 1);
-    tile.fill({100, 0, 255, 50});
-    tile.blend_towards({200, 255, 0, 7}, 0.75);
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{125, 63, 191, 7}));
 }
 
 TEST(Tile, stores_pixels_as_alpha_blue_green_red) {
@@ -144,36 +93,6 @@ TEST(Tile, copies_are_independent_and_swaps_exchange) {
     first.swap_pixels(first);
     second.copy_to(first);
     EXPECT_EQ(art(first), (Art{"ab"}));
-}
-
-// The sizes that a file may ask for, in all pairs, through every operation that takes another tile.
-TEST(Tile, survives_every_operation_at_every_size) {
-    const std::array<Size, 6> sizes = {{{0, 0}, {0, 3}, {3, 0}, {1, 1}, {2, 5}, {4, 4}}};
-    for (const Size size : sizes) {
-        for (const Size other_size : sizes) {
-            Tile tile(size.width, size.height);
-            Tile other(other_size.width, other_size.height);
-            tile.copy_from(other);
-            tile.copy_to(other);
-            tile.swap_pixels(other);
-            tile.paste_into(other, 1, -1);
-            tile.paste_into_with_alpha(other, -1, 1, 5);
-            tile.mask_into(other, other);
-            tile.resample_into(other);
-            tile.scale2x_into(other);
-            tile.rotate_cw(other);
-            tile.rotate_ccw(other);
-            tile.mirror(other);
-            tile.flip(other);
-            tile.shift_wrapped(other, -1, 1);
-            tile.anti_alias();
-            tile.replace_near(0, 0, {}, {1, 1, 1});
-            EXPECT_EQ(tile.size(), size);
-            EXPECT_EQ(tile.overlaps(other, 0, 0), tile.pixel_count() > 0);
-            EXPECT_TRUE(tile.is_outside(size.width, 0));
-            EXPECT_EQ(tile.get_pixel_clamped(7, 7), tile.get_pixel(size.width - 1, size.height - 1));
-        }
-    }
 }
 
 } // namespace quadrelle

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <random>
 
 namespace quadrelle {
@@ -19,20 +18,6 @@ using testing::make_tile;
 namespace {
 
 using Transform = void (Tile::*)(const Tile&);
-
-Art transformed(const Art& rows, Transform transform) {
-    const Tile source = make_tile(rows);
-    Tile tile(source);
-    (tile.*transform)(source);
-    return art(tile);
-}
-
-Art shifted(const Art& rows, int dx, int dy) {
-    const Tile source = make_tile(rows);
-    Tile tile(source);
-    tile.shift_wrapped(source, dx, dy);
-    return art(tile);
-}
 
 Tile random_tile(int width, int height, std::mt19937& random) {
     Tile tile(width, height);
@@ -71,13 +56,6 @@ void expect_near_reference(const Tile& source, const Tile& target) {
     }
 }
 
-// The four pixels that replace the middle one of three by three.
-std::array<Color, 4> scaled_middle(const Tile& source) {
-    Tile target(6, 6);
-    source.scale2x_into(target);
-    return {target.get_pixel(2, 2), target.get_pixel(3, 2), target.get_pixel(2, 3), target.get_pixel(3, 3)};
-}
-
 Tile grey_row(std::initializer_list<int> values) {
     Tile tile(static_cast<int>(values.size()), 1);
     std::ranges::transform(values, tile.pixels().begin(), [](int value) {
@@ -87,70 +65,6 @@ Tile grey_row(std::initializer_list<int> values) {
 }
 
 } // namespace
-
-TEST(Tile_Transforms, turn_and_mirror_pictures) {
-    const Art picture = {"abc", "def", "ghi"};
-    EXPECT_EQ(transformed(picture, &Tile::rotate_cw), (Art{"gda", "heb", "ifc"}));
-    EXPECT_EQ(transformed(picture, &Tile::rotate_ccw), (Art{"cfi", "beh", "adg"}));
-    EXPECT_EQ(transformed(picture, &Tile::mirror), (Art{"cba", "fed", "ihg"}));
-    EXPECT_EQ(transformed(picture, &Tile::flip), (Art{"ghi", "def", "abc"}));
-    const Art wide = {"abc", "def"};
-    EXPECT_EQ(transformed(wide, &Tile::rotate_cw), wide);
-    EXPECT_EQ(transformed(wide, &Tile::rotate_ccw), wide);
-    EXPECT_EQ(transformed(wide, &Tile::mirror), (Art{"cba", "fed"}));
-    EXPECT_EQ(transformed(wide, &Tile::flip), (Art{"def", "abc"}));
-}
-
-TEST(Tile_Transforms, shift_by_one_wraps_around) {
-    const Art picture = {"abc", "def"};
-    EXPECT_EQ(shifted(picture, 1, 0), (Art{"bca", "efd"}));
-    EXPECT_EQ(shifted(picture, -1, 0), (Art{"cab", "fde"}));
-    EXPECT_EQ(shifted(picture, 0, 1), (Art{"def", "abc"}));
-    EXPECT_EQ(shifted(picture, 0, -1), (Art{"def", "abc"}));
-    EXPECT_EQ(shifted({"a"}, -1, 1), (Art{"a"}));
-    EXPECT_EQ(shifted({"abcd"}, 2, 0), (Art{"cdaa"})) << "past the far edge comes the first column";
-}
-
-TEST(Tile_Transforms, scale2x_rounds_corners_only) {
-    const auto scaled = [](const Art& rows) {
-        const Tile source = make_tile(rows);
-        Tile target(2 * source.width(), 2 * source.height());
-        source.scale2x_into(target);
-        return art(target);
-    };
-    EXPECT_EQ(scaled({"a"}), (Art{"aa", "aa"}));
-    EXPECT_EQ(scaled({"ab", "ab"}), (Art{"aabb", "aabb", "aabb", "aabb"}));
-    EXPECT_EQ(scaled({"#..", ".#.", "..#"}),
-              (Art{"##....", "#.#...", ".###..", "..###.", "...#.#", "....##"}));
-    EXPECT_EQ(scaled({".##", "#..", "#.."}),
-              (Art{"..####", ".#.###", "#.#...", "##....", "##....", "##...."}));
-    EXPECT_EQ(scaled({"aab", "aab", "bbb"}),
-              (Art{"aaaabb", "aaaabb", "aaaabb", "aaabbb", "bbbbbb", "bbbbbb"}));
-}
-
-TEST(Tile_Transforms, scale2x_leaves_ends_and_crossings_alone) {
-    const std::array<Color, 4> plain = {art_color('a'), art_color('a'), art_color('a'), art_color('a')};
-    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a#", "..."})), plain);
-    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a.", ".#."})), plain);
-    EXPECT_EQ(scaled_middle(make_tile({".#.", "#a#", ".#."})), plain);
-}
-
-TEST(Tile_Transforms, scale2x_compares_without_alpha_but_keeps_it) {
-    const auto faint = [](char mark, int alpha) {
-        const Color color = art_color(mark);
-        return Color{color.r, color.g, color.b, alpha};
-    };
-    Tile falling = make_tile({".#.", "#ab", ".b."});
-    falling.set_pixel(1, 0, faint('#', 40));
-    falling.set_pixel(1, 2, faint('b', 50));
-    EXPECT_EQ(scaled_middle(falling),
-              (std::array{art_color('#'), art_color('a'), art_color('a'), faint('b', 50)}));
-    Tile rising = make_tile({".#.", "ba#", ".b."});
-    rising.set_pixel(1, 0, faint('#', 40));
-    rising.set_pixel(1, 2, faint('b', 50));
-    EXPECT_EQ(scaled_middle(rising),
-              (std::array{art_color('a'), faint('#', 40), art_color('b'), art_color('a')}));
-}
 
 TEST(Tile_Transforms, resampling_to_the_same_size_copies_alpha_too) {
     std::mt19937 random(1);

@@ -6,9 +6,6 @@
 
 #include <SDL3/SDL.h>
 
-#include <algorithm>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -72,20 +69,6 @@ TEST_F(Screen_Test, panel_fills_its_bevel) {
     expect_edges({{255, 173, 123}, light, base, light, base, dark, base, dark, {125, 25, 0}});
 }
 
-TEST_F(Screen_Test, frame_and_box_are_a_little_darker_above_and_much_below) {
-    screen->draw_frame(box, grey(100));
-    EXPECT_EQ(pixel_at({box.x + 3, box.y}), grey(85));
-    EXPECT_EQ(pixel_at({box.x, box.y + 3}), grey(85));
-    EXPECT_EQ(pixel_at({box.right() - 1, box.y + 3}), grey(60));
-    EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 1}), grey(60));
-    EXPECT_EQ(pixel_at({box.x + 1, box.y + 1}), backdrop);
-    screen->draw_box(box, grey(20));
-    EXPECT_EQ(pixel_at({box.x, box.y}), grey(5));
-    EXPECT_EQ(pixel_at({box.right() - 1, box.bottom() - 1}), grey(0));
-    EXPECT_EQ(pixel_at({box.x + 1, box.y + 1}), grey(20));
-    EXPECT_EQ(pixel_at({box.right() - 2, box.bottom() - 2}), grey(20));
-}
-
 TEST_F(Screen_Test, fills_lines_and_outlines_cover_exactly_their_pixels) {
     screen->draw_outline(box, {255, 0, 0});
     const Color red(255, 0, 0);
@@ -138,15 +121,6 @@ TEST_F(Screen_Test, text_breaks_its_lines) {
     EXPECT_TRUE(has_picture({100, 20, 30, line}));
     EXPECT_FALSE(has_picture({100, 20 + line, 30, line}));
     EXPECT_TRUE(has_picture({100, 20 + 2 * line, 10, line}));
-}
-
-TEST_F(Screen_Test, text_pictures_are_as_wide_as_their_text) {
-    EXPECT_EQ(screen->make_text_texture("", Text_Style::normal), nullptr);
-    EXPECT_EQ(screen->make_text_texture("\t", Text_Style::highlighted), nullptr);
-    EXPECT_EQ(screen->make_text_texture("File", Text_Style::normal)->size(),
-              (Size{screen->text_width(Font::regular, "File"), 23}));
-    EXPECT_EQ(screen->make_header("Tools", Header_Style::active)->size(),
-              (Size{5 + screen->text_width(Font::pane_header, "Tools") + 22, 21}));
 }
 
 TEST_F(Screen_Test, window_carries_product_and_version_in_its_title) {

@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -41,9 +40,6 @@ public:
 
     int width() const { return number(18, 4); }
     int height() const { return number(22, 4); }
-    bool is_whole() const {
-        return bytes_.size() == start() + row_size() * static_cast<std::size_t>(height());
-    }
 
     Pixel at(int x, int y) const {
         const std::size_t row = start() + row_size() * static_cast<std::size_t>(height() - 1 - y);
@@ -161,12 +157,6 @@ bool column_has_stroke(const Bitmap& sheet, const Glyph& glyph, int column) {
         if (is_stroke(sheet.at(glyph.x + column, y)))
             return true;
     return false;
-}
-
-TEST(Sheet_Asset, has_the_size_of_the_tables) {
-    EXPECT_EQ(committed_sheet().width(), sheet_width);
-    EXPECT_EQ(committed_sheet().height(), sheet_height);
-    EXPECT_TRUE(committed_sheet().is_whole());
 }
 
 TEST(Sheet_Asset, every_sprite_is_drawn) {

@@ -57,29 +57,6 @@ TEST(Surface_Test, files_that_are_no_bitmaps_are_fatal) {
     EXPECT_FATAL(const Surface wrong(path), message);
 }
 
-TEST(Surface_Test, outside_reads_magenta_and_takes_nothing) {
-    Surface surface(Size{3, 2});
-    surface.fill({1, 2, 3, 4});
-    for (const Point outside : {Point{-1, 0}, {3, 0}, {0, -1}, {0, 2}, {1 << 20, 1 << 20}}) {
-        EXPECT_EQ(surface.get_pixel(outside.x, outside.y), magenta);
-        surface.set_pixel(outside.x, outside.y, {9, 9, 9, 9});
-    }
-    surface.set_pixel(2, 1, {5, 6, 7, 8});
-    EXPECT_EQ(surface.get_pixel(2, 1), (Rgba_Quad{5, 6, 7, 8}));
-    EXPECT_EQ(surface.get_pixel(2, 0), (Rgba_Quad{1, 2, 3, 4}));
-    EXPECT_EQ(surface.get_pixel(0, 1), (Rgba_Quad{1, 2, 3, 4}));
-}
-
-TEST(Surface_Test, begins_transparent_and_fills_its_rectangles_only) {
-    Surface surface(Size{4, 4});
-    EXPECT_EQ(surface.get_pixel(3, 3), Rgba_Quad{});
-    surface.fill_rect({1, 1, 2, 9}, Color(10, 20, 30, 40));
-    EXPECT_EQ(surface.get_pixel(1, 3), (Rgba_Quad{10, 20, 30, 40}));
-    EXPECT_EQ(surface.get_pixel(0, 1), Rgba_Quad{});
-    EXPECT_EQ(surface.get_pixel(3, 1), Rgba_Quad{});
-    EXPECT_EQ(surface.get_pixel(1, 0), Rgba_Quad{});
-}
-
 TEST(Surface_Test, blits_around_its_key) {
     Surface source(Size{2, 1});
     source.fill({1, 2, 3, 255});

@@ -57,17 +57,6 @@ TEST(Picture_Formats, give_back_what_they_took) {
     }
 }
 
-TEST(Picture_Formats, read_bitmaps_without_alpha_from_both_ends) {
-    for (const Size size : {Size{5, 3}, Size{5, -3}}) {
-        const Decoded_Picture decoded = decode_bitmap(bitmap(size, 90));
-        ASSERT_TRUE(decoded.picture);
-        EXPECT_EQ(decoded.picture->size(), (Size{5, 3}));
-        for (const Color pixel : decoded.picture->pixels()) {
-            EXPECT_EQ(pixel, Color(90, 90, 90));
-        }
-    }
-}
-
 TEST(Picture_Formats, refuse_what_is_cut_off_or_no_picture) {
     for (const Picture_Format& format : picture_formats) {
         SCOPED_TRACE(format.media_type);

@@ -131,22 +131,6 @@ TEST(Floating_Paste, honours_alpha) {
     EXPECT_EQ(laid_over({0, 0, 240, 128}, {240, 0, 0, 128}), Color(80, 0, 160, 192));
 }
 
-TEST(Copy_Buffer, keeps_the_last_sixteen) {
-    Copy_Buffer copies;
-    EXPECT_EQ(copies.current(), nullptr);
-    copies.choose(0);
-    for (int i = 0; i < 20; ++i) {
-        copies.add({Tile(i + 1, 1), {i, 0}});
-        EXPECT_EQ(copies.current()->picture.width(), i + 1);
-        copies.choose(1);
-    }
-    EXPECT_EQ(copies.copies().size(), Copy_Buffer::capacity);
-    EXPECT_EQ(copies.copies().back().picture.width(), 5);
-    copies.choose(15);
-    copies.choose(16);
-    EXPECT_EQ(copies.current()->position, (Tile_Point{4, 0}));
-}
-
 TEST(Copy_Buffer, clones_in_four_places) {
     const Floating_Paste copy{make_tile({"abcd", "efgh", "ijkl"}), {-2, 9}};
     struct Row {
@@ -194,57 +178,6 @@ TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
             }
         }
     }
-}
-
-TEST(Selection_Transforms, done_often_enough_change_nothing) {
-    struct Row {
-        Command command;
-        int times;
-    };
-    Random random(12);
-    for (int run = 0; run < 40; ++run) {
-        const Size size{1 + random.below(8), 1 + random.below(8)};
-        const Selection before = random.selection(size);
-        const Tile original = random.tile(size);
-        for (const Row& row : {Row{Command::mirror, 2}, Row{Command::flip, 2}, Row{Command::rotate, 4},
-                               Row{Command::rotate_back, 4}}) {
-            Tile tile(original);
-            Selection selection = before;
-            for (int i = 0; i < row.times; ++i) {
-                static_cast<void>(transform_selected(tile, selection, row.command));
-            }
-            EXPECT_EQ(pixels_of(tile), pixels_of(original)) << menu_text(row.command);
-            EXPECT_TRUE(selection == before) << menu_text(row.command);
-        }
-    }
-}
-
-TEST(Selection_Transforms, turn_what_is_selected_about_the_middle_of_its_bounds) {
-    const Art before{"abcde", "fghij", "klmno"};
-    struct Row {
-        Command command;
-        Art tile;
-        Art mask;
-    };
-    const Art mask{".....", ".##..", "..#.."};
-    for (const Row& row :
-         {Row{Command::mirror, {"abcde", "fhgij", "kmlno"}, {".....", ".##..", ".#..."}},
-          Row{Command::flip, {"abcde", "flmij", "kghno"}, {".....", "..#..", ".##.."}},
-          Row{Command::rotate, {"abcde", "flgij", "kmhno"}, {".....", "..#..", ".##.."}},
-          Row{Command::rotate_back, {"abcde", "fhmij", "kglno"}, {".....", ".##..", ".#..."}},
-          Row{Command::scroll_right, {"abcde", "fhgij", "klmno"}, {".....", ".##..", "..#.."}},
-          Row{Command::scroll_down, {"abcde", "fgmij", "klhno"}, {".....", ".##..", "..#.."}}}) {
-        Tile tile = make_tile(before);
-        Selection selection = selected(mask);
-        EXPECT_EQ(transform_selected(tile, selection, row.command), row.command);
-        EXPECT_EQ(art(tile), row.tile) << menu_text(row.command);
-        EXPECT_EQ(mask_art(selection), row.mask) << menu_text(row.command);
-    }
-    Tile tile = make_tile(before);
-    Selection wide = selected({".....", ".###.", "..#.."});
-    EXPECT_EQ(transform_selected(tile, wide, Command::rotate), Command::skip_command);
-    EXPECT_EQ(transform_selected(tile, wide, Command::copy), Command::none);
-    EXPECT_EQ(art(tile), before);
 }
 
 TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {

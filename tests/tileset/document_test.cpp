@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <vector>
 
 namespace quadrelle {
@@ -63,21 +62,6 @@ TEST(Tileset_Document, answers_tile_commands_up_to_their_limits) {
     }
 }
 
-TEST(Tileset_Document, knows_no_other_command) {
-    for (const Command other : {Command::pen, Command::quit, Command::save, Command::fill}) {
-        EXPECT_EQ(document_of(1).handle_command(other), Command::none);
-    }
-}
-
-TEST(Tileset_Document, without_tiles_can_only_get_some) {
-    Tileset_Document document = document_of(0);
-    for (const Command refused : {Command::next_tile, Command::previous_tile, Command::delete_tile}) {
-        EXPECT_EQ(document.handle_command(refused), Command::skip_command);
-    }
-    EXPECT_EQ(document.handle_command(Command::insert_new_tile), Command::insert_new_tile);
-    EXPECT_EQ(document.tileset().count(), 1);
-}
-
 struct Transform_Case {
     Command command;
     Art of_square;
@@ -112,35 +96,6 @@ TEST(Tileset_Document, transforms_the_current_tile_only) {
         EXPECT_EQ(art(*document.tileset().current_tile()), test.of_square);
         EXPECT_EQ(art(document.tileset().tile_at(0)), (Art{"...", "...", "..."}));
         EXPECT_TRUE(row_of(test.command).has(Command_Trait::step));
-    }
-}
-
-TEST(Tileset_Document, transforms_what_is_not_square_but_rotates_it_not) {
-    const Art before{"abc", "def"};
-    for (const Transform_Case& test : transform_cases) {
-        SCOPED_TRACE(row_of(test.command).name);
-        const bool is_refused = test.of_wide.empty();
-        Tileset_Document document = document_showing(before);
-        EXPECT_EQ(document.handle_command(test.command), is_refused ? Command::skip_command : test.command);
-        EXPECT_EQ(art(*document.tileset().current_tile()), is_refused ? before : test.of_wide);
-    }
-}
-
-TEST(Tileset_Document, anti_alias_softens_the_tile_and_makes_it_opaque) {
-    const Art rows{"....", ".##.", ".# .", "...."};
-    Tile expected = make_tile(rows);
-    expected.anti_alias();
-    Tileset_Document document = document_showing(rows);
-    EXPECT_EQ(document.handle_command(Command::anti_alias), Command::anti_alias);
-    EXPECT_TRUE(std::ranges::equal(document.tileset().current_tile()->pixels(), expected.pixels()));
-    EXPECT_NE(art(*document.tileset().current_tile()), rows);
-}
-
-TEST(Tileset_Document, transforms_nothing_without_a_tile) {
-    Tileset_Document document = document_of(0);
-    EXPECT_EQ(document.handle_command(Command::anti_alias), Command::skip_command);
-    for (const Transform_Case& test : transform_cases) {
-        EXPECT_EQ(document.handle_command(test.command), Command::skip_command) << row_of(test.command).name;
     }
 }
 

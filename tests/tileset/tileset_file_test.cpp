@@ -189,25 +189,6 @@ TEST(Tileset_File, enormous_counts_take_neither_time_nor_memory) {
     }
 }
 
-TEST(Tileset_File, without_tiles_is_a_tileset_that_takes_some) {
-    const Temporary_Folder folder;
-    const std::string path = folder.path("empty.qdl");
-    EXPECT_EQ(save_tileset(Tileset({24, 16}), path), 11);
-    const Loaded_Tileset loaded = load_tileset(path);
-    ASSERT_EQ(loaded.outcome, Load_Outcome::loaded);
-    EXPECT_FALSE(loaded.tileset->has_tiles());
-    EXPECT_TRUE(loaded.tileset->add_tile());
-    EXPECT_EQ(loaded.tileset->current_tile()->size(), (Size{24, 16}));
-}
-
-TEST(Tileset_File, what_cannot_be_opened_is_no_tileset) {
-    const Temporary_Folder folder;
-    EXPECT_EQ(load_tileset(folder.path("missing")).outcome, Load_Outcome::not_a_tileset);
-    EXPECT_EQ(load_tileset(folder.path("")).outcome, Load_Outcome::not_a_tileset);
-    store(folder.path("picture"), Bytes(200, 'Q'));
-    EXPECT_EQ(load_tileset(folder.path("picture")).outcome, Load_Outcome::not_a_tileset);
-}
-
 TEST(Tileset_File, a_failure_at_any_operation_leaves_the_old_file) {
     const Tileset tileset = small_tileset();
     int failures = 0;
@@ -227,21 +208,6 @@ TEST(Tileset_File, a_failure_at_any_operation_leaves_the_old_file) {
         }
     }
     EXPECT_EQ(failures, 6) << "a header, two tiles, flushing, closing and replacing";
-}
-
-TEST(Tileset_File, is_not_saved_when_no_temporary_file_can_be_made) {
-    const Old_File old;
-    const Fault fault(0, [] { return true; });
-    EXPECT_EQ(save_tileset(small_tileset(), old.path), -1);
-    old.expect_untouched();
-}
-
-TEST(Tileset_File, cannot_be_saved_where_no_file_can_be_made) {
-    const Old_File old;
-    EXPECT_EQ(save_tileset(small_tileset(), old.folder.path("missing/tiles.qdl")), -1);
-    EXPECT_EQ(save_tileset(small_tileset(), old.folder.path("tiles.qdl/tiles.qdl")), -1);
-    EXPECT_EQ(save_tileset(small_tileset(), old.folder.path("")), -1);
-    old.expect_untouched();
 }
 
 #ifndef _WIN32

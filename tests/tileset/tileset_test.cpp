@@ -121,18 +121,6 @@ private:
 
 } // namespace
 
-TEST(Tileset, follows_a_simple_model_through_random_operations) {
-    const unsigned first_seed = std::random_device()();
-    for (unsigned seed = first_seed; seed != first_seed + 40; ++seed) {
-        SCOPED_TRACE("seed " + std::to_string(seed));
-        Random_Walk walk(seed, 1 + static_cast<int>(seed % 6));
-        for (int i = 0; i < 200; ++i) {
-            walk.step();
-            ASSERT_NO_FATAL_FAILURE(walk.compare()) << "step " << i;
-        }
-    }
-}
-
 TEST(Tileset, without_tiles_refuses_all_but_adding) {
     Tileset tileset({4, 4});
     EXPECT_EQ(tileset.current_tile(), nullptr);
@@ -175,18 +163,6 @@ TEST(Tileset, resizes_every_tile_and_selects_the_first) {
         EXPECT_EQ(tileset.tile_at(i).size(), (Size{10, 60}));
         EXPECT_NEAR(tileset.tile_at(i).get_pixel(9, 59).r, 40 * i, 1);
     }
-}
-
-TEST(Tileset, a_copy_of_its_own_tile_fits_its_tile_size) {
-    Tileset tileset({2, 2});
-    tileset.add_tile();
-    tileset.current_tile()->fill(tag(5));
-    tileset.add_tile();
-    tileset.select(0);
-    ASSERT_TRUE(tileset.insert_copy_after(*tileset.current_tile()));
-    EXPECT_EQ(tileset.current_index(), 1);
-    EXPECT_EQ(tileset.current_pixel(1, 1), tag(5));
-    EXPECT_EQ(tileset.tile_at(2).get_pixel(0, 0), black);
 }
 
 } // namespace quadrelle

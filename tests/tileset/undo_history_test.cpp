@@ -77,32 +77,6 @@ TEST_F(Undo_History_Test, keeps_eighteen_states_and_walks_them_back_and_forth) {
     EXPECT_EQ(history.redo(), nullptr);
 }
 
-TEST_F(Undo_History_Test, forgets_what_was_undone_when_something_else_is_done) {
-    edit(1);
-    edit(2);
-    edit(3);
-    EXPECT_EQ(shade_of(history.undo()), 2);
-    EXPECT_EQ(shade_of(history.undo()), 1);
-    edit(4);
-    EXPECT_EQ(shades(), (std::vector{0, 1, 4}));
-    EXPECT_EQ(history.position(), 2);
-    EXPECT_EQ(history.redo(), nullptr);
-    EXPECT_EQ(shade_of(history.undo()), 1);
-}
-
-TEST_F(Undo_History_Test, drops_the_redo_tail_also_when_full_and_never_more_than_one_old_state) {
-    for (int value = 1; value <= 17; ++value) {
-        edit(value);
-    }
-    EXPECT_EQ(shade_of(history.undo()), 16);
-    edit(30);
-    EXPECT_EQ(history.entries().size(), 18U);
-    EXPECT_EQ(shades().front(), 0);
-    edit(31);
-    EXPECT_EQ(history.entries().size(), 18U);
-    EXPECT_EQ(shades().front(), 1);
-}
-
 TEST_F(Undo_History_Test, starts_with_the_current_tile_or_with_nothing) {
     edit_tile(1, 5);
     history.reset(tileset);
@@ -120,22 +94,6 @@ TEST_F(Undo_History_Test, starts_with_the_current_tile_or_with_nothing) {
     EXPECT_TRUE(history.entries().empty());
 }
 
-TEST_F(Undo_History_Test, keeps_a_copy_that_later_edits_do_not_reach) {
-    edit(1);
-    tileset.current_tile()->fill(shade(9));
-    EXPECT_EQ(shades(), (std::vector{0, 1}));
-}
-
-TEST_F(Undo_History_Test, keeps_to_its_tiles_when_others_are_inserted) {
-    edit_tile(1, 1);
-    edit_tile(2, 2);
-    tileset.select(1);
-    tileset.insert_tile();
-    history.tile_inserted(tileset.current_index());
-    EXPECT_EQ(tile_indices(), (std::vector{0, 2, 3}));
-    EXPECT_EQ(history.position(), 2);
-}
-
 TEST_F(Undo_History_Test, drops_the_states_of_a_deleted_tile_and_stays_where_it_was) {
     edit_tile(1, 1);
     edit_tile(0, 2);
@@ -151,36 +109,6 @@ TEST_F(Undo_History_Test, drops_the_states_of_a_deleted_tile_and_stays_where_it_
     delete_tile(1);
     EXPECT_EQ(shades(), (std::vector{0, 2}));
     EXPECT_EQ(history.position(), 1);
-}
-
-TEST_F(Undo_History_Test, steps_back_from_a_deleted_state_to_the_one_before) {
-    edit_tile(1, 1);
-    edit_tile(2, 2);
-    edit_tile(1, 3);
-    delete_tile(1);
-    EXPECT_EQ(shades(), (std::vector{0, 2}));
-    EXPECT_EQ(history.position(), 1);
-}
-
-TEST_F(Undo_History_Test, starts_again_when_no_state_up_to_the_current_one_is_left) {
-    edit_tile(1, 1);
-    EXPECT_EQ(shade_of(history.undo()), 0);
-    delete_tile(0);
-    EXPECT_EQ(shades(), std::vector{1});
-    EXPECT_EQ(tile_indices(), std::vector{0});
-    EXPECT_EQ(history.position(), 0);
-}
-
-TEST_F(Undo_History_Test, counts_its_memory_in_whole_units) {
-    Tileset large({64, 64});
-    large.add_tile();
-    history.reset(large);
-    const std::size_t entry = 20 + large.current_tile()->memory_size();
-    EXPECT_EQ(history.size_kb(), static_cast<int>(entry / 1024));
-    history.add(undo_entry_of(large, Command::pen, Tool::pen));
-    EXPECT_EQ(history.size_kb(), static_cast<int>(2 * entry / 1024));
-    history.clear();
-    EXPECT_EQ(history.size_kb(), 0);
 }
 
 } // namespace

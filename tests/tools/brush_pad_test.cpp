@@ -137,62 +137,6 @@ TEST(Brush_Pad, places_are_the_first_that_fit_row_by_row) {
     EXPECT_EQ(pad.current()->id, 1);
 }
 
-TEST(Brush_Pad, board_is_used_to_its_last_cells_and_no_further) {
-    Brush_Pad pad;
-    EXPECT_FALSE(lay(pad, {63, 1}));
-    EXPECT_FALSE(lay(pad, {1, 172}));
-    ASSERT_TRUE(lay(pad, {62, 168}));
-    EXPECT_FALSE(lay(pad, {1, 2}));
-    // Twenty-one places in the last three rows, of which one column is left over.
-    for (int i = 0; i < 21; ++i) {
-        ASSERT_TRUE(lay(pad, {1, 1}));
-        EXPECT_EQ(place_of_last(pad), (Tile_Point{3 * i, 170}));
-    }
-    EXPECT_FALSE(lay(pad, {1, 1}));
-    expect_board_matches_brushes(pad);
-
-    // A narrow gap at the right edge leads down to the last place of all.
-    Brush_Pad narrow;
-    ASSERT_TRUE(lay(narrow, {59, 171}));
-    ASSERT_TRUE(lay(narrow, {1, 168}));
-    ASSERT_TRUE(lay(narrow, {1, 1}));
-    EXPECT_EQ(place_of_last(narrow), (Tile_Point{61, 170}));
-    EXPECT_TRUE(narrow.click({63, 172}));
-    EXPECT_FALSE(narrow.click({64, 172}));
-    EXPECT_FALSE(lay(narrow, {1, 1}));
-}
-
-TEST(Brush_Pad, has_identifiers_for_255_brushes_and_gives_the_lowest_free_one) {
-    Brush_Pad pad;
-    for (int id = 1; id <= 255; ++id) {
-        ASSERT_TRUE(lay(pad, {1, 1}));
-        ASSERT_EQ(pad.brushes().back()->id, id);
-    }
-    EXPECT_FALSE(lay(pad, {1, 1})) << "there is room, but no identifier";
-    ASSERT_TRUE(pad.has_current());
-    ASSERT_TRUE(pad.delete_current());
-    EXPECT_EQ(pad.brushes().size(), 255U) << "that was the temporary one";
-    for (const int id : {200, 90, 7}) {
-        const Tile_Point place = pad.brushes()[static_cast<std::size_t>(id) - 1]->position;
-        ASSERT_TRUE(pad.click({place.x + 2, place.y + 2}));
-        EXPECT_EQ(pad.current()->id, id);
-        ASSERT_TRUE(pad.delete_current());
-        EXPECT_EQ(pad.current(), pad.brushes().front().get());
-        EXPECT_EQ(pad.identifier_at(place), 0);
-        ASSERT_TRUE(lay(pad, {1, 1}));
-        EXPECT_EQ(pad.brushes().back()->id, id);
-        EXPECT_EQ(place_of_last(pad), place);
-        ASSERT_EQ(pad.brushes().size(), 255U);
-    }
-    expect_board_matches_brushes(pad);
-    while (pad.has_current()) {
-        ASSERT_TRUE(pad.delete_current());
-    }
-    EXPECT_TRUE(pad.brushes().empty());
-    ASSERT_TRUE(lay(pad, {62, 171}));
-    EXPECT_EQ(pad.brushes().back()->id, 1);
-}
-
 // Random brushes come and go; the same pad comes out of the file at any time.
 TEST(Brush_Pad, keeps_its_board_in_order_and_comes_back_from_its_record) {
     const unsigned seed = std::random_device{}();

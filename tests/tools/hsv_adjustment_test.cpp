@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <random>
 
 namespace quadrelle {
@@ -17,22 +16,6 @@ Tile random_tile(Size size) {
 }
 
 } // namespace
-
-TEST(hsv_adjustment, of_nothing_leaves_a_random_tile_as_it_is) {
-    Tile tile = random_tile({64, 48});
-    const Tile before(tile);
-    Drawing_Target target(tile);
-    EXPECT_EQ(adjust_hsv(target, HSV_Change{}), Adjustment_Outcome::nothing_changed);
-    EXPECT_TRUE(std::ranges::equal(tile.pixels(), before.pixels()));
-    EXPECT_EQ(adjust_hsv(target, {.hue = 60}), Adjustment_Outcome::tile_changed);
-    // The same by hand, pixel for pixel, whatever the neighbour is.
-    for (int i = 0; i < tile.pixel_count(); ++i) {
-        ASSERT_EQ(tile.get_pixel_at(i), adjusted(before.get_pixel_at(i), {.hue = 60}));
-    }
-    Tile empty(0, 5);
-    Drawing_Target nowhere(empty);
-    EXPECT_EQ(adjust_hsv(nowhere, {.hue = 60}), Adjustment_Outcome::nothing_changed);
-}
 
 TEST(hsv_adjustment, keeps_to_the_mask_and_begins_at_the_source) {
     Tile tile = random_tile({20, 20});

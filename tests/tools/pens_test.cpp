@@ -55,32 +55,10 @@ Ink colorize(Color color, Colorize_Type type) {
 
 } // namespace
 
-TEST(Pens, lay_the_corner_of_the_brush_on_the_position) {
-    const auto disc_at = [](Tile_Point corner) {
-        return drawn(blank(4, 4),
-                     [&](Drawing_Target& target) { apply_brush(target, disc_brush(), corner, {}); });
-    };
-    EXPECT_EQ(disc_at({0, 0}), (Art{".a..", "aaa.", ".a..", "...."}));
-    EXPECT_EQ(disc_at({2, 2}), (Art{"....", "....", "...a", "..aa"}));
-    EXPECT_EQ(disc_at({-2, -1}), (Art{"a...", "....", "....", "...."}));
-    constexpr int far = std::numeric_limits<int>::max();
-    for (const Tile_Point outside : {Tile_Point{-3, 0}, {0, 4}, {far, far}, {-far - 1, 0}, {0, -far - 1}}) {
-        EXPECT_EQ(disc_at(outside), blank(4, 4));
-    }
-}
-
 TEST(Pens, paint_the_given_colour_over_that_of_the_brush_alpha_included) {
     const Color glass{10, 20, 30, 40};
     EXPECT_EQ(inked({1, 2, 3, 4}, {}, glass), glass);
     EXPECT_EQ(inked({1, 2, 3, 4}, {Pixel_Operation::paint, glass}), glass);
-}
-
-TEST(Pens, change_selected_pixels_only) {
-    EXPECT_EQ(drawn({"bbb", "bbb"}, {"#.#", ".#."},
-                    [](Drawing_Target& target) {
-                        apply_brush(target, disc_brush(), {0, -1}, {});
-                    }),
-              (Art{"aba", "bab"}));
 }
 
 TEST(Pens, lighten_and_darken) {

@@ -2,7 +2,6 @@
 
 #include "tests/support/drawn.h"
 
-#include <array>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -37,43 +36,6 @@ Art shape(Size size, Canvas_Action action, Tile_Point from, Tile_Point to) {
 Art ellipse(Size size, Tile_Point centre, Radii radii) {
     return drawn(blank(size.width, size.height),
                  [&](Drawing_Target& target) { draw_ellipse(target, centre, radii, art_color('o')); });
-}
-
-// Both passes as the walk of a quadrant gives them, without a limit or a short cut.
-void draw_filled_ellipse_slowly(Drawing_Target& target, Tile_Point centre, int a, int b,
-                                Shape_Colors colors) {
-    for (const bool is_outline : {false, true}) {
-        int x = -a;
-        int y = 0;
-        int error_x = (1 - 2 * a) * b * b;
-        int error_y = a * a;
-        int error = error_x + error_y;
-        do {
-            for (int row = -y; row < y && !is_outline; ++row) {
-                target.plot({centre.x + x, centre.y + row}, colors.inside);
-                target.plot({centre.x - x, centre.y + row}, colors.inside);
-            }
-            for (const int row : {-y, y}) {
-                if (is_outline) {
-                    target.plot({centre.x + x, centre.y + row}, colors.outline);
-                    target.plot({centre.x - x, centre.y + row}, colors.outline);
-                }
-            }
-            const int doubled = 2 * error;
-            if (doubled >= error_x) {
-                ++x;
-                error += error_x += 2 * b * b;
-            }
-            if (doubled <= error_y) {
-                ++y;
-                error += error_y += 2 * a * a;
-            }
-        } while (x <= 0);
-        while (is_outline && y++ < b) {
-            target.plot({centre.x, centre.y + y}, colors.outline);
-            target.plot({centre.x, centre.y - y}, colors.outline);
-        }
-    }
 }
 
 } // namespace
@@ -114,21 +76,6 @@ TEST(Shapes, narrow_ellipses_have_their_tips) {
         const Art column(static_cast<std::size_t>(2 * b + 1), "o");
         EXPECT_EQ(ellipse({1, 2 * b + 1}, {0, b}, {0, b}), column);
         EXPECT_EQ(ellipse({2 * b + 1, 1}, {b, 0}, {-b, 0}), (Art{std::string(column.size(), 'o')}));
-    }
-}
-
-TEST(Shapes, filled_ellipses_are_what_all_their_steps_fill) {
-    const Shape_Colors colors{art_color('o'), art_color('i')};
-    for (int a = 0; a <= 30; ++a) {
-        for (int b = 0; b <= 30; ++b) {
-            Tile slow(40, 40);
-            Tile quick(40, 40);
-            Drawing_Target slow_target(slow);
-            Drawing_Target quick_target(quick);
-            draw_filled_ellipse_slowly(slow_target, {18, 21}, a, b, colors);
-            draw_filled_ellipse(quick_target, {18, 21}, {a, b}, colors);
-            ASSERT_EQ(art(slow), art(quick)) << a << ", " << b;
-        }
     }
 }
 

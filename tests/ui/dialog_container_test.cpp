@@ -131,39 +131,6 @@ TEST_F(Dialog_Container_Test, escape_and_closing_the_window_leave_the_items_as_t
     expect_values(26, 2, 0);
 }
 
-TEST_F(Dialog_Container_Test, everything_else_changes_nothing) {
-    make();
-    Script script;
-    const Rectangle& row = dialog->rows().rows().front().area;
-    const Point between{row.x + 15 + 3, row.y + 10};
-    script.press(between).press({3, 3}).key('n').key(' ').key(key::keypad_enter).key_up(key::enter);
-    script.motion(ok()).release(ok()).wheel(1).press_number(ok(), 2).press_number(ok(), 0);
-    script.check([&] { expect_values(24, 0, 0); }).key(key::escape);
-    EXPECT_FALSE(dialog->run());
-    EXPECT_TRUE(script.is_played());
-}
-
-TEST_F(Dialog_Container_Test, more_and_less_step_a_number_that_grows) {
-    make();
-    Script script;
-    Dialog_Item& number = *dialog->item(number_id);
-    for (int i = 0; i < 41; ++i) {
-        script.click(more(0));
-    }
-    script.check([&] { EXPECT_EQ(number.value(), 6); });
-    for (int i = 0; i < 4; ++i) {
-        script.click(more(0));
-    }
-    // The second digit is part of the number too, and opens the prompt.
-    script.check([&] {
-        EXPECT_EQ(number.value(), 10);
-        script.click({number.area.right() - 1, number.area.y + 4}).type("33").key(key::enter);
-        script.key(key::enter);
-    });
-    EXPECT_TRUE(dialog->run());
-    EXPECT_EQ(number.value(), 33);
-}
-
 TEST_F(Dialog_Container_Test, is_drawn_over_the_backdrop) {
     make();
     int backdrops = 0;

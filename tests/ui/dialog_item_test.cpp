@@ -7,7 +7,6 @@
 #include "ui/text_dialog.h"
 #include "ui/textlist_dialog_item.h"
 
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,15 +29,6 @@ public:
 private:
     Dialog_Event event_;
 };
-
-constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-
-std::string saved_text(const Dialog_Item& item) {
-    Data_Stream stream;
-    item.save(stream);
-    return stream.text();
-}
 
 } // namespace
 
@@ -66,14 +56,6 @@ TEST(Cyclic_Int, never_takes_the_mark_for_no_value) {
     EXPECT_EQ(below.value(), -2);
 }
 
-TEST(Cyclic_Int, steps_at_the_ends_of_all_numbers) {
-    Cyclic_Int number(most, least, most);
-    number.increase();
-    EXPECT_EQ(number.value(), least);
-    number.decrease();
-    EXPECT_EQ(number.value(), most);
-}
-
 TEST(Choices, are_parsed_up_to_the_end_mark) {
     EXPECT_EQ(parse_choices("a,b,c$"), (Texts{"a", "b", "c"}));
     EXPECT_EQ(parse_choices(",,x$"), (Texts{",", "x"}));
@@ -81,30 +63,6 @@ TEST(Choices, are_parsed_up_to_the_end_mark) {
     EXPECT_EQ(parse_choices("one, two$three"), (Texts{"one", " two"}));
     EXPECT_EQ(parse_choices("a,$"), (Texts{"a", ""}));
     EXPECT_THROW(static_cast<void>(parse_choices("a,b")), std::invalid_argument);
-}
-
-TEST_F(Dialog_Item_Test, base_class_answers_with_lines_in_the_log) {
-    Dialog_Item item({7, 9});
-    EXPECT_EQ(item.click({3, 4}), Dialog_Event{});
-    item.notify(Dialog_Event_Kind::self);
-    item.area = {1, 2, 30, 40};
-    item.describe();
-    EXPECT_EQ(item.value(), -1);
-    EXPECT_EQ(item.centred_x(10), 10 + 1 - 8);
-    const auto& lines = debug_monitor->lines();
-    ASSERT_EQ(lines.size(), 3U);
-    EXPECT_EQ(lines[0], "Base class event processed at 3, 4 (id/host: 7/9.)");
-    EXPECT_EQ(lines[1], "Base class received 5 event.");
-    EXPECT_EQ(lines[2], "Dialog id 7/9 at 1, 2 (size: 30, 40).");
-    EXPECT_EQ(trace_text({Dialog_Event_Kind::radio, -1}), "Type: Radio, target: -1       ");
-}
-
-TEST_F(Dialog_Item_Test, log_forgets_its_oldest_lines) {
-    for (std::size_t i = 0; i < Debug_Monitor::most_lines + 5; ++i) {
-        debug_monitor->write(std::to_string(i));
-    }
-    EXPECT_EQ(debug_monitor->lines().size(), Debug_Monitor::most_lines);
-    EXPECT_EQ(debug_monitor->lines().front(), "5");
 }
 
 TEST_F(Dialog_Item_Test, rows_stand_from_left_to_right) {
@@ -119,20 +77,6 @@ TEST_F(Dialog_Item_Test, rows_stand_from_left_to_right) {
     Dialog_Row empty;
     empty.place({1, 2});
     EXPECT_EQ(empty.area, (Rectangle{1, 2, 0, 0}));
-}
-
-TEST_F(Dialog_Item_Test, rows_stack_without_gaps) {
-    Dialog_Rows rows;
-    for (const int height : {10, 23, 27}) {
-        Dialog_Row row;
-        row.add<Box_Item>(Size{10, height}, Dialog_Event{});
-        rows.add_row(std::move(row));
-    }
-    rows.stack({5, 100}, Dialog_Rows::Extent::all_but_last);
-    EXPECT_EQ(rows.rows()[1].area, (Rectangle{5, 110, 10, 23}));
-    EXPECT_EQ(rows.rows()[2].area, Rectangle{});
-    rows.stack({5, 100}, Dialog_Rows::Extent::all);
-    EXPECT_EQ(rows.rows()[2].area, (Rectangle{5, 133, 10, 27}));
 }
 
 TEST_F(Dialog_Item_Test, first_known_answer_of_the_first_row_under_the_point_wins) {
@@ -191,57 +135,6 @@ TEST_F(Dialog_Item_Test, numbers_are_as_wide_as_they_are_written) {
     EXPECT_EQ(number.value(), 10);
     const Textlist_Dialog_Item list({5}, "i,A long one,i$", 0);
     EXPECT_EQ(list.area.width, Text_Dialog({}, "A long one").area.width);
-}
-
-TEST_F(Dialog_Item_Test, items_are_saved_as_numbers) {
-    EXPECT_EQ(saved_text(Number_Dialog_Item({5}, {9, 1, 10})), "9,1,10");
-    EXPECT_EQ(saved_text(Textlist_Dialog_Item({5}, "a,b,c$", 1)), "1,0,2");
-    EXPECT_EQ(saved_text(Radiobutton_Dialog_Item({5}, true)), "5");
-    EXPECT_EQ(saved_text(Radiobutton_Dialog_Item({5}, false)), "4");
-    EXPECT_EQ(saved_text(Button_Dialog_Item({5}, Button_Type::more)), "3");
-    EXPECT_EQ(saved_text(Text_Dialog({31}, "label")), "31");
-}
-
-TEST_F(Dialog_Item_Test, loaded_values_stay_inside_the_bounds) {
-    const auto number = [](const std::string& text) {
-        Number_Dialog_Item item({5}, {9, 1, 10});
-        Data_Stream stream(text);
-        item.load(stream);
-        for (int i = 0; i < 12; ++i) {
-            item.notify(Dialog_Event_Kind::increase);
-            EXPECT_GE(item.value(), 1) << text;
-            EXPECT_LE(item.value(), 10) << text;
-        }
-        return item.value();
-    };
-    EXPECT_EQ(number("3,1,10"), 5);
-    EXPECT_EQ(number("300,0,1000"), 1);
-    EXPECT_EQ(number("-1,-1,-1"), 1);
-    EXPECT_EQ(number("-2147483648,-2147483648,2147483647"), 1);
-
-    Textlist_Dialog_Item list({5}, "a,b,c$", 1);
-    for (const std::string text : {"3,0,3", "-1,-1,5", "99999999999,0,0", "x"}) {
-        Data_Stream stream(text);
-        list.load(stream);
-        EXPECT_EQ(list.value(), text == "x" ? 0 : 1) << text;
-        list.draw();
-    }
-
-    Radiobutton_Dialog_Item radio({5}, true);
-    for (const std::string text : {"3", "17", "-1", "2147483647", ""}) {
-        Data_Stream stream(text);
-        radio.load(stream);
-        radio.draw();
-        EXPECT_EQ(radio.value(), 1) << text;
-    }
-    Data_Stream unchecked("4");
-    radio.load(unchecked);
-    EXPECT_EQ(radio.value(), 0);
-
-    Button_Dialog_Item button({5}, Button_Type::less);
-    Data_Stream other("0");
-    button.load(other);
-    EXPECT_EQ(button.type(), Button_Type::less);
 }
 
 } // namespace quadrelle

@@ -161,44 +161,4 @@ TEST_F(Number_Prompt_Test, stays_inside_the_window) {
     }
 }
 
-TEST_F(Dialogs_Test, new_tileset_gives_size_and_mode) {
-    const New_Tileset_Dialog dialog;
-    const auto answer = [&](const std::function<void(Script&)>& user) {
-        Script script;
-        user(script);
-        const std::optional<New_Tileset_Choice> choice = dialog.run();
-        EXPECT_TRUE(script.is_played());
-        return choice;
-    };
-    EXPECT_EQ(answer([](Script& user) { user.key(key::enter); }), (New_Tileset_Choice{{24, 24}, false}));
-    EXPECT_EQ(answer([](Script& user) { user.key(key::escape); }), std::nullopt);
-    EXPECT_EQ(answer([](Script& user) { user.quit(); }), std::nullopt);
-
-    const int width = 7 + 60 + 7 + 85 + 7; // the buttons are the widest row
-    const int height = 24 + 3 * 23 + 27 + 14;
-    const Point first{(1232 - width) / 2 + 7, (664 - height) / 2 + 31};
-    const auto change_all = [&](Script& user) {
-        user.press({first.x + 30, first.y + 10}).press({first.x + 7, first.y + 23 + 10});
-        user.press({first.x + 7, first.y + 46 + 10});
-    };
-    EXPECT_EQ(answer([&](Script& user) {
-                  change_all(user);
-                  user.key('y');
-              }),
-              (New_Tileset_Choice{{25, 23}, true}));
-    // Every run starts afresh.
-    EXPECT_EQ(answer([](Script& user) { user.key(key::enter); }), (New_Tileset_Choice{{24, 24}, false}));
-}
-
-TEST_F(Dialogs_Test, quitting_is_confirmed) {
-    const New_Tileset_Dialog dialog;
-    Script script;
-    for (const bool has_unsaved : {false, true}) {
-        script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Quit\""); }).key('y');
-        EXPECT_TRUE(dialog.confirm_quit(has_unsaved));
-        script.quit();
-        EXPECT_FALSE(dialog.confirm_quit(has_unsaved));
-    }
-}
-
 } // namespace quadrelle

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <cstddef>
-#include <random>
 #include <string>
 
 namespace quadrelle {
@@ -51,26 +50,6 @@ Point middle_of(Options& some, Option option, std::size_t item) {
 
 } // namespace
 
-TEST_F(Options_Test, start_with_their_table) {
-    Options fresh;
-    EXPECT_EQ(values_of(fresh), Values{});
-    fresh.load();
-    EXPECT_EQ(values_of(fresh), initial_values);
-    EXPECT_EQ(fresh.dialog().value(31), 2);
-    EXPECT_EQ(fresh.dialog().value(170), 0);
-    EXPECT_EQ(fresh.dialog().value(91), 64);
-}
-
-TEST_F(Options_Test, dialog_fits_into_the_window) {
-    Options fresh;
-    const Rectangle& box = fresh.dialog().frame().area();
-    EXPECT_TRUE((Rectangle{20, 20, 1192, 624}.contains({box.x, box.y})));
-    EXPECT_TRUE((Rectangle{20, 20, 1192, 624}.contains({box.right(), box.bottom()})));
-    for (const Dialog_Row& row : fresh.dialog().rows().rows()) {
-        EXPECT_LE(row.area.right(), box.right());
-    }
-}
-
 TEST_F(Options_Test, accepted_changes_are_kept_between_runs) {
     Options some;
     some.load();
@@ -91,62 +70,6 @@ TEST_F(Options_Test, accepted_changes_are_kept_between_runs) {
     // The file lies in the data folder from wherever it is read.
     data_directory().enter(Data_Directory::inside);
     EXPECT_EQ(loaded_values(), changed);
-}
-
-TEST_F(Options_Test, cancelled_changes_are_not) {
-    Options some;
-    some.load();
-    Script script;
-    for (const Keycode end : {key::escape, key::none}) {
-        script.press(middle_of(some, Option::show_shadow_brush, 0));
-        script.press(middle_of(some, Option::alpha_grid_width, 1));
-        if (end == key::none) {
-            script.press(middle_of(some, Option::count, 1));
-        } else {
-            script.key(end);
-        }
-        EXPECT_FALSE(some.edit());
-        EXPECT_EQ(values_of(some), initial_values);
-    }
-    EXPECT_TRUE(stored(file()).empty());
-}
-
-TEST_F(Options_Test, broken_files_leave_every_value_inside_its_bounds) {
-    Options some;
-    Script script;
-    script.key(key::enter);
-    ASSERT_TRUE(some.edit());
-    const Bytes whole = stored(file());
-    ASSERT_GT(whole.size(), 50U);
-    constexpr unsigned seed = 20240611;
-    std::mt19937 random(seed);
-    for (int round = 0; round < 2000; ++round) {
-        Bytes bytes = whole;
-        for (int flips = 0; flips < 1 + round % 5; ++flips) {
-            bytes.at(4 + random() % (bytes.size() - 4)) = static_cast<std::uint8_t>(random());
-        }
-        store(file(), bytes);
-        Options loaded;
-        loaded.load();
-        for (const Option_Row& row : option_table) {
-            EXPECT_GE(loaded.value(row.id), row.low + row.offset) << row.key << "round " << round;
-            EXPECT_LE(loaded.value(row.id), row.high + row.offset) << row.key << "round " << round;
-        }
-    }
-}
-
-TEST_F(Options_Test, a_file_shorter_than_it_says_is_fatal) {
-    const std::string path = data_directory().path("options.dlg");
-    for (const Bytes& bytes :
-         {Bytes{}, Bytes{9, 0, 0}, Bytes{9, 0, 0, 0, '1'}, Bytes{255, 255, 255, 255, '1'}}) {
-        store(file(), bytes);
-        EXPECT_FATAL(Options(), "Unable to load block from  " + path);
-    }
-    store(file(), {0, 0, 0, 0});
-    EXPECT_EQ(loaded_values(), initial_values);
-    // Fourteen rows are announced, and none is there.
-    store(file(), {3, 0, 0, 0, '1', '4', ':'});
-    EXPECT_EQ(loaded_values(), initial_values);
 }
 
 } // namespace quadrelle

@@ -22,14 +22,6 @@ class Pane_Test : public testing::Window_Test {};
 constexpr Color background = standard_color(Standard_Color::pane_background);
 constexpr Color clear_color{10, 20, 30};
 
-// A pane's draw is called through `place`, with the client area where it belongs by then.
-class Recording_Pane : public Pane {
-public:
-    using Pane::Pane;
-    void draw() const override { drawn_client = client_area(); }
-    mutable Rectangle drawn_client;
-};
-
 } // namespace
 
 TEST_F(Pane_Test, has_its_client_area_below_the_title) {
@@ -55,12 +47,6 @@ TEST_F(Pane_Test, contains_its_left_and_top_edges_only) {
     EXPECT_FALSE(pane.contains(Pointer_State{4.9F, 26.2F}));
 }
 
-TEST_F(Pane_Test, is_placed_above_a_gap) {
-    Recording_Pane pane({0, 0, 200, 100 - pane_title_height}, "Pane");
-    EXPECT_EQ(pane.place(700, 8), 112);
-    EXPECT_EQ(pane.drawn_client, (Rectangle{705, 34, 190, 69}));
-}
-
 TEST_F(Pane_Test, draws_its_background_but_not_the_strip_beside_the_title) {
     screen->fill_rect({0, 0, 400, 300}, clear_color);
     const Pane pane({100, 100, 200, 50}, "Pane");
@@ -80,59 +66,6 @@ TEST_F(Pane_Test, draws_its_background_but_not_the_strip_beside_the_title) {
     EXPECT_EQ(pixel_at({105, 126}), Color(1, 2, 3));
     EXPECT_EQ(pixel_at({200, 140}), Color(1, 2, 3));
     EXPECT_EQ(pixel_at({104, 126}), background);
-}
-
-TEST_F(Pane_Test, information_panes_show_their_numbers) {
-    Number_Info number({100, 100, 202, 26}, "Length");
-    Location_Info location({100, 200, 202, 26}, "Location");
-    number.draw();
-    location.draw();
-    const auto shown_width = [](const Rectangle& client) {
-        int right = 0;
-        for (int x = client.x; x < client.right(); ++x) {
-            right = has_picture({x, client.y, 1, client.height}) ? x - client.x + 1 : right;
-        }
-        return right;
-    };
-    const int one_digit = shown_width(number.client_area());
-    EXPECT_GT(one_digit, 0);
-    EXPECT_GT(shown_width(location.client_area()), one_digit);
-    number.set_value(-123);
-    number.draw();
-    EXPECT_GT(shown_width(number.client_area()), 3 * one_digit);
-}
-
-TEST_F(Pane_Test, option_panes_answer_clicks_without_a_dialog) {
-    Option_Pane choice({0, 0, 202, 26}, "Mode", "One,Two,Three$", 1);
-    Tick_Pane tick({0, 0, 202, 26}, "Speed", "Size compensation");
-    Number_Pane number({0, 0, 202, 26}, "Size", {8, 1, 8});
-    EXPECT_EQ(choice.place(816, 32), 32 + 47 + 4);
-    tick.place(816, 83);
-    number.place(816, 134);
-    EXPECT_EQ(choice.rows().rows().front().area.y, choice.client_area().y - 2);
-
-    const auto middle_of = [](Dialog_Pane& pane, std::size_t item) {
-        const Rectangle& area = pane.rows().rows().front().items().at(item)->area;
-        return Point{area.x + area.width / 2, area.y + area.height / 2};
-    };
-    EXPECT_EQ(choice.value(), 1);
-    EXPECT_TRUE(choice.click(middle_of(choice, 1)));
-    EXPECT_TRUE(choice.click(middle_of(choice, 1)));
-    EXPECT_EQ(choice.value(), 0);
-    EXPECT_TRUE(choice.click(middle_of(choice, 0)));
-    EXPECT_EQ(choice.value(), 0);
-    EXPECT_FALSE(choice.click(middle_of(choice, 2)));
-    EXPECT_FALSE(choice.click(middle_of(tick, 0)));
-
-    EXPECT_TRUE(tick.click(middle_of(tick, 0)));
-    EXPECT_EQ(tick.value(), 1);
-    EXPECT_TRUE(tick.click(middle_of(tick, 0)));
-    EXPECT_EQ(tick.value(), 0);
-
-    EXPECT_TRUE(number.click(middle_of(number, 1)));
-    EXPECT_EQ(number.value(), 1);
-    EXPECT_TRUE(number.click(middle_of(number, 0)));
-    EXPECT_EQ(number.value(), 8);
 }
 
 TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {

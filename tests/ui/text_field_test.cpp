@@ -114,21 +114,5 @@ TEST_F(Text_Field_Test, puts_the_caret_where_it_is_clicked) {
     EXPECT_EQ(field_.text(), "3W1WiW2");
 }
 
-TEST_F(Text_Field_Test, fits_any_text_into_any_width) {
-    std::string name = "x.qdl";
-    name.insert(0, 250, 'x');
-    for (int width = 20; width < 2600; width += 43) {
-        for (const Left_Out left_out : {Left_Out::start, Left_Out::middle}) {
-            const std::string fitted = fitted_text(Font::regular, name, width, left_out);
-            EXPECT_LE(screen->text_width(Font::regular, fitted), width);
-            if (width > 100) {
-                EXPECT_TRUE(fitted.ends_with(".qdl"));
-            }
-        }
-    }
-    EXPECT_EQ(fitted_text(Font::regular, name, 9999, Left_Out::middle), name);
-    EXPECT_EQ(fitted_text(Font::regular, "", 0, Left_Out::middle), "");
-}
-
 } // namespace
 } // namespace quadrelle::testing

@@ -5,8 +5,6 @@
 #include "tests/support/window_test.h"
 #include "tileset/tileset.h"
 
-#include <vector>
-
 namespace quadrelle {
 
 using testing::pixel_at;
@@ -34,11 +32,6 @@ protected:
             EXPECT_EQ(grid.tile_at({start.x + inside.x, start.y + inside.y}), tile);
         }
     }
-};
-
-struct Shape_Case {
-    Size tile;
-    Size shown;
 };
 
 } // namespace
@@ -69,28 +62,6 @@ TEST_F(Tile_Grid_Test, finds_the_tile_under_every_cell_of_every_page_and_none_be
         EXPECT_EQ(grid.page(), 0);
         grid.show_page_of(count - 1);
         EXPECT_EQ(grid.page(), pages - 1);
-    }
-}
-
-TEST_F(Tile_Grid_Test, multiplies_rows_by_columns_where_these_differ) {
-    const Tileset tileset = set_of({3, 3}, 7);
-    const Tile_Grid grid("Grid", tileset, {4, 2}, {10, 20});
-    EXPECT_EQ(grid.tile_at({16 + 39, 16 + 19}), 3);
-    EXPECT_EQ(grid.tile_at({16, 16 + 20}), 4);
-    EXPECT_EQ(grid.tile_at({16 + 25, 16 + 39}), 6);
-    EXPECT_EQ(grid.tile_at({16 + 30, 16 + 39}), -1);
-    EXPECT_EQ(grid.tile_at({16 + 40, 16}), -1);
-}
-
-TEST_F(Tile_Grid_Test, enlarges_by_whole_steps_and_shrinks_in_shape) {
-    const std::vector<Shape_Case> cases{
-        {{24, 24}, {24, 24}}, {{16, 16}, {32, 32}}, {{24, 12}, {24, 12}}, {{5, 8}, {20, 32}},
-        {{64, 64}, {32, 32}}, {{64, 16}, {32, 8}},  {{33, 66}, {16, 32}}, {{255, 1}, {32, 1}},
-        {{1, 255}, {1, 32}},  {{1, 1}, {32, 32}},   {{0, 0}, {0, 0}},
-    };
-    for (const Shape_Case& test : cases) {
-        EXPECT_EQ(size_in_cell(test.tile, {edge, edge}), test.shown)
-            << test.tile.width << "x" << test.tile.height;
     }
 }
 

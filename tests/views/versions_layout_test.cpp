@@ -55,26 +55,6 @@ TEST(Versions_Layout_Test, keeps_all_parts_apart_inside_of_the_window) {
     }
 }
 
-TEST(Versions_Layout_Test, magnifies_three_times_and_twice_where_there_is_room) {
-    const Versions_Layout layout = versions_layout({64, 32}, window);
-    // Around the contents lie a margin of 7 and the title of 24.
-    EXPECT_EQ(layout.dialog.width, 11 * 64 + 32 + 14);
-    EXPECT_EQ(layout.dialog.height, 3 * 32 + 32 + 14 + 24);
-    EXPECT_EQ(layout.big_view.width, 192);
-    EXPECT_EQ(layout.big_view.height, 96);
-    EXPECT_EQ(layout.slots[0].x, layout.big_view.right() + 8);
-    for (std::size_t i = 1; i < layout.slots.size(); ++i) {
-        EXPECT_EQ(layout.slots[i],
-                  (Rectangle{layout.slots[i - 1].x + (64 + 4) * 2, layout.slots[0].y, 128, 64}));
-    }
-    EXPECT_EQ(versions_layout({6, 24}, window).dialog.width, 211 + 14);
-
-    const Versions_Layout largest = versions_layout({255, 255}, window);
-    EXPECT_EQ(largest.big_view.width, 510);
-    EXPECT_EQ(largest.slots[3].width, 127);
-    EXPECT_EQ(largest.slots[3].height, 127);
-}
-
 TEST(Versions_Layout_Test, finds_the_slot_of_a_view_or_its_label) {
     const Versions_Layout layout = versions_layout({24, 24}, window);
     for (int i = 0; i < 4; ++i) {

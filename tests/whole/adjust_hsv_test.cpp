@@ -173,18 +173,6 @@ TEST_F(Adjust_HSV_Test, keeps_to_the_selection_unless_all_tiles_change) {
     EXPECT_EQ(picture(0), before[0]);
 }
 
-TEST_F(Adjust_HSV_Test, shows_the_sliders_in_a_color_that_changes) {
-    Tile& tile = *document().tileset().current_tile();
-    tile.fill({255, 0, 0, 0});
-    tile.set_pixel(3, 3, {60, 90, 60});
-    script().check([] {
-        EXPECT_EQ(pixel_at({bar_left, value_y}), Color(0, 0, 0));
-        EXPECT_GT(pixel_at({bar_right, value_y}).g, 200);
-    });
-    script().key(key::escape);
-    execute(Command::adjust_hsv);
-}
-
 TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_color_editor) {
     const Tile_Picture before = picture();
     execute(Command::horizontal_seam_tool);

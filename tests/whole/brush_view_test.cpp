@@ -77,36 +77,6 @@ TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
     }
 }
 
-TEST_F(Brush_View_Test, goes_with_the_pointer_the_tool_and_the_options) {
-    tool_colors->set_color(Mouse_Button::left, red);
-    hover(cell(4, 4));
-    EXPECT_EQ(shown(4, 4), red);
-    hover(beside_the_canvas);
-    EXPECT_NE(shown(4, 4), red);
-    hover(cell(4, 4));
-    SDL_Event leaves{};
-    leaves.type = SDL_EVENT_WINDOW_MOUSE_LEAVE;
-    script().event(leaves);
-    play();
-    EXPECT_NE(shown(4, 4), red);
-    hover(cell(4, 4));
-    // Tools that change the colours which are there have none of their own to show.
-    for (const Command command : {Command::lightness_pen, Command::colorize_pen, Command::smudge_brush,
-                                  Command::line, Command::flood_fill, Command::dropper}) {
-        execute(command);
-        hover(cell(4, 4));
-        EXPECT_NE(shown(4, 4), red) << static_cast<int>(command);
-    }
-    execute(Command::pen);
-    // The stamp brush paints with the brush that was there.
-    execute(Command::stamp_brush);
-    hover(cell(4, 4));
-    EXPECT_EQ(shown(4, 4), red);
-    change(shadow);
-    hover(cell(4, 4));
-    EXPECT_NE(shown(4, 4), red);
-}
-
 TEST_F(Brush_View_Test, outline_is_precise_blocky_or_off) {
     change(shadow);
     const Color line(255, 255, 255);

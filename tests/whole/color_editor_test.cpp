@@ -167,25 +167,6 @@ TEST_F(Color_Editor_Test, takes_typed_text_and_refuses_wrong_one) {
     EXPECT_EQ(edited(), Color(97, 17, 124));
 }
 
-TEST_F(Color_Editor_Test, edits_the_text_like_any_text) {
-    // #61127c: the last digit, the first one, and one in the middle.
-    script().key(key::end).key(key::backspace);
-    write("d").key(key::home).key(key::right).key(key::delete_key);
-    write("7").key(key::right).key(key::right).key(key::left).key(key::delete_key);
-    write("0").key(key::enter);
-    EXPECT_EQ(edited(), Color(0x71, 0x02, 0x7d));
-    script().key(key::right).key(key::home).key(key::left).key(key::backspace).key(key::end).key(key::right);
-    script().key(key::delete_key).key('a', Modifier::control).key(key::backspace);
-    write("abc").key(key::enter);
-    EXPECT_EQ(edited(), Color(0xaa, 0xbb, 0xcc));
-    // More than there is room for, and letters of more than one byte.
-    write("0123456789abcdef0123456789abcdef").key(key::enter).key(key::home).key(key::delete_key);
-    script().key('a', Modifier::control);
-    write("\xc3\xa4").key(key::enter).key(key::backspace);
-    write("010203").key(key::enter);
-    EXPECT_EQ(edited(), Color(1, 2, 3));
-}
-
 TEST_F(Color_Editor_Test, gives_the_keys_to_the_text_that_they_edit) {
     script().key(key::down).key(key::delete_key).key(key::right).key(key::enter).key(key::escape);
     EXPECT_EQ(edited(), start);
@@ -244,17 +225,6 @@ TEST_F(Color_Editor_Test, lists_the_named_colors_and_takes_one) {
     EXPECT_EQ(edited(), Color(196, 2, 53));
     script().key(key::tab).click(named(3)).key(key::escape);
     EXPECT_EQ(edited(), start);
-}
-
-TEST_F(Color_Editor_Test, shows_before_and_new_beside_canvas_and_preview) {
-    script().click(less(Color_Channel::alpha)).check([] {
-        EXPECT_EQ(pixel_at({820, 160}), start);
-        EXPECT_NE(pixel_at({920, 160}), start);
-        EXPECT_EQ(pixel_at(cell(23, 23)), Color(0, 0, 0));
-        EXPECT_EQ(pixel_at({770, 300}), standard_color(Standard_Color::dark_frame));
-    });
-    script().key(key::escape);
-    edited();
 }
 
 } // namespace

@@ -9,8 +9,6 @@
 
 #include <SDL3/SDL_keyboard.h>
 
-#include <algorithm>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -76,17 +74,6 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     execute(Command::swap_tool_colors);
     click(red_less);
     EXPECT_EQ(right(), Color(253, 255, 255));
-}
-
-TEST_F(Color_Test, variations_are_taken_for_either_button) {
-    tool_colors->set_color(Mouse_Button::left, {200, 60, 60});
-    editor->redraw(Present::yes);
-    const Color green = pixel_at(variation(2, 4));
-    click(variation(2, 4), Mouse_Button::right);
-    EXPECT_EQ(right(), green);
-    click(variation(2, 4));
-    EXPECT_EQ(left(), green);
-    EXPECT_GT(green.g, green.r);
 }
 
 TEST_F(Color_Test, the_column_is_there_for_the_tools_that_use_its_colours) {

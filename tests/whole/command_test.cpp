@@ -66,12 +66,6 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
     }
 }
 
-TEST_F(Command_Test, first_tile_of_an_empty_set_comes_into_the_middle) {
-    load_empty_tileset(48, 10);
-    execute(Command::add_new_tile);
-    EXPECT_EQ(editor->canvas().origin(), (Point{264 + (512 - 480) / 2, 64 + (512 - 100) / 2}));
-}
-
 TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
     // These are there, but have nothing that they could work on.
     const std::vector<Command> refusing{Command::move_to_pad, Command::delete_brush, Command::use_as_brush,
@@ -85,26 +79,6 @@ TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
             EXPECT_FALSE(document().is_modified()) << row.name;
         }
     }
-}
-
-TEST_F(Command_Test, context_info_explains_the_tool) {
-    script().key(key::f1);
-    expect_message("Pen (p)", std::string(description(Command::pen))).key(key::escape);
-    play();
-}
-
-TEST_F(Command_Test, that_do_nothing_say_nothing) {
-    script().drag({cell(1, 1), cell(4, 4)}).motion({5, 5});
-    play();
-    document().clear_modified();
-    const auto before = std::vector<Color>(document().tileset().current_tile()->pixels().begin(),
-                                           document().tileset().current_tile()->pixels().end());
-    for (const Command inert : {Command::import_from_bmp, Command::skip_command, Command::change_tile}) {
-        execute(inert);
-        EXPECT_EQ(asked_file(), std::nullopt);
-        EXPECT_TRUE(std::ranges::equal(before, document().tileset().current_tile()->pixels()));
-    }
-    EXPECT_EQ(editor->documents().count(), 1);
 }
 
 TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
@@ -122,15 +96,6 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
             script().set_afterwards({});
         }
     }
-}
-
-TEST_F(Command_Test, palette_keys_choose_the_left_colour) {
-    script().key('l').key('l').key('j').key('h').key('k').key('k').key(key::left_shift, Modifier::shift);
-    play();
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), palette_store->color(0, 1));
-    script().click(cell(0, 0));
-    play();
-    EXPECT_EQ(tile_pixel(0, 0), palette_store->color(0, 1));
 }
 
 TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {

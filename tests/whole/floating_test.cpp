@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <string>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -59,19 +56,6 @@ TEST_F(Floating_Test, another_document_gives_a_plotted_paste_back) {
     execute(Command::undo);
     EXPECT_TRUE(work().paste());
     EXPECT_NE(tile_pixel(1, 1), red);
-}
-
-TEST_F(Floating_Test, is_saved_with_the_tile) {
-    lift({2, 2}, {6, 6});
-    const std::string path = folder().data_path("floating.qdl");
-    answer_files(File_Answer_State::chosen, path);
-    execute(Command::save);
-    const Loaded_Tileset loaded = load_tileset(path);
-    ASSERT_EQ(loaded.outcome, Load_Outcome::loaded);
-    EXPECT_EQ(loaded.tileset->tile_at(0).get_pixel(8, 5), red);
-    EXPECT_FALSE(document().is_modified());
-    execute(Command::undo);
-    EXPECT_TRUE(work().paste());
 }
 
 // Across the edge that the shift brought into the middle.

@@ -4,7 +4,6 @@
 #include "views/document_statistics.h"
 #include "views/help_lists.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -53,27 +52,6 @@ protected:
     }
 };
 
-TEST_F(Help_Test, keyboard_list_names_every_key_that_does_something) {
-    const std::vector<Text_Pair> listed = keyed_commands();
-    int found = 0;
-    for (Keycode key = 1; key < 0x80; ++key) {
-        for (const Modifier modifier : {Modifier::none, Modifier::shift, Modifier::alt, Modifier::control}) {
-            const Command command = find_command({key, modifier});
-            if (command != Command::none) {
-                ++found;
-                EXPECT_EQ(std::ranges::count(listed, row_of(command).name, &Text_Pair::second), 1);
-            }
-        }
-    }
-    EXPECT_GT(found, 30);
-    EXPECT_EQ(listed.size(),
-              static_cast<std::size_t>(std::ranges::count_if(
-                  command_table, [](const Command_Row& row) { return row.key != key::none; })));
-    for (const Text_Pair& pair : listed) {
-        EXPECT_NE(pair.first, " ") << pair.second;
-    }
-}
-
 TEST_F(Help_Test, every_text_fits_into_the_window) {
     expect_lists_to_fit(make_keyboard_dialog());
     expect_lists_to_fit(make_mouse_dialog());
@@ -83,16 +61,6 @@ TEST_F(Help_Test, every_text_fits_into_the_window) {
     for (const Place_Row& row : place_table) {
         EXPECT_TRUE(message_fits(help_of(row.id).text)) << row.title;
     }
-}
-
-TEST_F(Help_Test, lists_open_by_key_and_command) {
-    script().key('k', Modifier::shift);
-    expect_loop("dialog \"Keyboard commands\"").key(key::enter);
-    expect_loop("main").key(key::left_shift);
-    play();
-    expect_loop("dialog \"Mouse commands\"").key(key::escape);
-    execute(Command::mouse_commands);
-    EXPECT_FALSE(document().is_modified());
 }
 
 TEST_F(Help_Test, statistics_count_tiles_bytes_and_undo) {
@@ -189,32 +157,6 @@ TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
     play();
     load_empty_set();
     EXPECT_EQ(hint_at(cell(3, 4), script()).at(0), "No tile");
-}
-
-TEST_F(Help_Test, hints_stay_in_their_place) {
-    Hint_Lines hints;
-    std::vector<Hint> all{{"gjpqy|,", "gjpqy|, gjpqy|,\rgjpqy|,"},
-                          {std::string(300, 'W'), std::string(300, 'j') + " " + std::string(300, 'g')}};
-    for (const Command_Row& row : command_table) {
-        all.push_back(hint_of(row.id));
-        EXPECT_NE(all.back().text, "dsc");
-    }
-    for (const Place_Row& row : place_table) {
-        all.push_back(hint_of(row.id));
-    }
-    // The cell of the third line ends below the area, its letters do not.
-    const Rectangle area = Hint_Lines::area;
-    screen->clear();
-    screen->draw_text(Font::pane, {area.x, area.y + 34}, "gjpqy|,;()_");
-    EXPECT_FALSE(has_picture({area.x, area.bottom(), area.width, 8}));
-    for (const Hint& hint : all) {
-        screen->clear();
-        hints.set_hint(hint);
-        hints.draw();
-        EXPECT_TRUE(has_picture(area)) << hint.title;
-        EXPECT_FALSE(has_picture({area.x - 8, area.bottom(), area.width + 16, 8})) << hint.title;
-        EXPECT_FALSE(has_picture({area.right(), area.y, 300, area.height})) << hint.title;
-    }
 }
 
 TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {

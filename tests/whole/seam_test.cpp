@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -138,33 +137,6 @@ TEST_F(Seam_Test, is_undone_before_commands_on_the_set) {
     }
 }
 
-TEST_F(Seam_Test, is_not_carried_to_what_comes_after_the_tile) {
-    const Tile original = distinct_tile({10, 6});
-    for (const Command command : {Command::delete_tile, Command::close, Command::new_tileset}) {
-        SCOPED_TRACE(static_cast<int>(command));
-        show(original);
-        shift_both_ways();
-        if (command == Command::new_tileset) {
-            script().key(key::enter);
-        }
-        execute(command);
-        EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
-        execute(Command::next_tile);
-        EXPECT_TRUE(std::ranges::all_of(canvas().tile()->pixels(),
-                                        [](Color pixel) { return pixel == Color(0, 0, 0); }));
-    }
-}
-
-TEST_F(Seam_Test, is_undone_when_another_set_comes_into_view) {
-    const Tile original = distinct_tile({10, 6});
-    Tile& tile = show(original);
-    shift_both_ways();
-    show(distinct_tile({8, 8}));
-    EXPECT_TRUE(same(tile, original));
-    EXPECT_TRUE(same(*canvas().tile(), distinct_tile({8, 8})));
-    EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
-}
-
 TEST_F(Seam_Test, is_never_saved) {
     const Tile original = distinct_tile({10, 6});
     for (const Command command : {Command::save, Command::save_as}) {
@@ -177,33 +149,6 @@ TEST_F(Seam_Test, is_never_saved) {
         const Loaded_Tileset loaded = load_tileset(path);
         ASSERT_EQ(loaded.outcome, Load_Outcome::loaded);
         EXPECT_TRUE(same(loaded.tileset->tile_at(0), original));
-    }
-}
-
-// Turned or moved while it is shifted, the tile is what it would be without.
-TEST_F(Seam_Test, transforms_do_not_displace_a_shifted_tile) {
-    for (const Size size : {Size{24, 24}, Size{26, 26}, Size{9, 9}}) {
-        for (const Command command : {Command::rotate, Command::rotate_back, Command::mirror, Command::flip,
-                                      Command::scroll_left, Command::scroll_up}) {
-            for (const int seams : {1, 2, 3}) {
-                SCOPED_TRACE(std::to_string(static_cast<int>(command)) + " of " + std::to_string(size.width) +
-                             " with seams " + std::to_string(seams));
-                const Tile original = distinct_tile(size);
-                show(original);
-                execute(command);
-                const Tile expected(*canvas().tile());
-                Tile& tile = show(original);
-                const bool is_horizontal = (seams & 1) != 0;
-                const bool is_vertical = (seams & 2) != 0;
-                is_horizontal ? execute(Command::horizontal_seam_tool) : void();
-                is_vertical ? execute(Command::vertical_seam_tool) : void();
-                execute(command);
-                EXPECT_FALSE(same(tile, expected));
-                EXPECT_EQ(canvas().horizontal_seam_shift() >= 0, is_horizontal);
-                canvas().undo_seam_shifts();
-                EXPECT_TRUE(same(tile, expected));
-            }
-        }
     }
 }
 
@@ -237,24 +182,6 @@ TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {
         execute(Command::next_tile);
         EXPECT_EQ(lit(icon), plain);
     }
-}
-
-TEST_F(Seam_Test, transforms_show_and_mark_the_set_changed) {
-    script().click(cell(0, 0)).key('r');
-    play();
-    EXPECT_EQ(tile_pixel(23, 0), white);
-    EXPECT_EQ(pixel_at(cell(23, 0)), white);
-    document().clear_modified();
-    script().key('r', Modifier::shift).key(key::down).key(key::right).key(key::right).key(key::left);
-    play();
-    EXPECT_EQ(tile_pixel(1, 1), white);
-    EXPECT_EQ(pixel_at(cell(1, 1)), white);
-    EXPECT_TRUE(document().is_modified());
-
-    show(distinct_tile({10, 6}));
-    script().key('r');
-    play();
-    EXPECT_FALSE(document().is_modified());
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include <SDL3/SDL_clipboard.h>
 
 #include <algorithm>
-#include <array>
 #include <random>
 #include <tuple>
 #include <utility>
@@ -56,59 +55,6 @@ protected:
         }
     }
 };
-
-TEST_F(Selection_Test, rectangles_lie_between_corners_of_cells) {
-    // The nearest corner counts.
-    execute(Command::rectangle_selector);
-    script().drag({{424, 236}, {464, 266}});
-    play();
-    EXPECT_EQ(work().selection().bounds(), (Rectangle{2, 4, 4, 3}));
-    script().drag({corner(4, 9), corner(3, 1)}, Mouse_Button::right);
-    play();
-    EXPECT_EQ(work().selection().count(), 9);
-    EXPECT_FALSE(work().selection().contains({3, 5}));
-    // A click inside keeps it, the right button's keeps it anywhere, and outside it is given up.
-    click({2, 4});
-    script().click(cell(20, 20), Mouse_Button::right);
-    play();
-    EXPECT_EQ(work().selection().count(), 9);
-    click({3, 5});
-    EXPECT_FALSE(work().has_selection());
-    select_rectangle({0, 0}, {24, 24});
-    EXPECT_EQ(work().selection().count(), 576);
-    script().key(key::space);
-    play();
-    EXPECT_FALSE(work().has_selection());
-    EXPECT_EQ(count(black), 576);
-}
-
-TEST_F(Selection_Test, nothing_outside_of_it_ever_changes) {
-    for (const Tool_Row& tool : tool_table) {
-        for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-            SCOPED_TRACE(tool.name);
-            execute(Command::deselect);
-            paint_noise(static_cast<unsigned>(tool.id));
-            select_rectangle({5, 6}, {15, 17});
-            select_rectangle({9, 9}, {12, 13}, Mouse_Button::right);
-            execute(tool.command);
-            choose(Tool_Option::scroll_move, 1);
-            toolbox->select_brush_size(4);
-            const Selection mask = work().selection();
-            const Tile_Picture before = pixels();
-            for (const auto& [from, to] : {std::pair{Tile_Point{7, 8}, Tile_Point{13, 15}},
-                                           std::pair{Tile_Point{2, 2}, Tile_Point{22, 20}}}) {
-                drag(from, to, button);
-                for (int i = 0; i < tile().pixel_count(); ++i) {
-                    const Tile_Point pixel{i % 24, i / 24};
-                    if (!mask.contains(pixel)) {
-                        ASSERT_EQ(tile().get_pixel_at(i), before[static_cast<std::size_t>(i)])
-                            << pixel.x << ", " << pixel.y;
-                    }
-                }
-            }
-        }
-    }
-}
 
 TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without_loss) {
     paint_noise(1);

@@ -174,43 +174,6 @@ private:
     Arrangement_Model& model_;
 };
 
-TEST_F(Set_Views_Test, arrangement_agrees_with_a_simple_model_whatever_is_done) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    for (const int count : {1, 2, 60, 300}) {
-        SCOPED_TRACE(std::to_string(count) + " tiles");
-        make_set(count);
-        Arrangement_Model model;
-        for (int i = 0; i < count; ++i) {
-            model.images.push_back(i);
-        }
-        for (int round = 0; round < 3 && !HasFailure(); ++round) {
-            if (random() % 2 == 0) {
-                execute(Command::horizontal_seam_tool);
-            }
-            document().clear_modified();
-            const std::size_t steps_before = history().entries().size();
-            model.primary = model.current;
-            model.secondary = 0;
-            model.has_swapped = false;
-            Arrangement_Walk(script(), random, model).add_steps(10);
-            execute(Command::arrange_select);
-
-            expect_images(model.images);
-            EXPECT_EQ(tileset().current_index(), model.current);
-            EXPECT_GE(document().strip().cell_of_current(), 0);
-            EXPECT_EQ(canvas().tile(), tileset().current_tile());
-            EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
-            const int shown = model.images.at(static_cast<std::size_t>(model.current));
-            EXPECT_EQ(pixel_at(first_pixel), image_pixel(shown, 0));
-            EXPECT_EQ(count_in_preview(image_pixel(shown, 1)), 4);
-            EXPECT_EQ(document().is_modified(), model.has_swapped);
-            EXPECT_EQ(history().entries().size(), model.has_swapped ? 1U : steps_before);
-        }
-    }
-}
-
 TEST_F(Set_Views_Test, swapped_tiles_are_where_undo_ends) {
     make_set(8);
     script().press(in_cell(3)).press_number(in_cell(7), middle_button).key(key::tab).key(key::space);
@@ -239,26 +202,6 @@ TEST_F(Set_Views_Test, swapped_tiles_are_where_undo_ends) {
     execute(Command::arrange_select);
     EXPECT_EQ(tileset().current_index(), 7);
     EXPECT_EQ(canvas().history()->get_pixel(0, 0), image_pixel(0, 0));
-}
-
-TEST_F(Set_Views_Test, markers_of_the_arrangement_go_by_rows) {
-    make_set(8);
-    tileset().select(5);
-    script().press_number({16 + 40, 16}, middle_button);
-    script().check([] {
-        // Column 5 mod 4, row 5 / 2: there is no such row. Tile 1 is in the first row.
-        for (int i = 0; i < 8; ++i) {
-            const Color corner = pixel_at({16 + i % 4 * 40, 16 + i / 4 * 40});
-            EXPECT_EQ(corner == Color(255, 255, 255), false) << i;
-            EXPECT_EQ(corner == Color(0xff, 0xf0, 0xa8), i == 1) << i;
-        }
-    });
-    script().press({16 + 120, 16}).check([] {
-        // Tile 3 shows in row 3 / 2.
-        EXPECT_EQ(pixel_at({16 + 120, 16 + 40}), Color(255, 255, 255));
-    });
-    script().key(key::escape);
-    EXPECT_FALSE(Arrangement(tileset(), {4, 2}, {40, 40}).run());
 }
 
 TEST_F(Set_Views_Test, every_view_works_without_tiles) {
@@ -309,28 +252,6 @@ TEST_F(Set_Views_Test, real_size_repeats_the_tile_all_over_the_window) {
     EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
 }
 
-TEST_F(Set_Views_Test, real_size_ends_with_a_key_a_click_or_the_window_close_only) {
-    make_set(1);
-    const std::vector<std::function<void()>> ends{
-        [this] { script().key(key::escape); }, [this] { script().key('p'); },
-        [this] { script().key(key::tab); },    [this] { script().press(off_grid); },
-        [this] { script().quit(); },           [this] { script().press(off_grid, Mouse_Button::right); },
-    };
-    SDL_Event held{};
-    held.type = SDL_EVENT_KEY_DOWN;
-    held.key.key = 'p';
-    held.key.repeat = true;
-    for (const auto& add_end : ends) {
-        script().wheel(1).wheel(-1).motion({9, 9}).release({9, 9}).press_number({9, 9}, middle_button);
-        script().key(key::left_shift, Modifier::shift).key_up('m').event(held);
-        expect_loop("real size");
-        add_end();
-        execute(Command::view_in_real_size);
-    }
-    EXPECT_FALSE(document().is_modified());
-    EXPECT_EQ(history().entries().size(), 3U);
-}
-
 TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
     make_set(60);
     script().key(key::tab).check([] {
@@ -377,21 +298,6 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
     }
     EXPECT_FALSE(document().is_modified());
     EXPECT_EQ(history().entries().size(), 3U);
-}
-
-TEST_F(Set_Views_Test, tile_array_turns_pages) {
-    make_set(300);
-    script().key(key::page_down).press(in_cell(299 - 256));
-    execute(Command::view_tile_array);
-    EXPECT_EQ(tileset().current_index(), 299);
-    // It opens where the current tile is.
-    script().check([] { EXPECT_EQ(pixel_at(grid_cell(299 - 256)), Color(255, 255, 255)); });
-    script().wheel(-1).press(in_cell(1));
-    execute(Command::view_tile_array);
-    EXPECT_EQ(tileset().current_index(), 257);
-    script().key(key::page_up).key(key::page_up).wheel(1).press(in_cell(2));
-    execute(Command::view_tile_array);
-    EXPECT_EQ(tileset().current_index(), 2);
 }
 
 TEST_F(Set_Views_Test, tile_array_shows_the_tile_as_it_is_and_leaves_the_seam_tool_as_it_was) {

@@ -11,7 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -134,17 +133,6 @@ TEST(Start_Up, leaves_no_file_and_no_changed_folder_behind) {
     EXPECT_EQ(folder.folder().entry_count(), 1);
     EXPECT_FALSE(std::filesystem::exists(folder.data_path("palette.dat")));
     EXPECT_FALSE(std::filesystem::exists(folder.data_path("options.dlg")));
-}
-
-TEST(Start_Up, can_start_again) {
-    use_dummy_video();
-    const Program_Folder folder;
-    for (int i = 0; i < 3; ++i) {
-        start_application();
-        ASSERT_TRUE(editor->show_first_frame());
-        EXPECT_EQ(editor->documents().current().file_name(), "untitled0.qdl");
-        shut_down_application();
-    }
 }
 
 } // namespace

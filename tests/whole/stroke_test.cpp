@@ -2,7 +2,6 @@
 #include "tests/whole/program_test.h"
 
 #include <algorithm>
-#include <array>
 
 namespace quadrelle::testing {
 namespace {
@@ -28,42 +27,6 @@ TEST_F(Stroke_Test, shows_the_pixels_it_paints_in_tile_window_and_title) {
     }
     EXPECT_EQ(pixel_at(cell(7, 5)), black);
     EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
-}
-
-TEST_F(Stroke_Test, shows_each_segment_before_the_release) {
-    script().press(cell(2, 3)).check([] {
-        EXPECT_EQ(pixel_at(cell(2, 3)), white);
-        EXPECT_EQ(count_in_preview(white), 4);
-    });
-    script().motion(cell(9, 3)).check([] {
-        EXPECT_EQ(pixel_at(cell(9, 3)), white);
-        EXPECT_EQ(pixel_at(cell(10, 3)), black);
-    });
-    expect_loop("stroke").release(cell(9, 3));
-    play();
-}
-
-TEST_F(Stroke_Test, paints_with_the_colour_of_the_button) {
-    tool_colors->set_color(Mouse_Button::left, {10, 20, 30});
-    tool_colors->set_color(Mouse_Button::right, {40, 50, 60, 70});
-    script().click(cell(1, 1)).click(cell(3, 1), Mouse_Button::right).key('x').click(cell(5, 1));
-    play();
-    EXPECT_EQ(tile_pixel(1, 1), Color(10, 20, 30));
-    EXPECT_EQ(tile_pixel(3, 1), Color(40, 50, 60, 70));
-    EXPECT_EQ(tile_pixel(5, 1), Color(40, 50, 60, 70));
-    // Blended over the checkerboard.
-    EXPECT_NE(pixel_at(cell(3, 1)), Color(40, 50, 60));
-}
-
-TEST_F(Stroke_Test, takes_the_brush_size_from_the_keys) {
-    // Discs; the corner of an even brush lies half of it, rounded down, left of and above the pointer.
-    constexpr std::array painted = {1, 4, 5, 12, 21, 24};
-    for (std::size_t i = 0; i < painted.size(); ++i) {
-        document().tileset().current_tile()->fill(black);
-        script().key('1' + static_cast<Keycode>(i)).click(cell(12, 12));
-        play();
-        EXPECT_EQ(count_of(white), painted.at(i)) << "size " << i + 1;
-    }
 }
 
 TEST_F(Stroke_Test, leaves_the_tileset_unmarked_when_nothing_changes) {

@@ -5,7 +5,6 @@
 #include "panes/toolbox.h"
 
 #include <algorithm>
-#include <string>
 #include <vector>
 
 namespace quadrelle::testing {
@@ -37,33 +36,6 @@ protected:
     }
     static void choose(Tool_Option option, int value) { toolbox->options().set_value(option, value); }
 };
-
-TEST_F(Tools_Test, shapes_show_while_dragging_what_the_release_commits) {
-    struct Case {
-        Command command;
-        int pixels;
-    };
-    for (const auto& [command, expected] :
-         {Case{Command::line, 5}, Case{Command::rectangle, 16}, Case{Command::filled_rectangle, 25},
-          Case{Command::circle, 0}, Case{Command::filled_circle, 0}}) {
-        SCOPED_TRACE(menu_text(command));
-        document().tileset().current_tile()->fill(black);
-        execute(command);
-        std::vector<Color> shown;
-        // A detour leaves nothing behind.
-        script().press(cell(10, 10)).motion(cell(20, 3)).motion(cell(14, 14));
-        script().check([&shown] { shown = pixels(); }).release(cell(14, 14));
-        play();
-        EXPECT_EQ(pixels(), shown);
-        EXPECT_EQ(tile_pixel(20, 3), black);
-        if (expected > 0) {
-            EXPECT_EQ(count(white), expected);
-        }
-    }
-    EXPECT_EQ(tile_pixel(10, 10), white);
-    EXPECT_EQ(tile_pixel(14, 14), black);
-    EXPECT_EQ(tile_pixel(10, 14), white);
-}
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.

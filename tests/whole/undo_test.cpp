@@ -4,7 +4,6 @@
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 
-#include <string>
 #include <vector>
 
 namespace quadrelle::testing {
@@ -59,55 +58,6 @@ TEST_F(Undo_Test, takes_a_stroke_as_one_step_and_none_when_it_changed_nothing) {
     EXPECT_EQ(pixel_at(cell(9, 5)), white);
 }
 
-TEST_F(Undo_Test, goes_back_to_the_tile_that_a_step_was_made_on) {
-    execute(Command::add_new_tile);
-    stroke({cell(1, 1)});
-    execute(Command::previous_tile);
-    stroke({cell(5, 5)});
-    // The new tile as it was before its first stroke is there too.
-    EXPECT_EQ(history().entries().size(), 5U);
-    EXPECT_EQ(history().entries()[3].kind, Command::previous_tile);
-    press_undo();
-    EXPECT_EQ(tile_pixel(5, 5), black);
-    EXPECT_EQ(document().tileset().current_index(), 0);
-    press_undo();
-    EXPECT_EQ(document().tileset().current_index(), 1);
-    EXPECT_EQ(editor->canvas().tile(), document().tileset().current_tile());
-    EXPECT_EQ(pixel_at(cell(1, 1)), white);
-    EXPECT_EQ(count_in_preview(white), 4);
-    press_redo();
-    press_redo();
-    EXPECT_EQ(document().tileset().current_index(), 0);
-    EXPECT_EQ(pixel_at(cell(5, 5)), white);
-}
-
-TEST_F(Undo_Test, takes_back_the_first_stroke_on_a_tile_that_came_without_a_step) {
-    execute(Command::add_new_tile);
-    script().click(cell(3, 3));
-    script().click(cell(4, 4)).motion({1, 1});
-    play();
-    EXPECT_EQ(history().entries().size(), 4U);
-    press_undo();
-    press_undo();
-    EXPECT_EQ(document().tileset().current_index(), 1);
-    EXPECT_EQ(tile_pixel(3, 3), black);
-    press_undo();
-    EXPECT_EQ(document().tileset().current_index(), 0);
-
-    editor->documents().resize_current({24, 24});
-    // What changes nothing adds nothing.
-    tool_colors->set_color(Mouse_Button::left, black);
-    stroke({cell(1, 1)});
-    EXPECT_TRUE(history().entries().empty());
-    execute(Command::mirror);
-    tool_colors->set_color(Mouse_Button::left, white);
-    stroke({cell(1, 1)});
-    press_undo();
-    press_undo();
-    EXPECT_EQ(tile_pixel(1, 1), black);
-    EXPECT_EQ(history().position(), 0);
-}
-
 TEST_F(Undo_Test, makes_the_tool_of_the_step_current_again) {
     stroke({cell(1, 1)});
     toolbox->select(Command::stamp_brush);
@@ -117,44 +67,6 @@ TEST_F(Undo_Test, makes_the_tool_of_the_step_current_again) {
     EXPECT_EQ(toolbox->current_tool(), Tool::pen);
     press_redo();
     EXPECT_EQ(toolbox->current_tool(), Tool::stamp_brush);
-}
-
-TEST_F(Undo_Test, records_no_command_that_only_looks_or_adds) {
-    for (const Command command : {Command::zoom_tile_up, Command::swap_tool_colors, Command::add_new_tile,
-                                  Command::next_tile, Command::center_tile_on_view}) {
-        execute(command);
-    }
-    EXPECT_EQ(history().entries().size(), 1U);
-}
-
-TEST_F(Undo_Test, belongs_to_its_document) {
-    stroke({cell(1, 1)});
-    const std::string path = folder().data_path("set.qdl");
-    answer_files(File_Answer_State::chosen, path);
-    execute(Command::save_as);
-    execute(Command::load);
-    ASSERT_EQ(editor->documents().count(), 2);
-    EXPECT_EQ(history().entries().size(), 1U);
-    EXPECT_EQ(history().entries().front().kind, Command::change_tile);
-    EXPECT_FALSE(document().is_modified());
-    stroke({cell(7, 7)});
-    press_undo();
-    EXPECT_EQ(tile_pixel(7, 7), black);
-    EXPECT_EQ(tile_pixel(1, 1), white);
-    press_undo();
-    EXPECT_EQ(tile_pixel(1, 1), white);
-
-    document().clear_modified();
-    execute(Command::close);
-    press_undo();
-    EXPECT_EQ(tile_pixel(1, 1), black);
-    press_redo();
-    EXPECT_EQ(tile_pixel(1, 1), white);
-
-    editor->documents().resize_current({24, 24});
-    EXPECT_TRUE(history().entries().empty());
-    press_undo();
-    EXPECT_EQ(tile_pixel(1, 1), white);
 }
 
 TEST_F(Undo_Test, shows_the_newest_seven_states_in_its_pane) {

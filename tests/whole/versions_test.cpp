@@ -83,18 +83,6 @@ TEST_F(Versions_Test, previews_a_slot_while_its_key_or_a_button_on_it_is_held) {
     play();
 }
 
-TEST_F(Versions_Test, marks_the_selected_slot) {
-    const auto is_marked = [&](std::size_t i) {
-        const Rectangle& area = layout().slots.at(i);
-        return pixel_at({area.x - 2, area.y - 2}) == Color(0, 222, 255);
-    };
-    script().key('v').check([&] { EXPECT_FALSE(is_marked(0) || is_marked(1)); });
-    script().key('2').key_up('2').check([&] { EXPECT_TRUE(is_marked(1)); });
-    script().click(slot(0)).check([&] { EXPECT_TRUE(is_marked(0) && !is_marked(1)); });
-    script().key(key::escape);
-    play();
-}
-
 TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     paint_probe();
     const Tile_Picture kept = picture();
@@ -204,20 +192,6 @@ TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
     editor->documents().resize_current({24, 24});
     take_from('1');
     EXPECT_EQ(floating(), kept);
-}
-
-TEST_F(Versions_Test, shows_what_is_transparent_over_a_checkerboard) {
-    tile().fill({0, 0, 0, 0});
-    tile().update_texture();
-    store_in('1');
-    script().key('v').check([&] {
-        EXPECT_TRUE(has_picture(layout().big_view));
-        EXPECT_TRUE(has_picture(layout().slots[0]));
-        const Color shown = in_slot(0);
-        EXPECT_TRUE(shown == Color(101, 101, 101) || shown == Color(169, 169, 169));
-    });
-    script().key(key::escape);
-    play();
 }
 
 } // namespace

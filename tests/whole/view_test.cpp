@@ -49,13 +49,6 @@ TEST_F(View_Test, draws_where_the_zoomed_tile_is_shown) {
     EXPECT_EQ(pixel_at({520 - 12 * 9 - 1, 320}), pixel_at({266, 66}));
 }
 
-TEST_F(View_Test, centres) {
-    canvas().scroll_origin(-77, 31);
-    script().key(key::keypad_multiply);
-    play();
-    EXPECT_EQ(canvas().origin(), centre_of_24);
-}
-
 TEST_F(View_Test, pans_with_control_and_the_right_button) {
     script().key(key::left_control, Modifier::control).press({500, 300}, Mouse_Button::right);
     expect_loop("pan");
@@ -70,16 +63,6 @@ TEST_F(View_Test, pans_with_control_and_the_right_button) {
     play();
     EXPECT_EQ(canvas().origin(), (Point{centre_of_24.x - 97, centre_of_24.y - 4}));
     EXPECT_FALSE(document().is_modified());
-}
-
-TEST_F(View_Test, frame_stays_over_a_tile_that_is_panned_away) {
-    const Color frame = pixel_at({250, 300});
-    canvas().scroll_origin(-300, 0);
-    script().motion({5, 5});
-    play();
-    EXPECT_EQ(pixel_at({262, 205}), pixel_at({262, 600}));
-    EXPECT_EQ(pixel_at({250, 300}), frame);
-    EXPECT_EQ(pixel_at({266, 205}), Color(0, 0, 0));
 }
 
 struct Pan_Case {
