@@ -133,7 +133,7 @@ bool Documents::close_document() {
 }
 
 void Documents::mark_changed() {
-    if (current().set_modified()) {
+    if (current().mark_changed()) {
         refresh_titles();
     }
 }

@@ -39,10 +39,8 @@ void Recorder::step(const Edit& edit, Merge merge) {
 }
 
 void Recorder::record(Command kind) {
-    Tileset_Document& document = documents_.current();
-    if (document.tileset().has_tiles()) {
-        canvas_.with_tile_in_place([&] { document.history().add(entry_of(kind)); });
-    }
+    canvas_.with_tile_in_place(
+        [&] { documents_.current().record(kind, toolbox->current_tool(), canvas_.work_area().state()); });
 }
 
 bool Recorder::undo() {
@@ -66,15 +64,11 @@ std::optional<Undo_Entry> Recorder::missing_floor() {
         const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
                               canvas_.work_area() == entry->work;
         if (!is_known) {
-            floor = entry_of(Command::change_tile);
+            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool(),
+                                  canvas_.work_area().state());
         }
     });
     return floor;
-}
-
-Undo_Entry Recorder::entry_of(Command kind) const {
-    return undo_entry_of(documents_.current().tileset(), kind, toolbox->current_tool(),
-                         canvas_.work_area().state());
 }
 
 bool Recorder::stands_on_merged_step() {

@@ -37,7 +37,6 @@ public:
 
 private:
     [[nodiscard]] std::optional<Undo_Entry> missing_floor();
-    [[nodiscard]] Undo_Entry entry_of(Command kind) const;
     [[nodiscard]] bool stands_on_merged_step();
     bool restore(const Undo_Entry* entry);
 

@@ -14,12 +14,18 @@ void Tileset_Document::set_file(const std::string& path) {
     is_named_ = true;
 }
 
-bool Tileset_Document::set_modified() {
+bool Tileset_Document::mark_changed() {
     return !std::exchange(is_modified_, true);
 }
 
 std::string Tileset_Document::title() const {
     return file_name_ + (is_modified_ ? "*" : "");
+}
+
+void Tileset_Document::record(Command kind, Tool tool, Work_State work) {
+    if (tileset_.has_tiles()) {
+        history_.add(undo_entry_of(tileset_, kind, tool, std::move(work)));
+    }
 }
 
 Command Tileset_Document::handle_command(Command command) {

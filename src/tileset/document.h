@@ -32,8 +32,8 @@ public:
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
 
-    // False when it was set already.
-    bool set_modified();
+    // False when that was known already.
+    bool mark_changed();
     void clear_modified() { is_modified_ = false; }
     [[nodiscard]] bool is_modified() const { return is_modified_; }
     // It has a file of its own.
@@ -42,6 +42,9 @@ public:
     // The file name, followed by "*" while modified.
     [[nodiscard]] std::string title() const;
 
+    // The current tile, with what is selected on it and floats over it, becomes an entry of the history.
+    // Without a tile there is nothing to record.
+    void record(Command kind, Tool tool, Work_State work);
     // Commands on the current tile, the order of tiles and the strip: the command to record, "Skip command"
     // where it was refused, or none for every other command.
     Command handle_command(Command command);

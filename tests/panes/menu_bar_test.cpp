@@ -59,7 +59,7 @@ TEST_F(Menu_Bar_Test, stays_open_on_separators_and_closes_outside) {
 }
 
 TEST_F(Menu_Bar_Test, swallows_the_key_or_the_window_close_that_closes_it) {
-    document().set_modified();
+    document().mark_changed();
     // A keyboard sends the modifier first: the menu takes the chord as a whole.
     script().press(header(file)).key(key::left_control, Modifier::control);
     expect_menu().key('s', Modifier::control);

@@ -26,8 +26,8 @@ Tileset_Document document_of(int tiles) {
 TEST(Tileset_Document, shows_in_its_title_whether_it_is_saved) {
     Tileset_Document document = document_of(1);
     EXPECT_EQ(document.title(), "set.qdl");
-    EXPECT_TRUE(document.set_modified());
-    EXPECT_FALSE(document.set_modified());
+    EXPECT_TRUE(document.mark_changed());
+    EXPECT_FALSE(document.mark_changed());
     EXPECT_EQ(document.title(), "set.qdl*");
     EXPECT_FALSE(document.is_named());
     document.set_file("/a/b.qdl");
