@@ -190,7 +190,6 @@ constexpr Color wall_color(90, 90, 90);
 int fill_and_show(Tile& tile, Color color) {
     Drawing_Target target(tile);
     flood_fill(target, {0, 0}, color);
-    tile.update_texture();
     return static_cast<int>(std::ranges::count(tile.pixels(), color));
 }
 

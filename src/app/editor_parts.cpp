@@ -13,7 +13,6 @@ Editor_Parts::Editor_Parts(const Redraw& redraw_window)
 void Editor_Parts::show_current_tile() {
     Tileset& tileset = documents.current().tileset();
     canvas.set_tile(tileset.current_tile());
-    panes.show_in_preview(tileset.current_tile());
     // Without a tile there is nothing to centre yet.
     if (tileset.has_tiles() && tileset.tile_size() != shown_tile_size) {
         shown_tile_size = tileset.tile_size();

@@ -33,7 +33,6 @@ Outcome Selection_Desk::change(const std::function<void()>& work) {
     const Work_State before = canvas_.work_area().state();
     const std::vector<Color> pixels(tile->pixels().begin(), tile->pixels().end());
     work();
-    tile->update_texture();
     const bool is_same = canvas_.work_area() == before && std::ranges::equal(pixels, tile->pixels());
     return is_same ? Outcome::refused : Outcome::done;
 }
@@ -107,7 +106,6 @@ Outcome Selection_Desk::cut() {
     const Outcome outcome = copy();
     if (outcome == Outcome::done) {
         clear_selected();
-        canvas_.tile()->update_texture();
     }
     return outcome;
 }
@@ -196,7 +194,6 @@ void Selection_Desk::plot_paste() {
     }
     Drawing_Target target = work.target(*canvas_.tile());
     work.paste()->plot(target);
-    canvas_.tile()->update_texture();
     if (toolbox->selection_mode() == Selection_Mode::standard) {
         work.drop_paste();
     }

@@ -20,7 +20,6 @@ Outcome adjust_current_tile(Editor_Parts& editor, const HSV_Change& change) {
         if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::nothing_changed) {
             return Command::none;
         }
-        target.tile().update_texture();
         outcome = Outcome::done;
         return Command::adjust_hsv;
     });
@@ -34,7 +33,6 @@ Outcome adjust_all_tiles(Editor_Parts& editor, const HSV_Change& change) {
     for (int i = 0; i < document.tileset().count(); ++i) {
         Drawing_Target target(document.tileset().tile_at(i));
         if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::tile_changed) {
-            target.tile().update_texture();
             outcome = Outcome::done;
         }
     }

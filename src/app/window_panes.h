@@ -40,9 +40,7 @@ public:
     // No button of the mouse is held any more.
     void release() { navigation_.release(); }
 
-    // What the preview repeats: null for nothing, else borrowed until another one comes.
-    void show_in_preview(const Tile* tile) { preview_.set_tile(tile); }
-    // As often as the options say and as there is room.
+    // The preview repeats the tile as often as the options say and as there is room.
     void size_preview();
 
     [[nodiscard]] Palette_Area& palette() { return palette_; }

@@ -27,17 +27,18 @@ int seam_shift_of(int extent) {
 
 // Right or down, or back where negative; what leaves one edge enters at the other.
 void rotate_pixels(Tile& tile, Seam seam, int shift) {
-    const auto pixels = tile.pixels();
     const auto rotate = [shift](auto first, auto end, int unit) {
         std::rotate(first, shift < 0 ? first - shift * unit : end - shift * unit, end);
     };
-    if (seam == Seam::vertical) {
-        rotate(pixels.begin(), pixels.end(), tile.width());
-        return;
-    }
-    for (auto first = pixels.begin(); first != pixels.end(); first += tile.width()) {
-        rotate(first, first + tile.width(), 1);
-    }
+    tile.change_pixels([&](std::span<Color> pixels) {
+        if (seam == Seam::vertical) {
+            rotate(pixels.begin(), pixels.end(), tile.width());
+            return;
+        }
+        for (auto first = pixels.begin(); first != pixels.end(); first += tile.width()) {
+            rotate(first, first + tile.width(), 1);
+        }
+    });
 }
 
 bool ends_pan(const SDL_Event& event) {
@@ -97,7 +98,6 @@ bool Canvas_View::toggle_seam_shift(Seam seam) {
     }
     const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
     shift_pixels(seam, shift);
-    tile_->update_texture();
     seam_shift(seam) = shift;
     return true;
 }
@@ -112,7 +112,6 @@ void Canvas_View::undo_seam_shift(Seam seam) {
     const int shift = std::exchange(seam_shift(seam), no_seam_shift);
     if (shift > 0) {
         shift_pixels(seam, -shift);
-        tile_->update_texture();
     }
 }
 
@@ -139,7 +138,6 @@ void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
     work();
     shift_pixels(Seam::horizontal, horizontal);
     shift_pixels(Seam::vertical, vertical);
-    tile_->update_texture();
 }
 
 bool Canvas_View::zoom(Zoom_Step step) {

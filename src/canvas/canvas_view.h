@@ -105,7 +105,7 @@ public:
 
 private:
     void undo_seam_shift(Seam seam);
-    // The pixels of the tile and all that belongs to them; not what shows them.
+    // The pixels of the tile and all that belongs to them.
     void shift_pixels(Seam seam, int shift);
     [[nodiscard]] int& seam_shift(Seam seam) {
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;

@@ -22,8 +22,8 @@ class Stroke {
 public:
     Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointer)
         : canvas_(canvas), row_(row), tile_(*canvas.tile()), pointer_(pointer), button_(pointer.button),
-          pressed_(point_of(pointer)), start_(pressed_), end_(pressed_),
-          before_(tile_.pixels().begin(), tile_.pixels().end()), before_work_(canvas.work_area().state()) {}
+          pressed_(point_of(pointer)), start_(pressed_), end_(pressed_), before_(tile_),
+          before_work_(canvas.work_area().state()) {}
 
     void press() {
         path_.push_back(start_);
@@ -39,7 +39,7 @@ public:
             return;
         }
         if (row_.keeps_start) {
-            std::ranges::copy(before_, tile_.pixels().begin());
+            tile_.copy_from(before_);
             canvas_.work_area().restore(before_work_);
             draw(end_, Segment_Start::included);
         } else {
@@ -61,7 +61,6 @@ public:
         if (row_.finish != nullptr) {
             Drawing_Target target = canvas_.work_area().target(tile_);
             row_.finish(target, segment(pressed_, end_, Segment_Start::included));
-            tile_.update_texture();
         }
     }
 
@@ -70,7 +69,7 @@ public:
             return Stroke_Outcome::color_picked;
         }
         const bool is_same =
-            std::ranges::equal(before_, tile_.pixels()) && canvas_.work_area() == before_work_;
+            std::ranges::equal(before_.pixels(), tile_.pixels()) && canvas_.work_area() == before_work_;
         return is_same ? Stroke_Outcome::nothing_changed : Stroke_Outcome::something_changed;
     }
 
@@ -105,7 +104,6 @@ private:
     void draw(Tile_Point to, Segment_Start start) {
         Drawing_Target target = canvas_.work_area().target(tile_);
         last_ = row_.draw_segment(target, segment(start_, to, start));
-        tile_.update_texture();
     }
 
     [[nodiscard]] Tile_Point point_of(const Pointer_State& pointer) const {
@@ -136,7 +134,7 @@ private:
     std::vector<Tile_Point> path_;
     Segment_Start next_ = Segment_Start::included;
     Segment_Outcome last_ = Segment_Outcome::nothing;
-    std::vector<Color> before_;
+    Tile before_;
     Work_State before_work_;
 };
 

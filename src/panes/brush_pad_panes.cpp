@@ -79,7 +79,6 @@ void Brush_Pad_Panes::update_pictures(const Brush_Pad& pad, std::uint8_t hovered
         paint_brush(board_picture_, *brush, brush->position,
                     brush->id == hovered ? hovered_color : frame_color);
     }
-    board_picture_.update_texture();
     selected_picture_.reset();
     if (const Pad_Brush* const current = pad.current()) {
         selected_picture_ = std::make_unique<Tile>(current->outline.width(), current->outline.height());
@@ -94,16 +93,17 @@ void Brush_Pad_Panes::draw(const Brush_Pad& pad, Point pointer) {
     board_pane_.draw();
     board_pane_.draw_frame();
     const Rectangle client = board_pane_.client_area();
-    board_picture_.draw(
-        {client.x, client.y, cell_edge * board_picture_.width(), cell_edge * board_picture_.height()});
+    shown_board_.draw(board_picture_, {client.x, client.y, cell_edge * board_picture_.width(),
+                                       cell_edge * board_picture_.height()});
     draw_selected();
 }
 
-void Brush_Pad_Panes::draw_selected() const {
+void Brush_Pad_Panes::draw_selected() {
     selected_pane_.draw();
     selected_pane_.draw_frame();
     if (selected_picture_) {
-        selected_picture_->draw(fitted(selected_picture_->size(), selected_pane_.client_area()));
+        shown_selected_.draw(*selected_picture_,
+                             fitted(selected_picture_->size(), selected_pane_.client_area()));
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include "tools/brush_pad.h"
 #include "ui/pane.h"
+#include "ui/shown_tile.h"
 
 #include <memory>
 #include <optional>
@@ -24,13 +25,15 @@ public:
 
 private:
     void update_pictures(const Brush_Pad& pad, std::uint8_t hovered);
-    void draw_selected() const;
+    void draw_selected();
 
     Pane selected_pane_;
     Pane board_pane_;
     // One pixel for each cell of the board, and of the current brush, which may be none.
     Tile board_picture_;
     std::unique_ptr<Tile> selected_picture_;
+    Shown_Tile shown_board_;
+    Shown_Tile shown_selected_;
     std::optional<int> shown_revision_;
     std::uint8_t shown_hovered_ = 0;
 };

@@ -3,7 +3,6 @@
 #include "color/standard_colors.h"
 #include "commands/command_table.h"
 #include "screen/screen.h"
-#include "screen/streaming_texture.h"
 #include "ui/checkerboard.h"
 
 #include <algorithm>
@@ -54,14 +53,6 @@ Rectangle fitted(Size picture, const Rectangle& area) {
     const int step = std::max((picture.width + area.width - 1) / area.width,
                               (picture.height + area.height - 1) / area.height);
     return centred({std::max(picture.width / step, 1), std::max(picture.height / step, 1)}, area);
-}
-
-void draw_picture(const Tile& picture, const Texture& board, const Rectangle& area) {
-    if (picture.pixel_count() > 0) {
-        const Rectangle shown = fitted(picture.size(), area);
-        board.draw_part({0, 0, shown.width, shown.height}, shown);
-        picture.draw(shown);
-    }
 }
 
 // Light around dark: one of the two shows beside every colour.
@@ -129,7 +120,7 @@ Rectangle Copy_Panes::cell(std::size_t index) const {
     return {client.x + column * cell_edge, client.y + row * cell_edge, cell_edge, cell_edge};
 }
 
-void Copy_Panes::draw(const Copy_Buffer& copies) const {
+void Copy_Panes::draw(const Copy_Buffer& copies) {
     draw_current(copies);
     previous_.draw();
     previous_.clear(standard_color(Standard_Color::frame));
@@ -142,18 +133,26 @@ void Copy_Panes::draw(const Copy_Buffer& copies) const {
     }
 }
 
-void Copy_Panes::draw_current(const Copy_Buffer& copies) const {
+void Copy_Panes::draw_current(const Copy_Buffer& copies) {
     current_.draw();
     current_.clear(standard_color(Standard_Color::frame));
     if (copies.current() != nullptr) {
-        draw_picture(copies.current()->picture, *checkerboard_, current_.client_area());
+        draw_picture(copies.current()->picture, shown_current_, current_.client_area());
     }
 }
 
-void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) const {
-    draw_picture(copies.copies()[index].picture, *checkerboard_, cell(index).inset(mark_width));
+void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) {
+    draw_picture(copies.copies()[index].picture, shown_copies_.at(index), cell(index).inset(mark_width));
     if (index == copies.current_index()) {
         draw_mark(cell(index));
+    }
+}
+
+void Copy_Panes::draw_picture(const Tile& picture, Shown_Tile& shown, const Rectangle& area) const {
+    if (picture.pixel_count() > 0) {
+        const Rectangle place = fitted(picture.size(), area);
+        checkerboard_->draw_part({0, 0, place.width, place.height}, place);
+        shown.draw(picture, place);
     }
 }
 

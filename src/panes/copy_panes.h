@@ -7,6 +7,7 @@
 #include "commands/command.h"
 #include "selection/copy_buffer.h"
 #include "ui/pane.h"
+#include "ui/shown_tile.h"
 
 #include <array>
 #include <cstddef>
@@ -22,7 +23,7 @@ public:
 
     // With that top left corner, or higher where they would leave the column.
     void place(Point top_left);
-    void draw(const Copy_Buffer& copies) const;
+    void draw(const Copy_Buffer& copies);
 
     [[nodiscard]] const Pane& current() const { return current_; }
     [[nodiscard]] const Pane& previous() const { return previous_; }
@@ -34,8 +35,9 @@ public:
 private:
     static constexpr std::size_t button_count = 8;
 
-    void draw_current(const Copy_Buffer& copies) const;
-    void draw_copy(const Copy_Buffer& copies, std::size_t index) const;
+    void draw_current(const Copy_Buffer& copies);
+    void draw_copy(const Copy_Buffer& copies, std::size_t index);
+    void draw_picture(const Tile& picture, Shown_Tile& shown, const Rectangle& area) const;
     [[nodiscard]] Rectangle cell(std::size_t index) const;
     void place_buttons();
     // Returns where the next row begins.
@@ -46,6 +48,8 @@ private:
     Pane commands_;
     std::array<Rectangle, button_count> buttons_;
     std::unique_ptr<Texture> checkerboard_;
+    Shown_Tile shown_current_;
+    std::array<Shown_Tile, Copy_Buffer::capacity> shown_copies_;
 };
 
 } // namespace quadrelle

@@ -12,9 +12,8 @@ namespace {
 constexpr Size size_below_title{194, 34};
 constexpr int thumbnail_edge = 24;
 constexpr int thumbnail_step = 26;
-constexpr int shown_entries = 7;
 
-const Tile& thumbnail(const Undo_Entry& entry) {
+const Tile& picture_of(const Undo_Entry& entry) {
     return entry.work.selection ? entry.work.selection->mask() : entry.snapshot->tile;
 }
 
@@ -23,7 +22,7 @@ const Tile& thumbnail(const Undo_Entry& entry) {
 History_Pane::History_Pane(Point position)
     : Pane({position.x, position.y, size_below_title.width, size_below_title.height}, "History") {}
 
-void History_Pane::draw(const Undo_History& history) const {
+void History_Pane::draw(const Undo_History& history) {
     Pane::draw();
     if (!history.entries().empty()) {
         screen->draw_sprite(Sprite::history_list, {client_area().x - 1, client_area().y - 1});
@@ -33,13 +32,14 @@ void History_Pane::draw(const Undo_History& history) const {
     }
 }
 
-void History_Pane::draw_entries(const Undo_History& history) const {
+void History_Pane::draw_entries(const Undo_History& history) {
     const int count = static_cast<int>(history.entries().size());
-    const int shown = std::min(count, shown_entries);
     Point cell{client_area().x, client_area().y};
-    for (int i = count - shown; i < count; ++i) {
-        thumbnail(history.entries()[static_cast<std::size_t>(i)])
-            .draw({cell.x, cell.y, thumbnail_edge, thumbnail_edge});
+    for (int i = std::max(count - shown_entries, 0); i < count; ++i) {
+        // While newer entries come, each one keeps its texture.
+        Shown_Tile& thumbnail = thumbnails_.at(static_cast<std::size_t>(i % shown_entries));
+        thumbnail.draw(picture_of(history.entries()[static_cast<std::size_t>(i)]),
+                       {cell.x, cell.y, thumbnail_edge, thumbnail_edge});
         if (i == history.position()) {
             screen->draw_sprite(Sprite::tile_indicator, cell);
         }

@@ -4,6 +4,9 @@
 
 #include "tileset/undo_history.h"
 #include "ui/pane.h"
+#include "ui/shown_tile.h"
+
+#include <array>
 
 namespace quadrelle {
 
@@ -13,10 +16,14 @@ public:
 
     using Pane::draw;
     // The newest seven entries, the newest one on the right.
-    void draw(const Undo_History& history) const;
+    void draw(const Undo_History& history);
 
 private:
-    void draw_entries(const Undo_History& history) const;
+    static constexpr int shown_entries = 7;
+
+    void draw_entries(const Undo_History& history);
+
+    std::array<Shown_Tile, shown_entries> thumbnails_;
 };
 
 } // namespace quadrelle

@@ -2,7 +2,6 @@
 
 #include "pixels/tile.h"
 #include "screen/screen.h"
-#include "screen/streaming_texture.h"
 #include "ui/checkerboard.h"
 
 #include <algorithm>
@@ -20,33 +19,30 @@ void Preview_Pane::set_repeat(int columns, int rows) {
 }
 
 // The whole pattern in the middle, or what of it fits.
-Rectangle Preview_Pane::pattern_area() const {
+Rectangle Preview_Pane::pattern_area(Size tile) const {
     const Rectangle client = client_area();
-    const Size pattern{std::min(tile_->width() * repeat_.width, client.width),
-                       std::min(tile_->height() * repeat_.height, client.height)};
+    const Size pattern{std::min(tile.width * repeat_.width, client.width),
+                       std::min(tile.height * repeat_.height, client.height)};
     return centred(pattern, client);
 }
 
-void Preview_Pane::draw() const {
+void Preview_Pane::draw(const Tile* tile) {
     Pane::draw();
     // A pattern that fills the pane deliberately covers its outline: every pixel shows.
     draw_frame();
-    if (tile_ != nullptr) {
-        const Rectangle pattern = pattern_area();
-        checkerboard_->draw_part({0, 0, pattern.width, pattern.height}, pattern);
-        draw_tiles(pattern);
+    if (tile != nullptr && tile->pixel_count() > 0) {
+        draw_pattern(*tile);
     }
 }
 
-void Preview_Pane::draw_tiles(const Rectangle& pattern) const {
-    if (tile_->width() == 0 || tile_->height() == 0) {
-        return;
-    }
-    for (int y = pattern.y; y < pattern.bottom(); y += tile_->height()) {
-        for (int x = pattern.x; x < pattern.right(); x += tile_->width()) {
-            const Size shown{std::min(tile_->width(), pattern.right() - x),
-                             std::min(tile_->height(), pattern.bottom() - y)};
-            tile_->texture().draw_part({0, 0, shown.width, shown.height}, {x, y, shown.width, shown.height});
+void Preview_Pane::draw_pattern(const Tile& tile) {
+    const Rectangle pattern = pattern_area(tile.size());
+    checkerboard_->draw_part({0, 0, pattern.width, pattern.height}, pattern);
+    for (int y = pattern.y; y < pattern.bottom(); y += tile.height()) {
+        for (int x = pattern.x; x < pattern.right(); x += tile.width()) {
+            const Size shown{std::min(tile.width(), pattern.right() - x),
+                             std::min(tile.height(), pattern.bottom() - y)};
+            shown_.draw_part(tile, {0, 0, shown.width, shown.height}, {x, y, shown.width, shown.height});
         }
     }
 }

@@ -3,6 +3,7 @@
 // The current tile in real size, repeated, as a pattern that it may be used for.
 
 #include "ui/pane.h"
+#include "ui/shown_tile.h"
 
 namespace quadrelle {
 
@@ -13,17 +14,17 @@ public:
     explicit Preview_Pane(const Rectangle& below_title);
     ~Preview_Pane() override;
 
-    void draw() const override;
+    using Pane::draw;
+    // Null shows the empty pane.
+    void draw(const Tile* tile);
     // What has no room is not shown.
     void set_repeat(int columns, int rows);
-    // Borrowed: must stay until another one or null is set.
-    void set_tile(const Tile* tile) { tile_ = tile; }
 
 private:
-    [[nodiscard]] Rectangle pattern_area() const;
-    void draw_tiles(const Rectangle& pattern) const;
+    [[nodiscard]] Rectangle pattern_area(Size tile) const;
+    void draw_pattern(const Tile& tile);
 
-    const Tile* tile_ = nullptr;
+    Shown_Tile shown_;
     Size repeat_{1, 1};
     std::unique_ptr<Texture> checkerboard_;
 };

@@ -1,8 +1,5 @@
 #include "pixels/tile.h"
 
-#include "screen/renderer.h"
-#include "screen/streaming_texture.h"
-
 #include <algorithm>
 #include <limits>
 #include <stdexcept>
@@ -26,13 +23,18 @@ std::size_t checked_pixel_count(int width, int height) {
 Tile::Tile(int width, int height)
     : width_(width), height_(height), pixels_(checked_pixel_count(width, height)) {}
 
-Tile::Tile(const Tile& other) : width_(other.width_), height_(other.height_), pixels_(other.pixels_) {}
-
-Tile::~Tile() = default;
+std::uint64_t Tile::version() const {
+    static std::uint64_t last_version = unknown_version;
+    if (version_ == unknown_version) {
+        version_ = ++last_version;
+    }
+    return version_;
+}
 
 std::size_t Tile::memory_size() const {
     const std::size_t pixel_bytes = pixels_.size() * bytes_per_pixel;
-    return 12 + pixel_bytes + Streaming_Texture::memory_size(size());
+    const std::size_t texture_bytes = 32 + pixel_bytes;
+    return 12 + pixel_bytes + texture_bytes;
 }
 
 Color Tile::get_pixel_clamped(int x, int y) const {
@@ -41,23 +43,23 @@ Color Tile::get_pixel_clamped(int x, int y) const {
 }
 
 void Tile::fill(Color color) {
-    std::ranges::fill(pixels_, color);
+    change_pixels([=](std::span<Color> pixels) { std::ranges::fill(pixels, color); });
 }
 
 void Tile::copy_to(Tile& other) const {
     other.copy_from(*this);
-    other.update_texture();
 }
 
 void Tile::copy_from(const Tile& other) {
     const std::size_t count = std::min(pixels_.size(), other.pixels_.size());
-    std::ranges::copy(other.pixels().first(count), pixels_.begin());
+    change_pixels(
+        [&](std::span<Color> pixels) { std::ranges::copy(other.pixels().first(count), pixels.begin()); });
 }
 
 void Tile::swap_pixels(Tile& other) {
-    std::ranges::swap_ranges(pixels_, other.pixels_);
-    update_texture();
-    other.update_texture();
+    change_pixels([&](std::span<Color> own) {
+        other.change_pixels([=](std::span<Color> others) { std::ranges::swap_ranges(own, others); });
+    });
 }
 
 void Tile::paste_into(Tile& other, int dx, int dy) const {
@@ -66,7 +68,6 @@ void Tile::paste_into(Tile& other, int dx, int dy) const {
             other.set_pixel(dx + x, dy + y, get_pixel(x, y));
         }
     }
-    other.update_texture();
 }
 
 void Tile::paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha) const {
@@ -77,7 +78,6 @@ void Tile::paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha
             other.set_pixel(dx + x, dy + y, color);
         }
     }
-    other.update_texture();
 }
 
 void Tile::mask_into(const Tile& source, Tile& target) const {
@@ -86,7 +86,6 @@ void Tile::mask_into(const Tile& source, Tile& target) const {
             target.set_pixel(x, y, is_white_at(x, y) ? source.get_pixel(x, y) : Color{0, 0, 0, 0});
         }
     }
-    target.update_texture();
 }
 
 bool Tile::overlaps(const Tile& target, int dx, int dy) const {
@@ -129,30 +128,35 @@ void Tile::replace_near(int x, int y, Color match, Color color) {
 }
 
 void Tile::replace_alpha(std::uint8_t from, std::uint8_t to) {
-    for (Color& pixel : pixels_) {
+    map_colours([=](Color pixel) {
         pixel.a = pixel.a == from ? to : pixel.a;
-    }
+        return pixel;
+    });
 }
 
 void Tile::key_transparency(Color key) {
-    for (Color& pixel : pixels_) {
+    map_colours([=](Color pixel) {
         pixel.a = pixel.same_rgb(key) ? 0 : 255;
-    }
+        return pixel;
+    });
 }
 
 void Tile::blend_towards(Color color, double factor) {
-    for (Color& pixel : pixels_) {
+    map_colours([=](Color pixel) {
         pixel.blend(color, factor);
-    }
+        return pixel;
+    });
 }
 
 void Tile::read_pixels(std::span<const std::uint8_t> bytes) {
     const std::size_t count = std::min(pixels_.size(), bytes.size() / bytes_per_pixel);
     const std::uint8_t* source = bytes.data();
-    for (Color& pixel : pixels().first(count)) {
-        pixel = {source[3], source[2], source[1], source[0]};
-        source += bytes_per_pixel;
-    }
+    change_pixels([&](std::span<Color> pixels) {
+        for (Color& pixel : pixels.first(count)) {
+            pixel = {source[3], source[2], source[1], source[0]};
+            source += bytes_per_pixel;
+        }
+    });
 }
 
 void Tile::write_pixels(std::span<std::uint8_t> bytes) const {
@@ -164,28 +168,6 @@ void Tile::write_pixels(std::span<std::uint8_t> bytes) const {
         *target++ = pixel.g;
         *target++ = pixel.r;
     }
-}
-
-void Tile::update_texture() {
-    // One that is not made yet starts with the pixels of that time.
-    if (texture_) {
-        texture_->upload(pixels_);
-    }
-}
-
-void Tile::draw(Point position) const {
-    texture().draw_at(position);
-}
-
-void Tile::draw(const Rectangle& destination) const {
-    texture().draw(destination);
-}
-
-const Streaming_Texture& Tile::texture() const {
-    if (!texture_) {
-        texture_ = std::make_unique<Streaming_Texture>(pixels_, size(), active_renderer());
-    }
-    return *texture_;
 }
 
 } // namespace quadrelle

@@ -1,29 +1,24 @@
 #pragma once
 
-// A rectangle of colours, and the texture that shows it. Knows nothing of tilesets, tools or the window.
+// A rectangle of colours. Knows nothing of tilesets, tools or the window.
 
 #include "base/geometry.h"
 #include "color/color.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <span>
 #include <vector>
 
 namespace quadrelle {
 
-class Streaming_Texture;
-
-// The texture follows only where an operation says so: after single pixels, or an operation on the tile
-// itself, the caller calls `update_texture`. Width and height may be 0; then there is no pixel to work on.
+// Width and height may be 0; then there is no pixel to work on.
 class Tile {
 public:
     // Opaque black. Throws std::length_error for a negative size or more pixels than an int counts.
     Tile(int width, int height);
-    Tile(const Tile& other);
+    Tile(const Tile&) = default;
     Tile& operator=(const Tile&) = delete;
-    virtual ~Tile();
 
     [[nodiscard]] int width() const { return width_; }
     [[nodiscard]] int height() const { return height_; }
@@ -31,9 +26,11 @@ public:
     [[nodiscard]] int pixel_count() const { return static_cast<int>(pixels_.size()); }
     // Row by row from the top, left to right.
     [[nodiscard]] std::span<const Color> pixels() const { return pixels_; }
-    [[nodiscard]] std::span<Color> pixels() { return pixels_; }
     [[nodiscard]] bool same_size(const Tile& other) const { return size() == other.size(); }
-    // Bytes of the pixels and the texture, as the statistics count them.
+    // Two tiles with the same version, or one at two times, have the same size and pixels. Never 0. Whoever
+    // shows a tile knows by it whether the picture is still right.
+    [[nodiscard]] std::uint64_t version() const;
+    // Bytes of the pixels and of a texture for them, as the statistics count them, shown or not.
     [[nodiscard]] std::size_t memory_size() const;
 
     [[nodiscard]] bool is_outside(int x, int y) const {
@@ -56,11 +53,13 @@ public:
             return false;
         }
         pixels_[offset(x, y)] = color;
+        version_ = unknown_version;
         return true;
     }
     void set_pixel_at(int i, Color color) {
         if (!is_outside_index(i)) {
             pixels_[static_cast<std::size_t>(i)] = color;
+            version_ = unknown_version;
         }
     }
     // Alpha is not looked at.
@@ -70,7 +69,6 @@ public:
     [[nodiscard]] std::uint8_t alpha_at(int x, int y) const { return get_pixel(x, y).a; }
 
     void fill(Color color);
-    // These refresh the texture of every tile that they write to but `copy_from`, which refreshes none.
     // Copies and swaps are for tiles of one size.
     void copy_to(Tile& other) const;
     void copy_from(const Tile& other);
@@ -97,8 +95,7 @@ public:
     // this(x, y) = source(x + dx, y + dy), wrapped around; for steps of at most one pixel.
     void shift_wrapped(const Tile& source, int dx, int dy);
 
-    // Bilinear and always opaque, except onto the same size, which copies. The target's texture is
-    // refreshed only by that copy.
+    // Bilinear and always opaque, except onto the same size, which copies.
     void resample_into(Tile& target) const;
     void anti_alias();
     // The target is twice as wide and high.
@@ -113,22 +110,26 @@ public:
     // pixel = function(pixel), in index order.
     template <typename Function>
     void map_colours(Function function) {
-        for (Color& pixel : pixels_) {
-            pixel = function(pixel);
-        }
+        change_pixels([&](std::span<Color> pixels) {
+            for (Color& pixel : pixels) {
+                pixel = function(pixel);
+            }
+        });
+    }
+    // function(pixels) may change them all, in the order of `pixels`; it must not keep them.
+    template <typename Function>
+    void change_pixels(Function function) {
+        function(std::span(pixels_));
+        version_ = unknown_version;
     }
 
     // Four bytes a pixel: alpha, blue, green, red. Bytes or pixels without a partner are left alone.
     void read_pixels(std::span<const std::uint8_t> bytes);
     void write_pixels(std::span<std::uint8_t> bytes) const;
 
-    void update_texture();
-    void draw(Point position) const;
-    void draw(const Rectangle& destination) const;
-    // Made when first asked for, because most tiles are never shown.
-    [[nodiscard]] const Streaming_Texture& texture() const;
-
 private:
+    static constexpr std::uint64_t unknown_version = 0;
+
     [[nodiscard]] std::size_t offset(int x, int y) const {
         return static_cast<std::size_t>(x) + static_cast<std::size_t>(width_) * static_cast<std::size_t>(y);
     }
@@ -136,7 +137,8 @@ private:
     int width_;
     int height_;
     std::vector<Color> pixels_;
-    mutable std::unique_ptr<Streaming_Texture> texture_;
+    // Unknown since a change, until somebody asks: to write a pixel costs no count.
+    mutable std::uint64_t version_ = unknown_version;
 };
 
 } // namespace quadrelle

@@ -141,7 +141,6 @@ void Tile::scale2x_into(Tile& target) const {
             target.set_pixel(2 * x + 1, 2 * y + 1, choose(below, right));
         }
     }
-    target.update_texture();
 }
 
 } // namespace quadrelle

@@ -53,14 +53,6 @@ void Streaming_Texture::upload(std::span<const Color> pixels) {
     SDL_UnlockTexture(texture_.get());
 }
 
-void Streaming_Texture::draw_at(Point position) const {
-    draw({position.x, position.y, size_.width, size_.height});
-}
-
-void Streaming_Texture::draw(const Rectangle& destination) const {
-    draw_part({0, 0, size_.width, size_.height}, destination);
-}
-
 void Streaming_Texture::draw_part(const Rectangle& source, const Rectangle& destination) const {
     if (!texture_) {
         return;
@@ -68,10 +60,6 @@ void Streaming_Texture::draw_part(const Rectangle& source, const Rectangle& dest
     const SDL_FRect from = float_rectangle(source);
     const SDL_FRect to = float_rectangle(destination);
     SDL_RenderTexture(renderer_, texture_.get(), &from, &to);
-}
-
-std::size_t Streaming_Texture::memory_size(Size size) {
-    return 32 + static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height) * 4;
 }
 
 } // namespace quadrelle

@@ -26,14 +26,10 @@ public:
 
     // Replaces the whole image; as many pixels as at construction.
     void upload(std::span<const Color> pixels);
-    void draw_at(Point position) const;
-    void draw(const Rectangle& destination) const;
     // The part `source` of the image, stretched over `destination` without smoothing.
     void draw_part(const Rectangle& source, const Rectangle& destination) const;
 
     [[nodiscard]] Size size() const { return size_; }
-    // Bytes of a texture of that size, as callers that budget memory count them.
-    [[nodiscard]] static std::size_t memory_size(Size size);
 
 private:
     Size size_;

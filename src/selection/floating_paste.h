@@ -29,7 +29,7 @@ struct Floating_Paste {
 // The selected pixels, from the corner of their bounds. The selection is not empty.
 [[nodiscard]] Floating_Paste lifted(const Tile& tile, const Selection& selection);
 
-// Makes the selected pixels transparent. Leaves the texture.
+// Makes the selected pixels transparent.
 void clear_selected(Tile& tile, const Selection& selection);
 
 } // namespace quadrelle

@@ -54,13 +54,14 @@ Decoded_Picture decoded(SDL_Surface& surface) {
     }
     Decoded_Picture result;
     Tile& picture = result.picture.emplace(surface.w, surface.h);
-    const auto row_bytes = static_cast<std::size_t>(surface.w) * sizeof(Color);
-    for (int y = 0; y < surface.h; ++y) {
-        const auto* const row =
-            static_cast<const std::byte*>(converted->pixels) + std::ptrdiff_t{y} * converted->pitch;
-        std::memcpy(&picture.pixels()[static_cast<std::size_t>(y) * static_cast<std::size_t>(surface.w)], row,
-                    row_bytes);
-    }
+    const auto width = static_cast<std::size_t>(surface.w);
+    picture.change_pixels([&](std::span<Color> pixels) {
+        for (int y = 0; y < surface.h; ++y) {
+            const auto* const row =
+                static_cast<const std::byte*>(converted->pixels) + std::ptrdiff_t{y} * converted->pitch;
+            std::memcpy(&pixels[static_cast<std::size_t>(y) * width], row, width * sizeof(Color));
+        }
+    });
     return result;
 }
 
@@ -83,10 +84,10 @@ Decoded_Picture decode_bitmap(Picture_Bytes bytes) {
 }
 
 std::vector<std::uint8_t> encode_bitmap(const Tile& picture) {
-    Tile copy(picture);
-    const Surface_Handle surface(SDL_CreateSurfaceFrom(copy.width(), copy.height(), tile_format,
-                                                       copy.pixels().data(),
-                                                       copy.width() * static_cast<int>(sizeof(Color))));
+    // Only read from, although SDL cannot say so.
+    auto* const pixels = const_cast<Color*>(picture.pixels().data());
+    const Surface_Handle surface(SDL_CreateSurfaceFrom(picture.width(), picture.height(), tile_format, pixels,
+                                                       picture.width() * static_cast<int>(sizeof(Color))));
     const Stream_Handle stream(SDL_IOFromDynamicMem());
     if (!surface || !stream || !SDL_SaveBMP_IO(surface.get(), stream.get(), false)) {
         return {};
@@ -125,7 +126,11 @@ Decoded_Picture decode_png(Picture_Bytes bytes) {
     png.image.format = PNG_FORMAT_BGRA;
     Tile& picture =
         result.picture.emplace(static_cast<int>(png.image.width), static_cast<int>(png.image.height));
-    if (png_image_finish_read(&png.image, nullptr, picture.pixels().data(), 0, nullptr) == 0) {
+    bool is_read = false;
+    picture.change_pixels([&](std::span<Color> pixels) {
+        is_read = png_image_finish_read(&png.image, nullptr, pixels.data(), 0, nullptr) != 0;
+    });
+    if (!is_read) {
         return {std::nullopt, Picture_Fault::broken};
     }
     return result;

@@ -32,12 +32,13 @@ void Selection::invert() {
 void Selection::combine(const Selection& other, Selection_Change change) {
     const Color color = change == Selection_Change::add ? selected_color : unselected_color;
     const auto theirs = other.mask_.pixels();
-    const auto own = mask_.pixels();
-    for (std::size_t i = 0; i < own.size(); ++i) {
-        if (theirs[i] == selected_color) {
-            own[i] = color;
+    mask_.change_pixels([&](std::span<Color> own) {
+        for (std::size_t i = 0; i < own.size(); ++i) {
+            if (theirs[i] == selected_color) {
+                own[i] = color;
+            }
         }
-    }
+    });
     count_selected();
 }
 

@@ -123,7 +123,6 @@ Command transform_selected(Tile& tile, Selection& selection, Command command) {
     } else {
         return Command::none;
     }
-    tile.update_texture();
     return command;
 }
 

@@ -42,7 +42,6 @@ bool Tileset::insert_copy_after(const Tile& source) {
     insert_at(has_tiles() ? current_index_ + 1 : 0);
     Tile& copy = tile_at(current_index_);
     source.resample_into(copy);
-    copy.update_texture();
     return true;
 }
 
@@ -86,7 +85,6 @@ bool Tileset::delete_current() {
     }
     if (count() == 1) {
         tile_at(0).fill({});
-        tile_at(0).update_texture();
         return false;
     }
     const bool was_last = is_last();

@@ -41,7 +41,6 @@ Command transform_tile(Tile* tile, Command command) {
     }
     const Tile before(*tile);
     row->apply(*tile, before);
-    tile->update_texture();
     return command;
 }
 

@@ -6,7 +6,7 @@
 
 namespace quadrelle {
 
-// Borrows both tiles. The texture is left to whoever runs the stroke.
+// Borrows both tiles.
 class Drawing_Target {
 public:
     explicit Drawing_Target(Tile& tile) : tile_(&tile) {}

@@ -122,7 +122,6 @@ void Adjust_HSV::show_change() {
     Drawing_Target shown =
         adjustment_.tiles == Adjusted_Tiles::all ? Drawing_Target(target_.tile()) : target_;
     adjust_hsv(shown, source_, adjustment_.change);
-    target_.tile().update_texture();
 }
 
 void Adjust_HSV::step(std::size_t index, int amount) {

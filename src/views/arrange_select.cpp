@@ -30,7 +30,7 @@ bool Arrangement::run() {
     return has_swapped_;
 }
 
-void Arrangement::draw() const {
+void Arrangement::draw() {
     grid_.draw(text());
     if (tileset_.has_tiles()) {
         draw_marker(Sprite::first_big_marker, primary_);
@@ -90,7 +90,6 @@ void Arrangement::swap() {
     if (tileset_.swap_tiles(primary_, secondary_)) {
         std::swap(primary_, secondary_);
         has_swapped_ = true;
-        grid_.refresh();
     }
 }
 

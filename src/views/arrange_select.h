@@ -23,7 +23,7 @@ public:
     bool run();
 
 private:
-    void draw() const;
+    void draw();
     void draw_marker(Sprite marker, int tile) const;
     [[nodiscard]] std::string text() const;
     Loop_Step handle(const SDL_Event& event);

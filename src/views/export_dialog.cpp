@@ -55,8 +55,10 @@ Point wheel_step(const SDL_MouseWheelEvent& event) {
 
 Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
     : picture_(picture), caption_(caption_of(picture, tile_count)), frame_("Export as .bmp"),
-      ok_({}, Button_Type::ok), cancel_({}, Button_Type::cancel),
-      view_(std::min(picture.width(), view_size.width), std::min(picture.height(), view_size.height)) {
+      ok_({}, Button_Type::ok),
+      cancel_({}, Button_Type::cancel), seen_{std::min(picture.width(), view_size.width),
+                                              std::min(picture.height(), view_size.height)},
+      view_(seen_, screen->renderer()) {
     frame_.set_size({dialog_size.width, dialog_size.height - dialog_title_height});
     const Rectangle& box = frame_.area();
     view_area_ = {box.x + view_margin, box.y + dialog_title_height + view_margin, view_size.width,
@@ -124,7 +126,7 @@ void Export_Dialog::drag_to(Point point) {
 }
 
 void Export_Dialog::scroll_by(Point step) {
-    const Point end{picture_.width() - view_.width(), picture_.height() - view_.height()};
+    const Point end{picture_.width() - seen_.width, picture_.height() - seen_.height};
     const Point offset{std::clamp(offset_.x + step.x, 0, end.x), std::clamp(offset_.y + step.y, 0, end.y)};
     if (offset != offset_) {
         offset_ = offset;
@@ -133,20 +135,21 @@ void Export_Dialog::scroll_by(Point step) {
 }
 
 void Export_Dialog::compose_view() {
-    for (int y = 0; y < view_.height(); ++y) {
-        for (int x = 0; x < view_.width(); ++x) {
-            const Color color = picture_.get_pixel(offset_.x + x, offset_.y + y);
-            view_.set_pixel(x, y, blended_over(color, checkerboard_color(x, y)));
+    view_.update([this](const Pixel_Rows& target) {
+        for (int y = 0; y < seen_.height; ++y) {
+            for (int x = 0; x < seen_.width; ++x) {
+                const Color color = picture_.get_pixel(offset_.x + x, offset_.y + y);
+                target.row(y)[x] = blended_over(color, checkerboard_color(x, y));
+            }
         }
-    }
-    view_.update_texture();
+    });
 }
 
 void Export_Dialog::draw() const {
     frame_.draw();
     screen->fill_rect(view_area_, standard_color(Standard_Color::dark_frame));
-    const Rectangle shown = centred(view_.size(), view_area_);
-    view_.draw(shown);
+    const Rectangle shown = centred(seen_, view_area_);
+    view_.draw_at({shown.x, shown.y});
     draw_overflow_marks();
     ok_.draw();
     cancel_.draw();
@@ -166,10 +169,10 @@ void Export_Dialog::draw_overflow_marks() const {
     if (offset_.y > 0) {
         draw_mark({middle.x, area.y}, {0, -1});
     }
-    if (offset_.x + view_.width() < picture_.width()) {
+    if (offset_.x + seen_.width < picture_.width()) {
         draw_mark({area.right(), middle.y}, {1, 0});
     }
-    if (offset_.y + view_.height() < picture_.height()) {
+    if (offset_.y + seen_.height < picture_.height()) {
         draw_mark({middle.x, area.bottom()}, {0, 1});
     }
 }

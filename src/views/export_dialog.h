@@ -4,6 +4,7 @@
 
 #include "pixels/tile.h"
 #include "screen/events.h"
+#include "screen/opaque_texture.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 
@@ -40,7 +41,8 @@ private:
     Rectangle view_area_;
     Button_Dialog_Item ok_;
     Button_Dialog_Item cancel_;
-    Tile view_; // the part that is seen, over a checkerboard
+    Size seen_; // of the picture, from `offset_` on
+    Opaque_Texture view_;
     Point offset_;
     std::optional<Point> dragged_from_;
     bool is_accepted_ = false;

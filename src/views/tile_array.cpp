@@ -25,7 +25,7 @@ public:
     }
 
 private:
-    void draw() const;
+    void draw();
     [[nodiscard]] std::string text() const;
     Loop_Step handle(const SDL_Event& event);
     Loop_Step handle_key(const SDL_KeyboardEvent& event);
@@ -38,7 +38,7 @@ private:
     std::optional<int> clicked_;
 };
 
-void Tile_Array::draw() const {
+void Tile_Array::draw() {
     grid_.draw(text());
     const int cells = grid_.columns() * grid_.rows();
     const int current = tileset_.current_index() - grid_.page() * cells;

@@ -7,6 +7,7 @@
 #include "tileset/tileset.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quadrelle {
 
@@ -63,9 +64,7 @@ Tile_Grid::Tile_Grid(std::string_view title, const Tileset& tileset, Size cells,
       cell_(cell), area_{grid_position.x, grid_position.y, cells.width * cell.width,
                          cells.height * cell.height},
       text_(text_area_below(area_), title),
-      picture_(std::make_unique<Opaque_Texture>(Size{area_.width, area_.height}, screen->renderer())) {
-    refresh();
-}
+      picture_(std::make_unique<Opaque_Texture>(Size{area_.width, area_.height}, screen->renderer())) {}
 
 Tile_Grid::~Tile_Grid() = default;
 
@@ -89,15 +88,28 @@ int Tile_Grid::page_count() const {
 
 void Tile_Grid::set_page(int page) {
     page_ = std::clamp(page, 0, page_count() - 1);
-    refresh();
 }
 
 void Tile_Grid::show_page_of(int tile) {
     set_page(tile / page_size());
 }
 
-void Tile_Grid::refresh() {
-    picture_->update([this](const Pixel_Rows& target) { paint_cells(target); });
+std::vector<std::uint64_t> Tile_Grid::versions_on_page() const {
+    const int first = page_ * page_size();
+    const int end = std::min(tileset_.count(), first + page_size());
+    std::vector<std::uint64_t> versions;
+    for (int i = first; i < end; ++i) {
+        versions.push_back(tileset_.tile_at(i).version());
+    }
+    return versions;
+}
+
+void Tile_Grid::update_picture() {
+    std::vector<std::uint64_t> versions = versions_on_page();
+    if (versions != shown_versions_) {
+        picture_->update([this](const Pixel_Rows& target) { paint_cells(target); });
+        shown_versions_ = std::move(versions);
+    }
 }
 
 void Tile_Grid::paint_cells(const Pixel_Rows& target) const {
@@ -114,7 +126,8 @@ void Tile_Grid::paint_cells(const Pixel_Rows& target) const {
     }
 }
 
-void Tile_Grid::draw(std::string_view text) const {
+void Tile_Grid::draw(std::string_view text) {
+    update_picture();
     // What else is in the window steps back: the panel covers parts of it.
     screen->fill_rect({0, 0, screen->size().width, screen->size().height}, window_shade);
     const Rectangle panel{area_.x, area_.y, text_.area.width, text_.area.bottom() - area_.y};

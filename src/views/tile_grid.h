@@ -7,8 +7,11 @@
 #include "screen/sprite_table.h"
 #include "ui/text_pane.h"
 
+#include <cstdint>
 #include <memory>
+#include <optional>
 #include <string_view>
+#include <vector>
 
 namespace quadrelle {
 
@@ -41,15 +44,16 @@ public:
     void set_page(int page);
     void show_page_of(int tile);
 
-    // After tiles changed.
-    void refresh();
     // The text may have up to three lines.
-    void draw(std::string_view text) const;
+    void draw(std::string_view text);
     // With its corner on that of a cell; nothing for a cell that is not there.
     void draw_marker(Sprite marker, int column, int row) const;
 
 private:
     [[nodiscard]] int page_size() const { return cells_.width * cells_.height; }
+    // Composes the picture anew if the page's tiles are no longer those that it shows.
+    void update_picture();
+    [[nodiscard]] std::vector<std::uint64_t> versions_on_page() const;
     void paint_cells(const Pixel_Rows& target) const;
 
     const Tileset& tileset_;
@@ -59,6 +63,7 @@ private:
     int page_ = 0;
     Text_Pane text_;
     std::unique_ptr<Opaque_Texture> picture_;
+    std::optional<std::vector<std::uint64_t>> shown_versions_; // none before the first picture
 };
 
 } // namespace quadrelle

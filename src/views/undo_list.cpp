@@ -6,9 +6,12 @@
 #include "screen/screen.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
+#include "ui/shown_tile.h"
 
 #include <cstddef>
+#include <span>
 #include <string_view>
+#include <vector>
 
 namespace quadrelle {
 
@@ -33,20 +36,22 @@ void draw_label(Command kind, Point position) {
     screen->draw_text(Font::pane, {position.x, position.y + text_drop}, text);
 }
 
-void draw_row(const Undo_Entry& entry, const Rectangle& area, bool is_current) {
+void draw_row(const Undo_Entry& entry, Shown_Tile& thumbnail, const Rectangle& area, bool is_current) {
     screen->draw_box(area,
                      standard_color(is_current ? Standard_Color::list_active : Standard_Color::list_passive));
     const int y = area.y + thumbnail_inset;
-    entry.snapshot->tile.draw({area.x + thumbnail_inset, y, thumbnail_edge, thumbnail_edge});
+    thumbnail.draw(entry.snapshot->tile, {area.x + thumbnail_inset, y, thumbnail_edge, thumbnail_edge});
     draw_label(entry.kind, {area.x + label_offset, y});
 }
 
-void draw_list(const Undo_History& history, const Dialog_Frame& frame) {
+// Each entry keeps its thumbnail.
+void draw_list(const Undo_History& history, std::span<Shown_Tile> thumbnails, const Dialog_Frame& frame) {
     frame.draw();
     Rectangle row{frame.area().x, frame.area().y + dialog_title_height + room_above_rows, row_size.width,
                   row_size.height};
     for (int i = static_cast<int>(history.entries().size()) - 1; i >= 0; --i) {
-        draw_row(history.entries()[static_cast<std::size_t>(i)], row, i == history.position());
+        const auto entry = static_cast<std::size_t>(i);
+        draw_row(history.entries()[entry], thumbnails[entry], row, i == history.position());
         row.y += row_step;
     }
 }
@@ -57,7 +62,8 @@ void show_undo_list(const Undo_History& history) {
     Dialog_Frame frame("Undo history");
     const int count = static_cast<int>(history.entries().size());
     frame.set_size({row_size.width, count * row_step + room_around_rows});
-    const Dialog_Layer layer([&] { draw_list(history, frame); });
+    std::vector<Shown_Tile> thumbnails(history.entries().size());
+    const Dialog_Layer layer([&] { draw_list(history, thumbnails, frame); });
     run_modal({"dialog \"Undo history\"", [] { dialogs->show_backdrop(); },
                [](const SDL_Event& event) {
                    const bool dismisses = event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN ||

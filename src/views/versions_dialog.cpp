@@ -3,13 +3,14 @@
 #include "color/standard_colors.h"
 #include "screen/events.h"
 #include "screen/screen.h"
-#include "screen/streaming_texture.h"
 #include "ui/button_dialog_item.h"
 #include "ui/checkerboard.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
+#include "ui/shown_tile.h"
 #include "views/versions_layout.h"
 
+#include <array>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -38,9 +39,9 @@ public:
     std::optional<int> run();
 
 private:
-    void draw() const;
-    void draw_view(const Tile& tile, const Rectangle& area) const;
-    void draw_slot(int slot) const;
+    void draw();
+    void draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const;
+    void draw_slot(int slot);
     [[nodiscard]] Loop_Step handle(const SDL_Event& event);
     [[nodiscard]] Loop_Step handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
@@ -52,6 +53,8 @@ private:
     Dialog_Frame frame_{"Versions"};
     // Textures do not repeat, so it is as large as the largest area that it is to lie under.
     std::unique_ptr<Texture> checkerboard_;
+    Shown_Tile shown_in_big_view_;
+    std::array<Shown_Tile, Tile_Versions::slot_count> shown_in_slots_;
     Button_Dialog_Item store_button_{{}, Button_Type::set};
     Button_Dialog_Item take_button_{{}, Button_Type::copy};
     std::optional<int> selected_;
@@ -74,10 +77,10 @@ std::optional<int> Versions_Dialog::run() {
     return takes_ ? selected_ : std::nullopt;
 }
 
-void Versions_Dialog::draw() const {
+void Versions_Dialog::draw() {
     frame_.draw();
     const bool shows_slot = is_previewing_ && selected_;
-    draw_view(shows_slot ? versions_.tile(*selected_) : current_, layout_.big_view);
+    draw_view(shows_slot ? versions_.tile(*selected_) : current_, shown_in_big_view_, layout_.big_view);
     if (shows_slot) {
         draw_mark(layout_.big_view);
     }
@@ -88,16 +91,17 @@ void Versions_Dialog::draw() const {
     take_button_.draw();
 }
 
-void Versions_Dialog::draw_view(const Tile& tile, const Rectangle& area) const {
+void Versions_Dialog::draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const {
     checkerboard_->draw_part({0, 0, area.width, area.height}, area);
-    tile.draw(area);
+    shown.draw(tile, area);
     screen->draw_outline(area.inset(-1), standard_color(Standard_Color::frame));
 }
 
 // A cross tells an empty slot from a black tile that was stored.
-void Versions_Dialog::draw_slot(int slot) const {
-    const Rectangle& area = layout_.slots.at(static_cast<std::size_t>(slot));
-    draw_view(versions_.tile(slot), area);
+void Versions_Dialog::draw_slot(int slot) {
+    const auto index = static_cast<std::size_t>(slot);
+    const Rectangle& area = layout_.slots.at(index);
+    draw_view(versions_.tile(slot), shown_in_slots_.at(index), area);
     if (!versions_.is_stored(slot)) {
         const Color color = standard_color(Standard_Color::frame);
         screen->draw_line({area.x, area.y}, {area.right() - 1, area.bottom() - 1}, color);
@@ -106,7 +110,7 @@ void Versions_Dialog::draw_slot(int slot) const {
     if (selected_ == slot) {
         draw_mark(area);
     }
-    draw_label(slot, layout_.labels.at(static_cast<std::size_t>(slot)));
+    draw_label(slot, layout_.labels.at(index));
 }
 
 Loop_Step Versions_Dialog::handle(const SDL_Event& event) {

@@ -113,10 +113,11 @@ void expect_same_as_rectangles(const Canvas_Picture& picture) {
 Tile random_tile(Size size, unsigned seed) {
     std::mt19937 random(seed);
     Tile tile(size.width, size.height);
-    for (Color& pixel : tile.pixels()) {
+    tile.map_colours([&](Color pixel) {
         pixel = Color::from_word(static_cast<std::uint32_t>(random()));
         pixel.a = random() % 2 == 0 ? 255 : pixel.a;
-    }
+        return pixel;
+    });
     return tile;
 }
 

@@ -21,9 +21,7 @@ using Transform = void (Tile::*)(const Tile&);
 
 Tile random_tile(int width, int height, std::mt19937& random) {
     Tile tile(width, height);
-    for (Color& pixel : tile.pixels()) {
-        pixel = Color::from_word(static_cast<std::uint32_t>(random()));
-    }
+    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
     return tile;
 }
 
@@ -58,8 +56,10 @@ void expect_near_reference(const Tile& source, const Tile& target) {
 
 Tile grey_row(std::initializer_list<int> values) {
     Tile tile(static_cast<int>(values.size()), 1);
-    std::ranges::transform(values, tile.pixels().begin(), [](int value) {
-        return Color{value, value, value, 9};
+    const auto* value = values.begin();
+    tile.map_colours([&](Color) {
+        const int grey = *value++;
+        return Color{grey, grey, grey, 9};
     });
     return tile;
 }

@@ -16,9 +16,7 @@ using Bytes = std::vector<std::uint8_t>;
 Tile random_tile(Size size, unsigned seed) {
     std::mt19937 random(seed);
     Tile tile(size.width, size.height);
-    for (Color& pixel : tile.pixels()) {
-        pixel = Color::from_word(static_cast<std::uint32_t>(random()));
-    }
+    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
     return tile;
 }
 

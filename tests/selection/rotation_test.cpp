@@ -10,9 +10,9 @@ namespace {
 
 Tile random_tile(Size size, std::mt19937& random) {
     Tile tile(size.width, size.height);
-    for (Color& pixel : tile.pixels()) {
-        pixel = Color(static_cast<int>(random() % 3) * 100, static_cast<int>(random() % 2) * 200, 7);
-    }
+    tile.map_colours([&](Color) {
+        return Color(static_cast<int>(random() % 3) * 100, static_cast<int>(random() % 2) * 200, 7);
+    });
     return tile;
 }
 

@@ -56,9 +56,7 @@ public:
     Color color() { return Color::from_word(static_cast<std::uint32_t>(engine_())); }
     Tile tile(Size size) {
         Tile tile(size.width, size.height);
-        for (Color& pixel : tile.pixels()) {
-            pixel = color();
-        }
+        tile.map_colours([&](Color) { return color(); });
         return tile;
     }
     // Never empty.

@@ -35,8 +35,8 @@ Tileset small_tileset() {
     const std::array<Color, 4> colors = {{{1, 2, 3, 255}, {4, 5, 6, 0}, {7, 8, 9, 128}, {10, 11, 12, 64}}};
     for (std::size_t i = 0; i < colors.size(); i += 2) {
         tileset.add_tile();
-        std::copy_n(colors.begin() + static_cast<std::ptrdiff_t>(i), 2,
-                    tileset.current_tile()->pixels().begin());
+        tileset.current_tile()->set_pixel_at(0, colors.at(i));
+        tileset.current_tile()->set_pixel_at(1, colors.at(i + 1));
     }
     return tileset;
 }
@@ -55,9 +55,8 @@ Tileset random_tileset(Size size, int count) {
     Tileset tileset(size);
     while (tileset.count() < count) {
         tileset.add_tile();
-        for (Color& pixel : tileset.current_tile()->pixels()) {
-            pixel = Color::from_word(static_cast<std::uint32_t>(random()));
-        }
+        tileset.current_tile()->map_colours(
+            [&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
     }
     return tileset;
 }

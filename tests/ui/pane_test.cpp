@@ -77,9 +77,8 @@ TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
     tile.set_pixel(0, 0, {0, 0, 0, 0});
     tile.set_pixel(6, 0, {0, 0, 0, 0});
     tile.set_pixel(1, 1, {1, 2, 3});
-    preview.set_tile(&tile);
     preview.set_repeat(2, 3);
-    preview.draw();
+    preview.draw(&tile);
     const Point corner{client.x + 72, client.y + 60};
     EXPECT_EQ(pixel_at({corner.x - 1, corner.y}), background);
     EXPECT_EQ(pixel_at(corner), standard_color(Standard_Color::checker_dark));
@@ -88,7 +87,6 @@ TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
     EXPECT_EQ(pixel_at({corner.x + 47, corner.y + 71}), Color(200, 10, 20));
     EXPECT_EQ(pixel_at({corner.x + 48, corner.y + 71}), background);
     EXPECT_EQ(pixel_at({corner.x + 47, corner.y + 72}), background);
-    preview.set_tile(nullptr);
 }
 
 TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
@@ -97,11 +95,10 @@ TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
     for (const Size size : {Size{255, 255}, Size{64, 1}, Size{0, 0}}) {
         Tile tile(size.width, size.height);
         tile.fill({200, 10, 20});
-        preview.set_tile(&tile);
         for (const int repeat : {-1, 0, 1, 21, 1000000}) {
             preview.set_repeat(repeat, repeat);
             screen->fill_rect({0, 0, 400, 400}, clear_color);
-            preview.draw();
+            preview.draw(&tile);
             EXPECT_EQ(pixel_at({client.x - 1, client.y + 96}), background);
             EXPECT_EQ(pixel_at({client.right(), client.y + 96}), background);
             EXPECT_EQ(pixel_at({client.x + 96, client.bottom()}), background);
@@ -114,7 +111,6 @@ TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
             EXPECT_EQ(pixel_at({client.x, client.y}), Color(200, 10, 20));
             EXPECT_EQ(pixel_at({client.right() - 1, client.bottom() - 1}), Color(200, 10, 20));
         }
-        preview.set_tile(nullptr);
     }
 }
 

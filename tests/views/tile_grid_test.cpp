@@ -84,14 +84,13 @@ TEST_F(Tile_Grid_Test, draws_each_tile_in_the_middle_of_its_cell_over_a_checkerb
     EXPECT_EQ(pixel_at({start.x + edge, start.y}), around);
 
     tileset.tile_at(17).fill({9, 8, 7});
-    grid.refresh();
     grid.draw("");
     EXPECT_EQ(pixel_at({start.x + 31, start.y}), Color(9, 8, 7));
 }
 
 TEST_F(Tile_Grid_Test, draws_no_marker_outside_of_its_cells) {
     const Tileset tileset = set_of({2, 2}, 300);
-    const Tile_Grid grid("Grid", tileset);
+    Tile_Grid grid("Grid", tileset);
     grid.draw("");
     const Color below = pixel_at({corner.x, corner.y + 16 * edge});
     const Color right = pixel_at({corner.x + 16 * edge, corner.y});

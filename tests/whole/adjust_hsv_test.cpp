@@ -34,7 +34,6 @@ protected:
         static std::mt19937 random(5);
         Tile& tile = *document().tileset().current_tile();
         tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
-        tile.update_texture();
         document().history().reset(document().tileset());
     }
     static Tile_Picture picture(int index = 0) {

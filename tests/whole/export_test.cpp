@@ -22,10 +22,7 @@ protected:
     [[nodiscard]] bool has_file(const std::string& name) {
         return std::filesystem::exists(native(folder().data_path(name)));
     }
-    static void paint(const Color& color) {
-        document().tileset().current_tile()->fill(color);
-        document().tileset().current_tile()->update_texture();
-    }
+    static void paint(const Color& color) { document().tileset().current_tile()->fill(color); }
     Script& expect_pixel(Point point, Color color) {
         return script().check([=] { EXPECT_EQ(pixel_at(point), color) << point.x << ", " << point.y; });
     }

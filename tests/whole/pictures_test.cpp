@@ -174,7 +174,6 @@ private:
                 const int alpha = pixel % (size.width + 1) == 3 ? 80 : 255;
                 tile.set_pixel_at(pixel, {column * 50, row * 50, (column * row * 40 + i * 70) % 256, alpha});
             }
-            tile.update_texture();
         }
         go_to(current);
     }

@@ -173,7 +173,8 @@ void Selection_Model_Test::pour() {
     script().click(window_point(at, 5), button);
     play();
     Tile tile(model_.size().width, model_.size().height);
-    std::ranges::copy(model_.tile().pixels, tile.pixels().begin());
+    tile.change_pixels(
+        [&](std::span<Color> pixels) { std::ranges::copy(model_.tile().pixels, pixels.begin()); });
     const std::vector<bool> area = drawn_mask(model_.size(), [&](Drawing_Target& mask) {
         Drawing_Target target(tile);
         Flood_Area(target, at, Flood_Bounds::whole_tile).for_each([&](Tile_Point p) {
@@ -257,7 +258,8 @@ void Selection_Model_Test::clone() {
             } else if (style == 3) {
                 Tile from(own.width, own.height);
                 Tile to(size.width, size.height);
-                std::ranges::copy(copy.picture.pixels, from.pixels().begin());
+                from.change_pixels(
+                    [&](std::span<Color> pixels) { std::ranges::copy(copy.picture.pixels, pixels.begin()); });
                 from.resample_into(to);
                 Image resized(to);
                 for_each_pixel(size, [&](Tile_Point p) {

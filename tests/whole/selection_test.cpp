@@ -49,10 +49,10 @@ protected:
     static void choose(Tool_Option option, int value) { toolbox->options().set_value(option, value); }
     static void paint_noise(unsigned seed) {
         std::mt19937 random(seed);
-        for (Color& pixel : tile().pixels()) {
-            pixel = Color(static_cast<int>(random() % 256), static_cast<int>(random() % 256),
-                          static_cast<int>(random() % 256));
-        }
+        tile().map_colours([&](Color) {
+            return Color(static_cast<int>(random() % 256), static_cast<int>(random() % 256),
+                         static_cast<int>(random() % 256));
+        });
     }
 };
 
@@ -109,7 +109,6 @@ TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
         EXPECT_EQ(count(red), row.is_plotted_by_pen ? 12 : 0);
         EXPECT_EQ(pixel_at(cell(3, 3)), red);
         tile().fill(black);
-        tile().update_texture();
         editor->redraw(Present::yes);
         EXPECT_EQ(pixel_at(cell(3, 3)), row.shows_under_pen ? red : black);
         EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);

@@ -55,7 +55,6 @@ protected:
             for (int x = 0; x < tile_size.width; ++x) {
                 tileset().tile_at(image).set_pixel(x, 0, image_pixel(image, x));
             }
-            tileset().tile_at(image).update_texture();
         }
         execute(Command::mirror);
         execute(Command::mirror);
