@@ -35,9 +35,9 @@ void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer) {
         return;
     }
     const Tile_Point pixel = canvas.tile_point(pointer.point());
-    toolbox->options().set_location({pixel.x, pixel.y});
+    toolbox->figures().location = pixel;
     if (!canvas.tile()->is_outside(pixel.x, pixel.y)) {
-        toolbox->options().set_dropper_color(canvas.tile()->get_pixel(pixel.x, pixel.y));
+        toolbox->figures().dropper_color = canvas.tile()->get_pixel(pixel.x, pixel.y);
     }
 }
 

@@ -10,7 +10,8 @@ namespace quadrelle {
 namespace {
 
 bool picks_and_returns() {
-    return toolbox->current_tool() == Tool::dropper && toolbox->value(Tool_Option::dropper_return) == 1;
+    return toolbox->current_tool() == Tool::dropper &&
+           toolbox->state().options.dropper_return == Dropper_Return::on;
 }
 
 void draw_on_canvas(Editor_Parts& editor) {
@@ -18,7 +19,7 @@ void draw_on_canvas(Editor_Parts& editor) {
     const Tile_Point pressed = editor.canvas.tile_point(editor.pointer.point());
     Stroke_Outcome outcome = Stroke_Outcome::nothing_changed;
     editor.recorder.step([&] {
-        outcome = apply_tool(editor.canvas, toolbox->canvas_action(), editor.pointer,
+        outcome = apply_tool(editor.canvas, toolbox->state().canvas_action(), editor.pointer,
                              [&editor] { editor.redraw(Present::yes); });
         const Command tool = row_of(toolbox->current_tool()).command;
         if (editor.desk.float_wand_area(pressed)) {

@@ -149,7 +149,7 @@ void Selection_Desk::float_picture(const Floating_Paste& picture) {
 }
 
 bool Selection_Desk::float_wand_area(Tile_Point pressed) {
-    const auto mode = static_cast<Wand_Mode>(toolbox->value(Tool_Option::wand_mode));
+    const auto mode = toolbox->state().options.wand_mode;
     if (toolbox->current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
         !canvas_.work_area().selection().contains(pressed)) {
         return false;
@@ -194,7 +194,7 @@ void Selection_Desk::plot_paste() {
     }
     Drawing_Target target = work.target(*canvas_.tile());
     work.paste()->plot(target);
-    if (toolbox->selection_mode() == Selection_Mode::standard) {
+    if (toolbox->state().options.selection_mode == Selection_Mode::standard) {
         work.drop_paste();
     }
 }
@@ -207,8 +207,8 @@ Outcome Selection_Desk::plot() {
 // plotted when its tool was left, and what was drawn over it since is to stay.
 bool Selection_Desk::is_to_settle() const {
     const Work_Area& work = canvas_.work_area();
-    const bool was_left =
-        toolbox->selection_mode() == Selection_Mode::persistent && !toolbox->shows_floating_paste();
+    const bool was_left = toolbox->state().options.selection_mode == Selection_Mode::persistent &&
+                          !toolbox->state().shows_floating_paste();
     return work.paste() && !work.has_selection() && !was_left;
 }
 
@@ -219,7 +219,7 @@ void Selection_Desk::settle() {
 }
 
 void Selection_Desk::settle_before_leaving() {
-    if (toolbox->selection_mode() != Selection_Mode::fixed && is_to_settle()) {
+    if (toolbox->state().options.selection_mode != Selection_Mode::fixed && is_to_settle()) {
         recorder_.step([this] { return plot() == Outcome::done ? Command::plot_paste : Command::none; });
     }
 }

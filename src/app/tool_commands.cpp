@@ -10,8 +10,9 @@ namespace quadrelle::tool_commands {
 
 namespace {
 
-Tool_Option type_of(Tool shape) {
-    return shape == Tool::ellipse ? Tool_Option::ellipse_type : Tool_Option::rectangle_type;
+Shape_Type& type_of(Tool shape) {
+    Tool_Options& options = toolbox->options();
+    return shape == Tool::ellipse ? options.ellipse_type : options.rectangle_type;
 }
 
 } // namespace
@@ -28,15 +29,14 @@ Outcome select_tool(Editor_Parts& editor, Tool tool) {
 }
 
 Outcome select_plain(Editor_Parts& editor, Tool shape) {
-    const Tool_Option type = type_of(shape);
-    if (toolbox->value(type) == static_cast<int>(Shape_Type::filled)) {
-        toolbox->options().set_value(type, static_cast<int>(Shape_Type::outline));
+    if (type_of(shape) == Shape_Type::filled) {
+        type_of(shape) = Shape_Type::outline;
     }
     return select_tool(editor, shape);
 }
 
 Outcome select_filled(Editor_Parts& editor, Tool shape) {
-    toolbox->options().set_value(type_of(shape), static_cast<int>(Shape_Type::filled));
+    type_of(shape) = Shape_Type::filled;
     return select_tool(editor, shape);
 }
 

@@ -56,7 +56,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
     draw_panes();
     documents_.draw_tabs();
     toolbox->draw(pointer.point());
-    if (toolbox->is_in_selection_group()) {
+    if (toolbox->state().is_in_selection_group()) {
         copy_panes_.place(toolbox->beside_entry());
         copy_panes_.draw(copies_);
     }
@@ -79,7 +79,7 @@ void Window_Panes::draw_panes() {
 // Rectangle and circle have an icon for each of two types.
 bool Window_Panes::is_lit(Command icon) const {
     const Command current = toolbox->current_command();
-    const bool is_filled = toolbox->shape_type() == Shape_Type::filled;
+    const bool is_filled = toolbox->state().shape_type() == Shape_Type::filled;
     switch (icon) {
     case Command::rectangle:
     case Command::circle: return current == icon && !is_filled;
@@ -124,7 +124,8 @@ std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
 }
 
 Command Window_Panes::command_at(Point point) const {
-    const Command copying = toolbox->is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
+    const Command copying =
+        toolbox->state().is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
     for (const Command command :
          {icon_bar_.command_at(point), toolbox->command_at(point), copying, navigation_.command_at(point)}) {
         if (command != Command::none) {
@@ -159,10 +160,10 @@ std::optional<Place> Window_Panes::pane_at(Point point) const {
             return place;
         }
     }
-    if (toolbox->is_in_selection_group() && copy_panes_.current().area.contains(point)) {
+    if (toolbox->state().is_in_selection_group() && copy_panes_.current().area.contains(point)) {
         return Place::copy_buffer;
     }
-    if (toolbox->is_in_selection_group() && copy_panes_.previous().area.contains(point)) {
+    if (toolbox->state().is_in_selection_group() && copy_panes_.previous().area.contains(point)) {
         return Place::previous_copies;
     }
     return std::nullopt;
@@ -203,7 +204,7 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
         return true;
     }
     if (const std::optional<std::size_t> copy = copy_panes_.copy_at(point);
-        copy && toolbox->is_in_selection_group()) {
+        copy && toolbox->state().is_in_selection_group()) {
         copies_.choose(*copy);
         return true;
     }

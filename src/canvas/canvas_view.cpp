@@ -73,7 +73,7 @@ void Canvas_View::save_history() {
 }
 
 bool Canvas_View::shows_paste() const {
-    return work_area_.paste() && !work_area_.has_selection() && toolbox->shows_floating_paste();
+    return work_area_.paste() && !work_area_.has_selection() && toolbox->state().shows_floating_paste();
 }
 
 Size Canvas_View::magnified_size() const {
@@ -222,10 +222,10 @@ Tile_Point Canvas_View::tool_point(Point position) const {
 // pointer.
 Brush_Feedback Canvas_View::brush_feedback(const Hover& hover) const {
     const Brush& brush = toolbox->brush();
-    const Tile_Point corner = toolbox->brush_corner(tool_point(hover.position));
+    const Tile_Point corner = toolbox->state().brush_corner(tool_point(hover.position));
     const Point cell{origin_.x - canvas_viewport.x + corner.x * pixel_size_,
                      origin_.y - canvas_viewport.y + corner.y * pixel_size_};
-    Brush_Feedback feedback{&brush, {}, {}, toolbox->brush_color(hover.button)};
+    Brush_Feedback feedback{&brush, {}, {}, toolbox->state().brush_color(hover.button)};
     if (toolbox->shows_brush_preview(hover.button)) {
         feedback.preview = cell;
     }

@@ -31,8 +31,8 @@ constexpr Ink selecting_ink{Pixel_Operation::paint, Selection::selected_color, {
 
 Segment_Outcome mark_rectangle(Drawing_Target& target, const Stroke_Segment& segment) {
     segment.work->set_candidate(selected_rectangle(target.size(), segment.from, segment.to));
-    toolbox->options().set_size(
-        {std::abs(segment.to.x - segment.from.x), std::abs(segment.to.y - segment.from.y)});
+    toolbox->figures().size = {std::abs(segment.to.x - segment.from.x),
+                               std::abs(segment.to.y - segment.from.y)};
     return Segment_Outcome::drawn;
 }
 
@@ -46,7 +46,7 @@ Segment_Outcome mark_circle(Drawing_Target& target, const Stroke_Segment& segmen
         });
     }
     segment.work->set_candidate(area);
-    toolbox->options().set_radius({radii.x, radii.y});
+    toolbox->figures().radii = radii;
     return Segment_Outcome::drawn;
 }
 
@@ -112,7 +112,7 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     if (work.paste() && !work.has_selection()) {
         if (is_click && !is_in_picture(*work.paste(), segment.from)) {
             work.paste()->plot(target);
-            if (toolbox->selection_mode() == Selection_Mode::standard) {
+            if (toolbox->state().options.selection_mode == Selection_Mode::standard) {
                 work.drop_paste();
             }
         }
@@ -125,7 +125,7 @@ Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = *segment.work;
     if (work.has_selection()) {
         if (segment.from == segment.to) {
-            toolbox->options().set_degrees(0);
+            toolbox->figures().degrees = 0;
             return Segment_Outcome::nothing;
         }
         work.lift_selection(target.tile());
@@ -142,14 +142,14 @@ Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
     } else {
         turned(target.tile(), degrees, size).copy_to(target.tile());
     }
-    toolbox->options().set_degrees(degrees);
+    toolbox->figures().degrees = degrees;
     return Segment_Outcome::drawn;
 }
 
 Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment) {
     const Tile_Point offset{segment.to.x - segment.from.x, segment.to.y - segment.from.y};
     Work_Area& work = *segment.work;
-    const auto move = static_cast<Scroll_Move>(toolbox->value(Tool_Option::scroll_move));
+    const auto move = toolbox->state().options.scroll_move;
     if (move == Scroll_Move::pixels && work.has_selection()) {
         scroll_selected(target.tile(), work.selection(), offset);
     } else if (move != Scroll_Move::selection) {
@@ -158,7 +158,7 @@ Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment) {
     if (move != Scroll_Move::pixels) {
         work.mutable_selection().change([offset](Tile& mask) { scroll_wrapped(mask, offset); });
     }
-    toolbox->options().set_offset({offset.x, offset.y});
+    toolbox->figures().offset = offset;
     return Segment_Outcome::drawn;
 }
 

@@ -34,7 +34,7 @@ public:
         pointer_ = {pointer.x, pointer.y, button_};
         canvas_.set_hover(Hover{pointer_.point(), button_});
         end_ = point_of(pointer_);
-        toolbox->options().set_location({end_.x, end_.y});
+        toolbox->figures().location = end_;
         if (!row_.draws_while_moving) {
             return;
         }

@@ -17,10 +17,8 @@ namespace quadrelle {
 
 namespace {
 
-enum class Right_Button_Mode { color, history, dropper };
-
 Right_Button_Mode right_button_mode() {
-    return static_cast<Right_Button_Mode>(toolbox->value(Tool_Option::right_button_mode));
+    return toolbox->state().options.right_button_mode;
 }
 
 // Outside the tile there is no colour to pick.
@@ -29,7 +27,7 @@ Segment_Outcome pick(Drawing_Target& target, const Stroke_Segment& segment) {
         return Segment_Outcome::nothing;
     }
     tool_colors->set_color(segment.button, target.get(segment.pointer));
-    toolbox->options().set_dropper_color(target.get(segment.pointer));
+    toolbox->figures().dropper_color = target.get(segment.pointer);
     return Segment_Outcome::color_picked;
 }
 
@@ -53,20 +51,20 @@ Segment_Outcome draw_or_pick(Drawing_Target& target, Stroke_Segment segment, Pen
 }
 
 Segment_Outcome draw_pen(Drawing_Target& target, const Stroke_Segment& segment) {
-    return draw_or_pick(target, segment, toolbox->pen_mode(), {});
+    return draw_or_pick(target, segment, toolbox->state().pen_mode(), {});
 }
 
 Segment_Outcome stamp(Drawing_Target& target, const Stroke_Segment& segment) {
     Ink ink;
-    ink.color = toolbox->brush_color(segment.button);
-    draw_with(target, segment, toolbox->pen_mode(), ink);
+    ink.color = toolbox->state().brush_color(segment.button);
+    draw_with(target, segment, toolbox->state().pen_mode(), ink);
     return Segment_Outcome::drawn;
 }
 
 Segment_Outcome colorize(Drawing_Target& target, const Stroke_Segment& segment) {
     Ink ink;
     ink.operation = Pixel_Operation::colorize;
-    ink.colorize_type = static_cast<Colorize_Type>(toolbox->value(Tool_Option::colorize_type));
+    ink.colorize_type = toolbox->state().options.colorize_type;
     return draw_or_pick(target, segment, Pen_Mode::brush, ink);
 }
 
@@ -75,10 +73,10 @@ bool is_lightness_step_due(Mouse_Button button) {
 }
 
 Segment_Outcome change_lightness(Drawing_Target& target, const Stroke_Segment& segment) {
-    const auto order = static_cast<Button_Order>(toolbox->value(Tool_Option::button_order));
+    const auto order = toolbox->state().options.button_order;
     Ink ink;
     ink.operation = lightness_operation(order, segment.button).value_or(Pixel_Operation::lighten);
-    ink.lightness_mode = static_cast<Lightness_Mode>(toolbox->value(Tool_Option::lightness_mode));
+    ink.lightness_mode = toolbox->state().options.lightness_mode;
     draw_with(target, segment, Pen_Mode::brush, ink);
     return Segment_Outcome::drawn;
 }
@@ -89,10 +87,11 @@ Segment_Outcome smudge_along(Drawing_Target& target, const Stroke_Segment& segme
 }
 
 Segment_Outcome fill(Drawing_Target& target, const Stroke_Segment& segment) {
-    if (toolbox->value(Tool_Option::fill_mode) == 0) {
+    if (toolbox->state().options.fill_mode == Fill_Mode::solid) {
         flood_fill(target, segment.to, tool_colors->color(segment.button));
     } else {
-        flood_fill_with_brush(target, segment.to, toolbox->brush(), toolbox->brush_color(segment.button));
+        flood_fill_with_brush(target, segment.to, toolbox->brush(),
+                              toolbox->state().brush_color(segment.button));
     }
     return Segment_Outcome::drawn;
 }
@@ -103,9 +102,9 @@ Segment_Outcome draw_figure(Drawing_Target& target, const Stroke_Segment& segmen
     draw_shape(target, segment.action, segment.from, segment.to,
                {tool_colors->color(segment.button), tool_colors->color(other)});
     const Radii radii = ellipse_radii(segment.from, segment.to);
-    toolbox->options().set_length(static_cast<int>(line_length(segment.from, segment.to)));
-    toolbox->options().set_size(rectangle_size(segment.from, segment.to));
-    toolbox->options().set_radius({radii.x, radii.y});
+    toolbox->figures().length = static_cast<int>(line_length(segment.from, segment.to));
+    toolbox->figures().size = rectangle_size(segment.from, segment.to);
+    toolbox->figures().radii = radii;
     return Segment_Outcome::drawn;
 }
 

@@ -71,43 +71,16 @@ int icon_at(const Pane& row, Point point, int count) {
 
 } // namespace
 
-Brush_Selector::Brush_Selector()
-    : brush_(built_in_brush(shape_, size_index_, Color())), shape_row_(row_area, "Shape"),
-      size_row_(row_area, "Size") {
-    rebuild();
-}
+Brush_Selector::Brush_Selector() : shape_row_(row_area, "Shape"), size_row_(row_area, "Size") {}
 
-void Brush_Selector::rebuild() {
-    if (owner_ == Brush_Owner::stamp_brush) {
-        owner_ = Brush_Owner::pen;
+void Brush_Selector::update_icons(const Chosen_Brush& chosen) {
+    if (shown_shape_ == chosen.shape() && shown_size_ == chosen.size_index()) {
+        return;
     }
-    brush_ = built_in_brush(shape_, size_index_, Color(), owner_);
-    shape_icons_ = make_shape_icons(shape_);
-    size_icons_ = make_size_icons(shape_, size_index_);
-}
-
-void Brush_Selector::select_size(int size_index) {
-    if (size_index != size_index_) {
-        size_index_ = size_index;
-        rebuild();
-    }
-}
-
-void Brush_Selector::select_shape(Brush_Shape shape) {
-    if (shape != shape_) {
-        shape_ = shape;
-        rebuild();
-    }
-}
-
-void Brush_Selector::set_owner(Brush_Owner owner) {
-    owner_ = owner;
-    rebuild();
-}
-
-void Brush_Selector::set_stamp(const Brush& stamp) {
-    owner_ = Brush_Owner::stamp_brush;
-    brush_ = stamp;
+    shown_shape_ = chosen.shape();
+    shown_size_ = chosen.size_index();
+    shape_icons_ = make_shape_icons(chosen.shape());
+    size_icons_ = make_size_icons(chosen.shape(), chosen.size_index());
 }
 
 int Brush_Selector::move(Point position) {
@@ -118,22 +91,23 @@ int Brush_Selector::move(Point position) {
     return position.y;
 }
 
-void Brush_Selector::draw() const {
+void Brush_Selector::draw(const Chosen_Brush& chosen) {
+    update_icons(chosen);
     shape_row_.draw();
     size_row_.draw();
     screen->draw_texture(*shape_icons_, icons_position(shape_row_));
     screen->draw_texture(*size_icons_, icons_position(size_row_));
 }
 
-bool Brush_Selector::click(Point point) {
+bool Brush_Selector::click(Point point, Chosen_Brush& chosen) const {
     const int shape = icon_at(shape_row_, point, brush_shape_count);
-    if (shape >= 0 && shape != static_cast<int>(shape_)) {
-        select_shape(static_cast<Brush_Shape>(shape));
+    if (shape >= 0 && shape != static_cast<int>(chosen.shape())) {
+        chosen.select_shape(static_cast<Brush_Shape>(shape));
         return true;
     }
     const int size = icon_at(size_row_, point, brush_size_count);
-    if (size >= 0 && size != size_index_) {
-        select_size(size);
+    if (size >= 0 && size != chosen.size_index()) {
+        chosen.select_size(size);
         return true;
     }
     return false;

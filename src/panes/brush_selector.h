@@ -1,11 +1,12 @@
 #pragma once
 
-// The shape and size of the built-in brush, and the two rows of icons in which they are chosen.
+// The two rows of icons that show the shape and size of the built-in brush and let them be chosen.
 
-#include "tools/brush.h"
+#include "tools/chosen_brush.h"
 #include "ui/pane.h"
 
 #include <memory>
+#include <optional>
 
 namespace quadrelle {
 
@@ -13,30 +14,20 @@ class Brush_Selector {
 public:
     Brush_Selector();
 
-    [[nodiscard]] const Brush& brush() const { return brush_; }
-    // 0 to 5, one less than the brush's width. Keeps the shape.
-    void select_size(int size_index);
-    void select_shape(Brush_Shape shape);
-    // Makes the chosen built-in brush the current one.
-    void set_owner(Brush_Owner owner);
-    // A brush with colours of its own, until another built-in one is chosen.
-    void set_stamp(const Brush& stamp);
-
     // Both rows below each other; the y for what comes below.
     int move(Point position);
-    void draw() const;
+    void draw(const Chosen_Brush& chosen);
     // False where there is no icon, or the one chosen already.
-    bool click(Point point);
+    bool click(Point point, Chosen_Brush& chosen) const;
 
 private:
-    void rebuild();
+    void update_icons(const Chosen_Brush& chosen);
 
-    Brush_Shape shape_ = Brush_Shape::disc;
-    int size_index_ = 0;
-    Brush_Owner owner_ = Brush_Owner::pen;
-    Brush brush_;
     Pane shape_row_;
     Pane size_row_;
+    // What the icons show as chosen.
+    std::optional<Brush_Shape> shown_shape_;
+    int shown_size_ = 0;
     std::unique_ptr<Texture> shape_icons_;
     std::unique_ptr<Texture> size_icons_;
 };

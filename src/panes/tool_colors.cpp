@@ -8,8 +8,6 @@ std::unique_ptr<Tool_Color_Panel> tool_colors;
 
 namespace {
 
-constexpr Color left_start(255, 255, 255);
-constexpr Color right_start(0, 0, 0);
 constexpr int column_bottom = 632;
 
 Point below(const Element& element) {
@@ -24,12 +22,12 @@ Rectangle rest_below(const Element& element) {
 
 } // namespace
 
-Tool_Color_Panel::Tool_Color_Panel(Point position)
-    : panes_{Tool_Color(position, "Left button color", left_start),
-             Tool_Color(position, "Right button color", right_start)},
+Tool_Color_Panel::Tool_Color_Panel(Point position, Tool_Colors& colors)
+    : colors_(colors), panes_{Tool_Color(position, "Left button color", colors.left),
+                              Tool_Color(position, "Right button color", colors.right)},
       selector_({position.x, place_colors(position)},
                 [this](Mouse_Button button, Color color) { set_color(button, color); }),
-      handles_(below(selector_), [this](Color color) { set_color(active_, color); }),
+      handles_(below(selector_), [this](Color color) { set_color(colors_.active_side, color); }),
       variations_(rest_below(handles_)) {
     show_current_color();
 }
@@ -44,7 +42,7 @@ int Tool_Color_Panel::place_colors(Point position) {
 }
 
 void Tool_Color_Panel::set_color(Mouse_Button button, Color color) {
-    panes_.at(side(button)).set_color(color);
+    colors_.set(button, color);
     show_current_color();
 }
 
@@ -60,13 +58,16 @@ void Tool_Color_Panel::swap() {
 }
 
 void Tool_Color_Panel::reset() {
-    set_color(Mouse_Button::left, left_start);
-    set_color(Mouse_Button::right, right_start);
+    const Tool_Colors start;
+    set_color(Mouse_Button::left, start.left);
+    set_color(Mouse_Button::right, start.right);
 }
 
 void Tool_Color_Panel::draw(Tool_Color_Panes shown) {
-    for (Tool_Color& pane : panes_) {
-        pane.set_lit(&pane == &panes_.at(side(active_)));
+    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+        Tool_Color& pane = panes_.at(side(button));
+        pane.set_color(colors_.of(button));
+        pane.set_lit(button == colors_.active_side);
         pane.draw();
     }
     if (shown == Tool_Color_Panes::all) {
@@ -88,8 +89,8 @@ bool Tool_Color_Panel::click(const Pointer_State& pointer, const std::function<v
 
 bool Tool_Color_Panel::click_side(Point point) {
     for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-        if (panes_.at(side(button)).contains(point.x, point.y) && active_ != button) {
-            active_ = button;
+        if (panes_.at(side(button)).contains(point.x, point.y) && colors_.active_side != button) {
+            colors_.active_side = button;
             show_current_color();
             return true;
         }

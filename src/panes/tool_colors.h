@@ -1,6 +1,6 @@
 #pragma once
 
-// The colours of the two mouse buttons, the panes that show them, and below those the panes that change them.
+// The panes that show the colours of the two mouse buttons, and below them the panes that change these.
 
 #include "base/input.h"
 #include "panes/color_handles.h"
@@ -8,6 +8,7 @@
 #include "panes/hsv_selector.h"
 #include "panes/tool_color.h"
 #include "panes/variations.h"
+#include "tools/tool_state.h"
 
 #include <array>
 #include <functional>
@@ -20,15 +21,14 @@ enum class Tool_Color_Panes { both_colors, all };
 
 class Tool_Color_Panel {
 public:
-    // The top-left corner of the upper pane.
-    explicit Tool_Color_Panel(Point position);
+    // The top-left corner of the upper pane. Shows and sets the colours, which are borrowed.
+    Tool_Color_Panel(Point position, Tool_Colors& colors);
 
-    // Any button but the left one stands for the right one.
-    [[nodiscard]] Color color(Mouse_Button button) const { return panes_.at(side(button)).color(); }
+    [[nodiscard]] Color color(Mouse_Button button) const { return colors_.of(button); }
     void set_color(Mouse_Button button, Color color);
-    // Of the side that was clicked last, the left one at first. The handles and variations are about it.
-    [[nodiscard]] Color current_color() const { return color(active_); }
-    [[nodiscard]] Mouse_Button active_side() const { return active_; }
+    // Of the side that was clicked last. The handles and variations are about it.
+    [[nodiscard]] Color current_color() const { return colors_.current(); }
+    [[nodiscard]] Mouse_Button active_side() const { return colors_.active_side; }
     void swap();
     // White and black, as at start.
     void reset();
@@ -48,8 +48,8 @@ private:
         return button == Mouse_Button::left ? 0 : 1;
     }
 
+    Tool_Colors& colors_;
     std::array<Tool_Color, 2> panes_;
-    Mouse_Button active_ = Mouse_Button::left;
     HSV_Selector selector_;
     Color_Handles handles_;
     Color_Variations variations_;

@@ -54,11 +54,17 @@ Radiobutton_Dialog_Item::Radiobutton_Dialog_Item(Item_Id ids, bool is_checked, F
     : Button_Dialog_Item(ids, is_checked ? Button_Type::radio_check : Button_Type::radio_uncheck, item_font) {
 }
 
+void Radiobutton_Dialog_Item::set_value(int value) {
+    if (value == 0 || value == 1) {
+        type_ = value == 1 ? Button_Type::radio_check : Button_Type::radio_uncheck;
+    }
+}
+
 Dialog_Event Radiobutton_Dialog_Item::click(Point point) {
     if (!area.contains(point)) {
         return {};
     }
-    type_ = value() == 1 ? Button_Type::radio_uncheck : Button_Type::radio_check;
+    set_value(1 - value());
     return {Dialog_Event_Kind::radio};
 }
 

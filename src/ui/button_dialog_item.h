@@ -98,6 +98,7 @@ public:
 
     // 1 when checked, else 0.
     [[nodiscard]] int value() const override { return type_ == Button_Type::radio_check ? 1 : 0; }
+    void set_value(int value) override;
     Dialog_Event click(Point point) override;
     // Nothing but its two types is taken.
     void load(Data_Stream& stream) override;

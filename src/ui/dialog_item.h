@@ -28,6 +28,8 @@ public:
     virtual ~Dialog_Item() = default;
 
     [[nodiscard]] virtual int value() const { return -1; }
+    // One that the item cannot have changes nothing.
+    virtual void set_value(int /*value*/) {}
     // Takes on the size of what it shows, where that can change.
     virtual void measure() {}
     // The item compares the point with its own area. The base class logs that nobody answers.

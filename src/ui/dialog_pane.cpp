@@ -35,6 +35,12 @@ int Dialog_Pane::value() const {
     return control == nullptr ? -1 : control->value();
 }
 
+void Dialog_Pane::show(int value) {
+    if (Dialog_Item* const control = rows_.item(control_id)) {
+        control->set_value(value);
+    }
+}
+
 Number_Pane::Number_Pane(const Rectangle& below_title, std::string_view title, const Cyclic_Int& number)
     : Dialog_Pane(below_title, title) {
     rows().add_row(make_number_row(control_id, "", number, Font::pane));
@@ -44,13 +50,6 @@ Option_Pane::Option_Pane(const Rectangle& below_title, std::string_view title, s
                          int index)
     : Dialog_Pane(below_title, title) {
     rows().add_row(make_choice_row(control_id, choices, index, Font::pane));
-}
-
-// Choices are stepped through in a ring.
-void Option_Pane::choose(int index) {
-    while (value() != index) {
-        rows().notify({Dialog_Event_Kind::increase, control_id});
-    }
 }
 
 Tick_Pane::Tick_Pane(const Rectangle& below_title, std::string_view title, std::string_view text)

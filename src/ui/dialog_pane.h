@@ -20,6 +20,8 @@ public:
     bool click(Point point);
     // Of the pane's control; -1 without one.
     [[nodiscard]] int value() const;
+    // The control takes one of its values; any other one changes nothing.
+    void show(int value);
     [[nodiscard]] Dialog_Rows& rows() { return rows_; }
 
 protected:
@@ -37,9 +39,6 @@ public:
 class Option_Pane : public Dialog_Pane {
 public:
     Option_Pane(const Rectangle& below_title, std::string_view title, std::string_view choices, int index);
-
-    // The index must be one of a choice.
-    void choose(int index);
 };
 
 class Tick_Pane : public Dialog_Pane {

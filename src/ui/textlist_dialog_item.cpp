@@ -39,6 +39,12 @@ void Textlist_Dialog_Item::measure() {
     }
 }
 
+void Textlist_Dialog_Item::set_value(int value) {
+    if (index_.allows(value)) {
+        index_.set(value);
+    }
+}
+
 void Textlist_Dialog_Item::notify(Dialog_Event_Kind kind) {
     if (kind == Dialog_Event_Kind::increase) {
         index_.increase();
@@ -60,9 +66,7 @@ void Textlist_Dialog_Item::save(Data_Stream& stream) const {
 void Textlist_Dialog_Item::load(Data_Stream& stream) {
     const int loaded = stream.read_int();
     static_cast<void>(stream.read_pair());
-    if (index_.allows(loaded)) {
-        index_.set(loaded);
-    }
+    set_value(loaded);
 }
 
 } // namespace quadrelle

@@ -20,6 +20,7 @@ public:
     Textlist_Dialog_Item(Item_Id ids, std::string_view choices, int index, Font item_font = Font::regular);
 
     [[nodiscard]] int value() const override { return index_.value(); }
+    void set_value(int value) override;
     [[nodiscard]] const std::vector<std::string>& entries() const { return entries_; }
     // As wide as the widest entry.
     void measure() override;

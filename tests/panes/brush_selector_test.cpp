@@ -34,28 +34,29 @@ protected:
     static Point inside(Point corner) { return {corner.x + 9, corner.y + 9}; }
 
     std::optional<Brush_Selector> selector_;
+    Chosen_Brush chosen_;
     int below_ = 0;
 };
 
 TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
-    EXPECT_TRUE(selector_->click(inside(size_icon(5))));
-    EXPECT_EQ(selector_->brush().size(), (Size{6, 6}));
-    EXPECT_FALSE(selector_->brush().pixel(0, 0));
-    EXPECT_TRUE(selector_->click(inside(shape_icon(1))));
-    EXPECT_TRUE(selector_->brush().pixel(0, 0));
-    EXPECT_EQ(selector_->brush().size(), (Size{6, 6}));
+    EXPECT_TRUE(selector_->click(inside(size_icon(5)), chosen_));
+    EXPECT_EQ(chosen_.brush().size(), (Size{6, 6}));
+    EXPECT_FALSE(chosen_.brush().pixel(0, 0));
+    EXPECT_TRUE(selector_->click(inside(shape_icon(1)), chosen_));
+    EXPECT_TRUE(chosen_.brush().pixel(0, 0));
+    EXPECT_EQ(chosen_.brush().size(), (Size{6, 6}));
     // What is chosen already is nobody's click, as is what has no icon.
-    EXPECT_FALSE(selector_->click(inside(size_icon(5))));
-    EXPECT_FALSE(selector_->click(inside(shape_icon(1))));
-    EXPECT_FALSE(selector_->click(inside(size_icon(6))));
-    EXPECT_FALSE(selector_->click(inside(shape_icon(7))));
-    EXPECT_FALSE(selector_->click({position.x + 9, position.y + 10}));
+    EXPECT_FALSE(selector_->click(inside(size_icon(5)), chosen_));
+    EXPECT_FALSE(selector_->click(inside(shape_icon(1)), chosen_));
+    EXPECT_FALSE(selector_->click(inside(size_icon(6)), chosen_));
+    EXPECT_FALSE(selector_->click(inside(shape_icon(7)), chosen_));
+    EXPECT_FALSE(selector_->click({position.x + 9, position.y + 10}, chosen_));
 }
 
 TEST_F(Brush_Selector_Test, lights_the_chosen_icons_and_shows_masks_at_twice_their_size) {
-    selector_->select_shape(Brush_Shape::square);
-    selector_->select_size(3);
-    selector_->draw();
+    chosen_.select_shape(Brush_Shape::square);
+    chosen_.select_size(3);
+    selector_->draw(chosen_);
     for (int i = 0; i < brush_shape_count; ++i) {
         EXPECT_EQ(pixel_at(shape_icon(i)) == lit, i == 1) << i;
     }

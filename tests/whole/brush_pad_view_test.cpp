@@ -99,11 +99,11 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
         play();
         expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 11); });
     }
-    toolbox->options().set_value(Tool_Option::stamp_mode, static_cast<int>(Pen_Mode::offset));
+    toolbox->options().stamp_mode = Pen_Mode::offset;
     script().click(cell(13, 14));
     play();
     expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 10); });
-    toolbox->options().set_value(Tool_Option::stamp_mode, static_cast<int>(Pen_Mode::pattern));
+    toolbox->options().stamp_mode = Pen_Mode::pattern;
     script().click(cell(13, 14));
     play();
     expect_painted([&](int x, int y) {
@@ -112,7 +112,7 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
     });
     // Filling with it, seen from the seed on.
     execute(Command::flood_fill);
-    toolbox->options().set_value(Tool_Option::fill_mode, 1);
+    toolbox->options().fill_mode = Fill_Mode::stamp;
     script().click(cell(7, 8));
     play();
     expect_painted([&](int x, int y) { return brush_pixel((x + 3) % 5, (y + 2) % 5); });
@@ -143,7 +143,7 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     select({3, 2}, {4, 3});
     execute(Command::copy);
     execute(Command::paste);
-    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(Selection_Mode::persistent));
+    toolbox->options().selection_mode = Selection_Mode::persistent;
     execute(Command::pen);
     expect_note("Nothing selected to use as brush.", Command::use_as_brush); // it floats on out of sight
     execute(Command::work_selection);

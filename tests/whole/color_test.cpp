@@ -80,7 +80,7 @@ TEST_F(Color_Test, the_column_is_there_for_the_tools_that_use_its_colours) {
     for (const Tool_Row& tool : tool_table) {
         toolbox->select(tool.command);
         // Other panes stand there.
-        if (toolbox->is_in_selection_group() || tool.id == Tool::stamp_brush) {
+        if (toolbox->state().is_in_selection_group() || tool.id == Tool::stamp_brush) {
             continue;
         }
         tool_colors->reset();

@@ -73,8 +73,8 @@ protected:
     }
     static void choose(const Stroke_Case& stroke) {
         editor->execute(stroke.command);
-        toolbox->options().set_value(Tool_Option::rectangle_type, static_cast<int>(stroke.type));
-        toolbox->options().set_value(Tool_Option::ellipse_type, static_cast<int>(stroke.type));
+        toolbox->options().rectangle_type = stroke.type;
+        toolbox->options().ellipse_type = stroke.type;
         tool_colors->set_color(Mouse_Button::left, red);
         tool_colors->set_color(Mouse_Button::right, blue);
     }
@@ -165,7 +165,7 @@ TEST_F(Every_Tool_Test, segments_stay_in_the_selection_and_are_the_same_twice) {
         for (int choice = 0; choice < 2 * 2 * 3; ++choice) {
             SCOPED_TRACE(menu_text(stroke.command) + ", choice " + std::to_string(choice));
             toolbox->select_brush_size(choice % 2 * 5);
-            toolbox->options().set_value(Tool_Option::right_button_mode, choice / 4);
+            toolbox->options().right_button_mode = static_cast<Right_Button_Mode>(choice / 4);
             const Mouse_Button button = choice / 2 % 2 == 0 ? Mouse_Button::left : Mouse_Button::right;
             const bool picks =
                 row->action == Canvas_Action::dropper ||
@@ -219,7 +219,7 @@ TEST_F(Every_Tool_Test, without_a_brush_they_act_on_the_pixel_under_the_pointer)
         play();
         EXPECT_EQ(tool_colors->color(Mouse_Button::right), before[index]);
         editor->execute(Command::pen);
-        toolbox->options().set_value(Tool_Option::right_button_mode, 2);
+        toolbox->options().right_button_mode = Right_Button_Mode::dropper;
         script().click(pointer, Mouse_Button::right);
         play();
         EXPECT_EQ(tool_colors->color(Mouse_Button::left), before[index]);

@@ -32,7 +32,7 @@ protected:
 };
 
 TEST_F(Floating_Test, a_paste_that_persists_leaves_alone_what_is_drawn_over_it_later) {
-    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(Selection_Mode::persistent));
+    toolbox->options().selection_mode = Selection_Mode::persistent;
     lift({2, 2}, {6, 6});
     execute(Command::pen);
     EXPECT_EQ(tile_pixel(6, 4), red);

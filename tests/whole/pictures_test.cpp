@@ -80,7 +80,7 @@ public:
             execute(Command::move_to_pad);
         }
         execute(Command::deselect);
-        toolbox->options().set_value(Tool_Option::stamp_mode, 2);
+        toolbox->options().stamp_mode = Pen_Mode::offset;
         script().click({1028 + 3 * 10, 58 + 3 * 2}).motion({1028 + 3 * 22, 58 + 3 * 3});
         play();
         show();

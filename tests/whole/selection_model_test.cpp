@@ -167,7 +167,7 @@ void Selection_Model_Test::mark_pixel() {
 void Selection_Model_Test::pour() {
     select_tool(Tool::wand_selector);
     const auto mode = static_cast<Wand_Mode>(below(3) == 0 ? 1 + below(2) : 0);
-    toolbox->options().set_value(Tool_Option::wand_mode, static_cast<int>(mode));
+    toolbox->options().wand_mode = mode;
     const Mouse_Button button = some_button();
     const Tile_Point at = some_pixel();
     script().click(window_point(at, 5), button);
@@ -371,7 +371,7 @@ void Selection_Model_Test::show_next_document() {
 
 void Selection_Model_Test::choose_mode() {
     model_.mode = static_cast<Selection_Mode>(below(3));
-    toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(model_.mode));
+    toolbox->options().selection_mode = model_.mode;
 }
 
 void Selection_Model_Test::expect_same() const {

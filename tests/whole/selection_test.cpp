@@ -46,7 +46,6 @@ protected:
         script().click(cell(pixel.x, pixel.y));
         play();
     }
-    static void choose(Tool_Option option, int value) { toolbox->options().set_value(option, value); }
     static void paint_noise(unsigned seed) {
         std::mt19937 random(seed);
         tile().map_colours([&](Color) {
@@ -99,7 +98,7 @@ TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
                            Row{Selection_Mode::fixed, true, true, false}}) {
         SCOPED_TRACE(static_cast<int>(row.mode));
         tile().fill(red);
-        choose(Tool_Option::selection_mode, static_cast<int>(row.mode));
+        toolbox->options().selection_mode = row.mode;
         select_rectangle({2, 2}, {6, 5});
         execute(Command::copy);
         execute(Command::deselect);
@@ -123,7 +122,8 @@ TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
 }
 
 TEST_F(Selection_Test, wand_floats_at_once_in_its_quick_modes) {
-    for (const auto& [mode, holes] : {std::pair{1, 0}, std::pair{2, 8}}) {
+    for (const auto& [mode, holes] :
+         {std::pair{Wand_Mode::quick_copy, 0}, std::pair{Wand_Mode::quick_cut, 8}}) {
         tile().fill(black);
         for (int i = 0; i < 8; ++i) {
             tile().set_pixel(4 + i % 4, 4 + i / 4, red);
@@ -132,7 +132,7 @@ TEST_F(Selection_Test, wand_floats_at_once_in_its_quick_modes) {
         execute(Command::mirror);
         execute(Command::mirror);
         execute(Command::wand_selector);
-        choose(Tool_Option::wand_mode, mode);
+        toolbox->options().wand_mode = mode;
         click({5, 5});
         EXPECT_EQ(toolbox->current_tool(), Tool::selection);
         EXPECT_EQ(count(clear), holes);

@@ -34,7 +34,6 @@ protected:
         script().release(points.back(), button);
         play();
     }
-    static void choose(Tool_Option option, int value) { toolbox->options().set_value(option, value); }
 };
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
@@ -42,10 +41,10 @@ TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2});
     play();
     EXPECT_EQ(toolbox->current_command(), Command::rectangle);
-    EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_filled);
+    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
     script().click({796, 40 + 24 * 7 + 2 * 7 + 24});
     play();
-    EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_outline);
+    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_outline);
     // The rectangle's rows cover the entry below it; the entries above can be clicked.
     script().click({900, 32 + 26 * 4 + 10});
     play();
@@ -60,12 +59,12 @@ TEST_F(Tools_Test, right_button_of_the_pen_does_what_its_row_says) {
     execute(Command::save_history_buffer);
     tool_colors->set_color(Mouse_Button::left, red);
     drag({{1, 1}, {3, 1}});
-    choose(Tool_Option::right_button_mode, 1);
+    toolbox->options().right_button_mode = Right_Button_Mode::history;
     drag({{1, 1}, {2, 1}}, Mouse_Button::right);
     EXPECT_EQ(tile_pixel(1, 1), white);
     EXPECT_EQ(tile_pixel(2, 1), black);
     EXPECT_EQ(tile_pixel(3, 1), red);
-    choose(Tool_Option::right_button_mode, 2);
+    toolbox->options().right_button_mode = Right_Button_Mode::dropper;
     drag({{1, 1}}, Mouse_Button::right);
     EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
     EXPECT_EQ(tile_pixel(1, 1), white);
@@ -96,7 +95,7 @@ TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
     script().drag({beside, cell(5, 6)});
     play();
     EXPECT_EQ(tool_colors->color(Mouse_Button::left), red);
-    EXPECT_EQ(toolbox->canvas_action(), Canvas_Action::rectangle_filled);
+    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
 }
 
 // Grey, on which the lightness pen of one pixel draws; how often it touched each pixel.
@@ -136,7 +135,7 @@ TEST_F(Lightness_Pen_Test, goes_on_while_its_button_is_held) {
 
 // Several motions within one interval of 14 milliseconds; the step comes while the button is held or after.
 TEST_F(Lightness_Pen_Test, touches_a_fast_path_once_and_skips_nothing) {
-    choose(Tool_Option::speed, 0);
+    toolbox->options().speed = Lightness_Speed::extremely_slow;
     for (const bool waits : {false, true}) {
         document().tileset().current_tile()->fill(Color(grey, grey, grey));
         script().press(cell(2, 2)).motion(cell(5, 2)).motion(cell(9, 2)).motion(cell(9, 7));
@@ -159,7 +158,7 @@ TEST_F(Lightness_Pen_Test, touches_a_fast_path_once_and_skips_nothing) {
 }
 
 TEST_F(Lightness_Pen_Test, quick_strokes_lose_no_pixel) {
-    choose(Tool_Option::speed, 0);
+    toolbox->options().speed = Lightness_Speed::extremely_slow;
     for (int x = 1; x < 20; x += 3) {
         script().click(cell(x, 3));
     }

@@ -1,0 +1,35 @@
+#pragma once
+
+// The brush that the tools lay: one of the built-in brushes, or a stamp.
+
+#include "tools/brush.h"
+
+namespace quadrelle {
+
+class Chosen_Brush {
+public:
+    // One pixel, the pen's.
+    Chosen_Brush();
+
+    [[nodiscard]] const Brush& brush() const { return brush_; }
+    // Of the built-in brush, also while a stamp takes its place.
+    [[nodiscard]] Brush_Shape shape() const { return shape_; }
+    [[nodiscard]] int size_index() const { return size_index_; }
+
+    // 0 to 5, one less than the brush's width. Another size or shape than before ends a stamp.
+    void select_size(int size_index);
+    void select_shape(Brush_Shape shape);
+    // The built-in brush comes back.
+    void set_owner(Brush_Owner owner);
+    // A brush with colours of its own, until a built-in one is chosen.
+    void set_stamp(const Brush& stamp);
+
+private:
+    void rebuild();
+
+    Brush_Shape shape_ = Brush_Shape::disc;
+    int size_index_ = 0;
+    Brush brush_;
+};
+
+} // namespace quadrelle
