@@ -1,5 +1,7 @@
 #include "base/atomic_file.h"
 
+#include "base/platform_files.h"
+
 #include <random>
 #include <utility>
 

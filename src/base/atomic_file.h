@@ -2,7 +2,7 @@
 
 // A file that replaces an older one of the same name whole or not at all.
 
-#include "base/platform_files.h"
+#include "base/file_handle.h"
 
 #include <cstdint>
 #include <span>

@@ -2,6 +2,7 @@
 
 #include "base/atomic_file.h"
 #include "base/fatal.h"
+#include "base/platform_files.h"
 
 #include <algorithm>
 #include <utility>

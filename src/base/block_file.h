@@ -2,7 +2,7 @@
 
 // A binary file that is read and written in whole blocks.
 
-#include "base/platform_files.h"
+#include "base/file_handle.h"
 
 #include <cstdint>
 #include <span>

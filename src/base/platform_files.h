@@ -3,23 +3,16 @@
 // The only place where files meet the platform. Names are UTF-8; a name that the platform cannot take counts
 // as a file that is not there.
 
+#include "base/file_handle.h"
+
 #include <cstdint>
 #include <cstdio>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace quadrelle {
-
-struct File_Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File_Handle = std::unique_ptr<std::FILE, File_Closer>;
-
-// `write` empties a file that is there, `create` fails when there is one.
-enum class File_Mode { read, write, create };
 
 // Binary, and regular files only: never waits for a pipe or a device. Null when it cannot be opened.
 [[nodiscard]] File_Handle open_file(const std::string& name, File_Mode mode);

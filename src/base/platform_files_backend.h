@@ -1,8 +1,11 @@
 #pragma once
 
-// What each platform brings to files.cpp; nothing else uses it.
+// What each platform brings to platform_files.cpp; nothing else uses it.
 
-#include "base/platform_files.h"
+#include "base/file_handle.h"
+
+#include <cstdint>
+#include <string>
 
 namespace quadrelle::platform {
 

@@ -1,5 +1,6 @@
 #ifndef _WIN32
 
+#include "base/platform_files.h"
 #include "base/platform_files_backend.h"
 
 #include <cerrno>

@@ -1,7 +1,5 @@
 #include "color/color.h"
 
-#include "color/hsv.h"
-
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -51,14 +49,6 @@ void Color::match_direction(Color other) {
     r = truncated_channel(own_length * (target.r / target_length) * unit);
     g = truncated_channel(own_length * (target.g / target_length) * unit);
     b = truncated_channel(own_length * (target.b / target_length) * unit);
-}
-
-void Color::take_hue(Color other) {
-    const HSV_Color own(*this, *this);
-    HSV_Color mixed(other, other);
-    mixed.value = own.value;
-    const Color result = mixed.to_rgb();
-    set_rgb(result.r, result.g, result.b);
 }
 
 double Color::luminance() const {

@@ -50,9 +50,7 @@ struct Color {
 
     constexpr void invert() { set_rgb(255 - r, 255 - g, 255 - b); }
 
-    // Red, green and blue by the same amount within 0 to 255. Sums of real numbers are truncated.
-    constexpr void brighten(int amount) { shift(std::clamp(amount, -255, 255)); }
-    constexpr void darken(int amount) { shift(-std::clamp(amount, -255, 255)); }
+    // Red, green and blue by the same amount within 0 to 255; the sums are truncated.
     constexpr void brighten(double amount) { shift(amount, amount, amount); }
     constexpr void darken(double amount) { brighten(-amount); }
     // By the weight of each channel in the eye. The weight of blue is no misprint of 0.114: the weights
@@ -66,8 +64,6 @@ struct Color {
     constexpr void blend(Color other, double own);
     // Keeps the length of (red, green, blue) and takes the other's direction; black as other gives black.
     void match_direction(Color other);
-    // Keeps the value and alpha and takes the other's hue and saturation.
-    void take_hue(Color other);
 
     // Relative luminance as sRGB defines it, 0 to 1.
     [[nodiscard]] double luminance() const;
@@ -76,7 +72,6 @@ struct Color {
 
 private:
     [[nodiscard]] constexpr std::uint8_t& channel_at(int index);
-    constexpr void shift(int amount);
     constexpr void shift(double red, double green, double blue);
 };
 
@@ -131,12 +126,6 @@ constexpr void Color::blend(Color other, double own) {
     g = truncated_channel(g * own + other.g * rest);
     b = truncated_channel(b * own + other.b * rest);
     a = other.a;
-}
-
-constexpr void Color::shift(int amount) {
-    r = clamped_channel(r + amount);
-    g = clamped_channel(g + amount);
-    b = clamped_channel(b + amount);
 }
 
 constexpr void Color::shift(double red, double green, double blue) {

@@ -76,4 +76,11 @@ Color HSV_Color::nearest_rgb() const {
     return {channel(5.0), channel(3.0), channel(1.0)};
 }
 
+void take_hue(Color& color, Color other) {
+    HSV_Color mixed(other, other);
+    mixed.value = HSV_Color(color, color).value;
+    const Color result = mixed.to_rgb();
+    color.set_rgb(result.r, result.g, result.b);
+}
+
 } // namespace quadrelle

@@ -25,4 +25,7 @@ struct HSV_Color {
     [[nodiscard]] Color nearest_rgb() const;
 };
 
+// Keeps the colour's value and alpha and gives it the other's hue and saturation.
+void take_hue(Color& color, Color other);
+
 } // namespace quadrelle

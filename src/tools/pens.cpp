@@ -1,10 +1,8 @@
 #include "tools/pens.h"
 
 #include "tools/line.h"
-#include "tools/pixel_operations.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace quadrelle {
 
@@ -37,19 +35,6 @@ void for_each_covered(const Drawing_Target& target, Size brush, Tile_Point corne
     }
 }
 
-Color lightened(Color pixel, Lightness_Mode mode) {
-    return mode == Lightness_Mode::linear ? lightened_linear(pixel) : lightened_perceptual(pixel);
-}
-
-Color darkened(Color pixel, Lightness_Mode mode) {
-    return mode == Lightness_Mode::linear ? darkened_linear(pixel) : darkened_perceptual(pixel);
-}
-
-Color colorized(Color pixel, Color tool_color, Colorize_Type type) {
-    return type == Colorize_Type::linear ? colorized_linear(pixel, tool_color)
-                                         : colorized_luma(pixel, tool_color);
-}
-
 Color remembered(Color pixel, Tile_Point position, const Tile* history) {
     const bool has_pixel = history != nullptr && !history->is_outside(position.x, position.y);
     return has_pixel ? history->get_pixel(position.x, position.y) : pixel;
@@ -59,8 +44,8 @@ void apply_ink(Drawing_Target& target, Tile_Point position, Color color, const I
     const Color pixel = target.get(position);
     switch (ink.operation) {
     case Pixel_Operation::paint: target.plot(position, color); break;
-    case Pixel_Operation::lighten: target.plot(position, lightened(pixel, ink.lightness_mode)); break;
-    case Pixel_Operation::darken: target.plot(position, darkened(pixel, ink.lightness_mode)); break;
+    case Pixel_Operation::lighten: target.plot(position, lightened(pixel, ink.lightness_mode, 1.0)); break;
+    case Pixel_Operation::darken: target.plot(position, lightened(pixel, ink.lightness_mode, -1.0)); break;
     case Pixel_Operation::colorize: target.plot(position, colorized(pixel, color, ink.colorize_type)); break;
     case Pixel_Operation::history: target.plot(position, remembered(pixel, position, ink.history)); break;
     }
@@ -76,12 +61,6 @@ void apply_pen(Drawing_Target& target, const Pen& pen, Tile_Point corner) {
 
 Tile_Point corner_of(const Pen& pen, Tile_Point position) {
     return pen.mode == Pen_Mode::offset ? snapped_to_grid(position, pen.brush.size()) : position;
-}
-
-// Farther than any tile is large, as is what is not a number.
-int whole_pixels(double distance) {
-    constexpr int far = 1 << 30;
-    return std::abs(distance) < far ? static_cast<int>(distance) : far;
 }
 
 } // namespace
@@ -124,11 +103,9 @@ void draw_segment(Drawing_Target& target, const Pen& pen, Tile_Point from, Tile_
     });
 }
 
-void smudge(Drawing_Target& target, const Brush& brush, Tile_Point corner, Smudge_Motion motion) {
-    const int dx = whole_pixels(motion.dx);
-    const int dy = whole_pixels(motion.dy);
+void smudge(Drawing_Target& target, const Brush& brush, Tile_Point corner, Tile_Point source_corner) {
     for_each_covered(target, brush.size(), corner, [&](int x, int y, Tile_Point position) {
-        const Tile_Point source{position.x + dx, position.y + dy};
+        const Tile_Point source{source_corner.x + x, source_corner.y + y};
         if (brush.pixel(x, y) && target.contains(source)) {
             target.plot(position, mixed_half_and_half(target.get(source), target.get(position)));
         }
@@ -139,9 +116,7 @@ void smudge_segment(Drawing_Target& target, const Brush& brush, Tile_Point from,
     Tile_Point last = from;
     walk_line(from, to, [&](Tile_Point position) {
         if (position != last) {
-            const double dx = static_cast<double>(last.x) - position.x;
-            const double dy = static_cast<double>(last.y) - position.y;
-            smudge(target, brush, position, {dx, dy});
+            smudge(target, brush, position, last);
             last = position;
         }
     });

@@ -6,6 +6,7 @@
 #include "color/color.h"
 #include "tools/brush.h"
 #include "tools/drawing_target.h"
+#include "tools/pixel_operations.h"
 
 #include <cstdint>
 #include <optional>
@@ -13,8 +14,6 @@
 namespace quadrelle {
 
 enum class Pixel_Operation : std::int32_t { paint = 0, lighten = 1, darken = 2, colorize = 3, history = 5 };
-enum class Lightness_Mode : std::int32_t { linear, perception };
-enum class Colorize_Type : std::int32_t { linear, luma };
 
 // What happens to a pixel that the brush covers. Borrows the history image.
 struct Ink {
@@ -57,15 +56,10 @@ enum class Segment_Start : std::int32_t { included, left_out };
 void draw_segment(Drawing_Target& target, const Pen& pen, Tile_Point from, Tile_Point to,
                   Segment_Start start);
 
-// From a target pixel to the one that it is mixed with, in pixels; truncated toward zero.
-struct Smudge_Motion {
-    double dx = 0.0;
-    double dy = 0.0;
-};
-
-// Mixes every covered pixel half and half with its source; one whose source is outside the tile stays. In
-// brush order, each reading what earlier ones wrote: the colour is deliberately dragged through the brush.
-void smudge(Drawing_Target& target, const Brush& brush, Tile_Point corner, Smudge_Motion motion);
+// Mixes every pixel that the brush covers half and half with the one that it would cover on the source
+// corner; a pixel whose source is outside the tile stays. In brush order, each reading what earlier ones
+// wrote: the colour is deliberately dragged through the brush.
+void smudge(Drawing_Target& target, const Brush& brush, Tile_Point corner, Tile_Point source_corner);
 
 // Drags colour along the line pixel by pixel, each from the pixel before; nothing for a single pixel.
 void smudge_segment(Drawing_Target& target, const Brush& brush, Tile_Point from, Tile_Point to);

@@ -3,43 +3,35 @@
 // What pens do to one colour. All keep the alpha of the pixel that they change.
 
 #include "color/color.h"
+#include "color/hsv.h"
+
+#include <cstdint>
 
 namespace quadrelle {
 
-// How far one touch of the lightness pen goes, of 255.
-constexpr double linear_step = 2.0;
-constexpr double perceptual_step = 3.0;
+enum class Lightness_Mode : std::int32_t { linear, perception };
+enum class Colorize_Type : std::int32_t { linear, luma };
 
-[[nodiscard]] constexpr Color lightened_linear(Color pixel) {
-    pixel.brighten(linear_step);
+// Lightens by so many touches of the lightness pen; a negative number darkens. In the mode of perception
+// truncation makes the two deliberately unequal: a step up moves only green, a step down all three.
+[[nodiscard]] constexpr Color lightened(Color pixel, Lightness_Mode mode, double touches) {
+    constexpr double linear_step = 2.0;
+    constexpr double perceptual_step = 3.0;
+    if (mode == Lightness_Mode::linear) {
+        pixel.brighten(touches * linear_step);
+    } else {
+        pixel.brighten_weighted(touches * perceptual_step);
+    }
     return pixel;
 }
 
-[[nodiscard]] constexpr Color darkened_linear(Color pixel) {
-    pixel.darken(linear_step);
-    return pixel;
-}
-
-// Truncation makes these two deliberately unequal: a step up moves only green, a step down all three.
-[[nodiscard]] constexpr Color lightened_perceptual(Color pixel) {
-    pixel.brighten_weighted(perceptual_step);
-    return pixel;
-}
-
-[[nodiscard]] constexpr Color darkened_perceptual(Color pixel) {
-    pixel.darken_weighted(perceptual_step);
-    return pixel;
-}
-
-// The pixel's brightness in the direction of the tool colour; toward black it is black.
-[[nodiscard]] inline Color colorized_linear(Color pixel, Color tool_color) {
-    pixel.match_direction(tool_color);
-    return pixel;
-}
-
-// The pixel's value with the hue and saturation of the tool colour.
-[[nodiscard]] inline Color colorized_luma(Color pixel, Color tool_color) {
-    pixel.take_hue(tool_color);
+// Gives the pixel the direction of the tool colour, toward black that is black, or its hue and saturation.
+[[nodiscard]] inline Color colorized(Color pixel, Color tool_color, Colorize_Type type) {
+    if (type == Colorize_Type::linear) {
+        pixel.match_direction(tool_color);
+    } else {
+        take_hue(pixel, tool_color);
+    }
     return pixel;
 }
 

