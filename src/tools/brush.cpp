@@ -34,17 +34,6 @@ std::optional<Color> Brush::wallpaper_pixel(std::int64_t x, std::int64_t y) cons
     return pixel(wrapped(x, size_.width), wrapped(y, size_.height));
 }
 
-void Brush::recolor(Color color) {
-    if (owner_ == Brush_Owner::stamp_brush) {
-        return;
-    }
-    for (std::optional<Color>& pixel : pixels_) {
-        if (pixel) {
-            pixel = color;
-        }
-    }
-}
-
 Brush built_in_brush(Brush_Shape shape, int size_index, Color color, Brush_Owner owner) {
     std::vector<std::optional<Color>> pixels;
     for (int y = 0; y <= size_index; ++y) {

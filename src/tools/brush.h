@@ -41,8 +41,6 @@ public:
     }
     // Of brushes laid side by side without end, one of them with its corner on (0, 0).
     [[nodiscard]] std::optional<Color> wallpaper_pixel(std::int64_t x, std::int64_t y) const;
-    // Paints the set pixels; a stamp keeps its own colours.
-    void recolor(Color color);
 
 private:
     Size size_;

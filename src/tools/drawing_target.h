@@ -6,12 +6,12 @@
 
 namespace quadrelle {
 
-// Borrows both tiles.
+// It borrows both tiles.
 class Drawing_Target {
 public:
     explicit Drawing_Target(Tile& tile) : tile_(&tile) {}
-    // White pixels of the mask are selected. The selection is active.
-    Drawing_Target(Tile& tile, const Tile& mask) : tile_(&tile), mask_(&mask), selection_active_(true) {}
+    // The white pixels of the mask are selected.
+    Drawing_Target(Tile& tile, const Tile& mask) : tile_(&tile), mask_(&mask) {}
 
     [[nodiscard]] Size size() const { return tile_->size(); }
     [[nodiscard]] const Tile& tile() const { return *tile_; }
@@ -19,25 +19,23 @@ public:
     [[nodiscard]] bool contains(Tile_Point position) const {
         return !tile_->is_outside(position.x, position.y);
     }
-    // Needs a mask to take effect.
-    void set_selection_active(bool active) { selection_active_ = active && mask_ != nullptr; }
+    // Without a selection every pixel is selected.
     [[nodiscard]] bool is_selected(Tile_Point position) const {
-        return !selection_active_ || mask_->is_white_at(position.x, position.y);
+        return mask_ == nullptr || mask_->is_white_at(position.x, position.y);
     }
 
-    // Nothing happens outside the tile or an active selection.
+    // Nothing happens outside the tile or the selection.
     void plot(Tile_Point position, Color color) {
         if (is_selected(position)) {
             tile_->set_pixel(position.x, position.y, color);
         }
     }
-    // Outside, what the tile answers there.
+    // Outside the tile this is what the tile answers there.
     [[nodiscard]] Color get(Tile_Point position) const { return tile_->get_pixel(position.x, position.y); }
 
 private:
     Tile* tile_;
     const Tile* mask_ = nullptr;
-    bool selection_active_ = false;
 };
 
 } // namespace quadrelle

@@ -63,10 +63,6 @@ bool Flood_Area::is_inside(Tile_Point position) const {
     return position.x >= 0 && position.y >= 0 && position.x < size_.width && position.y < size_.height;
 }
 
-bool Flood_Area::contains(Tile_Point position) const {
-    return is_inside(position) && is_reached(cells_[index_of(position, size_.width)]);
-}
-
 void flood_fill(Drawing_Target& target, Tile_Point seed, Color color, Flood_Bounds bounds) {
     Flood_Area(target, seed, bounds).for_each([&](Tile_Point position) { target.plot(position, color); });
 }

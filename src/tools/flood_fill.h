@@ -38,7 +38,6 @@ public:
                                                     : Tile_Point{0, position.y + 1};
         }
     }
-    [[nodiscard]] bool contains(Tile_Point position) const;
 
 private:
     // 0: not reached; 1 to the limit: the wave that reached it, the seed's being 1; above: blocked.
