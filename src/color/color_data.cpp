@@ -12,25 +12,35 @@ std::unique_ptr<Color_Data> color_data;
 
 namespace {
 
-std::span<const Named_Color> up_to_the_end_row(std::span<const Named_Color> table) {
+constexpr std::span<const Named_Color> up_to_the_end_row(std::span<const Named_Color> table) {
     const auto is_end = [](const Named_Color& row) { return row.name.starts_with('$'); };
     const auto end = std::ranges::find_if(table, is_end);
     return table.first(static_cast<std::size_t>(end - table.begin()));
 }
 
+constexpr bool is_named_twice(std::span<const Named_Color> rows, Color color) {
+    return std::ranges::count(rows, color, &Named_Color::color) > 1;
+}
+
+constexpr bool names_differ_in_color(std::span<const Named_Color> rows) {
+    return std::ranges::none_of(rows,
+                                [rows](const Named_Color& row) { return is_named_twice(rows, row.color); });
+}
+
+static_assert(up_to_the_end_row(named_colors).size() == 24);
+static_assert(names_differ_in_color(up_to_the_end_row(named_colors)));
+
 } // namespace
 
 Color_Data::Color_Data(std::span<const Named_Color> table) : rows_(up_to_the_end_row(table)) {
-    for (const Named_Color& row : rows_) {
-        if (!names_.emplace(row.color.word(), row.name).second) {
-            fatal("Matching id found in color data.");
-        }
+    if (!names_differ_in_color(rows_)) {
+        fatal("Matching id found in color data.");
     }
 }
 
 std::optional<std::string_view> Color_Data::name_of(Color color) const {
-    const auto found = names_.find(color.word());
-    return found == names_.end() ? std::nullopt : std::optional(found->second);
+    const auto found = std::ranges::find(rows_, color, &Named_Color::color);
+    return found == rows_.end() ? std::nullopt : std::optional(found->name);
 }
 
 std::string_view Color_Data::shown_name(Color color) const {

@@ -5,8 +5,6 @@
 #include "color/color.h"
 
 #include <array>
-#include <cstdint>
-#include <map>
 #include <memory>
 #include <optional>
 #include <span>
@@ -59,16 +57,15 @@ public:
     // stands there twice is fatal.
     explicit Color_Data(std::span<const Named_Color> table = named_colors);
 
-    // Exact in all four channels: only opaque colours have names.
+    // The name of exactly this colour, in all four channels: only opaque colours have one.
     [[nodiscard]] std::optional<std::string_view> name_of(Color color) const;
-    // The name, or "---" for a colour that has none.
+    // The same, but "---" for a colour that has none.
     [[nodiscard]] std::string_view shown_name(Color color) const;
     // Appends every named colour in the order of the table.
     void all(std::vector<Named_Color>& list) const;
 
 private:
     std::span<const Named_Color> rows_;
-    std::map<std::uint32_t, std::string_view> names_;
 };
 
 // "97, 18, 124, 255": the channels and alpha.

@@ -110,6 +110,20 @@ Pointer_State pointer_of(const SDL_MouseMotionEvent& event) {
     return {event.x, event.y, Mouse_Button::none};
 }
 
+static_assert(key::none == SDLK_UNKNOWN && key::backspace == SDLK_BACKSPACE && key::tab == SDLK_TAB);
+static_assert(key::enter == SDLK_RETURN && key::escape == SDLK_ESCAPE && key::space == SDLK_SPACE);
+static_assert(key::delete_key == SDLK_DELETE && key::f1 == SDLK_F1);
+static_assert(key::home == SDLK_HOME && key::end == SDLK_END);
+static_assert(key::page_up == SDLK_PAGEUP && key::page_down == SDLK_PAGEDOWN);
+static_assert(key::right == SDLK_RIGHT && key::left == SDLK_LEFT);
+static_assert(key::down == SDLK_DOWN && key::up == SDLK_UP);
+static_assert(key::keypad_multiply == SDLK_KP_MULTIPLY && key::keypad_enter == SDLK_KP_ENTER);
+static_assert(key::keypad_minus == SDLK_KP_MINUS && key::keypad_plus == SDLK_KP_PLUS);
+static_assert(key::keypad_1 == SDLK_KP_1 && key::keypad_0 == SDLK_KP_0);
+static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTRL);
+static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
+static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
+
 Key_Chord key_chord_of(const SDL_KeyboardEvent& event) {
     const Held_Modifiers held{(event.mod & SDL_KMOD_SHIFT) != 0, (event.mod & SDL_KMOD_CTRL) != 0,
                               (event.mod & SDL_KMOD_ALT) != 0};

@@ -9,17 +9,6 @@
 namespace quadrelle {
 namespace {
 
-static_assert(key::tab == SDLK_TAB && key::escape == SDLK_ESCAPE && key::enter == SDLK_RETURN);
-static_assert(key::backspace == SDLK_BACKSPACE && key::delete_key == SDLK_DELETE && key::f1 == SDLK_F1);
-static_assert(key::left == SDLK_LEFT && key::right == SDLK_RIGHT && key::up == SDLK_UP);
-static_assert(key::down == SDLK_DOWN && key::space == SDLK_SPACE);
-static_assert(key::keypad_plus == SDLK_KP_PLUS && key::keypad_minus == SDLK_KP_MINUS);
-static_assert(key::keypad_multiply == SDLK_KP_MULTIPLY && key::keypad_enter == SDLK_KP_ENTER);
-static_assert(key::keypad_0 == SDLK_KP_0 && key::keypad_1 == SDLK_KP_1);
-static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTRL);
-static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
-static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
-
 struct Modifier_Case {
     SDL_Keymod held;
     Modifier expected;
