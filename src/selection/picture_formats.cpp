@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <utility>
 
 #ifdef QUADRELLE_HAS_PNG
 #include <png.h>
@@ -47,6 +48,16 @@ Picture_Fault fault_of_header(Picture_Bytes bytes) {
     return fault_of_size(width, std::abs(height)); // negative for rows from the top
 }
 
+// Null when that failed.
+Surface_Handle surface_of(const Tile& picture) {
+    const auto [width, height] = picture.size();
+    Surface_Handle surface(SDL_CreateSurface(width, height, tile_format));
+    const int pitch = width * static_cast<int>(sizeof(Color));
+    const bool is_copied = surface && SDL_ConvertPixels(width, height, tile_format, picture.pixels().data(),
+                                                        pitch, tile_format, surface->pixels, surface->pitch);
+    return is_copied ? std::move(surface) : nullptr;
+}
+
 Decoded_Picture decoded(SDL_Surface& surface) {
     const Surface_Handle converted(SDL_ConvertSurface(&surface, tile_format));
     if (!converted || fault_of_size(surface.w, surface.h) != Picture_Fault::none) {
@@ -84,17 +95,12 @@ Decoded_Picture decode_bitmap(Picture_Bytes bytes) {
 }
 
 std::vector<std::uint8_t> encode_bitmap(const Tile& picture) {
-    // Only read from, although SDL cannot say so.
-    auto* const pixels = const_cast<Color*>(picture.pixels().data());
-    const Surface_Handle surface(SDL_CreateSurfaceFrom(picture.width(), picture.height(), tile_format, pixels,
-                                                       picture.width() * static_cast<int>(sizeof(Color))));
-    const Stream_Handle stream(SDL_IOFromDynamicMem());
-    if (!surface || !stream || !SDL_SaveBMP_IO(surface.get(), stream.get(), false)) {
-        return {};
-    }
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(SDL_TellIO(stream.get())));
-    SDL_SeekIO(stream.get(), 0, SDL_IO_SEEK_SET);
-    SDL_ReadIO(stream.get(), bytes.data(), bytes.size());
+    constexpr std::size_t room_for_headers = 256;
+    const Surface_Handle surface = surface_of(picture);
+    std::vector<std::uint8_t> bytes(picture.pixels().size() * sizeof(Color) + room_for_headers);
+    const Stream_Handle stream(SDL_IOFromMem(bytes.data(), bytes.size()));
+    const bool is_written = surface && stream && SDL_SaveBMP_IO(surface.get(), stream.get(), false);
+    bytes.resize(is_written ? static_cast<std::size_t>(SDL_TellIO(stream.get())) : 0);
     return bytes;
 }
 
