@@ -1,10 +1,15 @@
 #include "picture_files.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <fstream>
+#include <vector>
 
 namespace quadrelle {
 
 namespace {
+
+using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t file_header_size = 14;
 constexpr std::size_t picture_header_size = 40;
@@ -12,8 +17,9 @@ constexpr std::size_t largest_palette = 256;
 constexpr unsigned pixels_per_metre = 2835;
 
 void put_number(Bytes& bytes, std::size_t value, int count) {
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+    }
 }
 
 void put_colour(Bytes& bytes, Rgb colour) {
@@ -25,10 +31,13 @@ void put_colour(Bytes& bytes, Rgb colour) {
 // In the order of their first pixels, the colour key first.
 std::vector<Rgb> colours_of(const Sheet_Picture& sheet) {
     std::vector<Rgb> colours{transparent_colour};
-    for (int y = 0; y < sheet_height; ++y)
-        for (int x = 0; x < sheet_width; ++x)
-            if (std::find(colours.begin(), colours.end(), sheet.at(x, y)) == colours.end())
+    for (int y = 0; y < sheet_height; ++y) {
+        for (int x = 0; x < sheet_width; ++x) {
+            if (std::find(colours.begin(), colours.end(), sheet.at(x, y)) == colours.end()) {
                 colours.push_back(sheet.at(x, y));
+            }
+        }
+    }
     return colours;
 }
 
@@ -54,20 +63,19 @@ void put_headers(Bytes& bytes, std::size_t palette_size, int bits_a_pixel) {
     put_number(bytes, 0, 4);
 }
 
-} // namespace
-
 // Rows stand from the bottom to the top; 512 pixels need no padding in either depth.
 Bytes encode_bmp(const Sheet_Picture& sheet) {
     const std::vector<Rgb> colours = colours_of(sheet);
     const bool has_palette = colours.size() <= largest_palette;
     Bytes bytes;
     put_headers(bytes, has_palette ? colours.size() : 0, has_palette ? 8 : 24);
-    if (has_palette)
+    if (has_palette) {
         for (const Rgb colour : colours) {
             put_colour(bytes, colour);
             bytes.push_back(0);
         }
-    for (int y = sheet_height - 1; y >= 0; --y)
+    }
+    for (int y = sheet_height - 1; y >= 0; --y) {
         for (int x = 0; x < sheet_width; ++x) {
             if (!has_palette) {
                 put_colour(bytes, sheet.at(x, y));
@@ -76,7 +84,18 @@ Bytes encode_bmp(const Sheet_Picture& sheet) {
             const auto colour = std::find(colours.begin(), colours.end(), sheet.at(x, y));
             bytes.push_back(static_cast<std::uint8_t>(colour - colours.begin()));
         }
+    }
     return bytes;
+}
+
+} // namespace
+
+bool write_bmp(const Sheet_Picture& sheet, const std::filesystem::path& path) {
+    const Bytes bytes = encode_bmp(sheet);
+    std::ofstream stream(path, std::ios::binary);
+    stream.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    stream.close();
+    return stream.good();
 }
 
 } // namespace quadrelle

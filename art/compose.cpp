@@ -10,8 +10,9 @@ namespace {
 std::vector<Source_File> read_sources(const std::filesystem::path& folder, const Palette& shared,
                                       Problems& problems) {
     std::vector<Source_File> files;
-    for (const auto& path : text_files(folder, problems))
+    for (const auto& path : text_files(folder, problems)) {
         files.push_back(read_source(path, shared, problems));
+    }
     return files;
 }
 

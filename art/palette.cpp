@@ -20,21 +20,25 @@ Palette::Palette() {
 }
 
 bool Palette::define(std::string_view entry) {
-    if (entry.size() < entry_length || !stands_for_a_colour(entry[0]) || entry[1] != ' ')
+    if (entry.size() < entry_length || !stands_for_a_colour(entry[0]) || entry[1] != ' ') {
         return false;
-    if (entry.size() > entry_length && entry[entry_length] != ' ')
+    }
+    if (entry.size() > entry_length && entry[entry_length] != ' ') {
         return false;
+    }
 
     unsigned value = 0;
     const char* start = entry.data() + colour_start;
     const char* end = entry.data() + entry_length;
-    if (std::from_chars(start, end, value, 16).ptr != end)
+    if (std::from_chars(start, end, value, 16).ptr != end) {
         return false;
+    }
 
     const Rgb colour{static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 8),
                      static_cast<std::uint8_t>(value)};
-    if (colour == transparent_colour)
+    if (colour == transparent_colour) {
         return false;
+    }
     colours_[static_cast<unsigned char>(entry[0])] = colour;
     return true;
 }

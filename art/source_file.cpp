@@ -17,8 +17,9 @@ bool is_keyword(std::string_view word) {
 }
 
 void append_word(std::string& text, const std::string& word) {
-    if (!text.empty())
+    if (!text.empty()) {
         text += ' ';
+    }
     text += word;
 }
 
@@ -29,12 +30,14 @@ void read_head(Block& block, const std::string& text, Problems& problems) {
             append_word(*part, word);
             continue;
         }
-        if (block.clauses.contains(word))
+        if (block.clauses.contains(word)) {
             problems.add(block.place, "\"" + word + "\" stands twice");
+        }
         part = &block.clauses[word];
     }
-    if (block.name.empty())
+    if (block.name.empty()) {
         problems.add(block.place, "a head without a name");
+    }
 }
 
 std::string trimmed(std::string line) {
@@ -57,21 +60,24 @@ public:
             return;
         }
         inside_block_ = false;
-        if (line.empty() || line[0] == '#')
+        if (line.empty() || line[0] == '#') {
             return;
+        }
         const std::string_view start = std::string_view(line).substr(0, 2);
-        if (start == ": ")
+        if (start == ": ") {
             read_colour(place, line);
-        else if (start == "= " || start == "@ ")
+        } else if (start == "= " || start == "@ ") {
             start_block(place, line);
-        else
+        } else {
             problems_.add(place, "a line that belongs to no grid: " + line);
+        }
     }
 
 private:
     void read_colour(const Place& place, const std::string& line) {
-        if (!file_.palette.define(std::string_view(line).substr(2)))
+        if (!file_.palette.define(std::string_view(line).substr(2))) {
             problems_.add(place, "a colour line reads \": X rrggbb\": " + line);
+        }
     }
 
     void start_block(const Place& place, const std::string& line) {
@@ -94,8 +100,9 @@ bool is_licence(const std::filesystem::path& path) {
 template <typename Take_Line>
 void read_lines(const std::filesystem::path& path, Problems& problems, Take_Line take_line) {
     std::ifstream stream(path, std::ios::binary);
-    if (!stream)
+    if (!stream) {
         problems.add(path.generic_string() + ": cannot be read");
+    }
     Place place{path.generic_string(), 0};
     for (std::string line; std::getline(stream, line);) {
         ++place.line;
@@ -108,8 +115,9 @@ void read_lines(const std::filesystem::path& path, Problems& problems, Take_Line
 std::vector<std::string> split_words(const std::string& text) {
     std::istringstream stream(text);
     std::vector<std::string> words;
-    for (std::string word; stream >> word;)
+    for (std::string word; stream >> word;) {
         words.push_back(word);
+    }
     return words;
 }
 
@@ -117,8 +125,9 @@ Palette read_palette(const std::filesystem::path& path, Problems& problems) {
     Palette palette;
     read_lines(path, problems, [&](const Place& place, const std::string& line) {
         const bool is_comment = line.empty() || line[0] == '#';
-        if (!is_comment && !palette.define(line))
+        if (!is_comment && !palette.define(line)) {
             problems.add(place, "a colour line reads \"X rrggbb\": " + line);
+        }
     });
     return palette;
 }
@@ -134,11 +143,14 @@ Source_File read_source(const std::filesystem::path& path, const Palette& shared
 std::vector<std::filesystem::path> text_files(const std::filesystem::path& folder, Problems& problems) {
     std::vector<std::filesystem::path> paths;
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error))
-        if (entry.path().extension() == ".txt" && !is_licence(entry.path()))
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        if (entry.path().extension() == ".txt" && !is_licence(entry.path())) {
             paths.push_back(entry.path());
-    if (error)
+        }
+    }
+    if (error) {
         problems.add(folder.generic_string() + ": " + error.message());
+    }
     std::sort(paths.begin(), paths.end());
     return paths;
 }

@@ -36,18 +36,21 @@ public:
         for (const Block& block : file.blocks) {
             check_clauses(block);
             const bool is_plate = block.sign == '@';
-            if (!is_plate && find_sprite_row(block.name) == nullptr)
+            if (!is_plate && find_sprite_row(block.name) == nullptr) {
                 problems_.add(block.place, "the table has no sprite \"" + block.name + "\"");
+            }
             auto& sources = is_plate ? plates_ : sprites_;
-            if (!sources.try_emplace(block.name, Grid_Source{&block, &file.palette}).second)
+            if (!sources.try_emplace(block.name, Grid_Source{&block, &file.palette}).second) {
                 problems_.add(block.place, "\"" + block.name + "\" is drawn twice");
+            }
         }
     }
 
     void draw(const Sprite_Row& row) {
         const auto source = sprites_.find(std::string(row.name));
-        if (source == sprites_.end())
+        if (source == sprites_.end()) {
             return;
+        }
         const Cells cells = whole_cells(source->second, 0);
         if (cells.width() != row.width || cells.height() != row.height) {
             problems_.add(source->second.block->place,
@@ -59,40 +62,49 @@ public:
     }
 
     void report_missing() {
-        for (const Sprite_Row& row : sprite_table)
-            if (!sprites_.contains(std::string(row.name)))
+        for (const Sprite_Row& row : sprite_table) {
+            if (!sprites_.contains(std::string(row.name))) {
                 problems_.add("no grid for the sprite \"" + std::string(row.name) + "\"");
+            }
+        }
     }
 
 private:
     void check_clauses(const Block& block) {
-        for (const char* keyword : {"top", "shadow"})
-            if (block.clauses.contains(keyword))
+        for (const char* keyword : {"top", "shadow"}) {
+            if (block.clauses.contains(keyword)) {
                 problems_.add(block.place, std::string("\"") + keyword + "\" is for fonts only");
-        if (block.clauses.contains("from") == !block.rows.empty())
+            }
+        }
+        if (block.clauses.contains("from") == !block.rows.empty()) {
             problems_.add(block.place, "\"" + block.name + "\" needs either rows or \"from\"");
+        }
     }
 
     void draw_cells(const Sprite_Row& row, const Cells& cells, const Place& place) {
         const std::string name(row.name);
         std::string reported;
-        for (int y = 0; y < row.height; ++y)
+        for (int y = 0; y < row.height; ++y) {
             for (int x = 0; x < row.width; ++x) {
                 const std::string former = sheet_.draw(row.x + x, row.y + y, cells.at(x, y).colour, name);
-                if (former.empty() || former == reported)
+                if (former.empty() || former == reported) {
                     continue;
+                }
                 reported = former;
                 std::ostringstream text;
                 text << name << " and " << former << " differ in their common pixel " << row.x + x << ", "
                      << row.y + y;
                 problems_.add(place, text.str());
             }
+        }
     }
 
     const Grid_Source* find(const Block& block, const std::string& name) {
-        for (const auto* sources : {&sprites_, &plates_})
-            if (const auto source = sources->find(name); source != sources->end())
+        for (const auto* sources : {&sprites_, &plates_}) {
+            if (const auto source = sources->find(name); source != sources->end()) {
                 return &source->second;
+            }
+        }
         problems_.add(block.place, "there is no grid \"" + name + "\"");
         return nullptr;
     }
@@ -108,8 +120,9 @@ private:
     Cells read_or_derive(const Grid_Source& source, int depth) {
         const Block& block = *source.block;
         const auto from = block.clauses.find("from");
-        if (from == block.clauses.end())
+        if (from == block.clauses.end()) {
             return read_cells(block, *source.palette, problems_);
+        }
         if (depth == deepest_derivation) {
             problems_.add(block.place, "\"" + block.name + "\" is derived from itself");
             return {};
@@ -120,13 +133,15 @@ private:
 
     Cells shifted(const Cells& cells, const Block& block) {
         const auto clause = block.clauses.find("shift");
-        if (clause == block.clauses.end())
+        if (clause == block.clauses.end()) {
             return cells;
+        }
         int x = 0;
         int y = 0;
         std::istringstream numbers(clause->second);
-        if (!(numbers >> x >> y) || !(numbers >> std::ws).eof())
+        if (!(numbers >> x >> y) || !(numbers >> std::ws).eof()) {
             problems_.add(block.place, "\"shift\" takes two numbers");
+        }
         Cells result(cells.width(), cells.height());
         result.draw(cells, x, y);
         return result;
@@ -136,14 +151,17 @@ private:
         const Block& block = *source.block;
         Cells own = own_cells(source, depth);
         const auto on = block.clauses.find("on");
-        if (on == block.clauses.end())
+        if (on == block.clauses.end()) {
             return own;
+        }
         const Grid_Source* plate = depth == deepest_derivation ? nullptr : find(block, on->second);
-        if (plate == nullptr)
+        if (plate == nullptr) {
             return own;
+        }
         Cells cells = whole_cells(*plate, depth + 1);
-        if (cells.width() != own.width() || cells.height() != own.height())
+        if (cells.width() != own.width() || cells.height() != own.height()) {
             problems_.add(block.place, "\"" + block.name + "\" and its plate differ in size");
+        }
         cells.draw(own, 0, 0);
         return cells;
     }
@@ -159,12 +177,15 @@ private:
 void draw_sprites(Sheet_Picture& sheet, const std::vector<Source_File>& files, Missing_Sprites missing,
                   Problems& problems) {
     Sprite_Drawing drawing(sheet, problems);
-    for (const Source_File& file : files)
+    for (const Source_File& file : files) {
         drawing.take(file);
-    for (const Sprite_Row& row : sprite_table)
+    }
+    for (const Sprite_Row& row : sprite_table) {
         drawing.draw(row);
-    if (missing == Missing_Sprites::refused)
+    }
+    if (missing == Missing_Sprites::refused) {
         drawing.report_missing();
+    }
 }
 
 } // namespace quadrelle
