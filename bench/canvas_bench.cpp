@@ -1,0 +1,186 @@
+// How long the window takes: a frame, a motion of a stroke, a press, the next tile, an undo step.
+
+#include "bench_support.h"
+
+#include "app/editor.h"
+#include "screen/events.h"
+
+#include <benchmark/benchmark.h>
+
+#include <SDL3/SDL.h>
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle::bench {
+
+namespace {
+
+Canvas_Case canvas_of(const benchmark::State& state) {
+    return {static_cast<int>(state.range(0)), static_cast<int>(state.range(1))};
+}
+
+void frame(benchmark::State& state) {
+    show_tile(canvas_of(state));
+    for (auto _ : state) {
+        editor->redraw(Present::yes);
+    }
+}
+
+void push(const SDL_Event& event) {
+    SDL_Event copy = event;
+    SDL_PushEvent(&copy);
+}
+
+SDL_Event button_event(SDL_EventType type, float x, float y) {
+    SDL_Event event{};
+    event.type = type;
+    event.button.button = SDL_BUTTON_LEFT;
+    event.button.x = x;
+    event.button.y = y;
+    return event;
+}
+
+SDL_Event motion_event(int step) {
+    SDL_Event event{};
+    event.type = SDL_EVENT_MOUSE_MOTION;
+    event.motion.x = 300.0F + static_cast<float>(step * 37 % 400);
+    event.motion.y = 100.0F + static_cast<float>(step * 23 % 400);
+    return event;
+}
+
+// Runs the editor's own loop over one stroke. The time of a motion is that from its event to the next wait,
+// by which its frame is presented; that of the press likewise.
+class Timed_Stroke {
+public:
+    explicit Timed_Stroke(int motions) : motions_(motions) {}
+
+    void run() {
+        set_wait_watcher([this](std::string_view loop) { feed(loop); });
+        SDL_PumpEvents();
+        SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+        push(button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, 400, 300));
+        editor->handle_one_event();
+        set_wait_watcher({});
+    }
+
+    [[nodiscard]] bool was_pressed() const { return step_ > 0; }
+    [[nodiscard]] bool has_moved() const { return !motion_seconds_.empty(); }
+    [[nodiscard]] double press_seconds() const { return press_seconds_; }
+    [[nodiscard]] double median_motion_seconds() {
+        const auto middle = motion_seconds_.begin() + static_cast<std::ptrdiff_t>(motion_seconds_.size() / 2);
+        std::ranges::nth_element(motion_seconds_, middle);
+        return *middle;
+    }
+
+private:
+    void feed(std::string_view loop) {
+        if (loop == "main") {
+            started_ = Clock::now();
+            return;
+        }
+        // Another event, of the window system, may have been answered instead.
+        if (SDL_HasEvents(SDL_EVENT_MOUSE_MOTION, SDL_EVENT_MOUSE_BUTTON_UP)) {
+            return;
+        }
+        if (step_ == 0) {
+            press_seconds_ = seconds_since(started_);
+        } else {
+            motion_seconds_.push_back(seconds_since(started_));
+        }
+        if (step_ < motions_) {
+            push(motion_event(step_));
+        } else {
+            push(button_event(SDL_EVENT_MOUSE_BUTTON_UP, 400, 300));
+        }
+        ++step_;
+        started_ = Clock::now();
+    }
+
+    int motions_;
+    int step_ = 0;
+    Clock::time_point started_;
+    double press_seconds_ = 0;
+    std::vector<double> motion_seconds_;
+};
+
+void stroke_motion(benchmark::State& state) {
+    show_tile(canvas_of(state));
+    constexpr int motions = 200;
+    for (auto _ : state) {
+        Timed_Stroke stroke(motions);
+        stroke.run();
+        if (!stroke.has_moved()) {
+            state.SkipWithError("The stroke had no motion.");
+            break;
+        }
+        state.SetIterationTime(stroke.median_motion_seconds());
+    }
+}
+
+void stroke_press(benchmark::State& state) {
+    show_tile(canvas_of(state));
+    for (auto _ : state) {
+        Timed_Stroke stroke(0);
+        stroke.run();
+        if (!stroke.was_pressed()) {
+            state.SkipWithError("The press did not arrive.");
+            break;
+        }
+        state.SetIterationTime(stroke.press_seconds());
+    }
+}
+
+// From one tile of a large set to the next, the window drawn again with the whole strip in it.
+void next_tile(benchmark::State& state) {
+    show_tile({static_cast<int>(state.range(0)), 8});
+    Tileset& tileset = editor->documents().current().tileset();
+    const Tile first(*tileset.current_tile());
+    while (tileset.insert_copy_after(first)) {}
+    tileset.select(0);
+    for (auto _ : state) {
+        if (tileset.is_last()) {
+            state.PauseTiming();
+            tileset.select(0);
+            editor->execute(Command::change_tile);
+            editor->redraw(Present::yes);
+            state.ResumeTiming();
+        }
+        editor->execute(Command::next_tile);
+        editor->redraw(Present::yes);
+    }
+}
+
+// With the texture of the picture in the History pane, and what goes for the oldest step that falls off.
+void undo_step(benchmark::State& state) {
+    const int edge = static_cast<int>(state.range(0));
+    show_tile({edge, 8});
+    const Undo_History& history = editor->documents().current().history();
+    const auto record_and_show = [&history] {
+        editor->execute(Command::change_tile);
+        history.entries().back().snapshot->tile.draw({0, 0, 24, 24});
+    };
+    for (int i = 0; i < Undo_History::default_capacity; ++i) {
+        record_and_show();
+    }
+    for (auto _ : state) {
+        record_and_show();
+    }
+}
+
+BENCHMARK(frame)->Args({24, 21})->Args({64, 8})->Args({255, 3})->Unit(benchmark::kMicrosecond);
+// The time of a stroke is that of one motion, so few of them make up no time.
+BENCHMARK(stroke_motion)
+    ->Args({24, 21})
+    ->Args({64, 8})
+    ->UseManualTime()
+    ->Iterations(10)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+} // namespace quadrelle::bench
