@@ -73,21 +73,21 @@ void Editor::handle_one_event() {
     show_pixel_under(parts_.canvas, parts_.pointer);
 }
 
-void Editor::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: static_cast<void>(perform(Command::quit)); break;
-    case SDL_EVENT_KEY_DOWN: execute_if_any(press_key(parts_, key_chord_of(event.key))); break;
-    case SDL_EVENT_MOUSE_MOTION:
-        parts_.pointer = {event.motion.x, event.motion.y, parts_.pointer.button};
+void Editor::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: static_cast<void>(perform(Command::quit)); break;
+    case Input_Kind::key_press: execute_if_any(press_key(parts_, event.chord)); break;
+    case Input_Kind::pointer_motion:
+        parts_.pointer = {event.pointer.x, event.pointer.y, parts_.pointer.button};
         break;
-    case SDL_EVENT_MOUSE_BUTTON_DOWN:
-        parts_.pointer = pointer_of(event.button);
+    case Input_Kind::button_press:
+        parts_.pointer = event.pointer;
         execute_if_any(press_mouse(parts_));
         break;
-    case SDL_EVENT_WINDOW_MOUSE_LEAVE: parts_.pointer = pointer_nowhere; break;
-    case SDL_EVENT_MOUSE_WHEEL:
-        if (event.wheel.y != 0) {
-            parts_.canvas.zoom(event.wheel.y > 0 ? Zoom_Step::in : Zoom_Step::out);
+    case Input_Kind::pointer_left: parts_.pointer = pointer_nowhere; break;
+    case Input_Kind::wheel:
+        if (event.moved.y != 0) {
+            parts_.canvas.zoom(event.moved.y > 0 ? Zoom_Step::in : Zoom_Step::out);
         }
         break;
     default: break;

@@ -3,9 +3,8 @@
 // The program at work: takes events, lets commands be carried out, and draws the whole window.
 
 #include "app/editor_parts.h"
+#include "base/input.h"
 #include "commands/command.h"
-
-#include <SDL3/SDL_events.h>
 
 #include <memory>
 
@@ -33,7 +32,7 @@ public:
     [[nodiscard]] const Window_Panes& panes() const { return parts_.panes; }
 
 private:
-    void handle(const SDL_Event& event);
+    void handle(const Input_Event& event);
     void execute_if_any(Command command);
     // The command to record, or none when it was not carried out.
     [[nodiscard]] Command perform(Command command);

@@ -5,14 +5,22 @@
 #include "base/geometry.h"
 
 #include <cstdint>
+#include <string>
 
 namespace quadrelle {
 
 enum class Mouse_Button : std::int32_t { none = 0, left = 1, right = 2 };
 
-// Number 1 is the left button and 3 the right one; every other button never acts.
+// As mice count their buttons.
+constexpr int left_button_number = 1;
+constexpr int middle_button_number = 2;
+constexpr int right_button_number = 3;
+
+// Every button but the left and the right one is none: it never acts.
 [[nodiscard]] constexpr Mouse_Button mouse_button(int number) {
-    return number == 1 ? Mouse_Button::left : number == 3 ? Mouse_Button::right : Mouse_Button::none;
+    return number == left_button_number    ? Mouse_Button::left
+           : number == right_button_number ? Mouse_Button::right
+                                           : Mouse_Button::none;
 }
 
 // The last pointer position in window pixels, and the button that is or was pressed there.
@@ -77,5 +85,35 @@ struct Key_Chord {
 
 // Shift wins over Ctrl and Ctrl over Alt; a modifier key by itself is no key.
 [[nodiscard]] Key_Chord make_key_chord(Keycode pressed, Held_Modifiers held);
+
+enum class Input_Kind {
+    other, // what nobody answers, but every loop draws after
+    key_press,
+    key_release,
+    typed_text,
+    pointer_motion,
+    pointer_left, // the window
+    button_press,
+    button_release,
+    wheel,
+    quit,
+};
+
+struct Movement {
+    float x = 0;
+    float y = 0;
+};
+
+// One thing that the user did. Each kind has the fields that name it; the others are as here.
+struct Input_Event {
+    Input_Kind kind = Input_Kind::other;
+    Key_Chord chord = {};       // of a key press
+    bool is_repeat = false;     // of a press: by a key that is held down
+    std::string text = {};      // typed, UTF-8
+    Pointer_State pointer = {}; // of a motion, without a button, and of a button's press and release
+    int button_number = 0;      // also of the buttons that a pointer state does not know
+    int clicks = 0;             // of a press: 2 for that of a double click
+    Movement moved = {};        // the pointer, since the last motion; or the wheel: up and to the right
+};
 
 } // namespace quadrelle

@@ -41,10 +41,10 @@ void rotate_pixels(Tile& tile, Seam seam, int shift) {
     });
 }
 
-bool ends_pan(const SDL_Event& event) {
+bool ends_pan(const Input_Event& event) {
     const bool is_release =
-        event.type == SDL_EVENT_MOUSE_BUTTON_UP && pointer_of(event.button).button != Mouse_Button::none;
-    return is_release || event.type == SDL_EVENT_QUIT;
+        event.kind == Input_Kind::button_release && event.pointer.button != Mouse_Button::none;
+    return is_release || event.kind == Input_Kind::quit;
 }
 
 } // namespace
@@ -166,11 +166,11 @@ void Canvas_View::pan(const std::function<void()>& redraw) {
     bool has_moved = false;
     float dx = 0;
     float dy = 0;
-    run_modal({"pan", redraw, [&](const SDL_Event& event) {
+    run_modal({"pan", redraw, [&](const Input_Event& event) {
                    // The first motion only tells where the pointer was.
-                   if (event.type == SDL_EVENT_MOUSE_MOTION && std::exchange(has_moved, true)) {
-                       dx += event.motion.xrel;
-                       dy += event.motion.yrel;
+                   if (event.kind == Input_Kind::pointer_motion && std::exchange(has_moved, true)) {
+                       dx += event.moved.x;
+                       dy += event.moved.y;
                        origin_ = {start.x + static_cast<int>(dx), start.y + static_cast<int>(dy)};
                    }
                    return ends_pan(event) ? Loop_Step::end : Loop_Step::go_on;

@@ -141,13 +141,12 @@ private:
 void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
     stroke.press();
     run_modal({"stroke", redraw,
-               [&](const SDL_Event& event) {
-                   switch (event.type) {
-                   case SDL_EVENT_QUIT: stroke.window_closed(); return Loop_Step::end;
-                   case SDL_EVENT_MOUSE_BUTTON_UP:
-                       return pointer_of(event.button).button == Mouse_Button::none ? Loop_Step::go_on
-                                                                                    : Loop_Step::end;
-                   case SDL_EVENT_MOUSE_MOTION: stroke.move_to(pointer_of(event.motion)); break;
+               [&](const Input_Event& event) {
+                   switch (event.kind) {
+                   case Input_Kind::quit: stroke.window_closed(); return Loop_Step::end;
+                   case Input_Kind::button_release:
+                       return event.pointer.button == Mouse_Button::none ? Loop_Step::go_on : Loop_Step::end;
+                   case Input_Kind::pointer_motion: stroke.move_to(event.pointer); break;
                    default: break;
                    }
                    return Loop_Step::go_on;

@@ -192,12 +192,12 @@ void Color_Handles::drag(int row, Point point, const std::function<void()>& redr
         take(row, 0);
     };
     follow(point.x);
-    run_modal({"handle", redraw, [&](const SDL_Event& event) {
-                   if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_MOUSE_BUTTON_UP) {
+    run_modal({"handle", redraw, [&](const Input_Event& event) {
+                   if (event.kind == Input_Kind::quit || event.kind == Input_Kind::button_release) {
                        return Loop_Step::end;
                    }
-                   if (event.type == SDL_EVENT_MOUSE_MOTION) {
-                       follow(pointer_of(event.motion).point().x);
+                   if (event.kind == Input_Kind::pointer_motion) {
+                       follow(event.pointer.point().x);
                    }
                    return Loop_Step::go_on;
                }});

@@ -131,12 +131,12 @@ void HSV_Selector::drag(Mouse_Button side, Point point, Mode mode, const std::fu
     const Rectangle clip = mode == Mode::square ? square_rect_ : bar_rect_;
     const Hidden_Cursor hidden_cursor;
     pick(side, point, mode);
-    run_modal({"selector", redraw, [&](const SDL_Event& event) {
-                   if (event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_MOUSE_BUTTON_UP) {
+    run_modal({"selector", redraw, [&](const Input_Event& event) {
+                   if (event.kind == Input_Kind::quit || event.kind == Input_Kind::button_release) {
                        return Loop_Step::end;
                    }
-                   if (event.type == SDL_EVENT_MOUSE_MOTION) {
-                       const Point moved = pointer_of(event.motion).point();
+                   if (event.kind == Input_Kind::pointer_motion) {
+                       const Point moved = event.pointer.point();
                        const Point held = clamped(moved, clip);
                        if (held != moved) {
                            screen->warp_mouse(held);

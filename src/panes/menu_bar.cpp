@@ -135,28 +135,27 @@ Command Menu_Bar::click(Pointer_State& pointer) {
                    draw_open_menu(pointer);
                    screen->present();
                },
-               [&](const SDL_Event& event) { return handle(event, pointer, chosen); }});
+               [&](const Input_Event& event) { return handle(event, pointer, chosen); }});
     open_menu_ = -1;
     return chosen;
 }
 
-Loop_Step Menu_Bar::handle(const SDL_Event& event, Pointer_State& pointer, Command& chosen) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
+Loop_Step Menu_Bar::handle(const Input_Event& event, Pointer_State& pointer, Command& chosen) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
     // A modifier by itself is no key: the menu takes the whole chord.
-    case SDL_EVENT_KEY_DOWN:
-        return key_chord_of(event.key).key == key::none ? Loop_Step::go_on : Loop_Step::end;
-    case SDL_EVENT_MOUSE_MOTION: {
-        pointer = pointer_of(event.motion);
+    case Input_Kind::key_press: return event.chord.key == key::none ? Loop_Step::go_on : Loop_Step::end;
+    case Input_Kind::pointer_motion: {
+        pointer = event.pointer;
         const int header = header_at(pointer.point());
         open_menu_ = header < 0 ? open_menu_ : header;
         return Loop_Step::go_on;
     }
-    case SDL_EVENT_MOUSE_BUTTON_DOWN:
-        if (mouse_button(event.button.button) == Mouse_Button::none) {
+    case Input_Kind::button_press:
+        if (event.pointer.button == Mouse_Button::none) {
             return Loop_Step::go_on;
         }
-        pointer = pointer_of(event.button);
+        pointer = event.pointer;
         return press(pointer.point(), chosen);
     default: return Loop_Step::go_on;
     }

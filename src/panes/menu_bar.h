@@ -56,7 +56,7 @@ private:
     // Null while none is open.
     [[nodiscard]] const Menu* open_menu() const;
     [[nodiscard]] int header_at(Point point) const;
-    [[nodiscard]] Loop_Step handle(const SDL_Event& event, Pointer_State& pointer, Command& chosen);
+    [[nodiscard]] Loop_Step handle(const Input_Event& event, Pointer_State& pointer, Command& chosen);
     [[nodiscard]] Loop_Step press(Point point, Command& chosen) const;
 
     std::function<void()> redraw_behind_;

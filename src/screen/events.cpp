@@ -44,19 +44,19 @@ void set_wait_watcher(Wait_Watcher new_watcher) {
     watcher() = std::move(new_watcher);
 }
 
-SDL_Event wait_event(std::string_view loop) {
+Input_Event wait_event(std::string_view loop) {
     tell_watcher(loop);
     SDL_Event event{};
     while (!SDL_WaitEvent(&event)) {
         SDL_Delay(idle_milliseconds);
     }
     note(event);
-    return event;
+    return input_event_of(event);
 }
 
 namespace {
 
-SDL_Event wait_event_ticking(const Modal_Loop& loop) {
+Input_Event wait_event_ticking(const Modal_Loop& loop) {
     SDL_Event event{};
     tell_watcher(loop.name);
     while (!SDL_WaitEventTimeout(&event, loop.tick.milliseconds)) {
@@ -66,7 +66,7 @@ SDL_Event wait_event_ticking(const Modal_Loop& loop) {
         tell_watcher(loop.name);
     }
     note(event);
-    return event;
+    return input_event_of(event);
 }
 
 } // namespace
@@ -102,13 +102,7 @@ bool is_shift_held() {
     return (SDL_GetModState() & SDL_KMOD_SHIFT) != 0;
 }
 
-Pointer_State pointer_of(const SDL_MouseButtonEvent& event) {
-    return {event.x, event.y, mouse_button(event.button)};
-}
-
-Pointer_State pointer_of(const SDL_MouseMotionEvent& event) {
-    return {event.x, event.y, Mouse_Button::none};
-}
+namespace {
 
 static_assert(key::none == SDLK_UNKNOWN && key::backspace == SDLK_BACKSPACE && key::tab == SDLK_TAB);
 static_assert(key::enter == SDLK_RETURN && key::escape == SDLK_ESCAPE && key::space == SDLK_SPACE);
@@ -124,10 +118,57 @@ static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTR
 static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
 static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
 
-Key_Chord key_chord_of(const SDL_KeyboardEvent& event) {
+Input_Event key_press(const SDL_KeyboardEvent& event) {
     const Held_Modifiers held{(event.mod & SDL_KMOD_SHIFT) != 0, (event.mod & SDL_KMOD_CTRL) != 0,
                               (event.mod & SDL_KMOD_ALT) != 0};
-    return make_key_chord(event.key, held);
+    Input_Event press{.kind = Input_Kind::key_press};
+    press.chord = make_key_chord(event.key, held);
+    press.is_repeat = event.repeat;
+    return press;
+}
+
+Input_Event button_event(Input_Kind kind, const SDL_MouseButtonEvent& event) {
+    Input_Event input{.kind = kind};
+    input.pointer = {event.x, event.y, mouse_button(event.button)};
+    input.button_number = event.button;
+    input.clicks = event.clicks;
+    return input;
+}
+
+Input_Event motion(const SDL_MouseMotionEvent& event) {
+    Input_Event input{.kind = Input_Kind::pointer_motion};
+    input.pointer = {event.x, event.y, Mouse_Button::none};
+    input.moved = {event.xrel, event.yrel};
+    return input;
+}
+
+Input_Event wheel(const SDL_MouseWheelEvent& event) {
+    Input_Event input{.kind = Input_Kind::wheel};
+    input.moved = {event.x, event.y};
+    return input;
+}
+
+Input_Event typed_text(const SDL_TextInputEvent& event) {
+    Input_Event input{.kind = Input_Kind::typed_text};
+    input.text = event.text;
+    return input;
+}
+
+} // namespace
+
+Input_Event input_event_of(const SDL_Event& event) {
+    switch (event.type) {
+    case SDL_EVENT_KEY_DOWN: return key_press(event.key);
+    case SDL_EVENT_KEY_UP: return {.kind = Input_Kind::key_release};
+    case SDL_EVENT_TEXT_INPUT: return typed_text(event.text);
+    case SDL_EVENT_MOUSE_MOTION: return motion(event.motion);
+    case SDL_EVENT_WINDOW_MOUSE_LEAVE: return {.kind = Input_Kind::pointer_left};
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: return button_event(Input_Kind::button_press, event.button);
+    case SDL_EVENT_MOUSE_BUTTON_UP: return button_event(Input_Kind::button_release, event.button);
+    case SDL_EVENT_MOUSE_WHEEL: return wheel(event.wheel);
+    case SDL_EVENT_QUIT: return {.kind = Input_Kind::quit};
+    default: return {};
+    }
 }
 
 } // namespace quadrelle

@@ -4,15 +4,15 @@
 
 #include "base/input.h"
 
-#include <SDL3/SDL_events.h>
-
 #include <functional>
 #include <string_view>
+
+union SDL_Event;
 
 namespace quadrelle {
 
 // Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
-[[nodiscard]] SDL_Event wait_event(std::string_view loop);
+[[nodiscard]] Input_Event wait_event(std::string_view loop);
 
 enum class Loop_Step { go_on, end };
 
@@ -28,7 +28,7 @@ struct Loop_Tick {
 struct Modal_Loop {
     std::string_view name;
     std::function<void()> draw;
-    std::function<Loop_Step(const SDL_Event&)> handle;
+    std::function<Loop_Step(const Input_Event&)> handle;
     Loop_Tick tick = {};
 };
 void run_modal(const Modal_Loop& loop);
@@ -52,8 +52,7 @@ void discard_events();
 using Wait_Watcher = std::function<void(std::string_view loop)>;
 void set_wait_watcher(Wait_Watcher watcher);
 
-[[nodiscard]] Pointer_State pointer_of(const SDL_MouseButtonEvent& event);
-[[nodiscard]] Pointer_State pointer_of(const SDL_MouseMotionEvent& event);
-[[nodiscard]] Key_Chord key_chord_of(const SDL_KeyboardEvent& event);
+// What the event library reports in the program's own terms.
+[[nodiscard]] Input_Event input_event_of(const SDL_Event& event);
 
 } // namespace quadrelle

@@ -92,7 +92,7 @@ bool Dialog_Container::run() {
         const Dialog_Layer layer([this] { draw_frame_and_items(); });
         const std::string name = "dialog \"" + frame_.title() + "\"";
         run_modal({name, [] { dialogs->show_backdrop(); },
-                   [this](const SDL_Event& event) { return handle(event); }});
+                   [this](const Input_Event& event) { return handle(event); }});
     }
     if (result_.kind == Dialog_Event_Kind::cancel) {
         rows_.revert();
@@ -104,11 +104,11 @@ bool Dialog_Container::run() {
     return true;
 }
 
-Loop_Step Dialog_Container::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
+Loop_Step Dialog_Container::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::button_press: return press(event.pointer);
     default: return Loop_Step::go_on;
     }
 }

@@ -46,7 +46,7 @@ private:
     void draw_frame_and_items() const;
     void load_file();
     void save_file();
-    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle(const Input_Event& event);
     Loop_Step handle_key(Keycode pressed);
     Loop_Step press(const Pointer_State& pointer);
 

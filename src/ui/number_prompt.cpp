@@ -53,7 +53,7 @@ std::string Number_Prompt::hint() const {
 std::optional<int> Number_Prompt::run() {
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"number prompt", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     return result_;
 }
 
@@ -82,17 +82,18 @@ void Number_Prompt::draw() const {
     screen->draw_text(font, {start.x, field.bottom() + 1}, hint());
 }
 
-Loop_Step Number_Prompt::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: {
-        const Pointer_State pointer = pointer_of(event.button);
-        const bool is_outside = pointer.button != Mouse_Button::none && !box_.contains(pointer.point());
-        return is_outside ? Loop_Step::end : Loop_Step::go_on;
-    }
+Loop_Step Number_Prompt::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::button_press: return press(event.pointer);
     default: return Loop_Step::go_on;
     }
+}
+
+Loop_Step Number_Prompt::press(const Pointer_State& pointer) const {
+    const bool is_outside = pointer.button != Mouse_Button::none && !box_.contains(pointer.point());
+    return is_outside ? Loop_Step::end : Loop_Step::go_on;
 }
 
 Loop_Step Number_Prompt::handle_key(Keycode pressed) {

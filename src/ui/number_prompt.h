@@ -22,7 +22,8 @@ public:
 private:
     [[nodiscard]] std::string hint() const;
     void draw() const;
-    Loop_Step handle(const SDL_Event& event);
+    Loop_Step handle(const Input_Event& event);
+    [[nodiscard]] Loop_Step press(const Pointer_State& pointer) const;
     Loop_Step handle_key(Keycode pressed);
     Loop_Step accept();
     void append(char digit);

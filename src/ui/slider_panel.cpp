@@ -1,5 +1,6 @@
 #include "ui/slider_panel.h"
 
+#include "screen/events.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
 
@@ -33,13 +34,13 @@ void Slider_Panel::draw() const {
     }
 }
 
-Event_Use Slider_Panel::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
-    case SDL_EVENT_MOUSE_MOTION: return move(pointer_of(event.motion).point());
-    case SDL_EVENT_MOUSE_BUTTON_UP: return release(pointer_of(event.button));
-    case SDL_EVENT_MOUSE_WHEEL: return turn_wheel(event.wheel.y);
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
+Event_Use Slider_Panel::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::button_press: return press(event.pointer);
+    case Input_Kind::pointer_motion: return move(event.pointer.point());
+    case Input_Kind::button_release: return release(event.pointer);
+    case Input_Kind::wheel: return turn_wheel(event.moved.y);
+    case Input_Kind::key_press: return handle_key(event.chord);
     default: return Event_Use::left;
     }
 }
@@ -114,14 +115,14 @@ Event_Use Slider_Panel::turn_wheel(float amount) {
     return Event_Use::taken;
 }
 
-Event_Use Slider_Panel::handle_key(const SDL_KeyboardEvent& event) {
-    if (event.key == key::up || event.key == key::down) {
-        move_focus(event.key == key::up ? -1 : 1);
+Event_Use Slider_Panel::handle_key(const Key_Chord& chord) {
+    if (chord.key == key::up || chord.key == key::down) {
+        move_focus(chord.key == key::up ? -1 : 1);
         return Event_Use::taken;
     }
-    if (focus_ && (event.key == key::left || event.key == key::right)) {
-        const int size = (event.mod & SDL_KMOD_SHIFT) != 0 ? large_step : 1;
-        numbers_.step(*focus_, event.key == key::left ? -size : size);
+    if (focus_ && (chord.key == key::left || chord.key == key::right)) {
+        const int size = chord.modifier == Modifier::shift ? large_step : 1;
+        numbers_.step(*focus_, chord.key == key::left ? -size : size);
         return Event_Use::taken;
     }
     return Event_Use::left;

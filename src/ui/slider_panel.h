@@ -2,7 +2,7 @@
 
 // Sliders below each other, and what the pointer, the wheel and the keys do to their numbers.
 
-#include "screen/events.h"
+#include "base/input.h"
 #include "ui/number_slider.h"
 
 #include <cstddef>
@@ -37,7 +37,7 @@ public:
     Slider_Panel(std::span<const Number_Slider_Row> rows, const Rectangle& area, Slider_Numbers& numbers);
 
     void draw() const;
-    Event_Use handle(const SDL_Event& event);
+    Event_Use handle(const Input_Event& event);
 
     [[nodiscard]] const Number_Slider& slider(std::size_t index) const { return sliders_[index]; }
     [[nodiscard]] int bottom() const { return bottom_; }
@@ -52,7 +52,7 @@ private:
     Event_Use move(Point point);
     Event_Use release(const Pointer_State& pointer);
     Event_Use turn_wheel(float amount);
-    Event_Use handle_key(const SDL_KeyboardEvent& event);
+    Event_Use handle_key(const Key_Chord& chord);
     void move_focus(int direction);
     [[nodiscard]] std::optional<std::size_t> slider_at(Point point) const;
 

@@ -45,15 +45,15 @@ void Text_Field::select_all() {
     is_all_selected_ = true;
 }
 
-Text_Change Text_Field::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_TEXT_INPUT: return insert(event.text.text);
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN:
-        if (event.button.clicks > 1) {
+Text_Change Text_Field::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::typed_text: return insert(event.text);
+    case Input_Kind::key_press: return handle_key(event.chord);
+    case Input_Kind::button_press:
+        if (event.clicks > 1) {
             select_all();
         } else {
-            place_caret(pointer_of(event.button).point());
+            place_caret(event.pointer.point());
         }
         return Text_Change::none;
     default: return Text_Change::none;
@@ -76,14 +76,13 @@ Text_Change Text_Field::insert(std::string_view typed) {
     return Text_Change::changed;
 }
 
-Text_Change Text_Field::handle_key(const SDL_KeyboardEvent& event) {
-    const Key_Chord chord = key_chord_of(event);
+Text_Change Text_Field::handle_key(const Key_Chord& chord) {
     if (chord == Key_Chord{'a', Modifier::control}) {
         select_all();
     } else if (chord == Key_Chord{'v', Modifier::control}) {
         return insert(clipboard_text());
     }
-    switch (event.key) {
+    switch (chord.key) {
     case key::backspace: return erase(caret_ - 1);
     case key::delete_key: return erase(caret_);
     case key::left: move_caret(is_all_selected_ || caret_ == 0 ? 0 : caret_ - 1); break;

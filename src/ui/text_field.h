@@ -4,7 +4,7 @@
 // its owner's business.
 
 #include "base/geometry.h"
-#include "screen/events.h"
+#include "base/input.h"
 #include "screen/font_table.h"
 #include "ui/focus.h"
 
@@ -31,13 +31,13 @@ public:
     void select_all();
 
     // Typed text, clicks, the keys that delete and move, Ctrl+a and Ctrl+v.
-    Text_Change handle(const SDL_Event& event);
+    Text_Change handle(const Input_Event& event);
     // The part around the caret that has room.
     void draw(Focus focus, Text_Verdict verdict = Text_Verdict::fine) const;
 
 private:
     Text_Change insert(std::string_view typed);
-    Text_Change handle_key(const SDL_KeyboardEvent& event);
+    Text_Change handle_key(const Key_Chord& chord);
     Text_Change erase(std::size_t index);
     void clear();
     void move_caret(std::size_t caret);

@@ -71,9 +71,9 @@ private:
     void draw() const;
     void draw_tick() const;
     void draw_note() const;
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step press(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_Event& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step press(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
     Loop_Step accept();
     void toggle_all_tiles();
     void show_change();
@@ -101,7 +101,7 @@ Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
 std::optional<HSV_Adjustment> Adjust_HSV::run() {
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"dialog \"Adjust HSV\"", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     source_.copy_to(target_.tile());
     return is_accepted_ ? std::optional(adjustment_) : std::nullopt;
 }
@@ -163,17 +163,17 @@ void Adjust_HSV::draw_note() const {
                              : "The wheel and the arrow keys step by 1, with Shift by 10.");
 }
 
-Loop_Step Adjust_HSV::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event);
+Loop_Step Adjust_HSV::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::button_press: return press(event);
     default: sliders_.handle(event); return Loop_Step::go_on;
     }
 }
 
-Loop_Step Adjust_HSV::handle_key(const SDL_Event& event) {
-    switch (event.key.key) {
+Loop_Step Adjust_HSV::handle_key(const Input_Event& event) {
+    switch (event.chord.key) {
     case key::escape: return Loop_Step::end;
     case key::enter:
     case key::keypad_enter: return accept();
@@ -188,9 +188,9 @@ Loop_Step Adjust_HSV::handle_key(const SDL_Event& event) {
     return Loop_Step::go_on;
 }
 
-Loop_Step Adjust_HSV::press(const SDL_Event& event) {
-    const Point point = pointer_of(event.button).point();
-    if (pointer_of(event.button).button == Mouse_Button::none) {
+Loop_Step Adjust_HSV::press(const Input_Event& event) {
+    const Point point = event.pointer.point();
+    if (event.pointer.button == Mouse_Button::none) {
         return Loop_Step::go_on;
     }
     if (cancel_.contains(point)) {

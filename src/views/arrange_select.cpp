@@ -25,8 +25,8 @@ bool Arrangement::run() {
     hovered_ = -1;
     has_swapped_ = false;
     const Dialog_Layer layer([this] { draw(); });
-    run_modal(
-        {title, [] { dialogs->show_backdrop(); }, [this](const SDL_Event& event) { return handle(event); }});
+    run_modal({title, [] { dialogs->show_backdrop(); },
+               [this](const Input_Event& event) { return handle(event); }});
     return has_swapped_;
 }
 
@@ -53,24 +53,22 @@ std::string Arrangement::text() const {
            "Note: Swapping tiles clears undo history.";
 }
 
-Loop_Step Arrangement::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
-    case SDL_EVENT_MOUSE_MOTION:
-        hovered_ = grid_.tile_at(pointer_of(event.motion).point());
-        return Loop_Step::go_on;
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event.button);
+Loop_Step Arrangement::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::pointer_motion: hovered_ = grid_.tile_at(event.pointer.point()); return Loop_Step::go_on;
+    case Input_Kind::button_press: return press(event);
     default: return Loop_Step::go_on;
     }
 }
 
 // A key that is held down acts once: the tiles do not flicker.
-Loop_Step Arrangement::handle_key(const SDL_KeyboardEvent& event) {
-    if (event.repeat) {
+Loop_Step Arrangement::handle_key(const Input_Event& event) {
+    if (event.is_repeat) {
         return Loop_Step::go_on;
     }
-    switch (event.key) {
+    switch (event.chord.key) {
     case key::escape:
     case key::enter:
     case 'y': return Loop_Step::end;
@@ -94,15 +92,15 @@ void Arrangement::swap() {
 }
 
 // The one place where the middle button acts, and the right one does not.
-Loop_Step Arrangement::press(const SDL_MouseButtonEvent& event) {
-    const Point position = pointer_of(event).point();
+Loop_Step Arrangement::press(const Input_Event& event) {
+    const Point position = event.pointer.point();
     hovered_ = grid_.tile_at(position);
     if (hovered_ < 0) {
         return grid_.is_on_title(position) ? Loop_Step::end : Loop_Step::go_on;
     }
-    if (event.button == SDL_BUTTON_LEFT) {
+    if (event.button_number == left_button_number) {
         primary_ = hovered_;
-    } else if (event.button == SDL_BUTTON_MIDDLE) {
+    } else if (event.button_number == middle_button_number) {
         secondary_ = hovered_;
     }
     return Loop_Step::go_on;

@@ -26,9 +26,9 @@ private:
     void draw();
     void draw_marker(Sprite marker, int tile) const;
     [[nodiscard]] std::string text() const;
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_KeyboardEvent& event);
-    Loop_Step press(const SDL_MouseButtonEvent& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
+    Loop_Step press(const Input_Event& event);
     void swap();
     void select_primary();
 

@@ -85,8 +85,8 @@ Color Color_Data_View::color_of(std::size_t index, int number) const {
     return color;
 }
 
-void Color_Data_View::handle(const SDL_Event& event) {
-    const Key_Chord chord = event.type == SDL_EVENT_KEY_DOWN ? key_chord_of(event.key) : Key_Chord{};
+void Color_Data_View::handle(const Input_Event& event) {
+    const Key_Chord chord = event.kind == Input_Kind::key_press ? event.chord : Key_Chord{};
     if (chord == Key_Chord{'c', Modifier::control}) {
         set_clipboard_text(hex_text(edit_.color()));
         return;
@@ -100,9 +100,9 @@ void Color_Data_View::handle(const SDL_Event& event) {
     }
 }
 
-void Color_Data_View::handle_field(const SDL_Event& event) {
-    const bool is_press = event.type == SDL_EVENT_MOUSE_BUTTON_DOWN;
-    if (is_press && !field_.area().contains(pointer_of(event.button).point())) {
+void Color_Data_View::handle_field(const Input_Event& event) {
+    const bool is_press = event.kind == Input_Kind::button_press;
+    if (is_press && !field_.area().contains(event.pointer.point())) {
         return;
     }
     const Text_Change change = field_.handle(event);

@@ -17,7 +17,7 @@ public:
     Color_Data_View(Color_Edit& edit, const Rectangle& area);
 
     void draw() const;
-    void handle(const SDL_Event& event);
+    void handle(const Input_Event& event);
     // False while the text stands for no colour, which is then kept as it was before.
     [[nodiscard]] bool is_complete() const { return refusal_.empty(); }
     // The colour was changed elsewhere.
@@ -33,7 +33,7 @@ public:
     }
 
 private:
-    void handle_field(const SDL_Event& event);
+    void handle_field(const Input_Event& event);
     void take_text();
     void draw_swatches() const;
     void draw_information() const;

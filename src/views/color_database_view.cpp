@@ -60,16 +60,16 @@ void Color_Database_View::draw_row(std::size_t index) const {
     screen->draw_text(Font::pane, {box.right() - text_gap - screen->text_width(Font::pane, code), y}, code);
 }
 
-List_Answer Color_Database_View::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event.button);
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
+List_Answer Color_Database_View::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::button_press: return press(event);
+    case Input_Kind::key_press: return handle_key(event.chord.key);
     default: return List_Answer::none;
     }
 }
 
-List_Answer Color_Database_View::press(const SDL_MouseButtonEvent& event) {
-    const Pointer_State pointer = pointer_of(event);
+List_Answer Color_Database_View::press(const Input_Event& event) {
+    const Pointer_State pointer = event.pointer;
     for (std::size_t i = 0; i < colors_.size() && pointer.button == Mouse_Button::left; ++i) {
         if (row(i).contains(pointer.point())) {
             // The first of the two clicks took it, unless that was one on another row.

@@ -21,13 +21,13 @@ public:
 
     void draw() const;
     // A click or an arrow key takes a colour, a double click also accepts it.
-    List_Answer handle(const SDL_Event& event);
+    List_Answer handle(const Input_Event& event);
 
     // In the order of the table, down the first column and then down the second.
     [[nodiscard]] Rectangle row(std::size_t index) const;
 
 private:
-    List_Answer press(const SDL_MouseButtonEvent& event);
+    List_Answer press(const Input_Event& event);
     List_Answer handle_key(Keycode pressed);
     List_Answer take(std::size_t index);
     void draw_row(std::size_t index) const;

@@ -36,10 +36,10 @@ public:
 
 private:
     void draw() const;
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_KeyboardEvent& event);
-    Loop_Step press(const SDL_Event& event);
-    Loop_Step hand_on(const SDL_Event& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
+    Loop_Step press(const Input_Event& event);
+    Loop_Step hand_on(const Input_Event& event);
     Loop_Step accept(Color_Request request);
     void show(View view);
 
@@ -64,7 +64,7 @@ Color_Choice Color_Editor::run() {
     const Text_Input text_input;
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"dialog \"Color editor\"", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     return choice_;
 }
 
@@ -85,20 +85,20 @@ void Color_Editor::draw() const {
     cancel_.draw(Button_Look::plain);
 }
 
-Loop_Step Color_Editor::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: {
-        const Loop_Step step = handle_key(event.key);
+Loop_Step Color_Editor::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: {
+        const Loop_Step step = handle_key(event);
         return step == Loop_Step::end ? step : hand_on(event);
     }
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(event);
+    case Input_Kind::button_press: return press(event);
     default: return hand_on(event);
     }
 }
 
-Loop_Step Color_Editor::handle_key(const SDL_KeyboardEvent& event) {
-    switch (event.key) {
+Loop_Step Color_Editor::handle_key(const Input_Event& event) {
+    switch (event.chord.key) {
     case key::escape: return Loop_Step::end;
     case key::enter:
     case key::keypad_enter: return accept(Color_Request::none);
@@ -108,9 +108,9 @@ Loop_Step Color_Editor::handle_key(const SDL_KeyboardEvent& event) {
     return Loop_Step::go_on;
 }
 
-Loop_Step Color_Editor::press(const SDL_Event& event) {
-    const Point point = pointer_of(event.button).point();
-    if (pointer_of(event.button).button == Mouse_Button::none) {
+Loop_Step Color_Editor::press(const Input_Event& event) {
+    const Point point = event.pointer.point();
+    if (event.pointer.button == Mouse_Button::none) {
         return Loop_Step::go_on;
     }
     if (cancel_.contains(point)) {
@@ -126,7 +126,7 @@ Loop_Step Color_Editor::press(const SDL_Event& event) {
     return hand_on(event);
 }
 
-Loop_Step Color_Editor::hand_on(const SDL_Event& event) {
+Loop_Step Color_Editor::hand_on(const Input_Event& event) {
     if (view_ == View::data) {
         data_.handle(event);
         return Loop_Step::go_on;

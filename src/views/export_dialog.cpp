@@ -44,11 +44,11 @@ void draw_mark(Point tip, Point direction) {
 }
 
 // A touch pad reports parts of a step, and steps to the side.
-Point wheel_step(const SDL_MouseWheelEvent& event) {
+Point wheel_step(const Movement& moved) {
     const auto pixels = [](float steps) {
         return static_cast<int>(std::clamp(steps, -100.0F, 100.0F) * scroll_step);
     };
-    return {pixels(event.x), -pixels(event.y)};
+    return {pixels(moved.x), -pixels(moved.y)};
 }
 
 } // namespace
@@ -72,18 +72,18 @@ Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
 bool Export_Dialog::run() {
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"dialog \"Export as .bmp\"", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     return is_accepted_;
 }
 
-Loop_Step Export_Dialog::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
-    case SDL_EVENT_MOUSE_BUTTON_UP: dragged_from_.reset(); break;
-    case SDL_EVENT_MOUSE_MOTION: drag_to(pointer_of(event.motion).point()); break;
-    case SDL_EVENT_MOUSE_WHEEL: scroll_by(wheel_step(event.wheel)); break;
+Loop_Step Export_Dialog::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::button_press: return press(event.pointer);
+    case Input_Kind::button_release: dragged_from_.reset(); break;
+    case Input_Kind::pointer_motion: drag_to(event.pointer.point()); break;
+    case Input_Kind::wheel: scroll_by(wheel_step(event.moved)); break;
     default: break;
     }
     return Loop_Step::go_on;

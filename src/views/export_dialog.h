@@ -25,7 +25,7 @@ public:
     [[nodiscard]] bool run();
 
 private:
-    [[nodiscard]] Loop_Step handle(const SDL_Event& event);
+    [[nodiscard]] Loop_Step handle(const Input_Event& event);
     [[nodiscard]] Loop_Step handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
     void drag_to(Point point);

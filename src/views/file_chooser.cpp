@@ -61,11 +61,11 @@ private:
     enum class Part { list, name };
 
     void draw() const;
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_Event& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
     bool handle_list_key(Keycode pressed);
-    void type(const SDL_Event& event);
-    Loop_Step press(const SDL_Event& event);
+    void type(const Input_Event& event);
+    Loop_Step press(const Input_Event& event);
     Loop_Step press_list(Point point);
     void scroll(float amount);
     void move_to(int rows);
@@ -112,7 +112,7 @@ File_Answer Own_Chooser::run() {
     const Text_Input typing;
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"file chooser", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     return answer_;
 }
 
@@ -130,25 +130,23 @@ void Own_Chooser::draw() const {
     cancel_.draw();
 }
 
-Loop_Step Own_Chooser::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event);
-    case SDL_EVENT_TEXT_INPUT: type(event); break;
-    case SDL_EVENT_MOUSE_WHEEL: scroll(event.wheel.y); break;
-    case SDL_EVENT_MOUSE_MOTION: list_.drag(pointer_of(event.motion).point()); break;
-    case SDL_EVENT_MOUSE_BUTTON_UP: list_.release(); break;
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: {
-        const Pointer_State pointer = pointer_of(event.button);
-        return pointer.button == Mouse_Button::left ? press(event) : Loop_Step::go_on;
-    }
+Loop_Step Own_Chooser::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::typed_text: type(event); break;
+    case Input_Kind::wheel: scroll(event.moved.y); break;
+    case Input_Kind::pointer_motion: list_.drag(event.pointer.point()); break;
+    case Input_Kind::button_release: list_.release(); break;
+    case Input_Kind::button_press:
+        return event.pointer.button == Mouse_Button::left ? press(event) : Loop_Step::go_on;
     default: break;
     }
     return Loop_Step::go_on;
 }
 
-Loop_Step Own_Chooser::handle_key(const SDL_Event& event) {
-    const Keycode pressed = event.key.key;
+Loop_Step Own_Chooser::handle_key(const Input_Event& event) {
+    const Keycode pressed = event.chord.key;
     if (pressed == key::escape) {
         return Loop_Step::end;
     }
@@ -194,7 +192,7 @@ void Own_Chooser::move_to(int rows) {
 }
 
 // From the list on a new name is typed, not more of the one that is selected.
-void Own_Chooser::type(const SDL_Event& event) {
+void Own_Chooser::type(const Input_Event& event) {
     if (focus_ == Part::list) {
         name_.set_text("");
     }
@@ -210,8 +208,8 @@ void Own_Chooser::show_selection() {
     }
 }
 
-Loop_Step Own_Chooser::press(const SDL_Event& event) {
-    const Point point = pointer_of(event.button).point();
+Loop_Step Own_Chooser::press(const Input_Event& event) {
+    const Point point = event.pointer.point();
     note_.clear();
     if (layout_.list.contains(point)) {
         return press_list(point);

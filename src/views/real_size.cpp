@@ -7,8 +7,6 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 
-#include <SDL3/SDL_keyboard.h>
-
 #include <algorithm>
 #include <string>
 
@@ -50,8 +48,8 @@ int step_of_key(Keycode pressed) {
 }
 
 // With Shift some systems turn the wheel's steps sideways.
-int step_of_wheel(const SDL_MouseWheelEvent& event) {
-    const float amount = event.y != 0 ? event.y : event.x;
+int step_of_wheel(const Movement& moved) {
+    const float amount = moved.y != 0 ? moved.y : moved.x;
     return amount > 0 ? 1 : amount < 0 ? -1 : 0;
 }
 
@@ -63,15 +61,15 @@ public:
 
     void run() {
         run_modal(
-            {"real size", [this] { draw(); }, [this](const SDL_Event& event) { return handle(event); }});
+            {"real size", [this] { draw(); }, [this](const Input_Event& event) { return handle(event); }});
     }
 
 private:
     void compose();
     void draw() const;
     void scale_by(int step);
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_KeyboardEvent& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
 
     const Tile* tile_;
     int scale_ = 1;
@@ -102,26 +100,26 @@ void Real_Size::scale_by(int step) {
     }
 }
 
-Loop_Step Real_Size::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN:
-        return pointer_of(event.button).button == Mouse_Button::none ? Loop_Step::go_on : Loop_Step::end;
-    case SDL_EVENT_MOUSE_WHEEL:
-        if ((SDL_GetModState() & SDL_KMOD_SHIFT) != 0) {
-            scale_by(step_of_wheel(event.wheel));
+Loop_Step Real_Size::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::button_press:
+        return event.pointer.button == Mouse_Button::none ? Loop_Step::go_on : Loop_Step::end;
+    case Input_Kind::wheel:
+        if (is_shift_held()) {
+            scale_by(step_of_wheel(event.moved));
         }
         return Loop_Step::go_on;
     default: return Loop_Step::go_on;
     }
 }
 
-Loop_Step Real_Size::handle_key(const SDL_KeyboardEvent& event) {
-    const int step = step_of_key(event.key);
+Loop_Step Real_Size::handle_key(const Input_Event& event) {
+    const int step = step_of_key(event.chord.key);
     scale_by(step);
     // Shift, which goes with the wheel, is no key by itself.
-    const bool is_key = key_chord_of(event).key != key::none && !event.repeat;
+    const bool is_key = event.chord.key != key::none && !event.is_repeat;
     return step == 0 && is_key ? Loop_Step::end : Loop_Step::go_on;
 }
 

@@ -20,15 +20,15 @@ public:
     std::optional<int> run() {
         const Dialog_Layer layer([this] { draw(); });
         run_modal({"tile array", [] { dialogs->show_backdrop(); },
-                   [this](const SDL_Event& event) { return handle(event); }});
+                   [this](const Input_Event& event) { return handle(event); }});
         return clicked_;
     }
 
 private:
     void draw();
     [[nodiscard]] std::string text() const;
-    Loop_Step handle(const SDL_Event& event);
-    Loop_Step handle_key(const SDL_KeyboardEvent& event);
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
     Loop_Step press(const Pointer_State& pointer);
     Loop_Step turn_pages(int pages);
 
@@ -60,23 +60,23 @@ std::string Tile_Array::text() const {
     return text;
 }
 
-Loop_Step Tile_Array::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key);
-    case SDL_EVENT_MOUSE_MOTION: pointer_ = pointer_of(event.motion).point(); return Loop_Step::go_on;
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
-    case SDL_EVENT_MOUSE_WHEEL: return turn_pages(event.wheel.y > 0 ? -1 : event.wheel.y < 0 ? 1 : 0);
+Loop_Step Tile_Array::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::pointer_motion: pointer_ = event.pointer.point(); return Loop_Step::go_on;
+    case Input_Kind::button_press: return press(event.pointer);
+    case Input_Kind::wheel: return turn_pages(event.moved.y > 0 ? -1 : event.moved.y < 0 ? 1 : 0);
     default: return Loop_Step::go_on;
     }
 }
 
-Loop_Step Tile_Array::handle_key(const SDL_KeyboardEvent& event) {
-    switch (event.key) {
+Loop_Step Tile_Array::handle_key(const Input_Event& event) {
+    switch (event.chord.key) {
     case key::page_up: return turn_pages(-1);
     case key::page_down: return turn_pages(1);
     // The key that opened the view may still be held.
-    case key::tab: return event.repeat ? Loop_Step::go_on : Loop_Step::end;
+    case key::tab: return event.is_repeat ? Loop_Step::go_on : Loop_Step::end;
     case key::escape: return Loop_Step::end;
     default: return Loop_Step::go_on;
     }

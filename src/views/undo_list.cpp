@@ -65,9 +65,10 @@ void show_undo_list(const Undo_History& history) {
     std::vector<Shown_Tile> thumbnails(history.entries().size());
     const Dialog_Layer layer([&] { draw_list(history, thumbnails, frame); });
     run_modal({"dialog \"Undo history\"", [] { dialogs->show_backdrop(); },
-               [](const SDL_Event& event) {
-                   const bool dismisses = event.type == SDL_EVENT_QUIT || event.type == SDL_EVENT_KEY_DOWN ||
-                                          event.type == SDL_EVENT_MOUSE_BUTTON_DOWN;
+               [](const Input_Event& event) {
+                   const bool dismisses = event.kind == Input_Kind::quit ||
+                                          event.kind == Input_Kind::key_press ||
+                                          event.kind == Input_Kind::button_press;
                    return dismisses ? Loop_Step::end : Loop_Step::go_on;
                }});
 }

@@ -42,7 +42,7 @@ private:
     void draw();
     void draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const;
     void draw_slot(int slot);
-    [[nodiscard]] Loop_Step handle(const SDL_Event& event);
+    [[nodiscard]] Loop_Step handle(const Input_Event& event);
     [[nodiscard]] Loop_Step handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
     void preview(int slot);
@@ -73,7 +73,7 @@ Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
 std::optional<int> Versions_Dialog::run() {
     const Dialog_Layer layer([this] { draw(); });
     run_modal({"dialog \"Versions\"", [] { dialogs->show_backdrop(); },
-               [this](const SDL_Event& event) { return handle(event); }});
+               [this](const Input_Event& event) { return handle(event); }});
     return takes_ ? selected_ : std::nullopt;
 }
 
@@ -113,13 +113,13 @@ void Versions_Dialog::draw_slot(int slot) {
     draw_label(slot, layout_.labels.at(index));
 }
 
-Loop_Step Versions_Dialog::handle(const SDL_Event& event) {
-    switch (event.type) {
-    case SDL_EVENT_QUIT: return Loop_Step::end;
-    case SDL_EVENT_KEY_DOWN: return handle_key(event.key.key);
-    case SDL_EVENT_MOUSE_BUTTON_DOWN: return press(pointer_of(event.button));
-    case SDL_EVENT_KEY_UP:
-    case SDL_EVENT_MOUSE_BUTTON_UP: is_previewing_ = false; return Loop_Step::go_on;
+Loop_Step Versions_Dialog::handle(const Input_Event& event) {
+    switch (event.kind) {
+    case Input_Kind::quit: return Loop_Step::end;
+    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::button_press: return press(event.pointer);
+    case Input_Kind::key_release:
+    case Input_Kind::button_release: is_previewing_ = false; return Loop_Step::go_on;
     default: return Loop_Step::go_on;
     }
 }

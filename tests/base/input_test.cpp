@@ -26,24 +26,24 @@ TEST(Key_Chord, has_the_strongest_modifier_of_either_side) {
         Modifier_Case{SDL_KMOD_NUM | SDL_KMOD_LALT, Modifier::alt},
     };
     for (const Modifier_Case& test : cases) {
-        SDL_KeyboardEvent event{};
-        event.key = SDLK_A;
-        event.mod = test.held;
-        EXPECT_EQ(key_chord_of(event), (Key_Chord{'a', test.expected})) << test.held;
+        SDL_Event event{.type = SDL_EVENT_KEY_DOWN};
+        event.key.key = SDLK_A;
+        event.key.mod = test.held;
+        EXPECT_EQ(input_event_of(event).chord, (Key_Chord{'a', test.expected})) << test.held;
     }
 }
 
 TEST(Pointer_State, keeps_only_the_buttons_that_act_and_truncates_toward_zero) {
-    SDL_MouseButtonEvent event{};
-    event.x = 12.9F;
-    event.y = -0.9F;
+    SDL_Event event{.type = SDL_EVENT_MOUSE_BUTTON_DOWN};
+    event.button.x = 12.9F;
+    event.button.y = -0.9F;
     constexpr std::array expected = {Mouse_Button::none,  Mouse_Button::left, Mouse_Button::none,
                                      Mouse_Button::right, Mouse_Button::none, Mouse_Button::none};
     for (std::size_t number = 0; number < expected.size(); ++number) {
-        event.button = static_cast<Uint8>(number);
-        EXPECT_EQ(pointer_of(event).button, expected.at(number)) << number;
+        event.button.button = static_cast<Uint8>(number);
+        EXPECT_EQ(input_event_of(event).pointer.button, expected.at(number)) << number;
     }
-    EXPECT_EQ(pointer_of(event).point(), (Point{12, 0}));
+    EXPECT_EQ(input_event_of(event).pointer.point(), (Point{12, 0}));
 }
 
 } // namespace

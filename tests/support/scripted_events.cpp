@@ -73,6 +73,20 @@ Script& Script::key(Keycode pressed, Modifier modifier) {
     return add_event(key_event(SDL_EVENT_KEY_DOWN, pressed, modifier));
 }
 
+Script& Script::repeated_key(Keycode held) {
+    SDL_Event event = key_event(SDL_EVENT_KEY_DOWN, held, Modifier::none);
+    event.key.repeat = true;
+    return add_event(event);
+}
+
+Script& Script::text(std::string_view typed) {
+    texts_.emplace_back(typed);
+    SDL_Event event{};
+    event.type = SDL_EVENT_TEXT_INPUT;
+    event.text.text = texts_.back().c_str();
+    return add_event(event);
+}
+
 Script& Script::key_up(Keycode released, Modifier modifier) {
     return add_event(key_event(SDL_EVENT_KEY_UP, released, modifier));
 }
@@ -113,6 +127,12 @@ Script& Script::click(Point position, Mouse_Button button) {
     return press(position, button).release(position, button);
 }
 
+Script& Script::second_press(Point position) {
+    SDL_Event event = button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, position, SDL_BUTTON_LEFT);
+    event.button.clicks = 2;
+    return add_event(event);
+}
+
 Script& Script::drag(const std::vector<Point>& points, Mouse_Button button) {
     press(points.front(), button);
     for (std::size_t i = 1; i < points.size(); ++i) {
@@ -128,6 +148,12 @@ Script& Script::wheel(float amount) {
     return add_event(event);
 }
 
+Script& Script::pointer_leaves() {
+    SDL_Event event{};
+    event.type = SDL_EVENT_WINDOW_MOUSE_LEAVE;
+    return add_event(event);
+}
+
 Script& Script::quit() {
     SDL_Event event{};
     event.type = SDL_EVENT_QUIT;
@@ -138,10 +164,6 @@ Script& Script::pause(int milliseconds) {
     steps_.push_back(
         {true, [milliseconds](std::string_view) { SDL_Delay(static_cast<Uint32>(milliseconds)); }});
     return *this;
-}
-
-Script& Script::event(const SDL_Event& event) {
-    return add_event(event);
 }
 
 Script& Script::check(std::function<void()> function) {

@@ -5,13 +5,14 @@
 #include "base/geometry.h"
 #include "base/input.h"
 
-#include <SDL3/SDL_events.h>
-
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+union SDL_Event;
 
 namespace quadrelle::testing {
 
@@ -26,7 +27,11 @@ public:
     Script& operator=(const Script&) = delete;
 
     Script& key(Keycode pressed, Modifier modifier = Modifier::none);
+    // What a key that is held down adds.
+    Script& repeated_key(Keycode held);
     Script& key_up(Keycode released, Modifier modifier = Modifier::none);
+    // What the keyboard layout makes of keys.
+    Script& text(std::string_view typed);
     // Every character a key that is pressed and released.
     Script& type(std::string_view characters);
     Script& press(Point position, Mouse_Button button = Mouse_Button::left);
@@ -35,14 +40,16 @@ public:
     Script& motion(Point position);
     // Press and release.
     Script& click(Point position, Mouse_Button button = Mouse_Button::left);
+    // The second of two clicks, without its release.
+    Script& second_press(Point position);
     // Pressed at the first point, moved to each of the others, and released at the last one.
     Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
     Script& wheel(float amount);
+    Script& pointer_leaves();
     Script& quit();
     // No event for that time, and then a wait that ends without one: only for loops that do something
     // meanwhile.
     Script& pause(int milliseconds);
-    Script& event(const SDL_Event& event);
     // Run when every event before it has been answered and the loop has drawn.
     Script& check(std::function<void()> function);
     // The same with the name of the loop that waits.
@@ -64,6 +71,7 @@ private:
         Step run;
     };
     std::vector<Entry> steps_;
+    std::deque<std::string> texts_; // the events point to them
     std::size_t next_ = 0;
     Point pointer_;
     Step afterwards_;

@@ -21,27 +21,19 @@ constexpr std::size_t limit = 4000;
 class Text_Field_Test : public Window_Test {
 protected:
     Text_Change type(const std::string& text) {
-        SDL_Event event{};
-        event.type = SDL_EVENT_TEXT_INPUT;
-        event.text.text = text.c_str();
+        Input_Event event{.kind = Input_Kind::typed_text};
+        event.text = text;
         return field_.handle(event);
     }
-    void press(const std::vector<Keycode>& keys, SDL_Keymod modifiers = SDL_KMOD_NONE) {
+    void press(const std::vector<Keycode>& keys, Modifier modifier = Modifier::none) {
         for (const Keycode pressed : keys) {
-            SDL_Event event{};
-            event.type = SDL_EVENT_KEY_DOWN;
-            event.key.key = pressed;
-            event.key.mod = modifiers;
-            field_.handle(event);
+            field_.handle({.kind = Input_Kind::key_press, .chord = {pressed, modifier}});
         }
     }
-    void click(int x, Uint8 clicks = 1) {
-        SDL_Event event{};
-        event.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
-        event.button.button = SDL_BUTTON_LEFT;
-        event.button.clicks = clicks;
-        event.button.x = static_cast<float>(x);
-        event.button.y = static_cast<float>(area_.y + 5);
+    void click(int x, int clicks = 1) {
+        Input_Event event{.kind = Input_Kind::button_press};
+        event.pointer = {static_cast<float>(x), static_cast<float>(area_.y + 5), Mouse_Button::left};
+        event.clicks = clicks;
         field_.handle(event);
     }
 
@@ -64,7 +56,7 @@ TEST_F(Text_Field_Test, edits_whole_characters) {
 
 TEST_F(Text_Field_Test, replaces_all_that_is_selected) {
     field_.set_text("abc");
-    press({'a'}, SDL_KMOD_LCTRL);
+    press({'a'}, Modifier::control);
     type("d");
     EXPECT_EQ(field_.text(), "d");
     click(area_.right() - 5, 2);
@@ -74,10 +66,10 @@ TEST_F(Text_Field_Test, replaces_all_that_is_selected) {
     field_.select_all();
     press({key::left});
     SDL_SetClipboardText("\n日/x\n");
-    press({'v'}, SDL_KMOD_LCTRL);
+    press({'v'}, Modifier::control);
     EXPECT_EQ(field_.text(), "日/xabc");
     field_.select_all();
-    press({'v'}, SDL_KMOD_LCTRL);
+    press({'v'}, Modifier::control);
     EXPECT_EQ(field_.text(), "日/x");
 }
 

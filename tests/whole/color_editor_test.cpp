@@ -52,25 +52,11 @@ protected:
         execute(Command::color_editor);
         return tool_colors->color(Mouse_Button::left);
     }
-    // The text must live as long as the script.
-    Script& write(const char* text) {
-        SDL_Event event{};
-        event.type = SDL_EVENT_TEXT_INPUT;
-        event.text.text = text;
-        return script().event(event);
-    }
+    Script& write(const char* text) { return script().text(text); }
     Script& hold_shift(bool is_held) {
         return script().check([is_held] { SDL_SetModState(is_held ? SDL_KMOD_LSHIFT : SDL_KMOD_NONE); });
     }
-    Script& double_click(Point position) {
-        SDL_Event event{};
-        event.type = SDL_EVENT_MOUSE_BUTTON_DOWN;
-        event.button.button = SDL_BUTTON_LEFT;
-        event.button.clicks = 2;
-        event.button.x = static_cast<float>(position.x);
-        event.button.y = static_cast<float>(position.y);
-        return script().click(position).event(event);
-    }
+    Script& double_click(Point position) { return script().click(position).second_press(position); }
 };
 
 TEST_F(Color_Editor_Test, gives_the_color_back_only_when_accepted) {

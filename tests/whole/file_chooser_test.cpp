@@ -51,13 +51,7 @@ protected:
                                                               : "failed";
     }
 
-    Script& text(const std::string& typed) {
-        typed_.push_back(typed);
-        SDL_Event event{};
-        event.type = SDL_EVENT_TEXT_INPUT;
-        event.text.text = typed_.back().c_str();
-        return script().event(event);
-    }
+    Script& text(const std::string& typed) { return script().text(typed); }
     Script& press(const std::vector<Keycode>& keys) {
         for (const Keycode pressed : keys) {
             script().key(pressed);
@@ -68,9 +62,6 @@ protected:
     void make_folder(const std::string& name) {
         std::filesystem::create_directories(folder().folder().native_path() / name);
     }
-
-private:
-    std::deque<std::string> typed_;
 };
 
 TEST_F(File_Chooser_Test, saves_under_a_typed_name_and_loads_by_clicking) {

@@ -283,12 +283,8 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
         [this] { script().press(on_title, Mouse_Button::right); },
         [this] { script().quit(); },
     };
-    SDL_Event held{};
-    held.type = SDL_EVENT_KEY_DOWN;
-    held.key.key = key::tab;
-    held.key.repeat = true;
     for (const auto& add_end : ends) {
-        script().key(key::tab).event(held).press_number(in_cell(5), middle_button).key('p').wheel(-1);
+        script().key(key::tab).repeated_key(key::tab).press_number(in_cell(5), middle_button).key('p').wheel(-1);
         expect_loop("tile array");
         add_end();
         expect_loop("main").motion({5, 5});
