@@ -39,7 +39,7 @@ std::optional<Brush_Source> chosen_source(const Canvas_View& canvas) {
     if (canvas.tile() == nullptr) {
         return std::nullopt;
     }
-    if (canvas.shows_paste()) {
+    if (canvas.shows_paste(toolbox->state())) {
         return source_of(*canvas.work_area().paste());
     }
     const Work_Area& work = canvas.work_area();

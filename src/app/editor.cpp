@@ -6,9 +6,11 @@
 #include "app/mouse_press.h"
 #include "commands/command_table.h"
 #include "panes/tool_colors.h"
+#include "panes/toolbox.h"
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
+#include "ui/options.h"
 
 #include <string>
 
@@ -53,7 +55,7 @@ bool Editor::show_first_frame() {
 void Editor::redraw(Present present) {
     // The canvas draws nothing outside its viewport, so the frame around it can be there first.
     screen->clear();
-    parts_.canvas.draw();
+    parts_.canvas.draw(toolbox->state(), canvas_settings(*options));
     parts_.panes.draw(parts_.pointer);
     if (present == Present::yes) {
         screen->present();

@@ -20,8 +20,10 @@ bool is_over_tile(const Canvas_View& canvas, Point point) {
 void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
     const bool is_over = is_over_tile(canvas, pointer.point());
     canvas.set_hover(is_over ? std::optional(Hover{pointer.point()}) : std::nullopt);
+    const Tool_State& tools = toolbox->state();
+    const Canvas_Settings settings = canvas_settings(*options);
     const bool is_replaced = is_over && options->value(Option::hide_or_show_cursor) > 0 &&
-                             (toolbox->shows_brush_outline() || toolbox->shows_brush_preview());
+                             (shows_brush_outline(tools, settings) || shows_brush_preview(tools, settings));
     set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);
 }
 

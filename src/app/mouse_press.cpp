@@ -4,6 +4,7 @@
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
 #include "panes/toolbox.h"
+#include "ui/options.h"
 
 namespace quadrelle {
 
@@ -19,8 +20,10 @@ void draw_on_canvas(Editor_Parts& editor) {
     const Tile_Point pressed = editor.canvas.tile_point(editor.pointer.point());
     Stroke_Outcome outcome = Stroke_Outcome::nothing_changed;
     editor.recorder.step([&] {
-        outcome = apply_tool(editor.canvas, toolbox->state().canvas_action(), editor.pointer,
-                             [&editor] { editor.redraw(Present::yes); });
+        const Stroke_Tools tools{toolbox->state(), canvas_settings(*options),
+                                 [](const Stroke_Findings& found) { toolbox->take(found); }};
+        outcome =
+            apply_tool(editor.canvas, tools, editor.pointer, [&editor] { editor.redraw(Present::yes); });
         const Command tool = row_of(toolbox->current_tool()).command;
         if (editor.desk.float_wand_area(pressed)) {
             return Command::paste;

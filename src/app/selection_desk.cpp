@@ -22,7 +22,7 @@ Floating_Paste placed(const Tile& picture, Size tile) {
 } // namespace
 
 bool Selection_Desk::has_something() const {
-    return canvas_.shows_paste() || canvas_.work_area().has_selection();
+    return canvas_.shows_paste(toolbox->state()) || canvas_.work_area().has_selection();
 }
 
 Outcome Selection_Desk::change(const std::function<void()>& work) {
@@ -73,7 +73,7 @@ void Selection_Desk::fill_selected(Color color) {
 }
 
 void Selection_Desk::clear_selected() {
-    if (canvas_.shows_paste()) {
+    if (canvas_.shows_paste(toolbox->state())) {
         canvas_.work_area().drop_paste();
     } else {
         fill_selected(Color(0, 0, 0, 0));
@@ -85,7 +85,7 @@ std::optional<Floating_Paste> Selection_Desk::what_to_copy() const {
     if (canvas_.tile() == nullptr || canvas_.tile()->pixel_count() == 0) {
         return std::nullopt;
     }
-    if (canvas_.shows_paste()) {
+    if (canvas_.shows_paste(toolbox->state())) {
         return *work.paste();
     }
     return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
@@ -160,7 +160,7 @@ bool Selection_Desk::float_wand_area(Tile_Point pressed) {
 }
 
 bool Selection_Desk::nudge(int dx, int dy) {
-    if (!canvas_.shows_paste()) {
+    if (!canvas_.shows_paste(toolbox->state())) {
         return false;
     }
     const auto move = [&] {
@@ -178,7 +178,7 @@ Outcome Selection_Desk::transform(Command command) {
     if (canvas_.tile() == nullptr) {
         return Outcome::unknown;
     }
-    if (canvas_.shows_paste()) {
+    if (canvas_.shows_paste(toolbox->state())) {
         return outcome_of(work.transform_paste(command));
     }
     return work.has_selection()

@@ -1,11 +1,9 @@
 #include "canvas/canvas_view.h"
 
 #include "color/standard_colors.h"
-#include "panes/toolbox.h"
 #include "screen/events.h"
 #include "screen/opaque_texture.h"
 #include "screen/renderer.h"
-#include "ui/options.h"
 
 #include <algorithm>
 #include <utility>
@@ -72,8 +70,8 @@ void Canvas_View::save_history() {
     history_ = tile_ == nullptr ? nullptr : std::make_unique<Tile>(*tile_);
 }
 
-bool Canvas_View::shows_paste() const {
-    return work_area_.paste() && !work_area_.has_selection() && toolbox->state().shows_floating_paste();
+bool Canvas_View::shows_paste(const Tool_State& tools) const {
+    return work_area_.paste() && !work_area_.has_selection() && tools.shows_floating_paste();
 }
 
 Size Canvas_View::magnified_size() const {
@@ -177,14 +175,13 @@ void Canvas_View::pan(const std::function<void()>& redraw) {
                }});
 }
 
-Canvas_Picture Canvas_View::picture() const {
+Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settings& settings) const {
     Canvas_Picture picture;
     picture.tile = tile_;
     picture.pixel_size = pixel_size_;
     picture.origin = {origin_.x - canvas_viewport.x, origin_.y - canvas_viewport.y};
-    picture.grid_intensity = options->value(Option::grid_intensity);
-    picture.checker = {std::max(options->value(Option::alpha_grid_width), 1),
-                       std::max(options->value(Option::alpha_grid_height), 1)};
+    picture.grid_intensity = settings.grid_intensity;
+    picture.checker = settings.checker;
     picture.surround = standard_color(Standard_Color::dark_frame);
     const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);
     if (horizontal_seam_shift_ != no_seam_shift && seam != nullptr) {
@@ -193,18 +190,18 @@ Canvas_Picture Canvas_View::picture() const {
     if (vertical_seam_shift_ != no_seam_shift && seam != nullptr) {
         picture.row_marker = &seam->horizontal;
     }
-    show_selection(picture);
+    show_selection(picture, tools);
     return picture;
 }
 
-void Canvas_View::show_selection(Canvas_Picture& picture) const {
+void Canvas_View::show_selection(Canvas_Picture& picture, const Tool_State& tools) const {
     const auto outline = [&](const Selection& selection, Edge_Family family) {
         picture.outlines.push_back({&selection, edges_.of(family, pixel_size_)});
     };
     if (work_area_.has_selection()) {
         picture.selection = &work_area_.selection();
         outline(work_area_.selection(), Edge_Family::selection);
-    } else if (shows_paste()) {
+    } else if (shows_paste(tools)) {
         picture.paste = &*work_area_.paste();
         outline(work_area_.paste_area(), Edge_Family::paste);
     }
@@ -213,37 +210,38 @@ void Canvas_View::show_selection(Canvas_Picture& picture) const {
     }
 }
 
-Tile_Point Canvas_View::tool_point(Point position) const {
-    const Point offset = toolbox->pointer_offset(pixel_size_);
+Tile_Point Canvas_View::tool_point(Point position, const Tool_State& tools,
+                                   const Canvas_Settings& settings) const {
+    const Point offset = pointer_offset(tools, settings, pixel_size_);
     return tile_point({position.x - offset.x, position.y - offset.y});
 }
 
 // The preview lies on the pixels that would be painted; so does a blocky outline, any other follows the
 // pointer.
-Brush_Feedback Canvas_View::brush_feedback(const Hover& hover) const {
-    const Brush& brush = toolbox->brush();
-    const Tile_Point corner = toolbox->state().brush_corner(tool_point(hover.position));
+Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State& tools,
+                                           const Canvas_Settings& settings) const {
+    const Brush& brush = tools.brush();
+    const Tile_Point corner = tools.brush_corner(tool_point(hover.position, tools, settings));
     const Point cell{origin_.x - canvas_viewport.x + corner.x * pixel_size_,
                      origin_.y - canvas_viewport.y + corner.y * pixel_size_};
-    Brush_Feedback feedback{&brush, {}, {}, toolbox->state().brush_color(hover.button)};
-    if (toolbox->shows_brush_preview(hover.button)) {
+    Brush_Feedback feedback{&brush, {}, {}, tools.brush_color(hover.button)};
+    if (shows_brush_preview(tools, settings, hover.button)) {
         feedback.preview = cell;
     }
-    if (toolbox->shows_brush_outline()) {
+    if (shows_brush_outline(tools, settings)) {
         const Point centred_on_pointer{
             hover.position.x - canvas_viewport.x - brush.size().width * pixel_size_ / 2,
             hover.position.y - canvas_viewport.y - brush.size().height * pixel_size_ / 2};
-        const bool is_blocky = options->value(Option::blocky_precise_brush) == 1;
-        feedback.outline = is_blocky ? cell : centred_on_pointer;
+        feedback.outline = settings.is_outline_blocky ? cell : centred_on_pointer;
     }
     return feedback;
 }
 
-void Canvas_View::draw() {
-    texture_->update([this](const Pixel_Rows& rows) {
-        painter_.paint(picture(), rows);
+void Canvas_View::draw(const Tool_State& tools, const Canvas_Settings& settings) {
+    texture_->update([&](const Pixel_Rows& rows) {
+        painter_.paint(picture(tools, settings), rows);
         if (hover_ && tile_ != nullptr) {
-            paint_brush_feedback(brush_feedback(*hover_), pixel_size_, rows);
+            paint_brush_feedback(brush_feedback(*hover_, tools, settings), pixel_size_, rows);
         }
     });
     texture_->draw_at({canvas_viewport.x, canvas_viewport.y});

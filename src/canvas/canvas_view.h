@@ -1,12 +1,13 @@
 #pragma once
 
 // The current tile magnified in the viewport: where its cells lie, which pixel is under the pointer, zoom and
-// pan. The tools that draw on it are driven by `Canvas_Stroke`.
+// pan. The tools that draw on it are driven by `Stroke`.
 
 #include "base/geometry.h"
 #include "base/input.h"
 #include "canvas/brush_feedback.h"
 #include "canvas/canvas_painter.h"
+#include "canvas/canvas_settings.h"
 #include "canvas/edge_pictures.h"
 #include "commands/command.h"
 #include "selection/work_area.h"
@@ -49,7 +50,7 @@ public:
     [[nodiscard]] Work_Area& work_area() { return work_area_; }
     [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
     // Something floats, the tool in use shows it, and no selection takes its place.
-    [[nodiscard]] bool shows_paste() const;
+    [[nodiscard]] bool shows_paste(const Tool_State& tools) const;
 
     // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
     // called.
@@ -89,7 +90,8 @@ public:
         return {tile_column(position.x), tile_row(position.y)};
     }
     // The pixel that the tool in use acts on when the pointer is there: a brush lies around the pointer.
-    [[nodiscard]] Tile_Point tool_point(Point position) const;
+    [[nodiscard]] Tile_Point tool_point(Point position, const Tool_State& tools,
+                                        const Canvas_Settings& settings) const;
     // The nearest cell boundary.
     [[nodiscard]] int nearest_column(int x) const { return tile_column(x + pixel_size_ / 2); }
     [[nodiscard]] int nearest_row(int y) const { return tile_row(y + pixel_size_ / 2); }
@@ -101,7 +103,7 @@ public:
     // Where the brush shows, if its tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
 
-    void draw();
+    void draw(const Tool_State& tools, const Canvas_Settings& settings);
 
 private:
     void undo_seam_shift(Seam seam);
@@ -110,9 +112,10 @@ private:
     [[nodiscard]] int& seam_shift(Seam seam) {
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;
     }
-    [[nodiscard]] Canvas_Picture picture() const;
-    void show_selection(Canvas_Picture& picture) const;
-    [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover) const;
+    [[nodiscard]] Canvas_Picture picture(const Tool_State& tools, const Canvas_Settings& settings) const;
+    void show_selection(Canvas_Picture& picture, const Tool_State& tools) const;
+    [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover, const Tool_State& tools,
+                                                const Canvas_Settings& settings) const;
 
     Tile* tile_ = nullptr;
     int pixel_size_;

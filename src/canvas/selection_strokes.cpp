@@ -1,12 +1,9 @@
 #include "canvas/selection_strokes.h"
 
-#include "panes/toolbox.h"
 #include "selection/rotation.h"
 #include "selection/scroll.h"
 #include "tools/flood_fill.h"
 #include "tools/shapes.h"
-
-#include <SDL3/SDL_keyboard.h>
 
 #include <cstdlib>
 
@@ -29,14 +26,14 @@ constexpr Ink selecting_ink{Pixel_Operation::paint, Selection::selected_color, {
 
 } // namespace
 
-Segment_Outcome mark_rectangle(Drawing_Target& target, const Stroke_Segment& segment) {
-    segment.work->set_candidate(selected_rectangle(target.size(), segment.from, segment.to));
-    toolbox->figures().size = {std::abs(segment.to.x - segment.from.x),
-                               std::abs(segment.to.y - segment.from.y)};
-    return Segment_Outcome::drawn;
+Stroke_Findings mark_rectangle(Drawing_Target& target, const Stroke_Segment& segment) {
+    segment.work.set_candidate(selected_rectangle(target.size(), segment.from, segment.to));
+    Stroke_Findings found = segment.no_findings();
+    found.figures.size = {std::abs(segment.to.x - segment.from.x), std::abs(segment.to.y - segment.from.y)};
+    return found;
 }
 
-Segment_Outcome mark_circle(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings mark_circle(Drawing_Target& target, const Stroke_Segment& segment) {
     const Radii radii = ellipse_radii(segment.from, segment.to);
     Selection area(target.size());
     if (segment.from != segment.to) {
@@ -45,34 +42,35 @@ Segment_Outcome mark_circle(Drawing_Target& target, const Stroke_Segment& segmen
                                 {Selection::selected_color, Selection::selected_color});
         });
     }
-    segment.work->set_candidate(area);
-    toolbox->figures().radii = radii;
-    return Segment_Outcome::drawn;
+    segment.work.set_candidate(area);
+    Stroke_Findings found = segment.no_findings();
+    found.figures.radii = radii;
+    return found;
 }
 
-Segment_Outcome mark_with_brush(Drawing_Target& target, const Stroke_Segment& segment) {
-    Selection area = segment.work->candidate() ? *segment.work->candidate() : Selection(target.size());
+Stroke_Findings mark_with_brush(Drawing_Target& target, const Stroke_Segment& segment) {
+    Selection area = segment.work.candidate() ? *segment.work.candidate() : Selection(target.size());
     area.draw([&](Drawing_Target& mask) {
-        draw_segment(mask, {toolbox->brush(), Pen_Mode::brush, selecting_ink}, segment.from, segment.to,
+        draw_segment(mask, {segment.tools.brush(), Pen_Mode::brush, selecting_ink}, segment.from, segment.to,
                      segment.start);
     });
-    segment.work->set_candidate(area);
-    return Segment_Outcome::drawn;
+    segment.work.set_candidate(area);
+    return segment.no_findings();
 }
 
-Segment_Outcome mark_with_wand(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings mark_with_wand(Drawing_Target& target, const Stroke_Segment& segment) {
     Selection area(target.size());
     area.draw([&](Drawing_Target& mask) {
         Flood_Area(target, segment.to, Flood_Bounds::whole_tile).for_each([&mask](Tile_Point pixel) {
             mask.plot(pixel, Selection::selected_color);
         });
     });
-    segment.work->set_candidate(area);
-    return Segment_Outcome::drawn;
+    segment.work.set_candidate(area);
+    return segment.no_findings();
 }
 
 void finish_area(Drawing_Target& target, const Stroke_Segment& segment) {
-    Work_Area& work = *segment.work;
+    Work_Area& work = segment.work;
     const bool is_click = segment.from == segment.to;
     if (!is_click) {
         finish_marking(target, segment);
@@ -83,15 +81,15 @@ void finish_area(Drawing_Target& target, const Stroke_Segment& segment) {
 }
 
 void finish_marking(Drawing_Target& /*target*/, const Stroke_Segment& segment) {
-    Work_Area& work = *segment.work;
+    Work_Area& work = segment.work;
     if (work.candidate()) {
         work.select(*work.candidate(), change_by(segment.button));
     }
     work.drop_candidate();
 }
 
-Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment) {
-    Work_Area& work = *segment.work;
+Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment) {
+    Work_Area& work = segment.work;
     const bool has_moved = segment.from != segment.to;
     if (has_moved && work.selection().contains(segment.from)) {
         work.lift_selection(target.tile());
@@ -103,16 +101,16 @@ Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment
         work.move_paste_to(
             {start.x + segment.to.x - segment.from.x, start.y + segment.to.y - segment.from.y});
     }
-    return Segment_Outcome::drawn;
+    return segment.no_findings();
 }
 
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
-    Work_Area& work = *segment.work;
+    Work_Area& work = segment.work;
     const bool is_click = segment.from == segment.to;
     if (work.paste() && !work.has_selection()) {
         if (is_click && !is_in_picture(*work.paste(), segment.from)) {
             work.paste()->plot(target);
-            if (toolbox->state().options.selection_mode == Selection_Mode::standard) {
+            if (segment.tools.options.selection_mode == Selection_Mode::standard) {
                 work.drop_paste();
             }
         }
@@ -121,20 +119,21 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     }
 }
 
-Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
-    Work_Area& work = *segment.work;
+Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment) {
+    Work_Area& work = segment.work;
+    Stroke_Findings found = segment.no_findings();
+    found.figures.degrees = 0;
     if (work.has_selection()) {
         if (segment.from == segment.to) {
-            toolbox->figures().degrees = 0;
-            return Segment_Outcome::nothing;
+            return found;
         }
         work.lift_selection(target.tile());
     }
     const Size size = work.paste() ? work.paste()->picture.size() : target.size();
     const Tile_Point corner = work.paste() ? work.paste()->position : Tile_Point{};
-    int degrees =
-        turn_between(segment.from, segment.to, {2 * corner.x + size.width, 2 * corner.y + size.height});
-    if ((SDL_GetModState() & SDL_KMOD_SHIFT) != 0) {
+    int& degrees = found.figures.degrees;
+    degrees = turn_between(segment.from, segment.to, {2 * corner.x + size.width, 2 * corner.y + size.height});
+    if (segment.moment.is_shift_held) {
         degrees = (degrees + shift_step / 2) / shift_step * shift_step % 360;
     }
     if (work.paste()) {
@@ -142,14 +141,13 @@ Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment) {
     } else {
         turned(target.tile(), degrees, size).copy_to(target.tile());
     }
-    toolbox->figures().degrees = degrees;
-    return Segment_Outcome::drawn;
+    return found;
 }
 
-Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings scroll(Drawing_Target& target, const Stroke_Segment& segment) {
     const Tile_Point offset{segment.to.x - segment.from.x, segment.to.y - segment.from.y};
-    Work_Area& work = *segment.work;
-    const auto move = toolbox->state().options.scroll_move;
+    Work_Area& work = segment.work;
+    const Scroll_Move move = segment.tools.options.scroll_move;
     if (move == Scroll_Move::pixels && work.has_selection()) {
         scroll_selected(target.tile(), work.selection(), offset);
     } else if (move != Scroll_Move::selection) {
@@ -158,8 +156,9 @@ Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment) {
     if (move != Scroll_Move::pixels) {
         work.mutable_selection().change([offset](Tile& mask) { scroll_wrapped(mask, offset); });
     }
-    toolbox->figures().offset = offset;
-    return Segment_Outcome::drawn;
+    Stroke_Findings found = segment.no_findings();
+    found.figures.offset = offset;
+    return found;
 }
 
 } // namespace quadrelle

@@ -2,28 +2,29 @@
 
 // The strokes that select, move what floats over the tile, or move the tile itself.
 
-#include "canvas/stroke_table.h"
+#include "canvas/stroke_segment.h"
+#include "tools/drawing_target.h"
 
 namespace quadrelle {
 
 // What the stroke will select or deselect becomes the candidate of the work area.
-Segment_Outcome mark_rectangle(Drawing_Target& target, const Stroke_Segment& segment);
-Segment_Outcome mark_circle(Drawing_Target& target, const Stroke_Segment& segment);
-Segment_Outcome mark_with_brush(Drawing_Target& target, const Stroke_Segment& segment);
-Segment_Outcome mark_with_wand(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings mark_rectangle(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings mark_circle(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings mark_with_brush(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings mark_with_wand(Drawing_Target& target, const Stroke_Segment& segment);
 // The left button adds the candidate, the right one takes it away; a left click without a drag beside the
 // selection gives it up. `segment` leads from the press to the release.
 void finish_area(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_marking(Drawing_Target& target, const Stroke_Segment& segment);
 
 // Drags the paste, or the selected pixels, which then float; beside it the paste is plotted.
-Segment_Outcome move_paste(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment);
 
 // Turns what floats, or lifts the selected pixels and turns them, or else turns the whole tile. In steps of
 // 15 degrees while Shift is held.
-Segment_Outcome rotate(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment);
 
-Segment_Outcome scroll(Drawing_Target& target, const Stroke_Segment& segment);
+Stroke_Findings scroll(Drawing_Target& target, const Stroke_Segment& segment);
 
 } // namespace quadrelle

@@ -3,19 +3,16 @@
 // A stroke of the current tool on the canvas: the loop from the press of a button to its release.
 
 #include "base/input.h"
-#include "canvas/canvas_view.h"
-#include "tools/canvas_action.h"
+#include "canvas/stroke.h"
 
 #include <functional>
 
 namespace quadrelle {
 
-enum class Stroke_Outcome { nothing_changed, something_changed, color_picked };
-
 // Draws at the pointer and on, along its motions, which `pointer` follows, until a button is released or the
 // window is closed, which ends the stroke only. `redraw` draws and presents the window. The canvas must show
 // a tile.
-[[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, Canvas_Action action, Pointer_State& pointer,
-                                        const std::function<void()>& redraw);
+[[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, const Stroke_Tools& tools,
+                                        Pointer_State& pointer, const std::function<void()>& redraw);
 
 } // namespace quadrelle

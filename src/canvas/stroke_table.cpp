@@ -1,14 +1,8 @@
 #include "canvas/stroke_table.h"
 
 #include "canvas/selection_strokes.h"
-#include "panes/tool_colors.h"
-#include "panes/toolbox.h"
 #include "tools/flood_fill.h"
-#include "tools/lightness_pace.h"
 #include "tools/line.h"
-#include "tools/shapes.h"
-
-#include <SDL3/SDL_timer.h>
 
 #include <algorithm>
 #include <array>
@@ -17,121 +11,129 @@ namespace quadrelle {
 
 namespace {
 
-Right_Button_Mode right_button_mode() {
-    return toolbox->state().options.right_button_mode;
-}
-
 // Outside the tile there is no colour to pick.
-Segment_Outcome pick(Drawing_Target& target, const Stroke_Segment& segment) {
-    if (!target.contains(segment.pointer)) {
-        return Segment_Outcome::nothing;
+Stroke_Findings pick(const Drawing_Target& target, const Stroke_Segment& segment, Mouse_Button side) {
+    Stroke_Findings found = segment.no_findings();
+    if (target.contains(segment.pointer)) {
+        found.figures.dropper_color = target.get(segment.pointer);
+        found.picked = Picked_Color{side, target.get(segment.pointer)};
     }
-    tool_colors->set_color(segment.button, target.get(segment.pointer));
-    toolbox->figures().dropper_color = target.get(segment.pointer);
-    return Segment_Outcome::color_picked;
+    return found;
 }
 
-void draw_with(Drawing_Target& target, const Stroke_Segment& segment, Pen_Mode mode, const Ink& ink) {
-    draw_segment(target, {toolbox->brush(), mode, ink}, segment.from, segment.to, segment.start);
+Stroke_Findings pick_for_button(Drawing_Target& target, const Stroke_Segment& segment) {
+    return pick(target, segment, segment.button);
+}
+
+Stroke_Findings draw_with(Drawing_Target& target, const Stroke_Segment& segment, Pen_Mode mode,
+                          const Ink& ink) {
+    draw_segment(target, {segment.tools.brush(), mode, ink}, segment.from, segment.to, segment.start);
+    return segment.no_findings();
 }
 
 // The right button as the pens' option says: it draws from the history, or picks the left colour.
-Segment_Outcome draw_or_pick(Drawing_Target& target, Stroke_Segment segment, Pen_Mode mode, Ink ink) {
-    if (segment.button == Mouse_Button::right && right_button_mode() == Right_Button_Mode::dropper) {
-        segment.button = Mouse_Button::left;
-        return pick(target, segment);
+Stroke_Findings draw_or_pick(Drawing_Target& target, const Stroke_Segment& segment, Pen_Mode mode, Ink ink) {
+    const Right_Button_Mode right_button = segment.tools.options.right_button_mode;
+    if (segment.button == Mouse_Button::right && right_button == Right_Button_Mode::dropper) {
+        return pick(target, segment, Mouse_Button::left);
     }
-    if (segment.button == Mouse_Button::right && right_button_mode() == Right_Button_Mode::history) {
+    if (segment.button == Mouse_Button::right && right_button == Right_Button_Mode::history) {
         ink.operation = Pixel_Operation::history;
         ink.history = segment.history;
     }
-    ink.color = tool_colors->color(segment.button);
-    draw_with(target, segment, mode, ink);
-    return Segment_Outcome::drawn;
+    ink.color = segment.tools.colors.of(segment.button);
+    return draw_with(target, segment, mode, ink);
 }
 
-Segment_Outcome draw_pen(Drawing_Target& target, const Stroke_Segment& segment) {
-    return draw_or_pick(target, segment, toolbox->state().pen_mode(), {});
+Stroke_Findings draw_pen(Drawing_Target& target, const Stroke_Segment& segment) {
+    return draw_or_pick(target, segment, segment.tools.pen_mode(), {});
 }
 
-Segment_Outcome stamp(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings stamp(Drawing_Target& target, const Stroke_Segment& segment) {
     Ink ink;
-    ink.color = toolbox->state().brush_color(segment.button);
-    draw_with(target, segment, toolbox->state().pen_mode(), ink);
-    return Segment_Outcome::drawn;
+    ink.color = segment.tools.brush_color(segment.button);
+    return draw_with(target, segment, segment.tools.pen_mode(), ink);
 }
 
-Segment_Outcome colorize(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings colorize(Drawing_Target& target, const Stroke_Segment& segment) {
     Ink ink;
     ink.operation = Pixel_Operation::colorize;
-    ink.colorize_type = toolbox->state().options.colorize_type;
+    ink.colorize_type = segment.tools.options.colorize_type;
     return draw_or_pick(target, segment, Pen_Mode::brush, ink);
 }
 
-bool is_lightness_step_due(Mouse_Button button) {
-    return toolbox->lightness_step(static_cast<std::int64_t>(SDL_GetTicks()), button).has_value();
+bool is_lightness_step_due(const Tool_State& tools, Mouse_Button button, std::int64_t time) {
+    return tools.lightness_step(time, button).has_value();
 }
 
-Segment_Outcome change_lightness(Drawing_Target& target, const Stroke_Segment& segment) {
-    const auto order = toolbox->state().options.button_order;
+Stroke_Findings change_lightness(Drawing_Target& target, const Stroke_Segment& segment) {
+    const Tool_Options& options = segment.tools.options;
     Ink ink;
-    ink.operation = lightness_operation(order, segment.button).value_or(Pixel_Operation::lighten);
-    ink.lightness_mode = toolbox->state().options.lightness_mode;
-    draw_with(target, segment, Pen_Mode::brush, ink);
-    return Segment_Outcome::drawn;
+    ink.operation =
+        lightness_operation(options.button_order, segment.button).value_or(Pixel_Operation::lighten);
+    ink.lightness_mode = options.lightness_mode;
+    Stroke_Findings found = draw_with(target, segment, Pen_Mode::brush, ink);
+    found.lightness_step = segment.moment.time;
+    return found;
 }
 
-Segment_Outcome smudge_along(Drawing_Target& target, const Stroke_Segment& segment) {
-    smudge_segment(target, toolbox->brush(), segment.from, segment.to);
-    return Segment_Outcome::drawn;
+Stroke_Findings smudge_along(Drawing_Target& target, const Stroke_Segment& segment) {
+    smudge_segment(target, segment.tools.brush(), segment.from, segment.to);
+    return segment.no_findings();
 }
 
-Segment_Outcome fill(Drawing_Target& target, const Stroke_Segment& segment) {
-    if (toolbox->state().options.fill_mode == Fill_Mode::solid) {
-        flood_fill(target, segment.to, tool_colors->color(segment.button));
+Stroke_Findings fill(Drawing_Target& target, const Stroke_Segment& segment) {
+    const Tool_State& tools = segment.tools;
+    if (tools.options.fill_mode == Fill_Mode::solid) {
+        flood_fill(target, segment.to, tools.colors.of(segment.button));
     } else {
-        flood_fill_with_brush(target, segment.to, toolbox->brush(),
-                              toolbox->state().brush_color(segment.button));
+        flood_fill_with_brush(target, segment.to, tools.brush(), tools.brush_color(segment.button));
     }
-    return Segment_Outcome::drawn;
+    return segment.no_findings();
 }
 
-Segment_Outcome draw_figure(Drawing_Target& target, const Stroke_Segment& segment) {
+Stroke_Findings draw_figure(Drawing_Target& target, const Stroke_Segment& segment) {
+    const Tool_Colors& colors = segment.tools.colors;
     const Mouse_Button other =
         segment.button == Mouse_Button::left ? Mouse_Button::right : Mouse_Button::left;
     draw_shape(target, segment.action, segment.from, segment.to,
-               {tool_colors->color(segment.button), tool_colors->color(other)});
-    const Radii radii = ellipse_radii(segment.from, segment.to);
-    toolbox->figures().length = static_cast<int>(line_length(segment.from, segment.to));
-    toolbox->figures().size = rectangle_size(segment.from, segment.to);
-    toolbox->figures().radii = radii;
-    return Segment_Outcome::drawn;
+               {colors.of(segment.button), colors.of(other)});
+    Stroke_Findings found = segment.no_findings();
+    found.figures.length = static_cast<int>(line_length(segment.from, segment.to));
+    found.figures.size = rectangle_size(segment.from, segment.to);
+    found.figures.radii = ellipse_radii(segment.from, segment.to);
+    return found;
 }
+
+constexpr bool keeps_start = true;
+constexpr bool while_moving = true;
+constexpr bool keeps_cursor = true;
+constexpr bool corners = true;
+constexpr bool _ = false;
 
 // clang-format off
 constexpr std::array stroke_table = std::to_array<Stroke_Row>({
-    //                                      keeps start, draws while moving, keeps cursor, snaps to corners
-    {Canvas_Action::line,                      true,  true,  false, false, draw_figure},
-    {Canvas_Action::rectangle_outline,         true,  true,  false, false, draw_figure},
-    {Canvas_Action::rectangle_filled,          true,  true,  false, false, draw_figure},
-    {Canvas_Action::rectangle_filled_outline,  true,  true,  false, false, draw_figure},
-    {Canvas_Action::ellipse_outline,           true,  true,  false, false, draw_figure},
-    {Canvas_Action::ellipse_filled,            true,  true,  false, false, draw_figure},
-    {Canvas_Action::ellipse_filled_outline,    true,  true,  false, false, draw_figure},
-    {Canvas_Action::stamp_brush,               false, true,  false, false, stamp},
-    {Canvas_Action::pen,                       false, true,  false, false, draw_pen},
-    {Canvas_Action::colorize_pen,              false, true,  false, false, colorize},
-    {Canvas_Action::lightness_pen,             false, true,  false, false, change_lightness, nullptr, is_lightness_step_due},
-    {Canvas_Action::dropper,                   false, true,  true,  false, pick},
-    {Canvas_Action::flood_fill,                false, false, true,  false, fill},
-    {Canvas_Action::smudge_brush,              false, true,  false, false, smudge_along},
-    {Canvas_Action::rectangle_selector,        true,  true,  false, true,  mark_rectangle, finish_area},
-    {Canvas_Action::circle_selector,           true,  true,  false, false, mark_circle, finish_area},
-    {Canvas_Action::brush_selector,            false, true,  false, false, mark_with_brush, finish_marking},
-    {Canvas_Action::wand_selector,             false, false, true,  false, mark_with_wand, finish_marking},
-    {Canvas_Action::work_selection,            true,  true,  true,  false, move_paste, finish_moving},
-    {Canvas_Action::free_rotate,               true,  true,  true,  false, rotate},
-    {Canvas_Action::scroll,                    true,  true,  true,  false, scroll},
+    {Canvas_Action::line,                     keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::rectangle_outline,        keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::rectangle_filled,         keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::rectangle_filled_outline, keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::ellipse_outline,          keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::ellipse_filled,           keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::ellipse_filled_outline,   keeps_start, while_moving, _,            _,       draw_figure},
+    {Canvas_Action::stamp_brush,              _,           while_moving, _,            _,       stamp},
+    {Canvas_Action::pen,                      _,           while_moving, _,            _,       draw_pen},
+    {Canvas_Action::colorize_pen,             _,           while_moving, _,            _,       colorize},
+    {Canvas_Action::lightness_pen,            _,           while_moving, _,            _,       change_lightness, nullptr, is_lightness_step_due},
+    {Canvas_Action::dropper,                  _,           while_moving, keeps_cursor, _,       pick_for_button},
+    {Canvas_Action::flood_fill,               _,           _,            keeps_cursor, _,       fill},
+    {Canvas_Action::smudge_brush,             _,           while_moving, _,            _,       smudge_along},
+    {Canvas_Action::rectangle_selector,       keeps_start, while_moving, _,            corners, mark_rectangle, finish_area},
+    {Canvas_Action::circle_selector,          keeps_start, while_moving, _,            _,       mark_circle, finish_area},
+    {Canvas_Action::brush_selector,           _,           while_moving, _,            _,       mark_with_brush, finish_marking},
+    {Canvas_Action::wand_selector,            _,           _,            keeps_cursor, _,       mark_with_wand, finish_marking},
+    {Canvas_Action::work_selection,           keeps_start, while_moving, keeps_cursor, _,       move_paste, finish_moving},
+    {Canvas_Action::free_rotate,              keeps_start, while_moving, keeps_cursor, _,       rotate},
+    {Canvas_Action::scroll,                   keeps_start, while_moving, keeps_cursor, _,       scroll},
 });
 // clang-format on
 

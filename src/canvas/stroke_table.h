@@ -1,31 +1,18 @@
 #pragma once
 
-// What each kind of stroke does to the tile between two positions of the pointer. Takes its options from the
-// toolbox and its colours from the tool colours; knows no loop.
+// What each kind of stroke does to the tile between two positions of the pointer. Each draws on what it is
+// given and answers with what it found.
 
-#include "base/input.h"
-#include "selection/work_area.h"
-#include "tools/canvas_action.h"
+#include "canvas/stroke_segment.h"
 #include "tools/drawing_target.h"
-#include "tools/pens.h"
+
+#include <cstdint>
 
 namespace quadrelle {
 
-struct Stroke_Segment {
-    Canvas_Action action = Canvas_Action::none;
-    Tile_Point from;
-    Tile_Point to;
-    Segment_Start start = Segment_Start::included;
-    Mouse_Button button = Mouse_Button::left;
-    Tile_Point pointer;            // the pixel under the pointer, wherever the brush around it lies
-    Work_Area* work = nullptr;     // what is selected and floats on the canvas
-    const Tile* history = nullptr; // what the pen's history mode draws from
-};
-
-enum class Segment_Outcome { drawn, color_picked, nothing };
-
+using Draw_Segment = Stroke_Findings (*)(Drawing_Target& target, const Stroke_Segment& segment);
 using Finish_Stroke = void (*)(Drawing_Target& target, const Stroke_Segment& segment);
-using Draw_Segment = Segment_Outcome (*)(Drawing_Target& target, const Stroke_Segment& segment);
+using Is_Due = bool (*)(const Tool_State& tools, Mouse_Button button, std::int64_t time);
 
 // How the strokes differ.
 struct Stroke_Row {
@@ -40,7 +27,7 @@ struct Stroke_Row {
     Finish_Stroke finish = nullptr;
     // Asked before drawing; then the tool goes on while its button is held, also where the pointer stays.
     // Null for a tool that is always ready.
-    bool (*is_due)(Mouse_Button button) = nullptr;
+    Is_Due is_due = nullptr;
 };
 
 // Null for an action that no stroke runs.

@@ -6,7 +6,6 @@
 #include "color/standard_colors.h"
 #include "panes/tool_colors.h"
 #include "screen/screen.h"
-#include "ui/options.h"
 
 #include <algorithm>
 #include <array>
@@ -105,37 +104,15 @@ bool Toolbox::click_brush_pad(Point point) {
     return has_brush_pad_at(point) && state_.choose_from_pad(*brush_pad_panes_.cell_at(point));
 }
 
-std::optional<Pixel_Operation> Toolbox::lightness_step(std::int64_t now, Mouse_Button button) {
-    const auto step = state_.lightness_step(now, button);
-    state_.last_lightness_step = step ? now : state_.last_lightness_step;
-    return step;
+void Toolbox::take(const Stroke_Findings& found) {
+    state_.take(found);
+    if (found.picked) {
+        tool_colors->set_color(found.picked->side, found.picked->color);
+    }
 }
 
 Point Toolbox::beside_entry() const {
     return {position_.x + side_offset, entry_area(static_cast<std::size_t>(state_.tool)).y};
-}
-
-bool Toolbox::shows_brush_outline() const {
-    const int choice = quadrelle::options->value(Option::precise_brush);
-    return state_.uses_brush() && choice != 0 && (choice != 2 || brush().size() != Size{1, 1});
-}
-
-// Nothing for brushes that change the colour which is there, nor where the pen paints from the history.
-bool Toolbox::shows_brush_preview(Mouse_Button button) const {
-    const bool has_colors =
-        brush().owner() == Brush_Owner::pen || brush().owner() == Brush_Owner::stamp_brush;
-    const bool paints_otherwise = button == Mouse_Button::right && state_.tool == Tool::pen &&
-                                  state_.options.right_button_mode != Right_Button_Mode::color;
-    return state_.uses_brush() && has_colors && !paints_otherwise &&
-           quadrelle::options->value(Option::show_shadow_brush) == 1;
-}
-
-Point Toolbox::pointer_offset(int pixel_size) const {
-    if (!shows_brush_outline()) {
-        return {};
-    }
-    const Size size = brush().size();
-    return {(size.width - 1) * pixel_size / 2, (size.height - 1) * pixel_size / 2};
 }
 
 void Toolbox::draw(Point pointer) {

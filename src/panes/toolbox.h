@@ -12,7 +12,6 @@
 #include "tools/tool_state.h"
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -45,17 +44,10 @@ public:
     bool use_as_brush(const Tile& picture, const Tile& mask) { return state_.use_as_brush(picture, mask); }
     bool move_to_pad() { return state_.move_to_pad(); }
     bool delete_brush() { return state_.delete_brush(); }
-    // What the lightness pen does at `now`, in milliseconds; a step is the last one from then on.
-    [[nodiscard]] std::optional<Pixel_Operation> lightness_step(std::int64_t now, Mouse_Button button);
+    void take(const Stroke_Findings& found);
 
     // Where the column beside the chosen tool's entry begins.
     [[nodiscard]] Point beside_entry() const;
-    // What shows of the brush on the canvas, while that button is held or none is.
-    [[nodiscard]] bool shows_brush_outline() const;
-    [[nodiscard]] bool shows_brush_preview(Mouse_Button button = Mouse_Button::none) const;
-    // From the brush's corner to the pointer in window pixels: half the brush while it is centred on the
-    // pointer.
-    [[nodiscard]] Point pointer_offset(int pixel_size) const;
 
     // What lies under the pointer may show it.
     void draw(Point pointer);

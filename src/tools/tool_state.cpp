@@ -35,6 +35,14 @@ void Tool_State::select(Command new_command) {
     }
 }
 
+void Tool_State::take(const Stroke_Findings& found) {
+    figures = found.figures;
+    last_lightness_step = found.lightness_step.value_or(last_lightness_step);
+    if (found.picked) {
+        colors.set(found.picked->side, found.picked->color);
+    }
+}
+
 void Tool_State::take_pad_brush() {
     if (brush_pad.has_current()) {
         chosen_brush.set_stamp(brush_pad.current_brush());

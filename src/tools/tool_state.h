@@ -37,6 +37,19 @@ struct Tool_Figures {
     Color dropper_color;
 };
 
+struct Picked_Color {
+    Mouse_Button side = Mouse_Button::left;
+    Color color;
+};
+
+// What a stroke changes in the state of the tools: the figures that show from then on, and the rest where it
+// is there.
+struct Stroke_Findings {
+    Tool_Figures figures;
+    std::optional<Picked_Color> picked = {};
+    std::optional<std::int64_t> lightness_step = {}; // when it was made, in milliseconds
+};
+
 struct Tool_State {
     Command command = Command::pen;
     Command previous_command = Command::pen;
@@ -50,6 +63,7 @@ struct Tool_State {
 
     // Any command may come here; one that selects a tool makes it the current one.
     void select(Command command);
+    void take(const Stroke_Findings& found);
 
     // The operations of the brush pad. What is its current brush then becomes the one that the stamp brush
     // paints with, or a built-in one without.

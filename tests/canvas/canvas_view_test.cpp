@@ -74,5 +74,20 @@ TEST_F(Canvas_View_Test, zoom_keeps_the_middle_and_comes_back) {
     }
 }
 
+// From the brush's corner to the pointer, half the brush without its first pixel.
+TEST(Canvas_Settings, pointer_offset_centres_a_precise_brush) {
+    struct Case {
+        int size_index, pixel_size, offset;
+    };
+    Tool_State tools;
+    Canvas_Settings settings;
+    for (const Case& test : {Case{0, 10, 0}, {1, 10, 5}, {2, 10, 10}, {1, 3, 1}, {5, 21, 52}}) {
+        tools.chosen_brush.select_size(test.size_index);
+        EXPECT_EQ(pointer_offset(tools, settings, test.pixel_size), (Point{test.offset, test.offset}));
+    }
+    settings.brush_outline = Brush_Outline::off;
+    EXPECT_EQ(pointer_offset(tools, settings, 10), Point{});
+}
+
 } // namespace
 } // namespace quadrelle

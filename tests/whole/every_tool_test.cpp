@@ -176,9 +176,10 @@ TEST_F(Every_Tool_Test, segments_stay_in_the_selection_and_are_the_same_twice) {
                 tool_colors->set_color(Mouse_Button::left, red);
                 tool_colors->set_color(Mouse_Button::right, blue);
                 Drawing_Target target(tile, mask);
-                const Segment_Outcome outcome = row->draw_segment(
-                    target, {row->action, {-2, 0}, {6, 2}, {}, button, {6, 2}, &work, &history});
-                EXPECT_EQ(outcome == Segment_Outcome::color_picked, picks);
+                const Stroke_Findings found = row->draw_segment(
+                    target,
+                    {toolbox->state(), work, &history, row->action, button, {-2, 0}, {6, 2}, {}, {6, 2}, {}});
+                EXPECT_EQ(found.picked.has_value(), picks);
             }
             EXPECT_EQ(picture_of(tiles[0]), picture_of(tiles[1]));
             EXPECT_EQ(picture_of(tiles[0]) == picture_of(before), picks);

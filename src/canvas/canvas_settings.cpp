@@ -1,0 +1,41 @@
+#include "canvas/canvas_settings.h"
+
+#include "ui/options.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+Canvas_Settings canvas_settings(const Options& chosen) {
+    return {chosen.value(Option::grid_intensity),
+            {std::max(chosen.value(Option::alpha_grid_width), 1),
+             std::max(chosen.value(Option::alpha_grid_height), 1)},
+            static_cast<Brush_Outline>(chosen.value(Option::precise_brush)),
+            chosen.value(Option::blocky_precise_brush) == 1,
+            chosen.value(Option::show_shadow_brush) == 1};
+}
+
+bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {
+    const bool leaves_out_brush =
+        settings.brush_outline == Brush_Outline::not_of_one_pixel && tools.brush().size() == Size{1, 1};
+    return tools.uses_brush() && settings.brush_outline != Brush_Outline::off && !leaves_out_brush;
+}
+
+// Nothing for brushes that change the colour which is there, nor where the pen paints from the history.
+bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings, Mouse_Button button) {
+    const Brush_Owner owner = tools.brush().owner();
+    const bool has_colors = owner == Brush_Owner::pen || owner == Brush_Owner::stamp_brush;
+    const bool paints_otherwise = button == Mouse_Button::right && tools.tool == Tool::pen &&
+                                  tools.options.right_button_mode != Right_Button_Mode::color;
+    return tools.uses_brush() && has_colors && !paints_otherwise && settings.has_brush_preview;
+}
+
+Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size) {
+    if (!shows_brush_outline(tools, settings)) {
+        return {};
+    }
+    const Size size = tools.brush().size();
+    return {(size.width - 1) * pixel_size / 2, (size.height - 1) * pixel_size / 2};
+}
+
+} // namespace quadrelle

@@ -1,0 +1,116 @@
+#include "canvas/stroke.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quadrelle {
+
+Stroke::Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointer, Stroke_Tools tools)
+    : canvas_(canvas), row_(row), tile_(*canvas.tile()), pointer_(pointer), tools_(std::move(tools)),
+      button_(pointer.button), pressed_(point_of(pointer)), start_(pressed_), end_(pressed_), before_(tile_),
+      before_work_(canvas.work_area().state()) {
+    canvas_.set_hover(Hover{pointer.point(), button_});
+}
+
+void Stroke::press(const Stroke_Moment& moment) {
+    path_.push_back(start_);
+    draw_when_due(moment);
+}
+
+void Stroke::move_to(const Pointer_State& pointer, const Stroke_Moment& moment) {
+    pointer_ = {pointer.x, pointer.y, button_};
+    canvas_.set_hover(Hover{pointer_.point(), button_});
+    end_ = point_of(pointer_);
+    Stroke_Findings found{tools_.state.figures};
+    found.figures.location = end_;
+    tools_.take(found);
+    if (!row_.draws_while_moving) {
+        return;
+    }
+    if (row_.keeps_start) {
+        tile_.copy_from(before_);
+        canvas_.work_area().restore(before_work_);
+        draw(end_, Segment_Start::included, moment);
+    } else {
+        extend_to(end_, moment);
+    }
+}
+
+bool Stroke::stay(const Stroke_Moment& moment) {
+    return draw_when_due(moment);
+}
+
+void Stroke::finish(const Stroke_Moment& moment) {
+    if (!path_.empty()) {
+        draw_path(moment);
+    }
+    if (row_.finish != nullptr) {
+        Drawing_Target target = canvas_.work_area().target(tile_);
+        row_.finish(target, segment(pressed_, end_, Segment_Start::included, moment));
+    }
+}
+
+Stroke_Outcome Stroke::outcome() const {
+    if (has_picked_) {
+        return Stroke_Outcome::color_picked;
+    }
+    const bool is_same =
+        std::ranges::equal(before_.pixels(), tile_.pixels()) && canvas_.work_area() == before_work_;
+    return is_same ? Stroke_Outcome::nothing_changed : Stroke_Outcome::something_changed;
+}
+
+void Stroke::extend_to(Tile_Point point, const Stroke_Moment& moment) {
+    if (point != path_end()) {
+        path_.push_back(point);
+    }
+    draw_when_due(moment);
+}
+
+bool Stroke::draw_when_due(const Stroke_Moment& moment) {
+    if (row_.is_due != nullptr && !row_.is_due(tools_.state, button_, moment.time)) {
+        return false;
+    }
+    // A tool that goes on acts again where it stands.
+    if (path_.empty() && row_.is_due != nullptr) {
+        draw(start_, Segment_Start::included, moment);
+    }
+    draw_path(moment);
+    return true;
+}
+
+void Stroke::draw_path(const Stroke_Moment& moment) {
+    for (const Tile_Point point : path_) {
+        draw(point, next_, moment);
+        start_ = point;
+        next_ = Segment_Start::left_out;
+    }
+    path_.clear();
+}
+
+void Stroke::draw(Tile_Point to, Segment_Start start, const Stroke_Moment& moment) {
+    Drawing_Target target = canvas_.work_area().target(tile_);
+    const Stroke_Findings found = row_.draw_segment(target, segment(start_, to, start, moment));
+    has_picked_ = found.picked.has_value();
+    tools_.take(found);
+}
+
+Tile_Point Stroke::point_of(const Pointer_State& pointer) const {
+    return row_.snaps_to_corners ? canvas_.corner_point(pointer.point())
+                                 : canvas_.tool_point(pointer.point(), tools_.state, tools_.settings);
+}
+
+Stroke_Segment Stroke::segment(Tile_Point from, Tile_Point to, Segment_Start start,
+                               const Stroke_Moment& moment) {
+    return {tools_.state,
+            canvas_.work_area(),
+            canvas_.history(),
+            row_.action,
+            button_,
+            from,
+            to,
+            start,
+            canvas_.tile_point(pointer_.point()),
+            moment};
+}
+
+} // namespace quadrelle
