@@ -6,13 +6,13 @@
 
 namespace quadrelle {
 
-Canvas_Settings canvas_settings(const Options& chosen) {
-    return {chosen.value(Option::grid_intensity),
-            {std::max(chosen.value(Option::alpha_grid_width), 1),
-             std::max(chosen.value(Option::alpha_grid_height), 1)},
-            static_cast<Brush_Outline>(chosen.value(Option::precise_brush)),
-            chosen.value(Option::blocky_precise_brush) == 1,
-            chosen.value(Option::show_shadow_brush) == 1};
+Canvas_Settings canvas_settings(const Options& values) {
+    return {values.value(Option::grid_intensity),
+            {std::max(values.value(Option::alpha_grid_width), 1),
+             std::max(values.value(Option::alpha_grid_height), 1)},
+            static_cast<Brush_Outline>(values.value(Option::precise_brush)),
+            values.value(Option::blocky_precise_brush) == 1,
+            values.value(Option::show_shadow_brush) == 1};
 }
 
 bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {

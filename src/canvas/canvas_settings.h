@@ -21,7 +21,7 @@ struct Canvas_Settings {
     bool has_brush_preview = true;
 };
 
-[[nodiscard]] Canvas_Settings canvas_settings(const Options& chosen);
+[[nodiscard]] Canvas_Settings canvas_settings(const Options& values);
 
 [[nodiscard]] bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings);
 // While that button is held or none is.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
 #include <type_traits>
@@ -64,6 +65,8 @@ constexpr std::array option_table = std::to_array<Option_Pane_Row>({
     {Tool::wand_selector, none,               below, choice, "Mode",              "Normal,Quick copy,Quick cut$",                              access<&Tool_Options::wand_mode>},
 });
 // clang-format on
+
+static_assert(sizeof(Tool_Options) == option_table.size() * sizeof(std::int32_t), "each option has its row");
 
 std::unique_ptr<Dialog_Pane> make_pane(const Option_Pane_Row& row) {
     if (row.kind == Option_Kind::tick) {

@@ -1,40 +1,19 @@
 #include "tests/whole/program_test.h"
 
 #include "commands/command_table.h"
+#include "panes/icon_bar.h"
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
 
-#include <algorithm>
+#include <string>
 #include <vector>
 
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color black(0, 0, 0);
-constexpr Color white(255, 255, 255);
 constexpr Color red(200, 30, 40);
 
-class Tools_Test : public Program_Test {
-protected:
-    static std::vector<Color> pixels() {
-        const auto span = document().tileset().current_tile()->pixels();
-        return {span.begin(), span.end()};
-    }
-    static int count(Color color) { return static_cast<int>(std::ranges::count(pixels(), color)); }
-
-    void drag(std::vector<Tile_Point> path, Mouse_Button button = Mouse_Button::left) {
-        std::vector<Point> points;
-        for (const Tile_Point point : path) {
-            points.push_back(cell(point.x, point.y));
-        }
-        script().press(points.front(), button);
-        for (const Point point : points) {
-            script().motion(point);
-        }
-        script().release(points.back(), button);
-        play();
-    }
-};
+class Tools_Test : public Program_Test {};
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
@@ -52,32 +31,6 @@ TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     script().click({796, 40}, Mouse_Button::right);
     play();
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-}
-
-TEST_F(Tools_Test, right_button_of_the_pen_does_what_its_row_says) {
-    drag({{1, 1}});
-    execute(Command::save_history_buffer);
-    tool_colors->set_color(Mouse_Button::left, red);
-    drag({{1, 1}, {3, 1}});
-    toolbox->options().right_button_mode = Right_Button_Mode::history;
-    drag({{1, 1}, {2, 1}}, Mouse_Button::right);
-    EXPECT_EQ(tile_pixel(1, 1), white);
-    EXPECT_EQ(tile_pixel(2, 1), black);
-    EXPECT_EQ(tile_pixel(3, 1), red);
-    toolbox->options().right_button_mode = Right_Button_Mode::dropper;
-    drag({{1, 1}}, Mouse_Button::right);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
-    EXPECT_EQ(tile_pixel(1, 1), white);
-}
-
-TEST_F(Tools_Test, dropper_picks_for_its_button_and_stays) {
-    document().tileset().current_tile()->set_pixel(5, 6, red);
-    script().key('d').click(cell(5, 6), Mouse_Button::right);
-    play();
-    EXPECT_EQ(tool_colors->color(Mouse_Button::right), red);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-    EXPECT_FALSE(document().is_modified());
 }
 
 TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
@@ -98,74 +51,101 @@ TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
     EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
 }
 
-// Grey, on which the lightness pen of one pixel draws; how often it touched each pixel.
-class Lightness_Pen_Test : public Tools_Test {
-protected:
-    static constexpr int grey = 100;
-
-    void SetUp() override {
-        Tools_Test::SetUp();
-        document().tileset().current_tile()->fill(Color(grey, grey, grey));
-        execute(Command::lightness_pen);
-    }
-    static int touches(int x, int y) { return (tile_pixel(x, y).r - grey) / 2; }
-    static int all_touches() {
-        int sum = 0;
-        for (const Color pixel : pixels()) {
-            sum += (pixel.r - grey) / 2;
-        }
-        return sum;
-    }
+// As a user does it: the tool by its key or else its icon, the size of the brush by a digit, the option by
+// clicks on the arrow of its row, then a stroke.
+struct Tool_Case {
+    Command tool;
+    int list_entry;
+    int rows_above; // between the tool's entry in the list and the option
+    int clicks;
+    Keycode brush_size;
+    Mouse_Button button;
+    Tile_Point from;
+    Tile_Point to;
+    int changed;
+    Tile_Point sample;
+    Color sampled;
 };
 
-TEST_F(Lightness_Pen_Test, goes_on_while_its_button_is_held) {
-    script().press(cell(4, 4));
-    for (int i = 0; i < 3; ++i) {
-        script().pause(20);
+Point icon_of(Command tool) {
+    Point icon{796, 32};
+    while (Icon_Bar(32).command_at(icon) != tool) {
+        ++icon.y;
     }
-    script().check([] { EXPECT_EQ(touches(4, 4), 4); });
-    script().check([] { EXPECT_EQ(pixel_at(cell(4, 4)), Color(108, 108, 108)); });
+    return icon;
+}
+
+Point arrow_of(const Tool_Case& test) {
+    const int row_top = 32 + 26 * (test.list_entry + 1) + 4 + 51 * test.rows_above;
+    return {816 + 34, row_top + 33};
+}
+
+TEST_F(Tools_Test, draw_as_their_option_rows_say) {
+    constexpr Mouse_Button left = Mouse_Button::left;
+    constexpr Mouse_Button right = Mouse_Button::right;
+    constexpr Color grey(100, 100, 100, 77);
+    constexpr Color pure_blue(0, 0, 255);
+    // clang-format off
+    const Tool_Case cases[] = {
+        {Command::pen,           0, 2, 0, '3', left,  {8, 8}, {8, 8}, 5,   {9, 8},  red},
+        {Command::pen,           0, 2, 2, '3', left,  {8, 8}, {8, 8}, 5,   {7, 6},  red},
+        {Command::lightness_pen, 1, 2, 1, '3', left,  {8, 8}, {8, 8}, 5,   {8, 7},  {98, 98, 98, 77}},
+        {Command::colorize_pen,  2, 3, 1, '2', right, {8, 8}, {8, 8}, 4,   {9, 9},  {0, 0, 100, 77}},
+        {Command::smudge_brush,  3, 0, 0, '1', left,  {5, 8}, {8, 8}, 3,   {6, 8},  {150, 65, 70, 77}},
+        {Command::flood_fill,    5, 0, 1, '3', left,  {8, 8}, {8, 8}, 320, {9, 8},  red},
+        {Command::line,          6, 0, 0, '6', right, {9, 9}, {4, 4}, 6,   {4, 4},  pure_blue},
+        {Command::rectangle,     7, 0, 2, '6', left,  {9, 9}, {5, 6}, 19,  {7, 7},  pure_blue},
+        {Command::circle,        8, 0, 1, '6', right, {7, 7}, {9, 8}, 11,  {7, 7},  pure_blue},
+        {Command::stamp_brush,  13, 0, 2, '3', left,  {8, 8}, {10, 8}, 10,  {10, 6}, red},
+    };
+    // clang-format on
+    tool_colors->set_color(left, red);
+    tool_colors->set_color(right, pure_blue);
+    for (const Tool_Case& test : cases) {
+        SCOPED_TRACE(menu_text(test.tool) + ", clicks " + std::to_string(test.clicks));
+        Tile& tile = *document().tileset().current_tile();
+        tile.fill(grey);
+        tile.set_pixel(5, 8, red);
+        const std::vector<Color> before(tile.pixels().begin(), tile.pixels().end());
+        const Command_Row& row = row_of(test.tool);
+        script().key('d');
+        row.key == key::none ? script().click(icon_of(test.tool)) : script().key(row.key, row.modifier);
+        script().key(test.brush_size);
+        for (int i = 0; i < test.clicks; ++i) {
+            script().click(arrow_of(test));
+        }
+        const Point from = cell(test.from.x, test.from.y);
+        const Point to = cell(test.to.x, test.to.y);
+        // No motion on the spot: the lightness pen may be due again.
+        script().press(from, test.button);
+        to == from ? script() : script().motion(to);
+        script().release(to, test.button);
+        play();
+        int changed = 0;
+        for (int i = 0; i < tile.pixel_count(); ++i) {
+            changed += tile.get_pixel_at(i) == before[static_cast<std::size_t>(i)] ? 0 : 1;
+        }
+        EXPECT_EQ(changed, test.changed);
+        EXPECT_EQ(tile_pixel(test.sample.x, test.sample.y), test.sampled);
+        if (test.sampled.a == 255) {
+            EXPECT_EQ(pixel_at(cell(test.sample.x, test.sample.y)), test.sampled);
+        }
+    }
+}
+
+// The loop goes on by itself while the pointer stays.
+TEST_F(Tools_Test, lightness_pen_goes_on_while_its_button_is_held) {
+    document().tileset().current_tile()->fill(Color(100, 100, 100));
+    execute(Command::lightness_pen);
+    script().press(cell(4, 4)).pause(20).pause(20);
+    script().check([] { EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106)); });
+    script().check([] { EXPECT_EQ(pixel_at(cell(4, 4)), Color(106, 106, 106)); });
     script().release(cell(4, 4));
     play();
-    EXPECT_EQ(touches(4, 4), 4);
+    EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106));
     script().press(cell(9, 4), Mouse_Button::right).pause(20).release(cell(9, 4), Mouse_Button::right);
     play();
-    EXPECT_LT(touches(9, 4), 0);
-}
-
-// Several motions within one interval of 14 milliseconds; the step comes while the button is held or after.
-TEST_F(Lightness_Pen_Test, touches_a_fast_path_once_and_skips_nothing) {
-    toolbox->options().speed = Lightness_Speed::extremely_slow;
-    for (const bool waits : {false, true}) {
-        document().tileset().current_tile()->fill(Color(grey, grey, grey));
-        script().press(cell(2, 2)).motion(cell(5, 2)).motion(cell(9, 2)).motion(cell(9, 7));
-        if (waits) {
-            script().pause(30);
-        }
-        script().release(cell(9, 7));
-        play();
-        for (int x = 2; x <= 9; ++x) {
-            EXPECT_EQ(touches(x, 2), 1) << x;
-        }
-        for (int y = 3; y < 7; ++y) {
-            EXPECT_EQ(touches(9, y), 1) << y;
-        }
-        // A slow machine may have drawn the path before the pause, and then its end again.
-        EXPECT_GE(touches(9, 7), 1);
-        EXPECT_LE(touches(9, 7), waits ? 2 : 1);
-        EXPECT_EQ(all_touches(), 12 + touches(9, 7));
-    }
-}
-
-TEST_F(Lightness_Pen_Test, quick_strokes_lose_no_pixel) {
-    toolbox->options().speed = Lightness_Speed::extremely_slow;
-    for (int x = 1; x < 20; x += 3) {
-        script().click(cell(x, 3));
-    }
-    play();
-    for (int x = 1; x < 20; ++x) {
-        EXPECT_EQ(touches(x, 3), x % 3 == 1 ? 1 : 0) << x;
-    }
+    EXPECT_LT(tile_pixel(9, 4).r, 100);
 }
 
 } // namespace

@@ -1,0 +1,102 @@
+#include "tests/support/drawing_board.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Color black(0, 0, 0);
+constexpr Color white(255, 255, 255);
+constexpr Color red(200, 30, 40);
+
+class Stroke_On_Board : public ::testing::Test {
+protected:
+    [[nodiscard]] Color pixel(int x, int y) const { return board.tile.get_pixel(x, y); }
+
+    Drawing_Board board{Tile(24, 24)};
+};
+
+TEST_F(Stroke_On_Board, right_button_of_the_pen_does_what_its_option_says) {
+    board.drag({{1, 1}});
+    board.canvas.save_history();
+    board.tools.colors.left = red;
+    board.drag({{1, 1}, {3, 1}});
+    board.tools.options.right_button_mode = Right_Button_Mode::history;
+    board.drag({{1, 1}, {2, 1}}, Mouse_Button::right);
+    EXPECT_EQ(pixel(1, 1), white);
+    EXPECT_EQ(pixel(2, 1), black);
+    EXPECT_EQ(pixel(3, 1), red);
+    board.tools.options.right_button_mode = Right_Button_Mode::dropper;
+    board.drag({{1, 1}}, Mouse_Button::right);
+    EXPECT_EQ(board.tools.colors.left, white);
+    EXPECT_EQ(pixel(1, 1), white);
+}
+
+TEST_F(Stroke_On_Board, dropper_picks_for_its_button) {
+    board.tile.set_pixel(5, 6, red);
+    board.tools.select(Command::dropper);
+    EXPECT_EQ(board.drag({{5, 6}}, Mouse_Button::right), Stroke_Outcome::color_picked);
+    EXPECT_EQ(board.tools.colors.right, red);
+    EXPECT_EQ(board.tools.colors.left, white);
+}
+
+// Grey, on which the lightness pen of one pixel draws; how often it touched each pixel of a row or column.
+class Lightness_Stroke : public Stroke_On_Board {
+protected:
+    Lightness_Stroke() {
+        board.tile.fill(Color(100, 100, 100));
+        board.tools.select(Command::lightness_pen);
+        board.tools.options.speed = Lightness_Speed::extremely_slow;
+    }
+    [[nodiscard]] int touches(int x, int y) const { return (pixel(x, y).r - 100) / 2; }
+    [[nodiscard]] std::string touches_of_row(int y) const {
+        std::string row;
+        for (int x = 0; x < board.tile.width(); ++x) {
+            row += static_cast<char>('0' + touches(x, y));
+        }
+        return row;
+    }
+};
+
+// Every 15 milliseconds: more than 14 must have gone by.
+TEST_F(Lightness_Stroke, goes_on_while_its_button_is_held) {
+    board.press(board.at({4, 4}));
+    EXPECT_EQ(touches(4, 4), 1);
+    board.pause(14);
+    EXPECT_EQ(touches(4, 4), 1);
+    board.pause(31);
+    EXPECT_EQ(touches(4, 4), 4);
+    board.release();
+    EXPECT_EQ(touches(4, 4), 4);
+}
+
+// Several motions within one interval; the step comes while the button is held or at its release.
+TEST_F(Lightness_Stroke, touches_a_fast_path_once_and_skips_nothing) {
+    for (const int pause : {0, 14, 15, 30}) {
+        board.tile.fill(Color(100, 100, 100));
+        board.tools.last_lightness_step = -1000;
+        board.press(board.at({2, 2}));
+        for (const Tile_Point pixel : {Tile_Point{5, 2}, {9, 2}, {9, 7}}) {
+            board.move(board.at(pixel));
+        }
+        board.pause(pause);
+        board.release();
+        EXPECT_EQ(touches_of_row(2), "001111111100000000000000");
+        for (int y = 3; y < 7; ++y) {
+            EXPECT_EQ(touches_of_row(y), "000000000100000000000000");
+        }
+        EXPECT_EQ(touches(9, 7), pause < 30 ? 1 : 2);
+    }
+}
+
+TEST_F(Lightness_Stroke, quick_strokes_lose_no_pixel) {
+    for (int x = 1; x < 20; x += 3) {
+        board.drag({{x, 3}});
+    }
+    EXPECT_EQ(touches_of_row(3), "010010010010010010010000");
+}
+
+} // namespace
+} // namespace quadrelle::testing
