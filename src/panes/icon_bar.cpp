@@ -1,6 +1,7 @@
 #include "panes/icon_bar.h"
 
 #include "color/standard_colors.h"
+#include "panes/command_icons.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 
@@ -20,38 +21,33 @@ enum class Place { in_group, after_separator };
 
 struct Icon {
     Command command;
-    Sprite sprite; // the plain one; its lit twin is the next sprite
     Place place;
 };
 
 constexpr std::array icons = std::to_array<Icon>({
-    {Command::pen, Sprite::icon_pen, Place::in_group},
-    {Command::lightness_pen, Sprite::icon_lighten_darken, Place::in_group},
-    {Command::colorize_pen, Sprite::icon_colorize, Place::in_group},
-    {Command::smudge_brush, Sprite::icon_smudge, Place::in_group},
-    {Command::stamp_brush, Sprite::icon_clone_brush, Place::in_group},
-    {Command::dropper, Sprite::icon_dropper, Place::after_separator},
-    {Command::flood_fill, Sprite::icon_flood_fill, Place::in_group},
-    {Command::line, Sprite::icon_line, Place::after_separator},
-    {Command::rectangle, Sprite::icon_rectangle, Place::in_group},
-    {Command::filled_rectangle, Sprite::icon_filled_rectangle, Place::in_group},
-    {Command::circle, Sprite::icon_circle, Place::in_group},
-    {Command::filled_circle, Sprite::icon_filled_circle, Place::in_group},
-    {Command::rectangle_selector, Sprite::icon_rectangle_selector, Place::after_separator},
-    {Command::circle_selector, Sprite::icon_circle_selector, Place::in_group},
-    {Command::brush_selector, Sprite::icon_pen_selector, Place::in_group},
-    {Command::wand_selector, Sprite::icon_magic_wand, Place::in_group},
-    {Command::work_selection, Sprite::icon_sel_actions, Place::in_group},
-    {Command::scroll, Sprite::icon_mover, Place::after_separator},
-    {Command::free_rotate, Sprite::icon_rotate, Place::in_group},
-    {Command::horizontal_seam_tool, Sprite::icon_horizontal_seam, Place::in_group},
-    {Command::vertical_seam_tool, Sprite::icon_vertical_seam, Place::in_group},
-    {Command::center_tile_on_view, Sprite::background_aligner, Place::after_separator},
+    {Command::pen, Place::in_group},
+    {Command::lightness_pen, Place::in_group},
+    {Command::colorize_pen, Place::in_group},
+    {Command::smudge_brush, Place::in_group},
+    {Command::stamp_brush, Place::in_group},
+    {Command::dropper, Place::after_separator},
+    {Command::flood_fill, Place::in_group},
+    {Command::line, Place::after_separator},
+    {Command::rectangle, Place::in_group},
+    {Command::filled_rectangle, Place::in_group},
+    {Command::circle, Place::in_group},
+    {Command::filled_circle, Place::in_group},
+    {Command::rectangle_selector, Place::after_separator},
+    {Command::circle_selector, Place::in_group},
+    {Command::brush_selector, Place::in_group},
+    {Command::wand_selector, Place::in_group},
+    {Command::work_selection, Place::in_group},
+    {Command::scroll, Place::after_separator},
+    {Command::free_rotate, Place::in_group},
+    {Command::horizontal_seam_tool, Place::in_group},
+    {Command::vertical_seam_tool, Place::in_group},
+    {Command::center_tile_on_view, Place::after_separator},
 });
-
-static_assert(std::ranges::all_of(icons, [](const Icon& icon) {
-    return icon.sprite == Sprite::background_aligner || has_lit_twin(icon.sprite);
-}));
 
 // Calls `use` with every icon and its area, from the top.
 template <typename Use>
@@ -65,15 +61,15 @@ void for_each_icon(int top, Use use) {
 }
 
 // The smallest of the icons has no plate of its own.
-void draw_icon(const Icon& icon, const Rectangle& area, bool is_lit) {
-    if (icon.sprite == Sprite::background_aligner) {
-        const Rectangle sprite = sprite_rect(icon.sprite);
+void draw_icon(Sprite icon, const Rectangle& area, bool is_lit) {
+    if (icon == Sprite::background_aligner) {
+        const Rectangle sprite = sprite_rect(icon);
         screen->draw_panel(area, standard_color(Standard_Color::pane_background));
         const Rectangle middle = centred({sprite.width, sprite.height}, area);
-        screen->draw_sprite(icon.sprite, {middle.x, middle.y});
+        screen->draw_sprite(icon, {middle.x, middle.y});
         return;
     }
-    screen->draw_sprite(is_lit ? lit_twin(icon.sprite) : icon.sprite, {area.x, area.y});
+    screen->draw_sprite(is_lit ? lit_twin(icon) : icon, {area.x, area.y});
 }
 
 } // namespace
@@ -83,7 +79,7 @@ void Icon_Bar::draw(const std::function<bool(Command)>& is_pressed) const {
         if (icon.place == Place::after_separator) {
             screen->draw_sprite(Sprite::verti_icon_separator, {area.x, area.y - separator_height});
         }
-        draw_icon(icon, area, is_pressed(icon.command));
+        draw_icon(icon_of(icon.command), area, is_pressed(icon.command));
     });
 }
 

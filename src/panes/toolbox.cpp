@@ -4,6 +4,7 @@
 #include "base/data_directory.h"
 #include "base/data_stream.h"
 #include "color/standard_colors.h"
+#include "panes/command_icons.h"
 #include "panes/tool_colors.h"
 #include "screen/screen.h"
 
@@ -25,11 +26,9 @@ constexpr int side_offset = 207;
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
 
-static_assert(std::ranges::all_of(tool_table, has_lit_twin, &Tool_Row::icon));
-
 void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
-    const Sprite icon = is_chosen ? lit_twin(tool.icon) : tool.icon;
+    const Sprite icon = is_chosen ? lit_twin(icon_of(tool.command)) : icon_of(tool.command);
     screen->draw_box(area, standard_color(fill));
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, tool.name);

@@ -5,7 +5,6 @@
 
 #include "base/table.h"
 #include "commands/command.h"
-#include "screen/sprite_table.h"
 #include "tools/canvas_action.h"
 
 #include <array>
@@ -42,7 +41,6 @@ struct Tool_Row {
     std::string_view name;
     Command command;      // the one that selects it
     Canvas_Action action; // its stroke; of a shape that comes in several types the outline
-    Sprite icon;          // the plain one; its lit twin is the next sprite
     bool uses_tool_colors;
     bool uses_brush; // deliberately not the stamp brush: the flag is about the brush selector
     bool shows_location;
@@ -59,23 +57,23 @@ constexpr bool _ = false;
 
 // clang-format off
 constexpr std::array<Tool_Row, tool_count> table{{
-    {Tool::pen,                "Pen",                Command::pen,                Canvas_Action::pen,                Sprite::icon_pen,                colors, brush, _},
-    {Tool::lightness_pen,      "Lightness pen",      Command::lightness_pen,      Canvas_Action::lightness_pen,      Sprite::icon_lighten_darken,     _,      brush, _},
-    {Tool::colorize_pen,       "Colorize pen",       Command::colorize_pen,       Canvas_Action::colorize_pen,       Sprite::icon_colorize,           colors, brush, _},
-    {Tool::smudge_brush,       "Smudge brush",       Command::smudge_brush,       Canvas_Action::smudge_brush,       Sprite::icon_smudge,             _,      brush, _},
-    {Tool::dropper,            "Dropper",            Command::dropper,            Canvas_Action::dropper,            Sprite::icon_dropper,            _,      _,     location},
-    {Tool::flood_fill,         "Flood fill",         Command::flood_fill,         Canvas_Action::flood_fill,         Sprite::icon_flood_fill,         colors, _,     _},
-    {Tool::line,               "Line",               Command::line,               Canvas_Action::line,               Sprite::icon_line,               colors, _,     location},
-    {Tool::rectangle,          "Rectangle",          Command::rectangle,          Canvas_Action::rectangle_outline,  Sprite::icon_rectangle,          colors, _,     location},
-    {Tool::ellipse,            "Ellipse",            Command::circle,             Canvas_Action::ellipse_outline,    Sprite::icon_circle,             colors, _,     location},
-    {Tool::rectangle_selector, "Rectangle selector", Command::rectangle_selector, Canvas_Action::rectangle_selector, Sprite::icon_rectangle_selector, _,      _,     location},
-    {Tool::circle_selector,    "Circle selector",    Command::circle_selector,    Canvas_Action::circle_selector,    Sprite::icon_circle_selector,    _,      _,     location},
-    {Tool::brush_selector,     "Brush selector",     Command::brush_selector,     Canvas_Action::brush_selector,     Sprite::icon_pen_selector,       _,      brush, _},
-    {Tool::wand_selector,      "Wand selector",      Command::wand_selector,      Canvas_Action::wand_selector,      Sprite::icon_magic_wand,         _,      _,     _},
-    {Tool::stamp_brush,        "Stamp brush",        Command::stamp_brush,        Canvas_Action::stamp_brush,        Sprite::icon_clone_brush,        _,      _,     _},
-    {Tool::scroll,             "Scroll",             Command::scroll,             Canvas_Action::scroll,             Sprite::icon_mover,              _,      _,     location},
-    {Tool::rotate,             "Rotate",             Command::free_rotate,        Canvas_Action::free_rotate,        Sprite::icon_rotate,             _,      _,     _},
-    {Tool::selection,          "Selection",          Command::work_selection,     Canvas_Action::work_selection,     Sprite::icon_sel_actions,        _,      _,     _},
+    {Tool::pen,                "Pen",                Command::pen,                Canvas_Action::pen,                colors, brush, _},
+    {Tool::lightness_pen,      "Lightness pen",      Command::lightness_pen,      Canvas_Action::lightness_pen,      _,      brush, _},
+    {Tool::colorize_pen,       "Colorize pen",       Command::colorize_pen,       Canvas_Action::colorize_pen,       colors, brush, _},
+    {Tool::smudge_brush,       "Smudge brush",       Command::smudge_brush,       Canvas_Action::smudge_brush,       _,      brush, _},
+    {Tool::dropper,            "Dropper",            Command::dropper,            Canvas_Action::dropper,            _,      _,     location},
+    {Tool::flood_fill,         "Flood fill",         Command::flood_fill,         Canvas_Action::flood_fill,         colors, _,     _},
+    {Tool::line,               "Line",               Command::line,               Canvas_Action::line,               colors, _,     location},
+    {Tool::rectangle,          "Rectangle",          Command::rectangle,          Canvas_Action::rectangle_outline,  colors, _,     location},
+    {Tool::ellipse,            "Ellipse",            Command::circle,             Canvas_Action::ellipse_outline,    colors, _,     location},
+    {Tool::rectangle_selector, "Rectangle selector", Command::rectangle_selector, Canvas_Action::rectangle_selector, _,      _,     location},
+    {Tool::circle_selector,    "Circle selector",    Command::circle_selector,    Canvas_Action::circle_selector,    _,      _,     location},
+    {Tool::brush_selector,     "Brush selector",     Command::brush_selector,     Canvas_Action::brush_selector,     _,      brush, _},
+    {Tool::wand_selector,      "Wand selector",      Command::wand_selector,      Canvas_Action::wand_selector,      _,      _,     _},
+    {Tool::stamp_brush,        "Stamp brush",        Command::stamp_brush,        Canvas_Action::stamp_brush,        _,      _,     _},
+    {Tool::scroll,             "Scroll",             Command::scroll,             Canvas_Action::scroll,             _,      _,     location},
+    {Tool::rotate,             "Rotate",             Command::free_rotate,        Canvas_Action::free_rotate,        _,      _,     _},
+    {Tool::selection,          "Selection",          Command::work_selection,     Canvas_Action::work_selection,     _,      _,     _},
 }};
 // clang-format on
 

@@ -2,6 +2,7 @@
 
 #include "color/standard_colors.h"
 #include "commands/command_table.h"
+#include "panes/command_icons.h"
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "ui/dialog_frame.h"
@@ -29,7 +30,7 @@ constexpr int text_drop = 3;
 void draw_label(Command kind, Point position) {
     const Tool tool = kind == Command::none ? Tool::none : tool_of(kind);
     if (tool != Tool::none) {
-        screen->draw_sprite(row_of(tool).icon, position);
+        screen->draw_sprite(icon_of(kind), position);
         return;
     }
     const std::string_view text = kind == Command::none ? "-empty-" : row_of(kind).name;
