@@ -4,6 +4,7 @@
 #include "screen/events.h"
 #include "screen/opaque_texture.h"
 #include "screen/renderer.h"
+#include "selection/scroll.h"
 
 #include <algorithm>
 #include <utility>
@@ -21,22 +22,6 @@ int centred_start(int viewport_start, int viewport_extent, int extent) {
 int seam_shift_of(int extent) {
     const int half = extent / 2;
     return half - half % 2;
-}
-
-// Right or down, or back where negative; what leaves one edge enters at the other.
-void rotate_pixels(Tile& tile, Seam seam, int shift) {
-    const auto rotate = [shift](auto first, auto end, int unit) {
-        std::rotate(first, shift < 0 ? first - shift * unit : end - shift * unit, end);
-    };
-    tile.change_pixels([&](std::span<Color> pixels) {
-        if (seam == Seam::vertical) {
-            rotate(pixels.begin(), pixels.end(), tile.width());
-            return;
-        }
-        for (auto first = pixels.begin(); first != pixels.end(); first += tile.width()) {
-            rotate(first, first + tile.width(), 1);
-        }
-    });
 }
 
 bool ends_pan(const Input_Event& event) {
@@ -114,13 +99,13 @@ void Canvas_View::undo_seam_shift(Seam seam) {
 }
 
 void Canvas_View::shift_pixels(Seam seam, int shift) {
-    rotate_pixels(*tile_, seam, shift);
-    rotate_pixels(*history_, seam, shift);
-    work_area_.mutable_selection().change([&](Tile& mask) { rotate_pixels(mask, seam, shift); });
+    const Tile_Point offset = seam == Seam::horizontal ? Tile_Point{shift, 0} : Tile_Point{0, shift};
+    scroll_wrapped(*tile_, offset);
+    scroll_wrapped(*history_, offset);
+    work_area_.mutable_selection().change([&](Tile& mask) { scroll_wrapped(mask, offset); });
     if (work_area_.paste()) {
-        Tile_Point position = work_area_.paste()->position;
-        (seam == Seam::horizontal ? position.x : position.y) += shift;
-        work_area_.move_paste_to(position);
+        const Tile_Point position = work_area_.paste()->position;
+        work_area_.move_paste_to({position.x + offset.x, position.y + offset.y});
     }
 }
 

@@ -107,7 +107,7 @@ public:
 
 private:
     void undo_seam_shift(Seam seam);
-    // The pixels of the tile and all that belongs to them.
+    // The pixels of the tile and all that belongs to them, right or down, or back where negative.
     void shift_pixels(Seam seam, int shift);
     [[nodiscard]] int& seam_shift(Seam seam) {
         return seam == Seam::horizontal ? horizontal_seam_shift_ : vertical_seam_shift_;

@@ -70,36 +70,6 @@ void Tile::paste_into(Tile& other, int dx, int dy) const {
     }
 }
 
-void Tile::paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha) const {
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
-            Color color = get_pixel(x, y);
-            color.a = color.a == 0 ? color.a : alpha;
-            other.set_pixel(dx + x, dy + y, color);
-        }
-    }
-}
-
-void Tile::mask_into(const Tile& source, Tile& target) const {
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
-            target.set_pixel(x, y, is_white_at(x, y) ? source.get_pixel(x, y) : Color{0, 0, 0, 0});
-        }
-    }
-}
-
-bool Tile::overlaps(const Tile& target, int dx, int dy) const {
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
-            const bool is_taken = target.is_outside(dx + x, dy + y) || target.alpha_at(dx + x, dy + y) != 0;
-            if (is_taken && !is_empty_at(x, y)) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 Rectangle Tile::white_bounds() const {
     Rectangle bounds{width_ + 2, height_ + 2, 0, 0};
     Tile_Point last{-1, -1};
@@ -130,20 +100,6 @@ void Tile::replace_near(int x, int y, Color match, Color color) {
 void Tile::replace_alpha(std::uint8_t from, std::uint8_t to) {
     map_colours([=](Color pixel) {
         pixel.a = pixel.a == from ? to : pixel.a;
-        return pixel;
-    });
-}
-
-void Tile::key_transparency(Color key) {
-    map_colours([=](Color pixel) {
-        pixel.a = pixel.same_rgb(key) ? 0 : 255;
-        return pixel;
-    });
-}
-
-void Tile::blend_towards(Color color, double factor) {
-    map_colours([=](Color pixel) {
-        pixel.blend(color, factor);
         return pixel;
     });
 }

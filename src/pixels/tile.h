@@ -75,38 +75,17 @@ public:
     void swap_pixels(Tile& other);
     // This tile's top left corner lies at (dx, dy) of the other; what falls outside is dropped.
     void paste_into(Tile& other, int dx, int dy) const;
-    // Pixels with an alpha other than 0 get the given one.
-    void paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha) const;
-    // Where this tile is white the target takes the source's pixel, elsewhere it becomes transparent black.
-    void mask_into(const Tile& source, Tile& target) const;
 
-    // Whether a pixel of this tile that is not empty, placed at (dx, dy), leaves the target or meets one of
-    // its pixels with an alpha other than 0.
-    [[nodiscard]] bool overlaps(const Tile& target, int dx, int dy) const;
     // The smallest rectangle around the white pixels; without any its width and height are negative.
     [[nodiscard]] Rectangle white_bounds() const;
-
-    // This tile becomes the source changed; the source is another tile of the same size.
-    // The two rotations leave a tile alone that is not square.
-    void rotate_cw(const Tile& source);
-    void rotate_ccw(const Tile& source);
-    void mirror(const Tile& source);
-    void flip(const Tile& source);
-    // this(x, y) = source(x + dx, y + dy), wrapped around; for steps of at most one pixel.
-    void shift_wrapped(const Tile& source, int dx, int dy);
 
     // Bilinear and always opaque, except onto the same size, which copies.
     void resample_into(Tile& target) const;
     void anti_alias();
-    // The target is twice as wide and high.
-    void scale2x_into(Tile& target) const;
 
     // The 3 by 3 pixels around (x, y); `match` is compared without alpha.
     void replace_near(int x, int y, Color match, Color color);
     void replace_alpha(std::uint8_t from, std::uint8_t to);
-    // Pixels equal to the key, alpha aside, become transparent and all others opaque.
-    void key_transparency(Color key);
-    void blend_towards(Color color, double factor);
     // pixel = function(pixel), in index order.
     template <typename Function>
     void map_colours(Function function) {
@@ -126,6 +105,29 @@ public:
     // Four bytes a pixel: alpha, blue, green, red. Bytes or pixels without a partner are left alone.
     void read_pixels(std::span<const std::uint8_t> bytes);
     void write_pixels(std::span<std::uint8_t> bytes) const;
+
+    // What no command needs, in tile_unreached.cpp.
+
+    // This tile becomes the source changed; the source is another tile of the same size.
+    // The two rotations leave a tile alone that is not square.
+    void rotate_cw(const Tile& source);
+    void rotate_ccw(const Tile& source);
+    void mirror(const Tile& source);
+    void flip(const Tile& source);
+    // this(x, y) = source(x + dx, y + dy), wrapped around; for steps of at most one pixel.
+    void shift_wrapped(const Tile& source, int dx, int dy);
+    // Pixels with an alpha other than 0 get the given one.
+    void paste_into_with_alpha(Tile& other, int dx, int dy, std::uint8_t alpha) const;
+    // Where this tile is white the target takes the source's pixel, elsewhere it becomes transparent black.
+    void mask_into(const Tile& source, Tile& target) const;
+    // Whether a pixel of this tile that is not empty, placed at (dx, dy), leaves the target or meets one of
+    // its pixels with an alpha other than 0.
+    [[nodiscard]] bool overlaps(const Tile& target, int dx, int dy) const;
+    // Pixels equal to the key, alpha aside, become transparent and all others opaque.
+    void key_transparency(Color key);
+    void blend_towards(Color color, double factor);
+    // The target is twice as wide and high.
+    void scale2x_into(Tile& target) const;
 
 private:
     static constexpr std::uint64_t unknown_version = 0;

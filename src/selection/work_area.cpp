@@ -1,6 +1,7 @@
 #include "selection/work_area.h"
 
 #include "selection/copy_buffer.h"
+#include "selection/transform_table.h"
 
 #include <algorithm>
 
@@ -56,28 +57,16 @@ void Work_Area::update_paste_area() {
 }
 
 Command Work_Area::transform_paste(Command command) {
-    if (command < Command::rotate || command > Command::flip) {
+    const Transform_Row* const row = find_transform(command);
+    if (row == nullptr || row->placement == nullptr) {
         return Command::none;
     }
-    const Tile& before = paste_->picture;
-    const bool turns = command == Command::rotate || command == Command::rotate_back;
-    Floating_Paste after{turns ? Tile(before.height(), before.width()) : Tile(before), paste_->position};
-    for (int y = 0; y < before.height(); ++y) {
-        for (int x = 0; x < before.width(); ++x) {
-            const int from_right = before.width() - 1 - x;
-            const int from_bottom = before.height() - 1 - y;
-            const Color pixel = before.get_pixel(x, y);
-            switch (command) {
-            case Command::mirror: after.picture.set_pixel(from_right, y, pixel); break;
-            case Command::flip: after.picture.set_pixel(x, from_bottom, pixel); break;
-            case Command::rotate: after.picture.set_pixel(from_bottom, x, pixel); break;
-            case Command::rotate_back: after.picture.set_pixel(y, from_right, pixel); break;
-            default: return Command::none;
-            }
-        }
-    }
-    after.position.x += (before.width() - after.picture.width()) / 2;
-    after.position.y += (before.height() - after.picture.height()) / 2;
+    const Size before = paste_->picture.size();
+    const Size size = row->placement->size_after(before);
+    Floating_Paste after{Tile(size.width, size.height), paste_->position};
+    place(paste_->picture, after.picture, *row->placement);
+    after.position.x += (before.width - size.width) / 2;
+    after.position.y += (before.height - size.height) / 2;
     float_paste(after);
     return command;
 }

@@ -17,8 +17,6 @@ using testing::make_tile;
 
 namespace {
 
-using Transform = void (Tile::*)(const Tile&);
-
 Tile random_tile(int width, int height, std::mt19937& random) {
     Tile tile(width, height);
     tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
@@ -66,7 +64,7 @@ Tile grey_row(std::initializer_list<int> values) {
 
 } // namespace
 
-TEST(Tile_Transforms, resampling_to_the_same_size_copies_alpha_too) {
+TEST(Tile_Resampling, resampling_to_the_same_size_copies_alpha_too) {
     std::mt19937 random(1);
     const Tile source = random_tile(5, 7, random);
     Tile target(5, 7);
@@ -75,7 +73,7 @@ TEST(Tile_Transforms, resampling_to_the_same_size_copies_alpha_too) {
 }
 
 // Worked out by hand: two columns onto four are sampled at 0, 0.3725, 0.745 and 1.1175.
-TEST(Tile_Transforms, resampling_gives_the_pixels_worked_out_by_hand) {
+TEST(Tile_Resampling, resampling_gives_the_pixels_worked_out_by_hand) {
     Tile enlarged(4, 1);
     grey_row({0, 255}).resample_into(enlarged);
     EXPECT_EQ(enlarged.get_pixel(0, 0), (Color{0, 0, 0}));
@@ -88,7 +86,7 @@ TEST(Tile_Transforms, resampling_gives_the_pixels_worked_out_by_hand) {
     EXPECT_EQ(reduced.get_pixel(1, 0), (Color{227, 227, 227}));
 }
 
-TEST(Tile_Transforms, resampling_follows_bilinear_sampling) {
+TEST(Tile_Resampling, resampling_follows_bilinear_sampling) {
     std::mt19937 random(7);
     constexpr std::array<int, 9> lengths = {1, 2, 3, 5, 16, 24, 64, 100, 255};
     for (const int from : lengths) {
@@ -106,13 +104,13 @@ TEST(Tile_Transforms, resampling_follows_bilinear_sampling) {
     }
 }
 
-TEST(Tile_Transforms, a_tile_without_pixels_resamples_to_black) {
+TEST(Tile_Resampling, a_tile_without_pixels_resamples_to_black) {
     Tile target = make_tile({"ab", "cd"});
     Tile(0, 5).resample_into(target);
     EXPECT_EQ(art(target), (Art{"..", ".."}));
 }
 
-TEST(Tile_Transforms, anti_aliasing_softens_edges_and_makes_opaque) {
+TEST(Tile_Resampling, anti_aliasing_softens_edges_and_makes_opaque) {
     Tile tile = make_tile({"....", "..##", "..##", "    "});
     tile.anti_alias();
     EXPECT_EQ(tile.get_pixel(0, 0), (Color{0, 0, 0}));

@@ -1,4 +1,4 @@
-// The operations of Tile that move or mix its pixels.
+// The operations of Tile that mix its pixels.
 
 #include "pixels/tile.h"
 
@@ -17,14 +17,6 @@ void rebuild(Tile& tile, Place place) {
             tile.set_pixel(x, y, place(x, y));
         }
     }
-}
-
-// Right for positions at most one pixel outside: past the far edge comes 0, deliberately not a remainder.
-int wrapped(int position, int length) {
-    if (position < 0) {
-        return position + length;
-    }
-    return position >= length ? 0 : position;
 }
 
 // The two source columns (or rows) that make one target column, and the share of the second.
@@ -75,32 +67,6 @@ Color mixed(const Tile& source, const Sample& column, const Sample& row) {
 
 } // namespace
 
-void Tile::rotate_cw(const Tile& source) {
-    if (width_ == height_) {
-        rebuild(*this, [&](int x, int y) { return source.get_pixel(y, height_ - 1 - x); });
-    }
-}
-
-void Tile::rotate_ccw(const Tile& source) {
-    if (width_ == height_) {
-        rebuild(*this, [&](int x, int y) { return source.get_pixel(width_ - 1 - y, x); });
-    }
-}
-
-void Tile::mirror(const Tile& source) {
-    rebuild(*this, [&](int x, int y) { return source.get_pixel(width_ - 1 - x, y); });
-}
-
-void Tile::flip(const Tile& source) {
-    rebuild(*this, [&](int x, int y) { return source.get_pixel(x, height_ - 1 - y); });
-}
-
-void Tile::shift_wrapped(const Tile& source, int dx, int dy) {
-    rebuild(*this, [&](int x, int y) {
-        return source.get_pixel(wrapped(x + dx, width_), wrapped(y + dy, height_));
-    });
-}
-
 void Tile::resample_into(Tile& target) const {
     if (same_size(target)) {
         copy_to(target);
@@ -121,26 +87,6 @@ void Tile::anti_alias() {
     Tile enlarged(3 * width_, 3 * height_);
     resample_into(enlarged);
     enlarged.resample_into(*this);
-}
-
-void Tile::scale2x_into(Tile& target) const {
-    for (int y = 0; y < height_; ++y) {
-        for (int x = 0; x < width_; ++x) {
-            const Color pixel = get_pixel(x, y);
-            const Color above = get_pixel_clamped(x, y - 1);
-            const Color right = get_pixel_clamped(x + 1, y);
-            const Color below = get_pixel_clamped(x, y + 1);
-            const Color left = get_pixel_clamped(x - 1, y);
-            const bool is_corner = !above.same_rgb(below) && !left.same_rgb(right);
-            const auto choose = [&](Color side, Color other) {
-                return is_corner && side.same_rgb(other) ? side : pixel;
-            };
-            target.set_pixel(2 * x, 2 * y, choose(left, above));
-            target.set_pixel(2 * x + 1, 2 * y, choose(above, right));
-            target.set_pixel(2 * x, 2 * y + 1, choose(left, below));
-            target.set_pixel(2 * x + 1, 2 * y + 1, choose(below, right));
-        }
-    }
 }
 
 } // namespace quadrelle
