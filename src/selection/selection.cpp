@@ -17,11 +17,6 @@ void Selection::clear() {
     count_ = 0;
 }
 
-void Selection::fill() {
-    mask_.fill(selected_color);
-    count_ = mask_.pixel_count();
-}
-
 void Selection::invert() {
     change([](Tile& mask) {
         mask.map_colours(

@@ -28,7 +28,6 @@ public:
     [[nodiscard]] Rectangle bounds() const;
 
     void clear();
-    void fill();
     void invert();
     // The other one has the same size.
     void combine(const Selection& other, Selection_Change change);

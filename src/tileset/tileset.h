@@ -36,8 +36,6 @@ public:
     [[nodiscard]] const Tile* current_tile() const {
         return has_tiles() ? &tile_at(current_index_) : nullptr;
     }
-    // Without tiles, what a tile answers outside its edges.
-    [[nodiscard]] Color current_pixel(int x, int y) const;
     // In a file.
     [[nodiscard]] std::int64_t tile_bytes() const;
     [[nodiscard]] std::int64_t total_bytes() const { return count() * tile_bytes(); }
@@ -46,8 +44,6 @@ public:
     bool add_tile();
     // Before the current tile.
     bool insert_tile();
-    // After the current tile, with the source resampled to the tile size.
-    bool insert_copy_after(const Tile& source);
     // At the end, whatever the limit; the current tile stays. The tile must have the tile size.
     void append_loaded(std::unique_ptr<Tile> tile);
 
@@ -63,6 +59,13 @@ public:
     bool delete_current();
     // Resamples every tile and selects the first.
     void resize_all(Size tile_size);
+
+    // What a set offers although no command needs it.
+
+    // Without tiles, what a tile answers outside its edges.
+    [[nodiscard]] Color current_pixel(int x, int y) const;
+    // After the current tile, with the source resampled to the tile size.
+    bool insert_copy_after(const Tile& source);
 
 private:
     [[nodiscard]] bool has_index(int i) const { return i >= 0 && i < count(); }

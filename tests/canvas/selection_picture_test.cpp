@@ -75,7 +75,8 @@ TEST_F(Selection_Picture, a_line_runs_inside_the_selected_cells_along_all_others
                                         }));
     // Cut off by the viewport, and along the tile's own edge.
     picture.origin = {-7, -5};
-    selection.fill();
+    selection.clear();
+    selection.invert();
     EXPECT_EQ(lines(picture, {6, 12}), (Art{
                                            "......", //
                                            "......", //

@@ -92,10 +92,10 @@ TEST(Selection, is_made_of_areas_that_are_added_and_taken_away) {
     selection.invert();
     EXPECT_EQ(mask_art(selection), (Art{"#####..", "#...#..", "#.#.#..", "#####..", "#######"}));
     EXPECT_EQ(selection.count(), 35 - 13);
-    selection.fill();
-    EXPECT_EQ(selection.count(), 35);
-    selection.invert();
+    selection.clear();
     EXPECT_TRUE(selection.is_empty());
+    selection.invert();
+    EXPECT_EQ(selection.count(), 35);
 }
 
 TEST(Floating_Paste, lifts_what_is_selected_and_plots_it_where_it_lies) {
