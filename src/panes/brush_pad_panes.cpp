@@ -1,9 +1,8 @@
 #include "panes/brush_pad_panes.h"
 
+#include "base/fitting.h"
 #include "color/standard_colors.h"
 #include "color/translucency.h"
-
-#include <algorithm>
 
 namespace quadrelle {
 
@@ -33,19 +32,6 @@ void paint_brush(Tile& target, const Pad_Brush& brush, Tile_Point corner, Color 
             }
         }
     }
-}
-
-// In whole window pixels for each of its own while there is room for that.
-Rectangle fitted(Size picture, const Rectangle& area) {
-    const int edge = std::min({area.width / picture.width, area.height / picture.height, largest_cell_edge});
-    if (edge >= 1) {
-        return centred({edge * picture.width, edge * picture.height}, area);
-    }
-    const bool is_wide = picture.width * area.height > picture.height * area.width;
-    const Size shrunk = is_wide
-                            ? Size{area.width, std::max(picture.height * area.width / picture.width, 1)}
-                            : Size{std::max(picture.width * area.height / picture.height, 1), area.height};
-    return centred(shrunk, area);
 }
 
 } // namespace
@@ -102,8 +88,9 @@ void Brush_Pad_Panes::draw_selected() {
     selected_pane_.draw();
     selected_pane_.draw_frame();
     if (selected_picture_) {
-        shown_selected_.draw(*selected_picture_,
-                             fitted(selected_picture_->size(), selected_pane_.client_area()));
+        const Rectangle area = selected_pane_.client_area();
+        const Size size = fitted(selected_picture_->size(), {area.width, area.height}, {largest_cell_edge});
+        shown_selected_.draw(*selected_picture_, centred(size, area));
     }
 }
 

@@ -1,9 +1,11 @@
 #include "panes/copy_panes.h"
 
+#include "base/fitting.h"
 #include "color/standard_colors.h"
 #include "commands/command_table.h"
 #include "screen/screen.h"
 #include "ui/checkerboard.h"
+#include "ui/swatch.h"
 
 #include <algorithm>
 
@@ -20,8 +22,6 @@ constexpr int cell_edge = 32;
 constexpr std::size_t cells_in_row = client_width / cell_edge;
 constexpr std::size_t cell_rows = (Copy_Buffer::capacity + cells_in_row - 1) / cells_in_row;
 static_assert(cells_in_row * cell_edge == client_width);
-// The mark of the current copy lies around its picture.
-constexpr int mark_width = 3;
 
 constexpr int button_height = 21;
 constexpr int button_gap = 2;
@@ -42,24 +42,6 @@ Size below_title(int client_height) {
 
 std::string_view label(Command command) {
     return command == Command::invert_selection ? "Invert" : row_of(command).name;
-}
-
-// Enlarged by as many whole times as fit, or reduced to every second pixel, every third, and so on.
-Rectangle fitted(Size picture, const Rectangle& area) {
-    const int times = std::min(area.width / picture.width, area.height / picture.height);
-    if (times > 0) {
-        return centred({picture.width * times, picture.height * times}, area);
-    }
-    const int step = std::max((picture.width + area.width - 1) / area.width,
-                              (picture.height + area.height - 1) / area.height);
-    return centred({std::max(picture.width / step, 1), std::max(picture.height / step, 1)}, area);
-}
-
-// Light around dark: one of the two shows beside every colour.
-void draw_mark(const Rectangle& cell) {
-    screen->draw_outline(cell, standard_color(Standard_Color::highlight));
-    screen->draw_outline(cell.inset(1), standard_color(Standard_Color::highlight));
-    screen->draw_outline(cell.inset(2), standard_color(Standard_Color::black));
 }
 
 void draw_button(const Rectangle& area, std::string_view text) {
@@ -142,15 +124,18 @@ void Copy_Panes::draw_current(const Copy_Buffer& copies) {
 }
 
 void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) {
-    draw_picture(copies.copies()[index].picture, shown_copies_.at(index), cell(index).inset(mark_width));
+    const Rectangle picture = cell(index).inset(picture_mark_width);
+    draw_picture(copies.copies()[index].picture, shown_copies_.at(index), picture);
     if (index == copies.current_index()) {
-        draw_mark(cell(index));
+        draw_mark_around(picture);
     }
 }
 
 void Copy_Panes::draw_picture(const Tile& picture, Shown_Tile& shown, const Rectangle& area) const {
     if (picture.pixel_count() > 0) {
-        const Rectangle place = fitted(picture.size(), area);
+        const Size size =
+            fitted(picture.size(), {area.width, area.height}, {.shrinking = Shrinking::by_whole_steps});
+        const Rectangle place = centred(size, area);
         checkerboard_->draw_part({0, 0, place.width, place.height}, place);
         shown.draw(picture, place);
     }

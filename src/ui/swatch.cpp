@@ -31,4 +31,11 @@ void draw_cell_mark(const Rectangle& cell) {
     draw_mark(is_small ? cell.inset(-2) : cell);
 }
 
+void draw_mark_around(const Rectangle& picture) {
+    const Rectangle outer = picture.inset(-picture_mark_width);
+    screen->draw_outline(outer, standard_color(Standard_Color::highlight));
+    screen->draw_outline(outer.inset(1), standard_color(Standard_Color::highlight));
+    screen->draw_outline(outer.inset(2), standard_color(Standard_Color::black));
+}
+
 } // namespace quadrelle

@@ -1,6 +1,6 @@
 #pragma once
 
-// A colour shown as an area, and the marks that show on every colour.
+// A colour shown as an area, and the marks that show beside every colour.
 
 #include "base/geometry.h"
 #include "color/color.h"
@@ -13,5 +13,9 @@ void draw_swatch(const Rectangle& area, Color color);
 void draw_mark(const Rectangle& area);
 // On a small cell it lies around it.
 void draw_cell_mark(const Rectangle& cell);
+
+constexpr int picture_mark_width = 3;
+// Lies around the picture, light around dark.
+void draw_mark_around(const Rectangle& picture);
 
 } // namespace quadrelle

@@ -29,7 +29,7 @@ std::string caption_of(const Tile& picture, int tile_count) {
 }
 
 // A triangle with its tip at `tip` that points along (dx, dy), dark around and lit inside.
-void draw_mark(Point tip, Point direction) {
+void draw_arrow(Point tip, Point direction) {
     const auto draw_triangle = [&](int first, int last, int wider, Color color) {
         for (int i = first; i <= last; ++i) {
             const int half = i + wider;
@@ -164,16 +164,16 @@ void Export_Dialog::draw_overflow_marks() const {
     const Rectangle area = view_area_.inset(mark_inset);
     const Point middle{area.x + area.width / 2, area.y + area.height / 2};
     if (offset_.x > 0) {
-        draw_mark({area.x, middle.y}, {-1, 0});
+        draw_arrow({area.x, middle.y}, {-1, 0});
     }
     if (offset_.y > 0) {
-        draw_mark({middle.x, area.y}, {0, -1});
+        draw_arrow({middle.x, area.y}, {0, -1});
     }
     if (offset_.x + seen_.width < picture_.width()) {
-        draw_mark({area.right(), middle.y}, {1, 0});
+        draw_arrow({area.right(), middle.y}, {1, 0});
     }
     if (offset_.y + seen_.height < picture_.height()) {
-        draw_mark({middle.x, area.bottom()}, {0, 1});
+        draw_arrow({middle.x, area.bottom()}, {0, 1});
     }
 }
 

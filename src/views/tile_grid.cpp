@@ -1,5 +1,6 @@
 #include "views/tile_grid.h"
 
+#include "base/fitting.h"
 #include "color/translucency.h"
 #include "screen/opaque_texture.h"
 #include "screen/screen.h"
@@ -41,20 +42,6 @@ void paint_tile(const Tile& tile, const Rectangle& area, const Pixel_Rows& targe
 }
 
 } // namespace
-
-Size size_in_cell(Size tile, Size cell) {
-    if (tile.width <= 0 || tile.height <= 0) {
-        return {};
-    }
-    const int steps = std::min(cell.width / tile.width, cell.height / tile.height);
-    if (steps > 0) {
-        return {tile.width * steps, tile.height * steps};
-    }
-    if (tile.width * cell.height >= tile.height * cell.width) {
-        return {cell.width, std::max(tile.height * cell.width / tile.width, 1)};
-    }
-    return {std::max(tile.width * cell.height / tile.height, 1), cell.height};
-}
 
 Tile_Grid::Tile_Grid(std::string_view title, const Tileset& tileset)
     : Tile_Grid(title, tileset, default_cells, default_cell) {}
@@ -116,7 +103,7 @@ void Tile_Grid::paint_cells(const Pixel_Rows& target) const {
     for (int y = 0; y < target.size.height; ++y) {
         std::fill_n(target.row(y), target.size.width, standard_color(Standard_Color::dark_frame));
     }
-    const Size shown = size_in_cell(tileset_.tile_size(), cell_);
+    const Size shown = fitted(tileset_.tile_size(), cell_);
     const int first = page_ * page_size();
     const int count = std::min(tileset_.count() - first, page_size());
     for (int i = 0; i < count; ++i) {

@@ -20,9 +20,6 @@ class Tile;
 class Tileset;
 struct Pixel_Rows;
 
-// How large a tile is shown in a cell: enlarged by whole steps where it fits, otherwise shrunk in its shape.
-[[nodiscard]] Size size_in_cell(Size tile, Size cell);
-
 class Tile_Grid {
 public:
     // The grid as most views show it: 16 x 16 cells near the window's corner.

@@ -8,6 +8,7 @@
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "ui/shown_tile.h"
+#include "ui/swatch.h"
 #include "views/versions_layout.h"
 
 #include <array>
@@ -18,13 +19,6 @@
 namespace quadrelle {
 
 namespace {
-
-// Lies around the view, in the gap, and is parted from it, so that it shows whatever the picture's colours.
-void draw_mark(const Rectangle& view) {
-    screen->draw_outline(view.inset(-1), standard_color(Standard_Color::black));
-    screen->draw_outline(view.inset(-2), standard_color(Standard_Color::highlight));
-    screen->draw_outline(view.inset(-3), standard_color(Standard_Color::highlight));
-}
 
 void draw_label(int slot, const Rectangle& area) {
     const std::string text = std::to_string(slot + 1);
@@ -82,7 +76,7 @@ void Versions_Dialog::draw() {
     const bool shows_slot = is_previewing_ && selected_;
     draw_view(shows_slot ? versions_.tile(*selected_) : current_, shown_in_big_view_, layout_.big_view);
     if (shows_slot) {
-        draw_mark(layout_.big_view);
+        draw_mark_around(layout_.big_view);
     }
     for (int slot = 0; slot < Tile_Versions::slot_count; ++slot) {
         draw_slot(slot);
@@ -108,7 +102,7 @@ void Versions_Dialog::draw_slot(int slot) {
         screen->draw_line({area.x, area.bottom() - 1}, {area.right() - 1, area.y}, color);
     }
     if (selected_ == slot) {
-        draw_mark(area);
+        draw_mark_around(area);
     }
     draw_label(slot, layout_.labels.at(index));
 }
