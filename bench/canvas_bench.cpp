@@ -4,6 +4,7 @@
 
 #include "app/editor.h"
 #include "screen/events.h"
+#include "ui/shown_tile.h"
 
 #include <benchmark/benchmark.h>
 
@@ -157,9 +158,10 @@ void undo_step(benchmark::State& state) {
     const int edge = static_cast<int>(state.range(0));
     show_tile({edge, 8});
     const Undo_History& history = editor->documents().current().history();
-    const auto record_and_show = [&history] {
+    Shown_Tile thumbnail;
+    const auto record_and_show = [&] {
         editor->execute(Command::change_tile);
-        history.entries().back().snapshot->tile.draw({0, 0, 24, 24});
+        thumbnail.draw(history.entries().back().snapshot->tile, {0, 0, 24, 24});
     };
     for (int i = 0; i < Undo_History::default_capacity; ++i) {
         record_and_show();
