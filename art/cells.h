@@ -37,7 +37,9 @@ public:
     void recolour(const std::map<char, Cell>& changes);
 
 private:
-    std::size_t index(int x, int y) const { return static_cast<std::size_t>(y * width_ + x); }
+    std::size_t index(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) + static_cast<std::size_t>(x);
+    }
 
     int width_ = 0;
     int height_ = 0;

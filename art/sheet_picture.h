@@ -21,7 +21,9 @@ public:
     std::string draw(int x, int y, Rgb colour, const std::string& owner);
 
 private:
-    static std::size_t index(int x, int y) { return static_cast<std::size_t>(y * sheet_width + x); }
+    static std::size_t index(int x, int y) {
+        return static_cast<std::size_t>(y) * sheet_width + static_cast<std::size_t>(x);
+    }
 
     std::vector<Rgb> pixels_;
     std::vector<std::size_t> owners_;
