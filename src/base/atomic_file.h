@@ -10,8 +10,8 @@
 
 namespace quadrelle {
 
-// Written under another name in the same folder. Until `commit` succeeds the old file is untouched, and
-// without it nothing is left behind.
+// The file is written under another name in the same folder. Until `commit` succeeds the old file is
+// untouched, and without it nothing is left behind.
 class Atomic_File {
 public:
     explicit Atomic_File(const std::string& path);
@@ -22,7 +22,7 @@ public:
     [[nodiscard]] bool is_open() const { return file_ != nullptr; }
     // A failure is remembered: after it `commit` fails too.
     bool write(std::span<const std::uint8_t> bytes);
-    // True when the new file is on the disk under its name. The last call.
+    // Answers whether the new file is on the disk under its name; nothing may be written after it.
     [[nodiscard]] bool commit();
 
 private:

@@ -19,8 +19,9 @@ public:
         return candidate >= low_ && candidate <= high_;
     }
 
-    // Below the bounds becomes the high bound and above them the low one. The candidate -1 stands for "no
-    // value" and is deliberately never set, so that a decrease stops at 0 instead of wrapping around.
+    // A candidate below the bounds becomes the high bound, one above them the low one. The candidate -1
+    // stands for "no value" and is deliberately never set, so that a decrease stops at 0 instead of wrapping
+    // around.
     constexpr void set(std::int64_t candidate) {
         if (candidate == -1) {
             return;

@@ -12,20 +12,20 @@ public:
     static constexpr int outside = 0;
     static constexpr int inside = 1;
 
-    // False when already there or when the folder cannot be entered; deliberately, the row counts as entered
-    // in the second case too.
+    // Answers false when the process is there already or the folder cannot be entered; deliberately, the row
+    // counts as entered in the second case too.
     bool enter(int row);
     void leave();
     [[nodiscard]] int index() const { return index_; }
 
-    // How to open a data file from where the process stands.
+    // Returns the name that opens a data file from where the process stands.
     [[nodiscard]] std::string path(const std::string& file_name) const;
 
 private:
     int index_ = outside;
 };
 
-// The one of this process.
+// Returns the one of this process.
 [[nodiscard]] Data_Directory& data_directory();
 
 } // namespace quadrelle

@@ -1,7 +1,7 @@
 #pragma once
 
 // The record of the small data files: tokens of text between commas, read in the order of writing.
-// Knows nothing about what its users keep in it.
+// It knows nothing about what its users keep in it.
 
 #include <array>
 #include <cstddef>
@@ -24,12 +24,12 @@ public:
     explicit Data_Stream(std::string text) : text_(std::move(text)) {}
 
     [[nodiscard]] const std::string& text() const { return text_; }
-    // Nothing is left but perhaps the colon that ends a record.
+    // Whether nothing is left but perhaps the colon that ends a record.
     [[nodiscard]] bool is_at_end() const;
 
     void write_int(std::int32_t number);
     void write_bool(bool is_true);
-    // With six decimals.
+    // Writes six decimals.
     void write_real(float number);
     // An empty text is replaced by "Rolololo", in the caller's string too.
     void write_text(std::string& text);
@@ -41,9 +41,9 @@ public:
     // leading number in a token is dropped, no number is 0, too large ones become the nearest.
     [[nodiscard]] std::int32_t read_int();
     [[nodiscard]] bool read_bool() { return read_int() == 1; }
-    // Always finite.
+    // The number is always finite.
     [[nodiscard]] float read_real();
-    // Up to the next comma or colon.
+    // Reads up to the next comma or colon.
     [[nodiscard]] std::string read_text();
     // Fills the buffer and skips the separator behind its bytes.
     void read_bytes(std::span<std::uint8_t> bytes);
@@ -52,9 +52,9 @@ public:
     [[nodiscard]] std::array<std::int32_t, 2> read_pair();
 
     // Writes the record to a file open for writing: its length in four bytes, the text and a colon. Clears
-    // it.
+    // the record.
     void save_to(Block_File& file);
-    // The same to a path, replacing the file whole or not at all; false when it cannot.
+    // Does the same to a path and replaces the file whole or not at all; answers false when it cannot.
     [[nodiscard]] bool save_to(const std::string& path);
     // Reads from a file open for reading and starts at the beginning. A length of 0 keeps the text;
     // a file that is shorter than its length is fatal.

@@ -8,7 +8,7 @@ namespace quadrelle {
 
 // Prints "Error: MESSAGE!" to standard output and ends the process with exit status 1.
 [[noreturn]] void fatal(std::string_view message);
-// The same with "Error: MESSAGE DETAIL!".
+// Does the same with "Error: MESSAGE DETAIL!".
 [[noreturn]] void fatal(std::string_view message, std::string_view detail);
 
 } // namespace quadrelle

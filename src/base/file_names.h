@@ -7,19 +7,18 @@
 
 namespace quadrelle {
 
-// The path with its extension, if any, replaced.
+// Returns the path with its extension, if any, replaced.
 [[nodiscard]] std::string with_extension(const std::string& path, const std::string& extension);
 // Whether a name ends in the extension, whatever the case of its letters.
 [[nodiscard]] bool has_extension(std::string_view name, std::string_view extension);
 
 [[nodiscard]] std::string joined_path(const std::string& folder, std::string_view name);
-// Empty for a root.
+// A root has no parent: the answer is empty.
 [[nodiscard]] std::string parent_folder(const std::string& folder);
-// Where a path that was typed in a folder leads, with "." and ".." worked in.
+// Returns where a path that was typed in a folder leads, with "." and ".." worked in.
 [[nodiscard]] std::string resolved_path(const std::string& folder, std::string_view typed);
 
-// Whether the one comes before the other in a list: without regard to the case of letters where they differ
-// otherwise.
+// Whether the one comes before the other in a list. The case of letters decides only where nothing else does.
 [[nodiscard]] bool is_listed_before(std::string_view one, std::string_view other);
 
 } // namespace quadrelle

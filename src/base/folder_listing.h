@@ -21,19 +21,19 @@ struct Listed_Row {
 
 class Folder_Listing {
 public:
-    // An extension, or "*" for every file.
+    // The pattern is an extension, or "*" for every file.
     explicit Folder_Listing(std::string_view pattern) : pattern_(pattern) {}
 
-    // Reads it anew each time. False, with everything as it was, when the folder cannot be read.
+    // Reads the folder anew each time. Answers false, with everything as it was, when it cannot be read.
     [[nodiscard]] bool open(const std::string& folder);
-    // The folder or the nearest one above it that can be read; false without any.
+    // Opens the folder or the nearest one above it that can be read; answers false when there is none.
     [[nodiscard]] bool open_nearest(std::string folder);
 
     [[nodiscard]] const std::string& folder() const { return folder_; }
-    // By kind, then by name. Hidden ones are left out.
+    // The rows stand by kind, then by name; hidden files are left out.
     [[nodiscard]] const std::vector<Listed_Row>& rows() const { return rows_; }
     [[nodiscard]] std::optional<std::size_t> find(std::string_view name) const;
-    // Where a row leads.
+    // Returns the path that a row leads to.
     [[nodiscard]] std::string path_of(std::size_t row) const;
 
 private:

@@ -12,7 +12,7 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
-// A pixel of a tile; may lie outside of it.
+// A pixel of a tile; it may lie outside of the tile.
 struct Tile_Point {
     int x = 0;
     int y = 0;
@@ -27,7 +27,7 @@ struct Size {
     bool operator==(const Size&) const = default;
 };
 
-// Contains its left and top edges, not its right and bottom edges.
+// A rectangle contains its left and top edges, not its right and bottom edges.
 struct Rectangle {
     int x = 0;
     int y = 0;
@@ -41,13 +41,13 @@ struct Rectangle {
     [[nodiscard]] constexpr bool contains(Point point) const {
         return point.x >= x && point.y >= y && point.x < right() && point.y < bottom();
     }
-    // Shrunk on all four sides; a negative amount grows it.
+    // Returns it shrunk on all four sides; a negative amount grows it.
     [[nodiscard]] constexpr Rectangle inset(int amount) const {
         return {x + amount, y + amount, width - 2 * amount, height - 2 * amount};
     }
 };
 
-// A size centred in an area, both halves rounded toward zero.
+// Returns the rectangle of that size in the middle of the area, both halves rounded toward zero.
 [[nodiscard]] constexpr Rectangle centred(Size size, const Rectangle& area) {
     return {area.x + (area.width - size.width) / 2, area.y + (area.height - size.height) / 2, size.width,
             size.height};

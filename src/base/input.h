@@ -31,7 +31,7 @@ struct Pointer_State {
 
     bool operator==(const Pointer_State&) const = default;
 
-    // Both coordinates truncated toward zero.
+    // Returns both coordinates truncated toward zero.
     [[nodiscard]] constexpr Point point() const { return {static_cast<int>(x), static_cast<int>(y)}; }
 };
 

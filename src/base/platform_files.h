@@ -14,11 +14,12 @@
 
 namespace quadrelle {
 
-// Binary, and regular files only: never waits for a pipe or a device. Null when it cannot be opened.
+// Opens regular files only, in binary mode: it never waits for a pipe or a device. Returns null when it
+// cannot.
 [[nodiscard]] File_Handle open_file(const std::string& name, File_Mode mode);
-// Bytes from the start to the end; -1 when unknown.
+// Counts the bytes from the start to the end; -1 when that is unknown.
 [[nodiscard]] std::int64_t file_size(std::FILE* file);
-// How many bytes were there to read.
+// Returns how many bytes were there to read.
 [[nodiscard]] std::size_t read_bytes(std::FILE* file, std::span<std::uint8_t> buffer);
 // These answer false when not everything could be done. Written bytes are safe only after `flush_to_disk` and
 // `close_file` have succeeded too.
@@ -26,16 +27,16 @@ namespace quadrelle {
 [[nodiscard]] bool flush_to_disk(std::FILE* file);
 [[nodiscard]] bool close_file(File_Handle file);
 
-// In one step: at any time there is either the whole old or the whole new file under the name `to`.
+// Replaces in one step: at any time there is either the whole old or the whole new file under the name `to`.
 [[nodiscard]] bool replace_file(const std::string& from, const std::string& to);
 bool remove_file(const std::string& name);
 // Whether there is no such file yet, or a regular one that may be written to.
 [[nodiscard]] bool can_replace(const std::string& name);
-// Where the platform has permission bits, those of the file named, if there is one.
+// Where the platform has permission bits, the open file takes those of the file named, if there is one.
 void take_permissions(std::FILE* file, const std::string& name);
-// The file that a symbolic link finally points to, existing or not; any other name as it is.
+// Returns the file that a symbolic link finally points to, existing or not, and any other name as it is.
 [[nodiscard]] std::string resolve_links(const std::string& name);
-// The name's part up to and including the last separator; may be empty.
+// Returns the name's part up to and including the last separator; it may be empty.
 [[nodiscard]] std::string folder_part(const std::string& name);
 
 // Symbolic links are followed; one that leads nowhere is nothing.
@@ -46,15 +47,15 @@ struct Folder_Entry {
     std::string name;
     Path_Kind kind;
 };
-// What is in a folder, in no order, without "." and ".."; nothing when it cannot be read.
+// Returns what is in a folder, in no order, without "." and ".."; nothing when it cannot be read.
 [[nodiscard]] std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder);
 
 extern const char path_separator;
 [[nodiscard]] std::string current_directory();
 [[nodiscard]] bool change_directory(const std::string& name);
 
-// For tests: asked before every operation that can fail while a file is written (creating, writing, flushing,
-// closing, replacing); the answer true makes it fail. Null, the default, asks nobody.
+// A hook for tests: it is asked before every operation that can fail while a file is written (creating,
+// writing, flushing, closing, replacing); the answer true makes it fail. Null, the default, asks nobody.
 using File_Fault_Hook = bool (*)();
 void set_file_fault_hook(File_Fault_Hook hook);
 

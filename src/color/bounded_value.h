@@ -7,12 +7,12 @@
 
 namespace quadrelle {
 
-// Clamped to 0 to 255.
+// Clamps to 0 to 255.
 [[nodiscard]] constexpr std::uint8_t clamped_channel(int number) {
     return static_cast<std::uint8_t>(std::clamp(number, 0, 255));
 }
 
-// Clamped to 0 to 255 and truncated; what is not a number gives 0.
+// Clamps to 0 to 255 and truncates; what is not a number gives 0.
 [[nodiscard]] constexpr std::uint8_t truncated_channel(double number) {
     if (!(number > 0.0)) {
         return 0;

@@ -9,7 +9,8 @@
 
 namespace quadrelle {
 
-// Four channels 0 to 255, alpha 255 opaque. In memory blue, green, red, alpha: the 32-bit word 0xAARRGGBB.
+// Its four channels go from 0 to 255; alpha 255 is opaque. In memory they stand as blue, green, red, alpha:
+// the 32-bit word 0xAARRGGBB.
 struct Color {
     std::uint8_t b = 0;
     std::uint8_t g = 0;
@@ -21,11 +22,11 @@ struct Color {
         : b(static_cast<std::uint8_t>(blue)), g(static_cast<std::uint8_t>(green)),
           r(static_cast<std::uint8_t>(red)), a(static_cast<std::uint8_t>(alpha)) {}
 
-    // From and to 0xAARRGGBB.
+    // The word is 0xAARRGGBB.
     [[nodiscard]] static constexpr Color from_word(std::uint32_t word);
     [[nodiscard]] constexpr std::uint32_t word() const;
 
-    // All four channels; `same_rgb` is the comparison that ignores alpha.
+    // Compares all four channels; `same_rgb` ignores alpha.
     constexpr bool operator==(const Color&) const = default;
     [[nodiscard]] constexpr bool same_rgb(Color other) const {
         return r == other.r && g == other.g && b == other.b;
@@ -33,41 +34,41 @@ struct Color {
 
     constexpr void set(int red, int green, int blue, int alpha) { *this = Color(red, green, blue, alpha); }
     constexpr void set_rgb(int red, int green, int blue) { *this = Color(red, green, blue, a); }
-    // Transparent black.
+    // Makes it transparent black.
     constexpr void clear() { *this = Color(0, 0, 0, 0); }
 
-    // 0 red, 1 green, 2 blue; every other index is alpha.
+    // Index 0 is red, 1 green, 2 blue; every other one is alpha.
     [[nodiscard]] constexpr std::uint8_t channel(int index) const;
     [[nodiscard]] constexpr std::uint8_t max_channel() const { return std::max({r, g, b}); }
     [[nodiscard]] constexpr std::uint8_t min_channel() const { return std::min({r, g, b}); }
     [[nodiscard]] constexpr bool is_grey() const { return r == g && g == b; }
 
-    // Modulo 256: these wrap around on purpose.
+    // These wrap around at 256 on purpose.
     constexpr void add(int red, int green, int blue, int alpha);
     constexpr void add_rgb(int red, int green, int blue) { add(red, green, blue, 0); }
-    // Adds to the channel of that index within 0 to 255: 0, or -1 when it met a bound.
+    // Adds to the channel of that index within 0 to 255. Returns 0, or -1 when it met a bound.
     constexpr int add_clamped(int index, int amount);
 
     constexpr void invert() { set_rgb(255 - r, 255 - g, 255 - b); }
 
-    // Red, green and blue by the same amount within 0 to 255; the sums are truncated.
+    // These change red, green and blue by the same amount within 0 to 255 and truncate the sums.
     constexpr void brighten(double amount) { shift(amount, amount, amount); }
     constexpr void darken(double amount) { brighten(-amount); }
-    // By the weight of each channel in the eye. The weight of blue is no misprint of 0.114: the weights
+    // These weigh each channel as the eye does. The weight of blue is no misprint of 0.114: the weights
     // sum to 1.03 deliberately.
     constexpr void brighten_weighted(double amount) { shift(0.299 * amount, 0.587 * amount, 0.144 * amount); }
     constexpr void darken_weighted(double amount) { brighten_weighted(-amount); }
 
-    // Half this and half the other, truncated, with the other's alpha.
+    // Takes half of this and half of the other, truncated, and the other's alpha.
     constexpr void average(Color other);
-    // The share `own` (0 to 1) of this and the rest of the other, truncated, with the other's alpha.
+    // Takes the share `own` (0 to 1) of this and the rest of the other, truncated, and the other's alpha.
     constexpr void blend(Color other, double own);
-    // Keeps the length of (red, green, blue) and takes the other's direction; black as other gives black.
+    // Keeps the length of (red, green, blue) and takes the other's direction; toward black it is black.
     void match_direction(Color other);
 
-    // Relative luminance as sRGB defines it, 0 to 1.
+    // Returns the relative luminance as sRGB defines it, 0 to 1.
     [[nodiscard]] double luminance() const;
-    // Darker to the eye than the middle between black and white.
+    // Whether it is darker to the eye than the middle between black and white.
     [[nodiscard]] bool is_dark() const;
 
 private:

@@ -57,9 +57,9 @@ public:
     // stands there twice is fatal.
     explicit Color_Data(std::span<const Named_Color> table = named_colors);
 
-    // The name of exactly this colour, in all four channels: only opaque colours have one.
+    // Returns the name of exactly this colour, alpha included: only opaque colours have one.
     [[nodiscard]] std::optional<std::string_view> name_of(Color color) const;
-    // The same, but "---" for a colour that has none.
+    // Returns the name, or "---" for a colour that has none.
     [[nodiscard]] std::string_view shown_name(Color color) const;
     // Appends every named colour in the order of the table.
     void all(std::vector<Named_Color>& list) const;
@@ -68,12 +68,12 @@ private:
     std::span<const Named_Color> rows_;
 };
 
-// "97, 18, 124, 255": the channels and alpha.
+// Returns the channels and alpha as in "97, 18, 124, 255".
 [[nodiscard]] std::string color_numbers(Color color);
-// Channels, alpha and luminance in per cent: three lines, broken by "\r".
+// Returns channels, alpha and luminance in per cent as three lines, broken by "\r".
 [[nodiscard]] std::string color_information(Color color);
 
-// Built at start-up.
+// It is built at start-up.
 extern std::unique_ptr<Color_Data> color_data;
 
 } // namespace quadrelle

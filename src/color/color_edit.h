@@ -52,11 +52,11 @@ public:
     // A grey keeps the hue of the colour before it.
     void set_color(Color color);
 
-    // To the nearest whole number.
+    // Returns the nearest whole number.
     [[nodiscard]] int number(Color_Channel channel) const;
-    // Taken to the nearest bound. The number that is there already changes nothing.
+    // Takes the number to the nearest bound; one that is there already changes nothing.
     void set_number(Color_Channel channel, int number);
-    // Around the wheel for the hue, up to the bounds for all others.
+    // Steps around the wheel for the hue, up to the bounds for all others.
     void step(Color_Channel channel, int amount);
 
 private:

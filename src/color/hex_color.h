@@ -10,7 +10,7 @@
 
 namespace quadrelle {
 
-// "#61127c", and two more digits for the alpha of a colour that is not opaque.
+// Returns a text like "#61127c", with two more digits for the alpha of a colour that is not opaque.
 [[nodiscard]] std::string hex_text(Color color);
 
 // The colour, or what is wrong with the text.

@@ -10,7 +10,7 @@ namespace quadrelle {
 // Going to this form and back deliberately changes most colours: the saturation is measured at the average
 // of the three channels, while the way back assumes the middle of the largest and the smallest.
 struct HSL_Color {
-    // Degrees, 0 to below 360 after `from_rgb`.
+    // It is in degrees, 0 to below 360 after `from_rgb`.
     double hue = 0.0;
     Bounded_Value saturation{0.0, 1.0};
     Bounded_Value lightness{0.0, 1.0};
@@ -20,7 +20,7 @@ struct HSL_Color {
 
     // For a grey colour the reference gives the hue and the lightness.
     void from_rgb(Color color, Color reference);
-    // Opaque, each channel rounded to the nearest.
+    // The result is opaque, each channel rounded to the nearest number.
     [[nodiscard]] Color to_rgb() const;
 };
 

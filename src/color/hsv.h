@@ -8,10 +8,10 @@
 namespace quadrelle {
 
 struct HSV_Color {
-    // Degrees, 0 to below 360 after `from_rgb`; not a number when the colour and its reference are grey.
+    // It is in degrees, 0 to below 360 after `from_rgb`, and not a number when colour and reference are grey.
     double hue = 0.0;
     Bounded_Value saturation{0.0, 1.0};
-    // On the scale of the channels, not a fraction.
+    // It is on the scale of the channels and no fraction.
     Bounded_Value value{0.0, 255.0};
 
     HSV_Color() = default;
@@ -19,9 +19,9 @@ struct HSV_Color {
 
     // The reference gives the hue when the colour is grey.
     void from_rgb(Color color, Color reference);
-    // Opaque. A hue that is not a number or is outside 0 to 420 gives the grey of the value.
+    // The result is opaque. A hue that is not a number or is outside 0 to 420 gives the grey of the value.
     [[nodiscard]] Color to_rgb() const;
-    // The same with each channel rounded, not truncated: every colour comes back from this form as it was.
+    // Rounds each channel where `to_rgb` truncates: every colour comes back from this form as it was.
     [[nodiscard]] Color nearest_rgb() const;
 };
 

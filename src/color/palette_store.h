@@ -17,19 +17,19 @@ struct Palette {
     Palette(std::string palette_name, int count);
 };
 
-// Never without a palette; a palette that was read has 0 to 1024 entries. Palettes and entries outside of the
-// store read as "" and opaque black, and are not set.
+// The store is never without a palette; a palette that was read has 0 to 1024 entries. Palettes and entries
+// outside of the store read as "" and opaque black, and are not set.
 class Palette_Store {
 public:
-    // Reads the file in the current directory; without one, or with one that holds no palette, the
-    // built-in palettes. A file that is shorter than it says is fatal.
+    // Reads the file in the current directory. Without one, or with one that holds no palette, the store has
+    // the built-in palettes. A file that is shorter than it says is fatal.
     explicit Palette_Store(std::string file_name = "palette.dat");
     // Writes the file when a colour was set; says nothing when it cannot.
     ~Palette_Store();
     Palette_Store(const Palette_Store&) = delete;
     Palette_Store& operator=(const Palette_Store&) = delete;
 
-    // The number of palettes.
+    // Counts the palettes.
     [[nodiscard]] int size() const { return static_cast<int>(palettes_.size()); }
     [[nodiscard]] int count(int palette) const;
     [[nodiscard]] std::string name(int palette) const;
@@ -47,7 +47,7 @@ private:
     std::vector<Palette> palettes_;
 };
 
-// Built at start-up inside the data directory, destroyed there too.
+// It is built at start-up inside the data directory and destroyed there too.
 extern std::unique_ptr<Palette_Store> palette_store;
 
 } // namespace quadrelle

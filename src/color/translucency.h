@@ -7,14 +7,13 @@
 
 namespace quadrelle {
 
-// Of the pixel that many pixels right of and below the corner of the board.
+// Returns the colour of the pixel that lies x right of and y below the corner of the board.
 [[nodiscard]] constexpr Color checkerboard_color(int x, int y, Size square = {6, 6}) {
     const bool is_light = (x / square.width + y / square.height) % 2 != 0;
     return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
 }
 
-// The colour that shows when an area of the second colour is filled with the first one, as the renderer
-// blends.
+// Returns what shows when the colour is laid over the background, as the renderer blends.
 [[nodiscard]] constexpr Color blended_over(Color color, Color background) {
     if (color.a == 255) {
         return color;

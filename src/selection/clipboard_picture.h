@@ -11,18 +11,19 @@
 
 namespace quadrelle {
 
-// Neither a picture nor a fault when there is nothing to take.
+// It is neither a picture nor a fault when there is nothing to take.
 using Clipboard_Picture = Decoded_Picture;
 
 class System_Clipboard {
 public:
     // The picture takes the place of whatever was there.
     void offer(const Tile& picture);
-    // What another program has put there since the last offer or the last time that something was taken.
+    // Returns what another program has put there since the last offer or the last time that something was
+    // taken.
     [[nodiscard]] Clipboard_Picture take();
 
 private:
-    // A fingerprint: a picture that stays there is taken only once.
+    // The fingerprint of what was taken: a picture that stays there is taken only once.
     std::optional<std::size_t> taken_;
 };
 

@@ -13,14 +13,14 @@ class Copy_Buffer {
 public:
     static constexpr std::size_t capacity = 16;
 
-    // Becomes the current one; beyond the capacity the oldest copy is forgotten.
+    // The copy becomes the current one; beyond the capacity the oldest one is forgotten.
     void add(const Floating_Paste& copy);
-    // At the place from which it was copied; null while nothing was copied.
+    // Returns the copy at the place from which it was taken; null while nothing was copied.
     [[nodiscard]] const Floating_Paste* current() const;
-    // The newest one first.
+    // The newest copy comes first.
     [[nodiscard]] const std::deque<Floating_Paste>& copies() const { return copies_; }
     [[nodiscard]] std::size_t current_index() const { return current_; }
-    // What has no such copy changes nothing.
+    // An index that no copy has changes nothing.
     void choose(std::size_t index);
 
 private:
@@ -31,7 +31,7 @@ private:
 // Where a copy lies when it is cloned.
 enum class Clone_Style : int { original_location, centred, top_left, resized };
 [[nodiscard]] Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile);
-// One that lies beside the tile, as those from a larger one may, comes into its middle.
+// Returns the paste, moved into the middle of the tile if it lies beside it, as one from a larger tile may.
 [[nodiscard]] Floating_Paste in_view(const Floating_Paste& paste, Size tile);
 
 } // namespace quadrelle

@@ -18,15 +18,15 @@ struct Floating_Paste {
     Tile picture;        // transparent where it leaves what is below
     Tile_Point position; // of its top left corner in the tile
 
-    // Nothing outside the picture, which counts as transparent.
+    // Returns none outside the picture; what is there counts as transparent.
     [[nodiscard]] std::optional<Color> pixel_over(Tile_Point tile_pixel) const;
     [[nodiscard]] bool covers(Tile_Point tile_pixel) const;
-    // Where it lies in the tile, cut to it.
+    // Returns where it lies in the tile, cut to it.
     [[nodiscard]] Selection area(Size tile) const;
     void plot(Drawing_Target& target) const;
 };
 
-// The selected pixels, from the corner of their bounds. The selection is not empty.
+// Returns a copy of the selected pixels, in place. The selection is not empty.
 [[nodiscard]] Floating_Paste lifted(const Tile& tile, const Selection& selection);
 
 // Makes the selected pixels transparent.

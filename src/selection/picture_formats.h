@@ -1,6 +1,6 @@
 #pragma once
 
-// Pictures as the bytes of a file, for other programs. What comes from them is trusted in nothing.
+// Pictures as the bytes of a file, for other programs. What comes from them is checked before it is used.
 
 #include "pixels/tile.h"
 
@@ -16,7 +16,7 @@ namespace quadrelle {
 enum class Picture_Fault { none, broken, too_large };
 
 struct Decoded_Picture {
-    std::optional<Tile> picture; // there when there is no fault; has pixels
+    std::optional<Tile> picture; // present when there is no fault, and then has pixels
     Picture_Fault fault = Picture_Fault::none;
 };
 
@@ -39,7 +39,7 @@ struct Picture_Format {
 [[nodiscard]] std::vector<std::uint8_t> encode_png(const Tile& picture);
 #endif
 
-// The best one first.
+// The best format comes first.
 constexpr std::array picture_formats = std::to_array<Picture_Format>({
 #ifdef QUADRELLE_HAS_PNG
     {"image/png", decode_png, encode_png},
@@ -47,7 +47,7 @@ constexpr std::array picture_formats = std::to_array<Picture_Format>({
     {"image/bmp", decode_bitmap, encode_bitmap},
 });
 
-// What the size, as a file announces it, is worth. To be asked before memory is taken.
+// Judges the size that a file announces. It is asked before memory is taken.
 [[nodiscard]] Picture_Fault fault_of_size(std::int64_t width, std::int64_t height);
 
 } // namespace quadrelle

@@ -8,16 +8,16 @@
 
 namespace quadrelle {
 
-// Turned clockwise about its middle, in whole degrees, into a picture of that size with the same middle. What
+// Returns the picture turned clockwise about its middle, in that size, with the same middle. What
 // turns out of it is lost, what turns in is transparent. Turns by 90 degrees are exact where the picture
 // keeps its middle on a pixel or between pixels.
 [[nodiscard]] Tile turned(const Tile& picture, int degrees, Size size);
 
-// As large as it has to be to lose nothing; the middle stays where it was.
+// Returns the paste turned, as large as it has to be to lose nothing; the middle stays where it was.
 [[nodiscard]] Floating_Paste turned(const Floating_Paste& paste, int degrees);
 
-// From the direction in which `from` lies of the middle to that of `to`, clockwise, 0 to 359. The middle is
-// given in half pixels.
+// Returns the degrees, 0 to 359 clockwise, from the direction of `from`, seen from the middle, to that of
+// `to`. The middle is given in half pixels.
 [[nodiscard]] int turn_between(Tile_Point from, Tile_Point to, Tile_Point middle_in_halves);
 
 } // namespace quadrelle

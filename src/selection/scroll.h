@@ -10,8 +10,8 @@ namespace quadrelle {
 
 // By any number of pixels, to the right and down where positive.
 void scroll_wrapped(Tile& tile, Tile_Point offset);
-// Only the selected pixels of each row, and then of each column, around among themselves. The selection has
-// the tile's size.
+// Moves only the selected pixels of each row, and then of each column, around among themselves. The selection
+// has the tile's size.
 void scroll_selected(Tile& tile, const Selection& selection, Tile_Point offset);
 
 } // namespace quadrelle

@@ -14,17 +14,17 @@ enum class Selection_Change { add, remove };
 
 class Selection {
 public:
-    // Nothing is selected.
+    // Nothing is selected at first.
     explicit Selection(Size size);
 
     [[nodiscard]] Size size() const { return mask_.size(); }
     [[nodiscard]] bool is_empty() const { return count_ == 0; }
     [[nodiscard]] int count() const { return count_; }
-    // Nothing outside the tile is.
+    // Nothing outside the tile is selected.
     [[nodiscard]] bool contains(Tile_Point pixel) const { return mask_.is_white_at(pixel.x, pixel.y); }
-    // White where selected, else transparent black.
+    // The mask is white where selected, else transparent black.
     [[nodiscard]] const Tile& mask() const { return mask_; }
-    // The smallest rectangle around what is selected, in tile pixels; of size 0 when empty.
+    // Returns the smallest rectangle around what is selected, in tile pixels; its size is 0 when empty.
     [[nodiscard]] Rectangle bounds() const;
 
     void clear();
@@ -48,7 +48,7 @@ private:
     int count_ = 0;
 };
 
-// Between two corners of cells, in any order: what lies before the far one.
+// Selects what lies between two corners of cells, given in any order.
 [[nodiscard]] Selection selected_rectangle(Size size, Tile_Point from, Tile_Point to);
 
 } // namespace quadrelle

@@ -13,11 +13,11 @@ constexpr int export_rows = 16;
 // Tiles beyond these, which only a file can bring, are left out.
 constexpr int exported_tiles = export_columns * export_rows;
 
-// The tiles row by row, 16 in each of 16 rows. Cells that no tile is left for are opaque black.
+// Returns the tiles row by row, 16 in each of 16 rows. Cells that no tile is left for are opaque black.
 [[nodiscard]] Tile export_picture(const Tileset& tileset);
 
-// A Windows bitmap with its alpha, under a UTF-8 name. False when it could not be written; a file that was
-// there is unchanged then.
+// Writes a Windows bitmap with its alpha, under a UTF-8 name. Answers false when it could not be written; a
+// file that was there is unchanged then.
 [[nodiscard]] bool save_bitmap(const Tile& picture, const std::string& path);
 
 } // namespace quadrelle

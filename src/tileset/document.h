@@ -36,10 +36,10 @@ public:
     bool mark_changed();
     void clear_modified() { is_modified_ = false; }
     [[nodiscard]] bool is_modified() const { return is_modified_; }
-    // It has a file of its own.
+    // Whether it has a file of its own.
     [[nodiscard]] bool is_named() const { return is_named_; }
 
-    // The file name, followed by "*" while modified.
+    // Returns the file name, followed by "*" while modified.
     [[nodiscard]] std::string title() const;
 
     // The current tile, with what is selected on it and floats over it, becomes an entry of the history.

@@ -11,7 +11,7 @@ namespace quadrelle {
 struct Tile_Snapshot {
     explicit Tile_Snapshot(const Tile& source) : tile(source) {}
 
-    // As the statistics count it: the tile, and 8 bytes for a position.
+    // Counts as the statistics do: the tile, and 8 bytes for a position.
     [[nodiscard]] std::size_t memory_size() const { return 8 + tile.memory_size(); }
 
     Tile tile;

@@ -14,15 +14,15 @@ public:
     static constexpr int visible_cells = 51;
     static constexpr Rectangle area{4, 664 - 28, visible_cells* cell_size, cell_size};
 
-    // Borrows the set.
+    // The strip borrows the set.
     explicit Tile_Strip(const Tileset& tileset) : tileset_(&tileset) {}
 
     [[nodiscard]] const Tileset& tileset() const { return *tileset_; }
     [[nodiscard]] int count() const;
-    // Index of the tile in the leftmost cell; 0 without tiles.
+    // Returns the index of the tile in the leftmost cell; 0 without tiles.
     [[nodiscard]] int first() const { return first_; }
     [[nodiscard]] bool is_at_start() const { return first_ == 0; }
-    // Deliberately also when only the very last tile is out of view.
+    // The answer is deliberately true also when only the very last tile is out of view.
     [[nodiscard]] bool is_at_end() const { return first_ + visible_cells >= count() - 1; }
 
     void rewind() { first_ = 0; }
@@ -30,12 +30,12 @@ public:
     // A page keeps five of the old cells in view.
     void page_back() { scroll(-page); }
     void page_forward() { scroll(page); }
-    // After another tile became the current one, or the number of tiles changed.
+    // Must be called after another tile became the current one, or the number of tiles changed.
     void show_current();
 
-    // Cell, or -1 when the current tile is out of view.
+    // Returns a cell, or -1 when the current tile is out of view.
     [[nodiscard]] int cell_of_current() const;
-    // Index of the tile under the point, or -1.
+    // Returns the index of the tile under the point, or -1.
     [[nodiscard]] int tile_at(Point point) const;
 
 private:

@@ -22,7 +22,7 @@ public:
     // Whether the user has put something there.
     [[nodiscard]] bool is_stored(int slot) const { return slot_at(slot).is_stored; }
     [[nodiscard]] const Tile& tile(int slot) const { return slot_at(slot).snapshot->tile; }
-    // Resampled to that size where it is another one.
+    // Returns the tile, resampled to that size where it has another one.
     [[nodiscard]] Tile copy(int slot, Size tile_size) const;
 
 private:

@@ -31,29 +31,29 @@ public:
     // The index must be one of a tile.
     [[nodiscard]] Tile& tile_at(int i) { return *tiles_[static_cast<std::size_t>(i)]; }
     [[nodiscard]] const Tile& tile_at(int i) const { return *tiles_[static_cast<std::size_t>(i)]; }
-    // Null without tiles.
+    // It is null without tiles.
     [[nodiscard]] Tile* current_tile() { return has_tiles() ? &tile_at(current_index_) : nullptr; }
     [[nodiscard]] const Tile* current_tile() const {
         return has_tiles() ? &tile_at(current_index_) : nullptr;
     }
-    // In a file.
+    // Counts the bytes of a tile in a file.
     [[nodiscard]] std::int64_t tile_bytes() const;
     [[nodiscard]] std::int64_t total_bytes() const { return count() * tile_bytes(); }
 
-    // A new tile, opaque black, becomes the current one. False, and nothing changed, when full.
+    // A new tile, opaque black, becomes the current one. Answers false, with nothing changed, when full.
     bool add_tile();
-    // Before the current tile.
+    // Inserts it before the current tile.
     bool insert_tile();
-    // At the end, whatever the limit; the current tile stays. The tile must have the tile size.
+    // Adds the tile at the end, whatever the limit; the current one stays. It must have the tile size.
     void append_loaded(std::unique_ptr<Tile> tile);
 
-    // False at the end.
+    // Both answer false at the end.
     bool next();
     bool previous();
     // An index that no tile has selects the last one.
     void select(int i);
 
-    // The two exchange their pixels. False for one and the same, or where there is no tile.
+    // The two exchange their pixels. Answers false for one and the same, or where there is no tile.
     bool swap_tiles(int i, int j);
     // The last one left is filled with opaque black instead, with the answer false.
     bool delete_current();

@@ -12,15 +12,15 @@ namespace quadrelle {
 
 constexpr std::int64_t tileset_header_size = 11;
 
-// Bytes written, or -1 with the old file, if any, unchanged and nothing left behind. Through a symbolic link
-// it is the file that it points to which is replaced.
+// Returns the bytes written, or -1 with the old file, if any, unchanged and nothing left behind. Of a
+// symbolic link the file that it points to is replaced.
 [[nodiscard]] std::int64_t save_tileset(const Tileset& tileset, const std::string& path);
 
 enum class Load_Outcome { loaded, not_a_tileset };
 
 struct Loaded_Tileset {
     Load_Outcome outcome = Load_Outcome::not_a_tileset;
-    // Null unless loaded. With the first tile as the current one, or with no tile at all.
+    // It is null unless loaded. The first tile, if any, is the current one.
     std::unique_ptr<Tileset> tileset;
 };
 

@@ -7,8 +7,8 @@
 
 namespace quadrelle {
 
-// The command when it was carried out, `skip_command` where it was refused: without a tile, and for the
-// rotation of a tile that is not square. None for every other command.
+// Returns the command when it was carried out, `skip_command` where it was refused, without a tile and for
+// the rotation of a tile that is not square, and none for every other command.
 [[nodiscard]] Command transform_tile(Tile* tile, Command command);
 
 } // namespace quadrelle

@@ -45,24 +45,24 @@ public:
     void clear();
     // Nothing but the current tile is left: the floor that undoing ends at. Without tiles, nothing.
     void reset(const Tileset& tileset);
-    // The entry to restore, or null, with nothing changed, at the first and at the last one.
+    // Both return the entry to restore, or null, with nothing changed, at the first and at the last one.
     [[nodiscard]] const Undo_Entry* undo();
     [[nodiscard]] const Undo_Entry* redo();
 
-    // To be called after the tileset changed, so that entries keep to their tiles.
+    // Must be called after the tileset changed, so that entries keep to their tiles.
     void tile_inserted(int index);
     // The entries of the tile are dropped. Where nothing is left to stand on, as `reset`.
     void tile_deleted(int index, const Tileset& tileset);
 
-    // The oldest one first.
+    // The oldest entry comes first.
     [[nodiscard]] std::span<const Undo_Entry> entries() const { return entries_; }
-    // Index of the entry that matches what is on screen; -1 without entries.
+    // Returns the index of the entry that matches what is on screen; -1 without entries.
     [[nodiscard]] int position() const { return position_; }
-    // That entry; null without entries.
+    // Returns that entry; null without entries.
     [[nodiscard]] const Undo_Entry* current() const {
         return position_ < 0 ? nullptr : &entries_[static_cast<std::size_t>(position_)];
     }
-    // Memory in units of 1024 bytes, rounded down.
+    // Returns the memory in units of 1024 bytes, rounded down.
     [[nodiscard]] int size_kb() const;
 
 private:

@@ -25,21 +25,21 @@ enum class Brush_Owner : std::int32_t {
     stamp_brush = 6
 };
 
-// At least one pixel wide and high.
+// A brush is at least one pixel wide and high.
 class Brush {
 public:
-    // Row by row from the top; no colour where the mask is clear. Throws std::length_error for a size
-    // below 1 or a number of pixels that does not fit it.
+    // The pixels stand row by row from the top, without a colour where the mask is clear. Throws
+    // std::length_error for a size below 1 or a number of pixels that does not fit it.
     Brush(Size size, std::vector<std::optional<Color>> pixels, Brush_Owner owner);
 
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] Brush_Owner owner() const { return owner_; }
-    // None where the mask is clear; x and y lie inside the brush.
+    // Returns none where the mask is clear; x and y lie inside the brush.
     [[nodiscard]] std::optional<Color> pixel(int x, int y) const {
         return pixels_[static_cast<std::size_t>(x) +
                        static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(y)];
     }
-    // Of brushes laid side by side without end, one of them with its corner on (0, 0).
+    // Returns the pixel of brushes laid side by side without end, one of them with its corner on (0, 0).
     [[nodiscard]] std::optional<Color> wallpaper_pixel(std::int64_t x, std::int64_t y) const;
 
 private:
@@ -52,7 +52,7 @@ private:
 [[nodiscard]] Brush built_in_brush(Brush_Shape shape, int size_index, Color color,
                                    Brush_Owner owner = Brush_Owner::pen);
 
-// The picture where the mask is white.
+// The brush is the picture where the mask is white.
 [[nodiscard]] Brush stamp_brush(const Tile& picture, const Tile& mask);
 
 } // namespace quadrelle

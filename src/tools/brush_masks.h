@@ -1,6 +1,6 @@
 #pragma once
 
-// The pictures of the built-in brushes: seven shapes in six sizes. Knows no colour.
+// The masks of the built-in brushes: seven shapes in six sizes. Knows no colour.
 
 #include <array>
 #include <cstddef>
@@ -100,7 +100,7 @@ constexpr std::array<Sheet, brush_shape_count> table{{
 
 } // namespace brush_masks
 
-// Of the brush that is `size_index` + 1 pixels wide and high; x and y lie inside it.
+// Whether the pixel is set in the brush that is `size_index` + 1 pixels wide and high; x and y lie inside it.
 [[nodiscard]] constexpr bool brush_mask_at(Brush_Shape shape, int size_index, int x, int y) {
     const brush_masks::Sheet& sheet = brush_masks::table.at(static_cast<std::size_t>(shape));
     const std::size_t column = brush_masks::columns.at(static_cast<std::size_t>(size_index));

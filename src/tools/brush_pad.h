@@ -24,8 +24,8 @@ struct Pad_Brush {
     Tile picture;
     Tile mask;
     std::array<std::int32_t, 2> pair{}; // only kept for the file, which has room for it
-    // Two pixels wider and higher than the brush. What is not transparent black, the brush and a ring of one
-    // pixel around it, takes room on the board.
+    // It is two pixels wider and higher than the brush. What is not transparent black, the brush and a ring
+    // of one pixel around it, takes room on the board.
     Tile outline;
     Tile_Point position; // of the outline's corner on the board
     std::uint8_t id = 0; // from 1 on the board
@@ -38,33 +38,33 @@ public:
 
     Brush_Pad();
 
-    // A brush that is not on the board, instead of the one before, and the current one. False without a set
-    // pixel.
+    // Makes a brush that is not on the board, instead of the one before, and chooses it. Answers false for a
+    // mask without a set pixel.
     bool make_temporary(const Tile& picture, const Tile& mask);
-    // Lays the temporary brush on the board, in the first place with room for it. False without such a brush,
-    // place or identifier.
+    // Lays the temporary brush on the board, in the first place with room for it. Answers false without
+    // such a brush, place or identifier.
     bool move_to_pad();
-    // The first one on the board is the current one then. False when there was none.
+    // The first brush on the board is the current one then. Answers false when there was none to delete.
     bool delete_current();
-    // The brush that covers the cell becomes the current one; false where there is none.
+    // Chooses the brush that covers the cell; answers false where there is none.
     bool click(Tile_Point cell);
 
     [[nodiscard]] bool has_current() const { return current_ != nullptr; }
-    // Null for none; this and `current_brush` are valid until the pad is changed.
+    // Null stands for none; this and `current_brush` are valid until the pad is changed.
     [[nodiscard]] const Pad_Brush* current() const { return current_; }
-    // Only while there is one.
+    // May be asked only while there is one.
     [[nodiscard]] const Brush& current_brush() const { return current_->brush; }
-    // Those on the board, in the order in which they came there.
+    // Lists those on the board, in the order in which they came there.
     [[nodiscard]] const std::vector<std::unique_ptr<Pad_Brush>>& brushes() const { return brushes_; }
-    // 0 for a free cell and outside of the board.
+    // Returns 0 for a free cell and outside of the board.
     [[nodiscard]] std::uint8_t identifier_at(Tile_Point cell) const;
 
-    // Whether the board is another one than that of the file.
+    // Whether the board differs from that of the file.
     [[nodiscard]] bool changed() const { return changed_; }
-    // Another one whenever the board or the current brush was changed.
+    // The number is another one whenever the board or the current brush was changed.
     [[nodiscard]] int revision() const { return revision_; }
 
-    // The whole pad. What cannot be a brush of it is left out.
+    // These take the whole pad. What cannot be a brush of it is left out.
     void load(Data_Stream& record);
     void save(Data_Stream& record) const;
 

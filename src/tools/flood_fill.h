@@ -21,9 +21,9 @@ enum class Flood_Bounds : std::int32_t { selection, whole_tile };
 // The pixels that a flood reached, of a grid as large as the tile.
 class Flood_Area {
 public:
-    // The area of the seed's colour around it, through the four sides of pixels; empty when the seed is
-    // outside the tile or the bounds. Pixels that differ only in alpha differ: an opaque black line holds
-    // where all around it is transparent black.
+    // Finds the area of the seed's colour around it, through the four sides of pixels; it is empty when the
+    // seed is outside the tile or the bounds. Pixels that differ only in alpha differ: an opaque black line
+    // holds where all around it is transparent black.
     Flood_Area(const Drawing_Target& target, Tile_Point seed, Flood_Bounds bounds);
 
     // Calls visit(Tile_Point) row by row.
@@ -40,7 +40,8 @@ public:
     }
 
 private:
-    // 0: not reached; 1 to the limit: the wave that reached it, the seed's being 1; above: blocked.
+    // A cell is 0 where not reached, else the number of the wave that reached it, the seed's being 1; above
+    // the limit it is blocked.
     [[nodiscard]] static bool is_reached(std::int32_t cell) { return cell >= 1 && cell <= flood_wave_limit; }
     [[nodiscard]] bool is_inside(Tile_Point position) const;
     void flood(Tile_Point seed);

@@ -31,14 +31,14 @@ struct Lightness_Pace {
     Button_Order order = Button_Order::left_lightens;
 };
 
-// Milliseconds that must have passed, and one more, from step to step. The brush's width is in pixels.
+// Returns the milliseconds that must be exceeded from step to step. The brush's width is in pixels.
 [[nodiscard]] std::int64_t lightness_interval(const Lightness_Pace& pace, int brush_width);
 
-// Lighten or darken, as that button does; none for a button that never acts.
+// Returns lighten or darken, as that button does, or none for a button that never acts.
 [[nodiscard]] std::optional<Pixel_Operation> lightness_operation(Button_Order order, Mouse_Button button);
 
-// The same, and none when it is too early too. Times are in milliseconds; on a step the caller keeps `now` as
-// the last one.
+// Returns what `lightness_operation` does, or none while it is too early. Times are in milliseconds; on a
+// step the caller keeps `now` as the last one.
 [[nodiscard]] std::optional<Pixel_Operation> lightness_step(std::int64_t now, std::int64_t last_step,
                                                             const Lightness_Pace& pace, int brush_width,
                                                             Mouse_Button button);

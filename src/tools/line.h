@@ -19,12 +19,12 @@ struct Line_Steps {
     int count = 0;
 };
 
-// Where a line starts and how it steps. What lies more than a million pixels away is cut off first; a line
-// that is wholly there has no points.
+// Tells where a line starts and how it steps. What lies more than a million pixels away is cut off first; a
+// line that is wholly there has no points.
 [[nodiscard]] Line_Steps line_steps(Tile_Point from, Tile_Point to);
 
-// Calls visit(Tile_Point) on one point for each step of the longer axis, both ends included. Deliberately in
-// single precision and rounded half away from zero: other arithmetic gives other pixels.
+// Calls visit(Tile_Point) on one point for each step of the longer axis, both ends included. The arithmetic
+// is deliberately of single precision and rounds half away from zero: any other gives other pixels.
 template <typename Visit>
 void walk_line(Tile_Point from, Tile_Point to, Visit visit) {
     Line_Steps line = line_steps(from, to);
@@ -37,7 +37,7 @@ void walk_line(Tile_Point from, Tile_Point to, Visit visit) {
 
 void draw_line(Drawing_Target& target, Tile_Point from, Tile_Point to, Color color);
 
-// The distance between the ends, truncated, plus one.
+// Returns the distance between the ends, truncated, plus one.
 [[nodiscard]] std::int64_t line_length(Tile_Point from, Tile_Point to);
 
 } // namespace quadrelle

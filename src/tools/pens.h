@@ -15,14 +15,14 @@ namespace quadrelle {
 
 enum class Pixel_Operation : std::int32_t { paint = 0, lighten = 1, darken = 2, colorize = 3, history = 5 };
 
-// What happens to a pixel that the brush covers. Borrows the history image.
+// What happens to a pixel that the brush covers. It borrows the history image.
 struct Ink {
     Pixel_Operation operation = Pixel_Operation::paint;
-    // Painted, or colorized toward, instead of the brush's own colours.
+    // The colour that is painted, or colorized toward, instead of the brush's own.
     std::optional<Color> color;
     Lightness_Mode lightness_mode = Lightness_Mode::linear;
     Colorize_Type colorize_type = Colorize_Type::linear;
-    // Without one, and outside it, `history` changes nothing.
+    // Without this tile, and outside of it, the operation `history` changes nothing.
     const Tile* history = nullptr;
 };
 
@@ -35,13 +35,13 @@ void apply_brush(Drawing_Target& target, const Brush& brush, Tile_Point corner, 
 void apply_pattern(Drawing_Target& target, const Brush& brush, Tile_Point corner, Tile_Point origin,
                    const Ink& ink);
 
-// The corner of the brush-sized cell around the position. Deliberately truncates toward zero, so that the
-// cells on both sides of zero share their corner.
+// Returns the corner of the brush-sized cell around the position. It deliberately truncates toward zero, so
+// that the cells on both sides of zero share their corner.
 [[nodiscard]] Tile_Point snapped_to_grid(Tile_Point position, Size cell);
 
 enum class Pen_Mode : std::int32_t { brush, pattern, offset };
 
-// Borrows the brush.
+// A pen borrows its brush.
 struct Pen {
     const Brush& brush;
     Pen_Mode mode = Pen_Mode::brush;
@@ -57,11 +57,11 @@ void draw_segment(Drawing_Target& target, const Pen& pen, Tile_Point from, Tile_
                   Segment_Start start);
 
 // Mixes every pixel that the brush covers half and half with the one that it would cover on the source
-// corner; a pixel whose source is outside the tile stays. In brush order, each reading what earlier ones
-// wrote: the colour is deliberately dragged through the brush.
+// corner; a pixel whose source is outside the tile stays. They go in brush order, each reading what earlier
+// ones wrote: the colour is deliberately dragged through the brush.
 void smudge(Drawing_Target& target, const Brush& brush, Tile_Point corner, Tile_Point source_corner);
 
-// Drags colour along the line pixel by pixel, each from the pixel before; nothing for a single pixel.
+// Drags colour along the line pixel by pixel, each from the pixel before; a single pixel stays.
 void smudge_segment(Drawing_Target& target, const Brush& brush, Tile_Point from, Tile_Point to);
 
 } // namespace quadrelle

@@ -35,7 +35,7 @@ enum class Colorize_Type : std::int32_t { linear, luma };
     return pixel;
 }
 
-// Half of each, with the target's alpha.
+// Returns half of each, with the target's alpha.
 [[nodiscard]] constexpr Color mixed_half_and_half(Color source, Color target) {
     source.average(target);
     return source;

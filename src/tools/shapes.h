@@ -15,7 +15,7 @@ struct Shape_Colors {
     Color inside;
 };
 
-// From a centre to the middle of a side, in pixels: 0 is a line. Negative ones count as positive.
+// Radii go from a centre to the middle of a side, in pixels: 0 is a line. Negative ones count as positive.
 struct Radii {
     int x = 0;
     int y = 0;
@@ -23,7 +23,7 @@ struct Radii {
     bool operator==(const Radii&) const = default;
 };
 
-// Corners in any order, both included.
+// The corners come in any order and are included.
 void draw_rectangle(Drawing_Target& target, Tile_Point from, Tile_Point to, Color color);
 void draw_filled_rectangle(Drawing_Target& target, Tile_Point from, Tile_Point to, Shape_Colors colors);
 
@@ -36,7 +36,7 @@ struct Button_Colors {
     Color other;
 };
 
-// The line, rectangle or ellipse of the action, dragged from the first point to the second; nothing for
+// Draws the line, rectangle or ellipse of the action, dragged from the first point to the second; nothing for
 // every other action. An ellipse is dragged from its centre.
 void draw_shape(Drawing_Target& target, Canvas_Action action, Tile_Point from, Tile_Point to,
                 Button_Colors colors);

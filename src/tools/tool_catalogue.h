@@ -84,12 +84,12 @@ static_assert(rows_follow_their_ids(table));
 
 inline constexpr const std::array<Tool_Row, tool_count>& tool_table = tool_rows::table;
 
-// Not for `Tool::none`.
+// The tool is not `Tool::none`.
 [[nodiscard]] constexpr const Tool_Row& row_of(Tool tool) {
     return tool_table.at(static_cast<std::size_t>(tool));
 }
 
-// The tool that the command selects, or none.
+// Returns the tool that the command selects, or none.
 [[nodiscard]] constexpr Tool tool_of(Command command) {
     for (const Tool_Row& row : tool_table) {
         if (row.command == command) {
@@ -99,7 +99,7 @@ inline constexpr const std::array<Tool_Row, tool_count>& tool_table = tool_rows:
     return Tool::none;
 }
 
-// The stroke of a tool's command; rectangles and circles come in one kind for each shape type.
+// Returns the stroke of a tool's command; rectangles and circles come in one kind for each shape type.
 [[nodiscard]] constexpr Canvas_Action canvas_action_of(Command command, Shape_Type shape) {
     const Tool tool = tool_of(command);
     if (tool == Tool::none) {
