@@ -2,8 +2,8 @@
 
 #include "screen/screen.h"
 #include "tileset/tileset_file.h"
+#include "tools/options.h"
 #include "ui/dialogs.h"
-#include "ui/options.h"
 #include "views/file_dialog.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 
 #include "app/editor_parts.h"
 #include "panes/tool_colors.h"
+#include "tools/options.h"
 #include "ui/dialogs.h"
-#include "ui/options.h"
 #include "views/undo_list.h"
 
 namespace quadrelle::edit_commands {

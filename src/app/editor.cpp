@@ -9,8 +9,9 @@
 #include "panes/toolbox.h"
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "tools/options.h"
 #include "ui/dialogs.h"
-#include "ui/options.h"
+#include "ui/modal_dialog.h"
 
 #include <string>
 
@@ -25,11 +26,11 @@ constexpr Size first_tile_size{24, 24};
 } // namespace
 
 Editor::Editor() : parts_([this](Present present) { redraw(present); }) {
-    dialogs->set_backdrop([this] { redraw(Present::no); });
+    set_backdrop([this] { redraw(Present::no); });
 }
 
 Editor::~Editor() {
-    dialogs->set_backdrop({});
+    set_backdrop({});
 }
 
 void Editor::run() {

@@ -1,7 +1,7 @@
 #include "app/editor_parts.h"
 
 #include "commands/command_table.h"
-#include "ui/options.h"
+#include "tools/options.h"
 
 namespace quadrelle {
 

@@ -2,7 +2,7 @@
 
 #include "app/document_export.h"
 #include "app/editor_parts.h"
-#include "ui/options.h"
+#include "tools/options.h"
 #include "views/new_tileset_dialog.h"
 
 namespace quadrelle::file_commands {

@@ -1,12 +1,13 @@
 #include "app/help_commands.h"
 
 #include "app/editor_parts.h"
+#include "base/debug_monitor.h"
 #include "panes/toolbox.h"
 #include "screen/screen.h"
-#include "ui/debug_monitor.h"
 #include "ui/dialogs.h"
 #include "views/about.h"
 #include "views/help_lists.h"
+#include "views/log_view.h"
 
 #include <variant>
 
@@ -38,7 +39,7 @@ Outcome about(Editor_Parts& /*editor*/) {
 }
 
 Outcome debug_monitor(Editor_Parts& /*editor*/) {
-    quadrelle::debug_monitor->show();
+    show_log();
     return Outcome::done;
 }
 

@@ -3,7 +3,7 @@
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
-#include "ui/options.h"
+#include "tools/options.h"
 
 #include <optional>
 

@@ -4,7 +4,7 @@
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
 #include "panes/toolbox.h"
-#include "ui/options.h"
+#include "tools/options.h"
 
 namespace quadrelle {
 

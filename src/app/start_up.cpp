@@ -2,15 +2,16 @@
 
 #include "app/editor.h"
 #include "base/data_directory.h"
+#include "base/debug_monitor.h"
 #include "base/fatal.h"
 #include "color/color_data.h"
 #include "color/palette_store.h"
 #include "panes/toolbox.h"
 #include "screen/screen.h"
-#include "ui/debug_monitor.h"
+#include "tools/options.h"
 #include "ui/dialogs.h"
-#include "ui/options.h"
 #include "views/new_tileset_dialog.h"
+#include "views/options_dialog.h"
 
 #include <SDL3/SDL.h>
 
@@ -49,7 +50,7 @@ void start_application() {
     data_directory().leave();
     color_data = std::make_unique<Color_Data>();
     new_tileset_dialog = std::make_unique<New_Tileset_Dialog>();
-    options = std::make_unique<Options>();
+    options = std::make_unique<Options>(std::make_unique<Options_Dialog>());
     options->load();
     editor = std::make_unique<Editor>();
 }

@@ -5,7 +5,7 @@
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
 #include "screen/events.h"
-#include "ui/options.h"
+#include "tools/options.h"
 
 #include <array>
 #include <utility>

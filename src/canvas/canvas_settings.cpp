@@ -1,6 +1,6 @@
 #include "canvas/canvas_settings.h"
 
-#include "ui/options.h"
+#include "tools/options.h"
 
 #include <algorithm>
 

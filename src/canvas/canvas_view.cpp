@@ -24,12 +24,6 @@ int seam_shift_of(int extent) {
     return half - half % 2;
 }
 
-bool ends_pan(const Input_Event& event) {
-    const bool is_release =
-        event.kind == Input_Kind::button_release && event.pointer.button != Mouse_Button::none;
-    return is_release || event.kind == Input_Kind::quit;
-}
-
 } // namespace
 
 Canvas_View::Canvas_View(int pixel_size)
@@ -149,15 +143,14 @@ void Canvas_View::pan(const std::function<void()>& redraw) {
     bool has_moved = false;
     float dx = 0;
     float dy = 0;
-    run_modal({"pan", redraw, [&](const Input_Event& event) {
-                   // The first motion only tells where the pointer was.
-                   if (event.kind == Input_Kind::pointer_motion && std::exchange(has_moved, true)) {
-                       dx += event.moved.x;
-                       dy += event.moved.y;
-                       origin_ = {start.x + static_cast<int>(dx), start.y + static_cast<int>(dy)};
-                   }
-                   return ends_pan(event) ? Loop_Step::end : Loop_Step::go_on;
-               }});
+    follow_pointer("pan", redraw, [&](const Input_Event& motion) {
+        // The first motion only tells where the pointer was.
+        if (std::exchange(has_moved, true)) {
+            dx += motion.moved.x;
+            dy += motion.moved.y;
+            origin_ = {start.x + static_cast<int>(dx), start.y + static_cast<int>(dy)};
+        }
+    });
 }
 
 Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settings& settings) const {

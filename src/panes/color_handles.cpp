@@ -192,15 +192,7 @@ void Color_Handles::drag(int row, Point point, const std::function<void()>& redr
         take(row, 0);
     };
     follow(point.x);
-    run_modal({"handle", redraw, [&](const Input_Event& event) {
-                   if (event.kind == Input_Kind::quit || event.kind == Input_Kind::button_release) {
-                       return Loop_Step::end;
-                   }
-                   if (event.kind == Input_Kind::pointer_motion) {
-                       follow(event.pointer.point().x);
-                   }
-                   return Loop_Step::go_on;
-               }});
+    follow_pointer("handle", redraw, [&](const Input_Event& motion) { follow(motion.pointer.point().x); });
 }
 
 // The colour that the slider would give there.

@@ -131,20 +131,14 @@ void HSV_Selector::drag(Mouse_Button side, Point point, Mode mode, const std::fu
     const Rectangle clip = mode == Mode::square ? square_rect_ : bar_rect_;
     const Hidden_Cursor hidden_cursor;
     pick(side, point, mode);
-    run_modal({"selector", redraw, [&](const Input_Event& event) {
-                   if (event.kind == Input_Kind::quit || event.kind == Input_Kind::button_release) {
-                       return Loop_Step::end;
-                   }
-                   if (event.kind == Input_Kind::pointer_motion) {
-                       const Point moved = event.pointer.point();
-                       const Point held = clamped(moved, clip);
-                       if (held != moved) {
-                           screen->warp_mouse(held);
-                       }
-                       pick(side, held, mode);
-                   }
-                   return Loop_Step::go_on;
-               }});
+    follow_pointer("selector", redraw, [&](const Input_Event& motion) {
+        const Point moved = motion.pointer.point();
+        const Point held = clamped(moved, clip);
+        if (held != moved) {
+            screen->warp_mouse(held);
+        }
+        pick(side, held, mode);
+    });
     marker_.reset();
     discard_events();
 }

@@ -79,6 +79,18 @@ void run_modal(const Modal_Loop& loop) {
     }
 }
 
+void follow_pointer(std::string_view loop, const std::function<void()>& draw,
+                    const std::function<void(const Input_Event& motion)>& follow) {
+    run_modal({loop, draw, [&follow](const Input_Event& event) {
+                   if (event.kind == Input_Kind::pointer_motion) {
+                       follow(event);
+                   }
+                   const bool is_released =
+                       event.kind == Input_Kind::button_release && event.pointer.button != Mouse_Button::none;
+                   return is_released || event.kind == Input_Kind::quit ? Loop_Step::end : Loop_Step::go_on;
+               }});
+}
+
 Idle_Outcome idle(std::string_view loop) {
     tell_watcher(loop);
     Idle_Outcome outcome = Idle_Outcome::nothing_happened;
@@ -95,7 +107,8 @@ void discard_events() {
     SDL_PumpEvents();
     key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
     button_was_released = button_was_released || SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP);
-    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+    SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_QUIT - 1);
+    SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);
 }
 
 bool is_shift_held() {

@@ -33,6 +33,11 @@ struct Modal_Loop {
 };
 void run_modal(const Modal_Loop& loop);
 
+// Draws, and again after each event, and hands on the pointer's motions, until a button is released or the
+// window is to be closed.
+void follow_pointer(std::string_view loop, const std::function<void()>& draw,
+                    const std::function<void(const Input_Event& motion)>& follow);
+
 enum class Idle_Outcome { nothing_happened, events_taken };
 
 // Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
@@ -42,7 +47,7 @@ Idle_Outcome idle(std::string_view loop);
 [[nodiscard]] bool take_key_release();
 [[nodiscard]] bool take_button_release();
 
-// Drops every event that waits.
+// Drops every event that waits but the request to quit.
 void discard_events();
 
 // Whether a shift key is held now.

@@ -5,7 +5,7 @@
 #include "base/data_stream.h"
 #include "screen/screen.h"
 #include "ui/button_dialog_item.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/text_dialog.h"
 
 #include <algorithm>
@@ -38,6 +38,12 @@ Dialog_Row& Dialog_Container::add_image_row(Sprite sprite) {
     Dialog_Row row;
     row.add<Image_Dialog_Item>(Item_Id{}, sprite);
     return add_row(std::move(row));
+}
+
+void Dialog_Container::add_message(std::string_view text) {
+    Dialog_Item& item = *add_text_row(text).items().front();
+    item.area.width = std::max(item.area.width, frame_.title_width());
+    item.area.height += dialog_margin;
 }
 
 void Dialog_Container::finish_ok() {
@@ -88,12 +94,13 @@ void Dialog_Container::place_buttons() {
 bool Dialog_Container::run() {
     result_ = {};
     rows_.begin();
-    {
-        const Dialog_Layer layer([this] { draw_frame_and_items(); });
-        const std::string name = "dialog \"" + frame_.title() + "\"";
-        run_modal({name, [] { dialogs->show_backdrop(); },
-                   [this](const Input_Event& event) { return handle(event); }});
-    }
+    const std::string name = "dialog \"" + frame_.title() + "\"";
+    run_dialog({name, [this] { draw(); },
+                [this](const Input_Event& event) {
+                    return event.kind == Input_Kind::button_press ? press(event.pointer) : Loop_Step::go_on;
+                },
+                Dialog_Keys::enter_or_y, [this] { return accept(); }});
+    // Escape deliberately is no Cancel: the items stay as they are.
     if (result_.kind == Dialog_Event_Kind::cancel) {
         rows_.revert();
     }
@@ -104,22 +111,9 @@ bool Dialog_Container::run() {
     return true;
 }
 
-Loop_Step Dialog_Container::handle(const Input_Event& event) {
-    switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: return handle_key(event.chord.key);
-    case Input_Kind::button_press: return press(event.pointer);
-    default: return Loop_Step::go_on;
-    }
-}
-
-// Escape deliberately is no Cancel: the items stay as they are.
-Loop_Step Dialog_Container::handle_key(Keycode pressed) {
-    if (pressed == key::enter || pressed == 'y') {
-        result_ = {Dialog_Event_Kind::accept};
-        return Loop_Step::end;
-    }
-    return pressed == key::escape ? Loop_Step::end : Loop_Step::go_on;
+Loop_Step Dialog_Container::accept() {
+    result_ = {Dialog_Event_Kind::accept};
+    return Loop_Step::end;
 }
 
 Loop_Step Dialog_Container::press(const Pointer_State& pointer) {
@@ -131,13 +125,7 @@ Loop_Step Dialog_Container::press(const Pointer_State& pointer) {
     return result_.closes() ? Loop_Step::end : Loop_Step::go_on;
 }
 
-void Dialog_Container::draw() {
-    dialogs->draw_backdrop();
-    draw_frame_and_items();
-    screen->present();
-}
-
-void Dialog_Container::draw_frame_and_items() const {
+void Dialog_Container::draw() const {
     frame_.draw();
     rows_.draw();
 }
@@ -166,8 +154,15 @@ void Dialog_Container::save_file() {
     Data_Stream stream;
     rows_.save(stream);
     if (!stream.save_to(data_directory().path(data_file_))) {
-        dialogs->message("Note", "Can't save dialog data.");
+        run_message("Note", "Can't save dialog data.");
     }
+}
+
+void run_message(std::string_view title, std::string_view text) {
+    Dialog_Container dialog(title);
+    dialog.add_message(text);
+    dialog.finish_ok();
+    dialog.run();
 }
 
 } // namespace quadrelle

@@ -23,6 +23,8 @@ public:
     // The text must outlive the dialog.
     Dialog_Row& add_text_row(std::string_view text);
     Dialog_Row& add_image_row(Sprite sprite);
+    // A text by itself: the dialog is at least as wide as its title.
+    void add_message(std::string_view text);
     // The last row: everything else is added before.
     void finish_ok();
     void finish_ok_cancel();
@@ -30,9 +32,6 @@ public:
     // True when accepted; the items are then saved. Cancel restores numbers and choices, but deliberately not
     // ticks; every other end leaves all items as they are.
     bool run();
-    // Editor, frame and items, presented.
-    void draw();
-
     [[nodiscard]] Dialog_Item* item(int id) const { return rows_.item(id); }
     // Of the item with that id; -1 without one.
     [[nodiscard]] int value(int id) const;
@@ -43,11 +42,10 @@ private:
     void finish(Dialog_Row buttons);
     void load_and_size();
     void place_buttons();
-    void draw_frame_and_items() const;
+    void draw() const;
     void load_file();
     void save_file();
-    Loop_Step handle(const Input_Event& event);
-    Loop_Step handle_key(Keycode pressed);
+    Loop_Step accept();
     Loop_Step press(const Pointer_State& pointer);
 
     std::string data_file_;
@@ -55,5 +53,8 @@ private:
     Dialog_Rows rows_;
     Dialog_Event result_;
 };
+
+// Shows a text and waits until it is dismissed.
+void run_message(std::string_view title, std::string_view text);
 
 } // namespace quadrelle

@@ -1,7 +1,7 @@
 #include "ui/dialog_item.h"
 
 #include "base/data_stream.h"
-#include "ui/debug_monitor.h"
+#include "base/debug_monitor.h"
 
 #include <string>
 

@@ -3,8 +3,9 @@
 #include "base/data_stream.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "ui/dialogs.h"
+#include "ui/number_prompt.h"
 
+#include <optional>
 #include <string>
 
 namespace quadrelle {
@@ -23,11 +24,11 @@ Dialog_Event Number_Dialog_Item::click(Point point) {
     if (!area.contains(point)) {
         return {};
     }
-    const int typed = dialogs->ask_number(point, number_.value(), number_.low(), number_.high());
-    if (typed == no_number) {
+    const std::optional<int> typed = ask_number(point, number_.value(), number_.low(), number_.high());
+    if (!typed) {
         return {};
     }
-    set(typed);
+    set(*typed);
     return {Dialog_Event_Kind::self};
 }
 

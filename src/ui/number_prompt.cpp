@@ -3,12 +3,13 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 namespace quadrelle {
 
@@ -36,7 +37,31 @@ int pulled_inside(int position, int extent, int limit) {
     return std::clamp(position, 0, std::max(limit - extent, 0));
 }
 
-} // namespace
+class Number_Prompt {
+public:
+    Number_Prompt(Point position, int value, int low, int high);
+
+    std::optional<int> run();
+
+private:
+    [[nodiscard]] std::string hint() const;
+    void draw() const;
+    Loop_Step handle(const Input_Event& event);
+    [[nodiscard]] Loop_Step press(const Pointer_State& pointer) const;
+    Loop_Step handle_key(Keycode pressed);
+    Loop_Step accept();
+    void append(char digit);
+    void change_sign();
+
+    int low_;
+    int high_;
+    std::string typed_;
+    // The first digit replaces the value that is shown at the start.
+    bool is_untouched_ = true;
+    bool is_refused_ = false;
+    std::optional<int> result_;
+    Rectangle box_;
+};
 
 Number_Prompt::Number_Prompt(Point position, int value, int low, int high)
     : low_(low), high_(high), typed_(std::to_string(value)) {
@@ -51,9 +76,9 @@ std::string Number_Prompt::hint() const {
 }
 
 std::optional<int> Number_Prompt::run() {
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"number prompt", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"number prompt", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
+                [this] { return accept(); }});
     return result_;
 }
 
@@ -84,7 +109,6 @@ void Number_Prompt::draw() const {
 
 Loop_Step Number_Prompt::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
     case Input_Kind::key_press: return handle_key(event.chord.key);
     case Input_Kind::button_press: return press(event.pointer);
     default: return Loop_Step::go_on;
@@ -97,12 +121,6 @@ Loop_Step Number_Prompt::press(const Pointer_State& pointer) const {
 }
 
 Loop_Step Number_Prompt::handle_key(Keycode pressed) {
-    if (pressed == key::escape) {
-        return Loop_Step::end;
-    }
-    if (pressed == key::enter || pressed == key::keypad_enter) {
-        return accept();
-    }
     if (pressed == key::backspace) {
         is_untouched_ = is_refused_ = false;
         if (!typed_.empty()) {
@@ -150,6 +168,12 @@ Loop_Step Number_Prompt::accept() {
     }
     result_ = static_cast<int>(number);
     return Loop_Step::end;
+}
+
+} // namespace
+
+std::optional<int> ask_number(Point position, int value, int low, int high) {
+    return Number_Prompt(position, value, low, high).run();
 }
 
 } // namespace quadrelle

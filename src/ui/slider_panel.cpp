@@ -2,7 +2,7 @@
 
 #include "screen/events.h"
 #include "screen/screen.h"
-#include "ui/dialogs.h"
+#include "ui/number_prompt.h"
 
 #include <algorithm>
 
@@ -82,8 +82,7 @@ Event_Use Slider_Panel::act(std::size_t index, Slider_Part part) {
 void Slider_Panel::ask(std::size_t index) {
     const Number_Slider_Row& row = sliders_[index].row();
     const Rectangle area = sliders_[index].number_area();
-    const std::optional<int> answer =
-        dialogs->ask_signed_number({area.x, area.y}, numbers_.number(index), row.low, row.high);
+    const std::optional<int> answer = ask_number({area.x, area.y}, numbers_.number(index), row.low, row.high);
     if (answer) {
         numbers_.set_number(index, *answer);
     }

@@ -6,7 +6,7 @@
 #include "screen/sprite_sheet.h"
 #include "tools/hsv_adjustment.h"
 #include "ui/dialog_frame.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/slider_panel.h"
 #include "ui/text_button.h"
 #include "views/beside_canvas.h"
@@ -73,7 +73,7 @@ private:
     void draw_note() const;
     Loop_Step handle(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
-    Loop_Step handle_key(const Input_Event& event);
+    void handle_key(const Input_Event& event);
     Loop_Step accept();
     void toggle_all_tiles();
     void show_change();
@@ -99,9 +99,9 @@ Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
 }
 
 std::optional<HSV_Adjustment> Adjust_HSV::run() {
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"dialog \"Adjust HSV\"", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"dialog \"Adjust HSV\"", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
+                [this] { return accept(); }});
     source_.copy_to(target_.tile());
     return is_accepted_ ? std::optional(adjustment_) : std::nullopt;
 }
@@ -165,27 +165,22 @@ void Adjust_HSV::draw_note() const {
 
 Loop_Step Adjust_HSV::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: return handle_key(event);
     case Input_Kind::button_press: return press(event);
-    default: sliders_.handle(event); return Loop_Step::go_on;
-    }
-}
-
-Loop_Step Adjust_HSV::handle_key(const Input_Event& event) {
-    switch (event.chord.key) {
-    case key::escape: return Loop_Step::end;
-    case key::enter:
-    case key::keypad_enter: return accept();
-    case 'a': toggle_all_tiles(); break;
-    default:
-        sliders_.handle(event);
-        if (!sliders_.has_focus()) {
-            sliders_.set_focus(0);
-        }
-        break;
+    case Input_Kind::key_press: handle_key(event); break;
+    default: sliders_.handle(event); break;
     }
     return Loop_Step::go_on;
+}
+
+void Adjust_HSV::handle_key(const Input_Event& event) {
+    if (event.chord.key == 'a') {
+        toggle_all_tiles();
+        return;
+    }
+    sliders_.handle(event);
+    if (!sliders_.has_focus()) {
+        sliders_.set_focus(0);
+    }
 }
 
 Loop_Step Adjust_HSV::press(const Input_Event& event) {

@@ -1,7 +1,7 @@
 #include "views/arrange_select.h"
 
 #include "tileset/tileset.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 
 #include <utility>
 
@@ -24,9 +24,8 @@ bool Arrangement::run() {
     secondary_ = 0;
     hovered_ = -1;
     has_swapped_ = false;
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({title, [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({title, [this] { draw(); }, [this](const Input_Event& event) { return handle(event); },
+                Dialog_Keys::enter_or_y, [] { return Loop_Step::end; }});
     return has_swapped_;
 }
 
@@ -55,7 +54,6 @@ std::string Arrangement::text() const {
 
 Loop_Step Arrangement::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
     case Input_Kind::key_press: return handle_key(event);
     case Input_Kind::pointer_motion: hovered_ = grid_.tile_at(event.pointer.point()); return Loop_Step::go_on;
     case Input_Kind::button_press: return press(event);
@@ -69,9 +67,6 @@ Loop_Step Arrangement::handle_key(const Input_Event& event) {
         return Loop_Step::go_on;
     }
     switch (event.chord.key) {
-    case key::escape:
-    case key::enter:
-    case 'y': return Loop_Step::end;
     case key::space: select_primary(); return Loop_Step::end;
     case key::tab: swap(); return Loop_Step::go_on;
     default: return Loop_Step::go_on;

@@ -6,7 +6,7 @@
 #include "screen/screen.h"
 #include "screen/text_input.h"
 #include "ui/dialog_frame.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/text_button.h"
 #include "views/beside_canvas.h"
 #include "views/color_data_view.h"
@@ -37,7 +37,6 @@ public:
 private:
     void draw() const;
     Loop_Step handle(const Input_Event& event);
-    Loop_Step handle_key(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
     Loop_Step hand_on(const Input_Event& event);
     Loop_Step accept(Color_Request request);
@@ -62,9 +61,9 @@ Color_Editor::Color_Editor(Color color) : edit_(color), data_(edit_, content), d
 
 Color_Choice Color_Editor::run() {
     const Text_Input text_input;
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"dialog \"Color editor\"", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"dialog \"Color editor\"", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
+                [this] { return accept(Color_Request::none); }});
     return choice_;
 }
 
@@ -86,26 +85,13 @@ void Color_Editor::draw() const {
 }
 
 Loop_Step Color_Editor::handle(const Input_Event& event) {
-    switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: {
-        const Loop_Step step = handle_key(event);
-        return step == Loop_Step::end ? step : hand_on(event);
+    if (event.kind == Input_Kind::button_press) {
+        return press(event);
     }
-    case Input_Kind::button_press: return press(event);
-    default: return hand_on(event);
+    if (event.kind == Input_Kind::key_press && event.chord.key == key::tab) {
+        show(view_ == View::data ? View::database : View::data);
     }
-}
-
-Loop_Step Color_Editor::handle_key(const Input_Event& event) {
-    switch (event.chord.key) {
-    case key::escape: return Loop_Step::end;
-    case key::enter:
-    case key::keypad_enter: return accept(Color_Request::none);
-    case key::tab: show(view_ == View::data ? View::database : View::data); break;
-    default: break;
-    }
-    return Loop_Step::go_on;
+    return hand_on(event);
 }
 
 Loop_Step Color_Editor::press(const Input_Event& event) {

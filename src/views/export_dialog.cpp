@@ -4,7 +4,7 @@
 #include "color/translucency.h"
 #include "screen/screen.h"
 #include "tileset/bitmap_export.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 
 #include <algorithm>
 
@@ -70,16 +70,15 @@ Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
 }
 
 bool Export_Dialog::run() {
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"dialog \"Export as .bmp\"", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"dialog \"Export as .bmp\"", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter_or_y,
+                [this] { return accept(); }});
     return is_accepted_;
 }
 
 Loop_Step Export_Dialog::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::key_press: handle_key(event.chord.key); break;
     case Input_Kind::button_press: return press(event.pointer);
     case Input_Kind::button_release: dragged_from_.reset(); break;
     case Input_Kind::pointer_motion: drag_to(event.pointer.point()); break;
@@ -89,18 +88,19 @@ Loop_Step Export_Dialog::handle(const Input_Event& event) {
     return Loop_Step::go_on;
 }
 
-Loop_Step Export_Dialog::handle_key(Keycode pressed) {
+Loop_Step Export_Dialog::accept() {
+    is_accepted_ = true;
+    return Loop_Step::end;
+}
+
+void Export_Dialog::handle_key(Keycode pressed) {
     switch (pressed) {
-    case key::enter:
-    case 'y': is_accepted_ = true; return Loop_Step::end;
-    case key::escape: return Loop_Step::end;
     case key::left: scroll_by({-scroll_step, 0}); break;
     case key::right: scroll_by({scroll_step, 0}); break;
     case key::up: scroll_by({0, -scroll_step}); break;
     case key::down: scroll_by({0, scroll_step}); break;
     default: break;
     }
-    return Loop_Step::go_on;
 }
 
 Loop_Step Export_Dialog::press(const Pointer_State& pointer) {

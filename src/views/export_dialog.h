@@ -26,7 +26,8 @@ public:
 
 private:
     [[nodiscard]] Loop_Step handle(const Input_Event& event);
-    [[nodiscard]] Loop_Step handle_key(Keycode pressed);
+    [[nodiscard]] Loop_Step accept();
+    void handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
     void drag_to(Point point);
     // Shows what lies that far to the right and below, as far as there is something.

@@ -9,6 +9,7 @@
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/shown_text.h"
 #include "ui/text_field.h"
 #include "views/file_list.h"
@@ -62,7 +63,7 @@ private:
 
     void draw() const;
     Loop_Step handle(const Input_Event& event);
-    Loop_Step handle_key(const Input_Event& event);
+    void handle_key(const Input_Event& event);
     bool handle_list_key(Keycode pressed);
     void type(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
@@ -110,9 +111,9 @@ File_Answer Own_Chooser::run() {
         return {File_Answer_State::failed, {}};
     }
     const Text_Input typing;
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"file chooser", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"file chooser", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
+                [this] { return accept(); }});
     return answer_;
 }
 
@@ -121,7 +122,7 @@ void Own_Chooser::draw() const {
     const Point path{layout_.path.x, layout_.path.y};
     screen->draw_text(font, path, fitted_text(font, listing_.folder(), layout_.path.width, Left_Out::start));
     list_.draw(focus_ == Part::list ? Focus::yes : Focus::no);
-    const std::string_view note = note_.empty() ? request_.filter_label : std::string_view(note_);
+    const std::string_view note = note_.empty() ? request_.filter_label : note_.c_str();
     screen->draw_text(font, {layout_.note.x, layout_.note.y},
                       fitted_text(font, note, layout_.note.width, Left_Out::middle));
     screen->draw_text(font, {layout_.label.x, layout_.label.y + text_drop}, "Name:");
@@ -132,8 +133,7 @@ void Own_Chooser::draw() const {
 
 Loop_Step Own_Chooser::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: return handle_key(event);
+    case Input_Kind::key_press: handle_key(event); break;
     case Input_Kind::typed_text: type(event); break;
     case Input_Kind::wheel: scroll(event.moved.y); break;
     case Input_Kind::pointer_motion: list_.drag(event.pointer.point()); break;
@@ -145,21 +145,14 @@ Loop_Step Own_Chooser::handle(const Input_Event& event) {
     return Loop_Step::go_on;
 }
 
-Loop_Step Own_Chooser::handle_key(const Input_Event& event) {
+void Own_Chooser::handle_key(const Input_Event& event) {
     const Keycode pressed = event.chord.key;
-    if (pressed == key::escape) {
-        return Loop_Step::end;
-    }
-    if (pressed == key::enter || pressed == key::keypad_enter) {
-        return accept();
-    }
     note_.clear();
     if (pressed == key::tab) {
         focus_ = focus_ == Part::list ? Part::name : Part::list;
     } else if (!handle_list_key(pressed) && focus_ == Part::name) {
         name_.handle(event);
     }
-    return Loop_Step::go_on;
 }
 
 // Up and down lead into the list from everywhere.
@@ -291,12 +284,12 @@ Loop_Step Own_Chooser::accept_name() {
 // A name typed without its extension means the file that has it.
 std::string Own_Chooser::final_path(const std::string& path) const {
     if (request_.direction == File_Direction::save) {
-        return request_.forced_extension.empty()
+        return std::string_view(request_.forced_extension).empty()
                    ? path
-                   : with_extension(path, std::string(request_.forced_extension));
+                   : with_extension(path, request_.forced_extension);
     }
-    const bool is_there = request_.pattern == "*" || path_kind(path) != Path_Kind::nothing;
-    return is_there ? path : path + "." + std::string(request_.pattern);
+    const bool is_there = std::string_view(request_.pattern) == "*" || path_kind(path) != Path_Kind::nothing;
+    return is_there ? path : path + "." + request_.pattern;
 }
 
 Loop_Step Own_Chooser::choose(const std::string& path) {

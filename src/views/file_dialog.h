@@ -2,7 +2,7 @@
 
 // Choosing a file to open or to save to: in the system's dialog, or in the program's own where there is none.
 
-#include "views/file_answer.h"
+#include "views/file_request.h"
 
 #include <cstdint>
 #include <functional>

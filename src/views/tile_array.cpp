@@ -2,7 +2,7 @@
 
 #include "screen/events.h"
 #include "tileset/tileset.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "views/tile_grid.h"
 
 #include <string>
@@ -18,9 +18,8 @@ public:
     }
 
     std::optional<int> run() {
-        const Dialog_Layer layer([this] { draw(); });
-        run_modal({"tile array", [] { dialogs->show_backdrop(); },
-                   [this](const Input_Event& event) { return handle(event); }});
+        run_dialog(
+            {"tile array", [this] { draw(); }, [this](const Input_Event& event) { return handle(event); }});
         return clicked_;
     }
 
@@ -62,7 +61,6 @@ std::string Tile_Array::text() const {
 
 Loop_Step Tile_Array::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
     case Input_Kind::key_press: return handle_key(event);
     case Input_Kind::pointer_motion: pointer_ = event.pointer.point(); return Loop_Step::go_on;
     case Input_Kind::button_press: return press(event.pointer);
@@ -77,7 +75,6 @@ Loop_Step Tile_Array::handle_key(const Input_Event& event) {
     case key::page_down: return turn_pages(1);
     // The key that opened the view may still be held.
     case key::tab: return event.is_repeat ? Loop_Step::go_on : Loop_Step::end;
-    case key::escape: return Loop_Step::end;
     default: return Loop_Step::go_on;
     }
 }

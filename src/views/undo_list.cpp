@@ -6,7 +6,7 @@
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "ui/dialog_frame.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/shown_tile.h"
 
 #include <cstddef>
@@ -64,14 +64,12 @@ void show_undo_list(const Undo_History& history) {
     const int count = static_cast<int>(history.entries().size());
     frame.set_size({row_size.width, count * row_step + room_around_rows});
     std::vector<Shown_Tile> thumbnails(history.entries().size());
-    const Dialog_Layer layer([&] { draw_list(history, thumbnails, frame); });
-    run_modal({"dialog \"Undo history\"", [] { dialogs->show_backdrop(); },
-               [](const Input_Event& event) {
-                   const bool dismisses = event.kind == Input_Kind::quit ||
-                                          event.kind == Input_Kind::key_press ||
-                                          event.kind == Input_Kind::button_press;
-                   return dismisses ? Loop_Step::end : Loop_Step::go_on;
-               }});
+    run_dialog({"dialog \"Undo history\"", [&] { draw_list(history, thumbnails, frame); },
+                [](const Input_Event& event) {
+                    const bool dismisses =
+                        event.kind == Input_Kind::key_press || event.kind == Input_Kind::button_press;
+                    return dismisses ? Loop_Step::end : Loop_Step::go_on;
+                }});
 }
 
 } // namespace quadrelle

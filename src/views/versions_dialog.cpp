@@ -6,7 +6,7 @@
 #include "ui/button_dialog_item.h"
 #include "ui/checkerboard.h"
 #include "ui/dialog_frame.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 #include "ui/shown_tile.h"
 #include "ui/swatch.h"
 #include "views/versions_layout.h"
@@ -37,7 +37,7 @@ private:
     void draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const;
     void draw_slot(int slot);
     [[nodiscard]] Loop_Step handle(const Input_Event& event);
-    [[nodiscard]] Loop_Step handle_key(Keycode pressed);
+    void handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
     void preview(int slot);
 
@@ -65,9 +65,8 @@ Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
 }
 
 std::optional<int> Versions_Dialog::run() {
-    const Dialog_Layer layer([this] { draw(); });
-    run_modal({"dialog \"Versions\"", [] { dialogs->show_backdrop(); },
-               [this](const Input_Event& event) { return handle(event); }});
+    run_dialog({"dialog \"Versions\"", [this] { draw(); },
+                [this](const Input_Event& event) { return handle(event); }});
     return takes_ ? selected_ : std::nullopt;
 }
 
@@ -109,20 +108,19 @@ void Versions_Dialog::draw_slot(int slot) {
 
 Loop_Step Versions_Dialog::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::quit: return Loop_Step::end;
-    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::key_press: handle_key(event.chord.key); break;
     case Input_Kind::button_press: return press(event.pointer);
     case Input_Kind::key_release:
-    case Input_Kind::button_release: is_previewing_ = false; return Loop_Step::go_on;
-    default: return Loop_Step::go_on;
+    case Input_Kind::button_release: is_previewing_ = false; break;
+    default: break;
     }
+    return Loop_Step::go_on;
 }
 
-Loop_Step Versions_Dialog::handle_key(Keycode pressed) {
+void Versions_Dialog::handle_key(Keycode pressed) {
     if (pressed >= '1' && pressed < '1' + Tile_Versions::slot_count) {
         preview(static_cast<int>(pressed - '1'));
     }
-    return pressed == key::escape ? Loop_Step::end : Loop_Step::go_on;
 }
 
 Loop_Step Versions_Dialog::press(const Pointer_State& pointer) {

@@ -5,7 +5,6 @@
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 #include "ui/dialog_container.h"
-#include "ui/options.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -100,11 +99,7 @@ TEST_F(Documents_Test, failed_save_keeps_the_name_and_the_mark) {
 TEST_F(Documents_Test, save_over_a_file_asks_where_the_option_says_so) {
     const std::string path = save_as("tiles.qdl");
     const Bytes before = stored(path);
-    constexpr int confirm_quick_save_id = 70;
-    Dialog_Item& tick = *options->dialog().item(confirm_quick_save_id);
-    tick.click({tick.area.x + 1, tick.area.y + 1});
-    options->load();
-    ASSERT_EQ(options->value(Option::confirm_quick_save), 1);
+    set_option(Option::confirm_quick_save, 1);
 
     execute(Command::save);
     draw_pixel(1, 1);

@@ -3,7 +3,7 @@
 #include "screen/cursor.h"
 #include "tests/support/window_test.h"
 
-#include <SDL3/SDL_mouse.h>
+#include <SDL3/SDL.h>
 
 #include <array>
 #include <cstdlib>
@@ -159,7 +159,7 @@ TEST_F(HSV_Selector_Test, a_marker_stands_for_the_hidden_pointer_until_the_butto
     EXPECT_LT(contrast(), 40);
 }
 
-TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_event) {
+TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_event_but_quit) {
     Script script;
     script.motion(square(500, 64))
         .check([this] {
@@ -172,6 +172,20 @@ TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_even
     EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
     EXPECT_TRUE(script.is_played());
     EXPECT_FALSE(SDL_HasEvents(SDL_EVENT_QUIT, SDL_EVENT_MOUSE_WHEEL));
+
+    // What comes at the same time as the release.
+    SDL_Event closed{.type = SDL_EVENT_QUIT};
+    SDL_Event moved{.type = SDL_EVENT_MOUSE_MOTION};
+    script.check([&] {
+        SDL_Event released{.type = SDL_EVENT_MOUSE_BUTTON_UP};
+        released.button.button = SDL_BUTTON_LEFT;
+        for (SDL_Event* event : {&released, &moved, &closed}) {
+            SDL_PushEvent(event);
+        }
+    });
+    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_FALSE(SDL_HasEvent(SDL_EVENT_MOUSE_MOTION));
+    EXPECT_TRUE(SDL_HasEvent(SDL_EVENT_QUIT));
 }
 
 } // namespace

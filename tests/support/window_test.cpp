@@ -1,8 +1,8 @@
 #include "tests/support/window_test.h"
 
 #include "base/data_directory.h"
+#include "base/debug_monitor.h"
 #include "screen/screen.h"
-#include "ui/debug_monitor.h"
 #include "ui/dialogs.h"
 
 #include <SDL3/SDL.h>

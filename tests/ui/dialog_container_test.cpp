@@ -3,7 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
-#include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 
 #include <gmock/gmock.h>
 
@@ -98,12 +98,14 @@ TEST_F(Dialog_Container_Test, is_sized_by_its_rows_and_centred) {
     EXPECT_EQ(wide.rows().rows()[0].area.bottom(), buttons[0]->area.y);
 }
 
-TEST_F(Dialog_Container_Test, return_y_and_ok_accept) {
+TEST_F(Dialog_Container_Test, enter_y_and_ok_accept) {
     make();
     Script script;
     script.key(key::enter);
     EXPECT_TRUE(dialog->run());
     script.key('y');
+    EXPECT_TRUE(dialog->run());
+    script.key(key::keypad_enter);
     EXPECT_TRUE(dialog->run());
     script.press(ok());
     EXPECT_TRUE(dialog->run());
@@ -134,7 +136,7 @@ TEST_F(Dialog_Container_Test, escape_and_closing_the_window_leave_the_items_as_t
 TEST_F(Dialog_Container_Test, is_drawn_over_the_backdrop) {
     make();
     int backdrops = 0;
-    dialogs->set_backdrop([&] {
+    set_backdrop([&] {
         ++backdrops;
         screen->fill_rect({0, 0, 1232, 664}, {1, 2, 3});
     });
@@ -154,8 +156,9 @@ TEST_F(Dialog_Container_Test, is_drawn_over_the_backdrop) {
     });
     dialog->run();
     EXPECT_EQ(backdrops, 3);
-    dialogs->show_backdrop();
+    show_backdrop();
     EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 3}), Color(1, 2, 3));
+    set_backdrop({});
 }
 
 TEST_F(Dialog_Container_Test, a_loop_that_waits_too_long_is_named) {
@@ -167,7 +170,7 @@ TEST_F(Dialog_Container_Test, a_loop_that_waits_too_long_is_named) {
     } catch (const std::runtime_error& error) {
         EXPECT_THAT(error.what(), HasSubstr("dialog \"Dialog\""));
     }
-    dialogs->draw_backdrop();
+    show_backdrop();
 }
 
 TEST_F(Dialog_Container_Test, keeps_its_items_in_the_data_file_once_accepted) {
@@ -205,7 +208,6 @@ TEST_F(Dialog_Container_Test, no_data_file_breaks_it) {
         EXPECT_GE(dialog->value(choice_id), 0);
         EXPECT_LE(dialog->value(choice_id), 2);
         EXPECT_GE(dialog->value(tick_id), 0);
-        dialog->draw();
         Script script;
         script.click(more(0)).click(more(1)).press(ok());
         EXPECT_TRUE(dialog->run());

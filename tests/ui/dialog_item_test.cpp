@@ -1,7 +1,7 @@
 #include "base/data_stream.h"
+#include "base/debug_monitor.h"
 #include "tests/support/window_test.h"
 #include "ui/button_dialog_item.h"
-#include "ui/debug_monitor.h"
 #include "ui/dialog_rows.h"
 #include "ui/number_dialog_item.h"
 #include "ui/text_dialog.h"

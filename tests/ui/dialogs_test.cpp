@@ -1,10 +1,11 @@
 #include "ui/dialogs.h"
 
+#include "base/debug_monitor.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
-#include "ui/debug_monitor.h"
-#include "views/new_tileset_dialog.h"
+#include "ui/number_prompt.h"
+#include "views/log_view.h"
 
 #include <algorithm>
 #include <functional>
@@ -30,10 +31,10 @@ constexpr int button_y(int lines) {
 
 class Number_Prompt_Test : public Dialogs_Test {
 protected:
-    int answer(const std::function<void(Script&)>& user, Point position = middle) {
+    std::optional<int> answer(const std::function<void(Script&)>& user, Point position = middle) {
         Script script;
         user(script);
-        const int number = dialogs->ask_number(position, 24, 6, 64);
+        const std::optional<int> number = ask_number(position, 24, 6, 64);
         EXPECT_TRUE(script.is_played());
         return number;
     }
@@ -84,7 +85,7 @@ TEST_F(Dialogs_Test, debug_monitor_fits_into_the_window) {
         EXPECT_TRUE(testing::has_picture({100, 30, 1000, 60}));
     });
     script.key(key::escape);
-    debug_monitor->show();
+    show_log();
 }
 
 TEST_F(Number_Prompt_Test, return_accepts_what_was_typed) {
@@ -110,7 +111,7 @@ TEST_F(Number_Prompt_Test, takes_negative_numbers_where_there_are_any) {
     const auto signed_answer = [](std::string_view typed, Keycode last = key::enter) {
         Script script;
         script.type(typed).key(last);
-        const std::optional<int> number = dialogs->ask_signed_number(middle, 24, -180, 180);
+        const std::optional<int> number = ask_number(middle, 24, -180, 180);
         EXPECT_TRUE(script.is_played());
         return number;
     };
@@ -120,7 +121,7 @@ TEST_F(Number_Prompt_Test, takes_negative_numbers_where_there_are_any) {
     EXPECT_EQ(signed_answer("-", key::escape), std::nullopt);
     Script script;
     script.type("-").key(key::enter).type("181").key(key::enter).key(key::backspace).key(key::enter);
-    EXPECT_EQ(dialogs->ask_signed_number(middle, 24, -180, 180), -18);
+    EXPECT_EQ(ask_number(middle, 24, -180, 180), -18);
 }
 
 TEST_F(Number_Prompt_Test, stays_open_outside_of_the_bounds) {
@@ -132,9 +133,9 @@ TEST_F(Number_Prompt_Test, stays_open_outside_of_the_bounds) {
             user.key(key::escape);
         });
     };
-    EXPECT_EQ(refuses("5"), no_number);
-    EXPECT_EQ(refuses("65"), no_number);
-    EXPECT_EQ(refuses("99999999999999999999999999"), no_number);
+    EXPECT_EQ(refuses("5"), std::nullopt);
+    EXPECT_EQ(refuses("65"), std::nullopt);
+    EXPECT_EQ(refuses("99999999999999999999999999"), std::nullopt);
     EXPECT_EQ(answer([](Script& user) {
                   user.key(key::backspace).key(key::backspace).key(key::enter).type("9").key(key::enter);
               }),
@@ -142,9 +143,9 @@ TEST_F(Number_Prompt_Test, stays_open_outside_of_the_bounds) {
 }
 
 TEST_F(Number_Prompt_Test, can_be_given_up) {
-    EXPECT_EQ(answer([](Script& user) { user.type("32").key(key::escape); }), no_number);
-    EXPECT_EQ(answer([](Script& user) { user.type("32").quit(); }), no_number);
-    EXPECT_EQ(answer([](Script& user) { user.type("32").press({10, 10}); }), no_number);
+    EXPECT_EQ(answer([](Script& user) { user.type("32").key(key::escape); }), std::nullopt);
+    EXPECT_EQ(answer([](Script& user) { user.type("32").quit(); }), std::nullopt);
+    EXPECT_EQ(answer([](Script& user) { user.type("32").press({10, 10}); }), std::nullopt);
     constexpr int middle_button = 2;
     EXPECT_EQ(answer([](Script& user) {
                   user.type("32").press_number({10, 10}, middle_button).key(key::enter);

@@ -5,9 +5,7 @@
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
-#include "ui/dialog_container.h"
 #include "ui/dialog_item.h"
-#include "ui/options.h"
 
 #include <algorithm>
 #include <vector>
@@ -20,20 +18,10 @@ constexpr Point beside_the_canvas{800, 600};
 
 class Brush_View_Test : public Program_Test {
 protected:
-    // The identifiers of the dialog's items; choices are stepped through, ticks switched.
-    static constexpr int precise_brush = 31;
-    static constexpr int blocky = 40;
-    static constexpr int shadow = 50;
-    static constexpr int hide_cursor = 170;
-
-    static void change(int id) {
-        Dialog_Item& item = *options->dialog().item(id);
-        if (id == precise_brush) {
-            item.notify(Dialog_Event_Kind::increase);
-        } else {
-            static_cast<void>(item.click({item.area.x, item.area.y}));
-        }
-        options->load();
+    // To the next of its values.
+    static void change(Option option) {
+        const int count = option == Option::precise_brush ? 3 : 2;
+        set_option(option, (options->value(option) + 1) % count);
     }
     void hover(Point position) {
         script().motion(position);
@@ -78,22 +66,22 @@ TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
 }
 
 TEST_F(Brush_View_Test, outline_is_precise_blocky_or_off) {
-    change(shadow);
+    change(Option::show_shadow_brush);
     const Color line(255, 255, 255);
     hover({485, 275});
     EXPECT_NE(corner_of(8, 7), line) << "a brush of one pixel has no outline";
-    change(precise_brush);
-    change(precise_brush);
+    change(Option::precise_brush);
+    change(Option::precise_brush);
     ASSERT_EQ(options->value(Option::precise_brush), 1);
     hover({485, 275});
     EXPECT_EQ(corner_of(8, 7), line);
     hover({488, 275});
     EXPECT_EQ(pixel_at({482, 269}), line) << "between the cells, around the pointer";
-    change(blocky);
+    change(Option::blocky_precise_brush);
     hover({488, 275});
     EXPECT_EQ(corner_of(8, 7), line) << "around the cell";
-    change(precise_brush);
-    change(precise_brush);
+    change(Option::precise_brush);
+    change(Option::precise_brush);
     ASSERT_EQ(options->value(Option::precise_brush), 0);
     toolbox->select_brush_size(3);
     hover({488, 275});
@@ -106,7 +94,7 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
         return current_cursor();
     };
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::shown);
-    change(hide_cursor);
+    change(Option::hide_or_show_cursor);
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::hidden);
     EXPECT_EQ(cursor_at(beside_the_canvas), Cursor::shown);
     EXPECT_EQ(cursor_at({270, 70}), Cursor::hidden);
@@ -122,7 +110,7 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
     execute(Command::about);
     EXPECT_EQ(in_dialog, Cursor::shown);
     EXPECT_EQ(current_cursor(), Cursor::hidden);
-    change(shadow);
+    change(Option::show_shadow_brush);
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::shown) << "nothing of the brush shows";
 }
 
@@ -137,7 +125,7 @@ TEST_F(Brush_View_Test, strokes_hide_the_cursor_and_give_it_back) {
     EXPECT_EQ(current_cursor(), Cursor::shown);
     EXPECT_EQ(during_stroke(beside_the_canvas), Cursor::hidden);
     EXPECT_EQ(current_cursor(), Cursor::shown);
-    change(hide_cursor);
+    change(Option::hide_or_show_cursor);
     hover(cell(3, 3));
     EXPECT_EQ(during_stroke(cell(5, 5)), Cursor::hidden);
     EXPECT_EQ(current_cursor(), Cursor::hidden);

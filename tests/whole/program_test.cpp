@@ -3,16 +3,35 @@
 #include "app/start_up.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
+#include "ui/modal_dialog.h"
 
 #include <SDL3/SDL.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
 namespace quadrelle::testing {
 
 namespace {
+
+class Chosen_Options : public Option_Source {
+public:
+    Chosen_Options() {
+        for (std::size_t i = 0; i < values_.size(); ++i) {
+            values_.at(i) = options->value(static_cast<Option>(i));
+        }
+    }
+    void set(Option option, int value) { values_.at(static_cast<std::size_t>(option)) = value; }
+    [[nodiscard]] int shown(Option option) const override {
+        return values_.at(static_cast<std::size_t>(option));
+    }
+    bool run() override { return false; }
+
+private:
+    std::array<int, option_count> values_{};
+};
 
 // What is drawn on a window that otherwise is of one colour.
 Rectangle covered_area(const std::vector<std::uint32_t>& window, int width) {
@@ -63,6 +82,13 @@ void Program_Test::play() {
         editor->handle_one_event();
         editor->redraw(Present::yes);
     }
+}
+
+void Program_Test::set_option(Option option, int value) {
+    auto chosen = std::make_unique<Chosen_Options>();
+    chosen->set(option, value);
+    options = std::make_unique<Options>(std::move(chosen));
+    options->load();
 }
 
 void Program_Test::execute(Command command) {
@@ -140,14 +166,14 @@ void Program_Test::compare_shown_dialogs() {
 // Shows the expected dialog over an empty window, and looks at what it covers.
 void Program_Test::compare(const Shown_Dialog& shown) {
     Picture expected;
-    dialogs->set_backdrop({});
+    set_backdrop({});
     script_->check([&] { expected = window_picture(); }).key(key::escape);
     if (shown.is_question) {
         EXPECT_FALSE(dialogs->ask(shown.title, shown.text));
     } else {
         dialogs->message(shown.title, shown.text);
     }
-    dialogs->set_backdrop([] { editor->redraw(Present::no); });
+    set_backdrop([] { editor->redraw(Present::no); });
 
     const int width = screen->size().width;
     int differing = 0;

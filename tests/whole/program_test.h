@@ -6,6 +6,7 @@
 #include "app/editor.h"
 #include "commands/command.h"
 #include "tests/support/window_test.h"
+#include "tools/options.h"
 #include "views/file_dialog.h"
 
 #include <cstdint>
@@ -30,6 +31,9 @@ protected:
     void play();
     // One command, and the events of the script while it asks something.
     void execute(Command command);
+
+    // As if it had been chosen in the dialog.
+    static void set_option(Option option, int value);
 
     [[nodiscard]] Script& script() { return *script_; }
     [[nodiscard]] Program_Folder& folder() { return *folder_; }

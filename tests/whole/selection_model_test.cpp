@@ -6,9 +6,8 @@
 #include "panes/toolbox.h"
 #include "tests/whole/program_test.h"
 #include "tools/flood_fill.h"
+#include "tools/options.h"
 #include "tools/shapes.h"
-#include "ui/dialog_container.h"
-#include "ui/options.h"
 
 #include <algorithm>
 #include <array>
@@ -233,11 +232,9 @@ void Selection_Model_Test::paste() {
 }
 
 void Selection_Model_Test::clone() {
-    constexpr int clone_item = 131;
-    Dialog_Item& style_item = *options->dialog().item(clone_item);
-    style_item.notify(Dialog_Event_Kind::increase);
-    options->load();
-    const int style = options->value(Option::clone_style);
+    constexpr int style_count = 4;
+    const int style = (options->value(Option::clone_style) + 1) % style_count;
+    set_option(Option::clone_style, style);
     if (!model_.shows_paste() && !model_.has_selection() && model_.copies.empty()) {
         editor->execute(Command::clone);
         return;

@@ -7,7 +7,7 @@
 #include "tests/support/scratch_files.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/window_test.h"
-#include "ui/options.h"
+#include "views/options_dialog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,36 +1,18 @@
 #pragma once
 
-// The user's settings: one table, the dialog that offers them, and the values that everyone reads.
+// The dialog that offers the options, and the table of what it offers. Keeps them in "options.dlg" in the
+// data directory.
 
 #include "base/table.h"
+#include "tools/options.h"
+#include "ui/dialog_container.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 
 namespace quadrelle {
-
-class Dialog_Container;
-
-enum class Option : std::int32_t {
-    precise_brush,
-    blocky_precise_brush,
-    show_shadow_brush,
-    hide_or_show_cursor,
-    confirm_quick_save,
-    editor_pixel_size,
-    grid_intensity,
-    clear_selection,
-    repeat_x_tiles,
-    repeat_y_tiles,
-    alpha_grid_width,
-    alpha_grid_height,
-    clone_style,
-    count
-};
 
 enum class Option_Kind { choice, tick, number };
 
@@ -45,8 +27,6 @@ struct Option_Row {
     int high;
     int offset; // from what the dialog shows to the value
 };
-
-constexpr std::size_t option_count = 13;
 
 // clang-format off
 constexpr std::array<Option_Row, option_count> option_table{{
@@ -77,28 +57,20 @@ static_assert(std::ranges::all_of(option_table, [](const Option_Row& row) {
     return row.initial >= row.low && row.initial <= row.high;
 }));
 
-class Options {
+class Options_Dialog : public Option_Source {
 public:
-    // Builds the dialog and reads "options.dlg" in the data directory. The values are 0 until `load`.
-    Options();
-    ~Options();
-    Options(const Options&) = delete;
-    Options& operator=(const Options&) = delete;
+    // Shows what the file says, and the table's values where it says nothing.
+    Options_Dialog();
 
-    // Takes what the dialog shows.
-    void load();
-    // Runs the dialog; whether it was accepted.
-    bool edit();
-    [[nodiscard]] int value(Option option) const { return values_.at(static_cast<std::size_t>(option)); }
+    [[nodiscard]] int shown(Option option) const override;
+    bool run() override { return dialog_.run(); }
 
-    [[nodiscard]] Dialog_Container& dialog() { return *dialog_; }
+    // The item that an option is changed with.
+    [[nodiscard]] Dialog_Item& control(Option option);
+    [[nodiscard]] Dialog_Container& container() { return dialog_; }
 
 private:
-    std::unique_ptr<Dialog_Container> dialog_;
-    std::array<std::int32_t, option_count> values_{};
+    Dialog_Container dialog_;
 };
-
-// Built at start-up after the dialogs, destroyed first of all.
-extern std::unique_ptr<Options> options;
 
 } // namespace quadrelle

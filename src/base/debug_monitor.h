@@ -2,6 +2,7 @@
 
 // The program's log: the last messages to whoever looks for a fault.
 
+#include <cstddef>
 #include <deque>
 #include <memory>
 #include <string>
@@ -16,12 +17,10 @@ public:
     // Beyond `most_lines` the oldest line goes.
     void write(std::string_view text);
     [[nodiscard]] const std::deque<std::string>& lines() const { return lines_; }
-    // In a dialog, the newest lines at its bottom; waits until it is dismissed.
-    void show() const;
-
-private:
+    // At most that many, each ended by "\r" but the last.
     [[nodiscard]] std::string newest_lines(std::size_t count) const;
 
+private:
     std::deque<std::string> lines_;
 };
 

@@ -1,7 +1,4 @@
-#include "ui/debug_monitor.h"
-
-#include "screen/screen.h"
-#include "ui/dialogs.h"
+#include "base/debug_monitor.h"
 
 #include <algorithm>
 
@@ -13,9 +10,6 @@ namespace {
 
 // About as many as fit into the window's width.
 constexpr std::size_t longest_line = 110;
-// What the dialog's title, its margins and its button leave free.
-constexpr int lines_around_text = 4;
-
 } // namespace
 
 void Debug_Monitor::write(std::string_view text) {
@@ -23,12 +17,6 @@ void Debug_Monitor::write(std::string_view text) {
     if (lines_.size() > most_lines) {
         lines_.pop_front();
     }
-}
-
-void Debug_Monitor::show() const {
-    const int rows = std::max(screen->text_rows() - lines_around_text, 1);
-    dialogs->message("Debug monitor",
-                     lines_.empty() ? "No messages." : newest_lines(static_cast<std::size_t>(rows)));
 }
 
 std::string Debug_Monitor::newest_lines(std::size_t count) const {

@@ -1,12 +1,12 @@
-#include "ui/options.h"
-
-#include "ui/dialog_container.h"
+#include "views/options_dialog.h"
 
 namespace quadrelle {
 
-std::unique_ptr<Options> options;
-
 namespace {
+
+const Option_Row& row_of(Option option) {
+    return option_table.at(static_cast<std::size_t>(option));
+}
 
 constexpr int control_id(const Option_Row& row) {
     return row.kind == Option_Kind::tick ? row.row_id : row.row_id + 1;
@@ -24,27 +24,19 @@ Dialog_Row make_row(const Option_Row& row) {
 
 } // namespace
 
-Options::Options() : dialog_(std::make_unique<Dialog_Container>("Options", "options.dlg")) {
+Options_Dialog::Options_Dialog() : dialog_("Options", "options.dlg") {
     for (const Option_Row& row : option_table) {
-        dialog_->add_row(make_row(row));
+        dialog_.add_row(make_row(row));
     }
-    dialog_->finish_ok_cancel();
+    dialog_.finish_ok_cancel();
 }
 
-Options::~Options() = default;
-
-void Options::load() {
-    for (const Option_Row& row : option_table) {
-        values_.at(static_cast<std::size_t>(row.id)) = dialog_->value(control_id(row)) + row.offset;
-    }
+int Options_Dialog::shown(Option option) const {
+    return dialog_.value(control_id(row_of(option))) + row_of(option).offset;
 }
 
-bool Options::edit() {
-    const bool is_accepted = dialog_->run();
-    if (is_accepted) {
-        load();
-    }
-    return is_accepted;
+Dialog_Item& Options_Dialog::control(Option option) {
+    return *dialog_.item(control_id(row_of(option)));
 }
 
 } // namespace quadrelle

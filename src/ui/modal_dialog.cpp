@@ -1,0 +1,67 @@
+#include "ui/modal_dialog.h"
+
+#include "screen/screen.h"
+
+#include <utility>
+#include <vector>
+
+namespace quadrelle {
+
+namespace {
+
+struct Shown {
+    Draw_Function window;
+    std::vector<Draw_Function> dialogs; // the latest one on top
+};
+
+Shown& shown() {
+    static Shown what_is_shown;
+    return what_is_shown;
+}
+
+class Dialog_Layer {
+public:
+    explicit Dialog_Layer(Draw_Function draw) { shown().dialogs.push_back(std::move(draw)); }
+    ~Dialog_Layer() { shown().dialogs.pop_back(); }
+    Dialog_Layer(const Dialog_Layer&) = delete;
+    Dialog_Layer& operator=(const Dialog_Layer&) = delete;
+};
+
+bool accepts(Dialog_Keys keys, Keycode pressed) {
+    const bool is_enter = pressed == key::enter || pressed == key::keypad_enter;
+    return (is_enter && keys != Dialog_Keys::none) || (pressed == 'y' && keys == Dialog_Keys::enter_or_y);
+}
+
+Loop_Step answer(const Modal_Dialog& dialog, const Input_Event& event) {
+    const Keycode pressed = event.kind == Input_Kind::key_press ? event.chord.key : key::none;
+    if (event.kind == Input_Kind::quit || pressed == key::escape) {
+        return Loop_Step::end;
+    }
+    return accepts(dialog.keys, pressed) ? dialog.accept() : dialog.handle(event);
+}
+
+} // namespace
+
+void set_backdrop(Draw_Function draw) {
+    shown().window = std::move(draw);
+}
+
+void show_backdrop() {
+    if (shown().window) {
+        shown().window();
+    } else {
+        screen->clear();
+    }
+    for (const Draw_Function& draw_dialog : shown().dialogs) {
+        draw_dialog();
+    }
+    screen->present();
+}
+
+void run_dialog(const Modal_Dialog& dialog) {
+    const Dialog_Layer layer(dialog.draw);
+    run_modal(
+        {dialog.name, show_backdrop, [&dialog](const Input_Event& event) { return answer(dialog, event); }});
+}
+
+} // namespace quadrelle

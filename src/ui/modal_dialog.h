@@ -1,0 +1,33 @@
+#pragma once
+
+// The one way in which dialogs run: over the window, and over the dialogs that are open already.
+
+#include "screen/events.h"
+
+#include <functional>
+#include <string_view>
+
+namespace quadrelle {
+
+using Draw_Function = std::function<void()>;
+
+// What dialogs lie over: the whole window, not yet presented. Without any it is empty.
+void set_backdrop(Draw_Function draw);
+// Draws and presents the backdrop and every open dialog.
+void show_backdrop();
+
+// Which keys accept a dialog; the keypad has an Enter too.
+enum class Dialog_Keys { none, enter, enter_or_y };
+
+// Escape and the window's close button give up every dialog.
+struct Modal_Dialog {
+    std::string_view name;
+    Draw_Function draw;
+    std::function<Loop_Step(const Input_Event&)> handle; // what neither accepts nor gives up
+    Dialog_Keys keys = Dialog_Keys::none;
+    std::function<Loop_Step()> accept = {}; // needed with such keys
+};
+// Returns when an event has ended it.
+void run_dialog(const Modal_Dialog& dialog);
+
+} // namespace quadrelle
