@@ -173,16 +173,16 @@ TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_even
     EXPECT_TRUE(script.is_played());
     EXPECT_FALSE(SDL_HasEvents(SDL_EVENT_QUIT, SDL_EVENT_MOUSE_WHEEL));
 
-    // What comes at the same time as the release.
-    SDL_Event closed{.type = SDL_EVENT_QUIT};
-    SDL_Event moved{.type = SDL_EVENT_MOUSE_MOTION};
-    script.check([&] {
-        SDL_Event released{.type = SDL_EVENT_MOUSE_BUTTON_UP};
-        released.button.button = SDL_BUTTON_LEFT;
-        for (SDL_Event* event : {&released, &moved, &closed}) {
-            SDL_PushEvent(event);
-        }
-    });
+    // What came together with the release.
+    script
+        .check([] {
+            SDL_Event released{.type = SDL_EVENT_MOUSE_BUTTON_UP};
+            released.button.button = SDL_BUTTON_LEFT;
+            SDL_PushEvent(&released);
+            SDL_Event closed{.type = SDL_EVENT_QUIT};
+            SDL_PushEvent(&closed);
+        })
+        .motion(square(70, 70));
     EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
     EXPECT_FALSE(SDL_HasEvent(SDL_EVENT_MOUSE_MOTION));
     EXPECT_TRUE(SDL_HasEvent(SDL_EVENT_QUIT));
