@@ -1,7 +1,7 @@
 #include "app/documents.h"
 
 #include "screen/screen.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 #include "ui/dialog_container.h"
@@ -14,7 +14,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color white(255, 255, 255);
 const std::string product = "Quadrelle 0.90 - ";
 const std::string save_failed = "Unable to create a save file in the destination device.\rCheck out write "
                                 "access properties.";
@@ -32,7 +31,7 @@ protected:
         play();
     }
     void choose(const std::string& path) { answer_files(File_Answer_State::chosen, path); }
-    std::string in_folder(const std::string& file) { return folder().folder().path(file); }
+    std::string in_folder(const std::string& file) { return folder().path(file); }
     // Saved there, as the current document's file.
     std::string save_as(const std::string& file) {
         choose(in_folder(file));

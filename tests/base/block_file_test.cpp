@@ -1,16 +1,10 @@
 #include "base/block_file.h"
 
-#include "tests/support/fatal_checks.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::Bytes;
-using testing::store;
-using testing::stored;
-using testing::Temporary_Folder;
+namespace quadrelle::testing {
 
 TEST(Block_File, reads_blocks_until_one_is_short) {
     const Temporary_Folder folder;
@@ -42,4 +36,4 @@ TEST(Block_File, whole_files_come_back) {
     EXPECT_EQ(write_file(folder.path("missing/whole"), bytes), -1);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,7 +1,7 @@
 #include "base/data_stream.h"
 
 #include "base/block_file.h"
-#include "tests/support/scratch_files.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +11,7 @@
 #include <random>
 #include <string>
 
-namespace quadrelle {
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
@@ -24,10 +23,6 @@ Data_Stream loaded(const std::string& path) {
     Data_Stream record;
     record.load_from(file);
     return record;
-}
-
-std::string fatal_line(const std::string& path) {
-    return "Error: Unable to load block from  " + path + "!\n";
 }
 
 } // namespace
@@ -109,8 +104,8 @@ TEST(Data_Stream, reading_past_the_end_gives_nothing) {
 
 // The bytes hold separators and zeros, which must not end them.
 TEST(Data_Stream, file_round_trip_of_every_kind) {
-    const test::Scratch_Folder folder;
-    const std::string path = folder.file("record.dat");
+    const Temporary_Folder folder;
+    const std::string path = folder.path("record.dat");
     const std::array<std::uint8_t, 5> bytes = {':', ',', 0, 255, ','};
     std::string text = "some text";
     Data_Stream written;
@@ -134,9 +129,9 @@ TEST(Data_Stream, file_round_trip_of_every_kind) {
 }
 
 TEST(Data_Stream, loading_starts_anew_and_a_length_of_zero_keeps_the_text) {
-    const test::Scratch_Folder folder;
-    const std::string path = folder.file("record.dat");
-    test::put_bytes(path, std::string(4, '\0') + "9,9");
+    const Temporary_Folder folder;
+    const std::string path = folder.path("record.dat");
+    store_text(path, std::string(4, '\0') + "9,9");
     Data_Stream record("5,6");
     EXPECT_EQ(record.read_int(), 5);
     Block_File file(path);
@@ -146,17 +141,17 @@ TEST(Data_Stream, loading_starts_anew_and_a_length_of_zero_keeps_the_text) {
 }
 
 TEST(Data_Stream, a_file_shorter_than_it_says_is_fatal) {
-    const test::Scratch_Folder folder;
-    const std::string path = folder.file("record.dat");
-    const std::string whole = test::record_bytes("12,345,6");
+    const Temporary_Folder folder;
+    const std::string path = folder.path("record.dat");
+    const std::string whole = record_bytes("12,345,6");
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        test::put_bytes(path, whole.substr(0, length));
-        EXPECT_EQ(test::fatal_output([&] { loaded(path); }), fatal_line(path)) << length;
+        store_text(path, whole.substr(0, length));
+        EXPECT_FATAL(loaded(path), "Unable to load block from  " + path) << length;
     }
-    test::put_bytes(path, "\xff\xff\xff\xff few");
-    EXPECT_EQ(test::fatal_output([&] { loaded(path); }), fatal_line(path));
-    test::put_bytes(path, whole + "what follows is not looked at");
+    store_text(path, "\xff\xff\xff\xff few");
+    EXPECT_FATAL(loaded(path), "Unable to load block from  " + path);
+    store_text(path, whole + "what follows is not looked at");
     EXPECT_EQ(loaded(path).text(), "12,345,6:");
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

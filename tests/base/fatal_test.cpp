@@ -1,8 +1,8 @@
 #include "base/fatal.h"
 
-#include "tests/support/fatal_checks.h"
+#include "tests/support/files.h"
 
-namespace quadrelle {
+namespace quadrelle::testing {
 namespace {
 
 TEST(Fatal_Test, prints_one_line_and_ends_with_status_1) {
@@ -13,4 +13,4 @@ TEST(Fatal_Test, prints_one_line_and_ends_with_status_1) {
 }
 
 } // namespace
-} // namespace quadrelle
+} // namespace quadrelle::testing

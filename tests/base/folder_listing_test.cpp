@@ -1,7 +1,7 @@
 #include "base/folder_listing.h"
 
 #include "base/file_names.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "base/atomic_file.h"
 #include "base/data_directory.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +11,7 @@
 #include <unistd.h>
 #endif
 
-namespace quadrelle {
-
-using testing::Bytes;
-using testing::store;
-using testing::stored;
-using testing::Temporary_Folder;
-
+namespace quadrelle::testing {
 namespace {
 
 int operations_left = 0;
@@ -143,4 +137,4 @@ TEST(Files, links_are_followed_to_their_end) {
 
 #endif
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -5,13 +5,15 @@
 
 #include <SDL3/SDL.h>
 
+#include "tests/support/tiles.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <random>
 #include <vector>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 
 static std::ostream& operator<<(std::ostream& out, Color color) {
     return out << "(" << int{color.r} << " " << int{color.g} << " " << int{color.b} << " " << int{color.a}
@@ -110,17 +112,6 @@ void expect_same_as_rectangles(const Canvas_Picture& picture) {
     }
 }
 
-Tile random_tile(Size size, unsigned seed) {
-    std::mt19937 random(seed);
-    Tile tile(size.width, size.height);
-    tile.map_colours([&](Color pixel) {
-        pixel = Color::from_word(static_cast<std::uint32_t>(random()));
-        pixel.a = random() % 2 == 0 ? 255 : pixel.a;
-        return pixel;
-    });
-    return tile;
-}
-
 TEST(Canvas_Painter, paints_what_rectangles_drawn_cell_by_cell_show) {
     const Tile tile = random_tile({9, 7}, 7);
     Canvas_Picture picture;
@@ -162,4 +153,4 @@ TEST(Canvas_Painter, grid_contrasts_with_the_pixel_and_vanishes_at_intensity_0) 
 
 } // namespace
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

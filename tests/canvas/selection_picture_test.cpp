@@ -1,7 +1,7 @@
 // What the canvas shows of selections and pastes, as pictures.
 
 #include "canvas/canvas_painter.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 

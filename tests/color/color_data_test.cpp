@@ -1,10 +1,10 @@
 #include "color/color_data.h"
 
-#include "tests/support/scratch_files.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 
 TEST(Color_Data, names_are_exact) {
     const Color_Data data;
@@ -22,4 +22,4 @@ TEST(Color_Data, information_text) {
     EXPECT_EQ(color_information({0, 255, 7, 0}), "R: 0, G: 255, B: 7\rAlpha: 0\rLuminance: 71.5");
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

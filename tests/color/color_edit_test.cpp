@@ -4,12 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::exact_hsv;
-using testing::exact_rgb;
-using testing::for_grid_colors;
-using testing::is_nearest;
+namespace quadrelle::testing {
 
 TEST(color_edit, agrees_with_an_independent_conversion_both_ways) {
     for_grid_colors([](Color color) {
@@ -19,7 +14,7 @@ TEST(color_edit, agrees_with_an_independent_conversion_both_ways) {
         ASSERT_NEAR(edit.number(Color_Channel::value), exact.value / 2.55, 0.5 + 1e-9);
         ASSERT_NEAR(std::remainder(edit.number(Color_Channel::hue) - exact.hue, 360.0), 0.0, 0.5 + 1e-9);
 
-        const auto expect = [&](Color_Channel channel, int number, testing::Exact_HSV wanted) {
+        const auto expect = [&](Color_Channel channel, int number, Exact_HSV wanted) {
             Color_Edit changed = edit;
             changed.set_number(channel, number);
             if (changed.number(channel) != edit.number(channel)) {
@@ -89,4 +84,4 @@ TEST(color_edit, stops_or_wraps_at_both_ends_of_every_number) {
     }
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

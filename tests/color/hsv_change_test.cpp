@@ -4,12 +4,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::exact_hsv;
-using testing::exact_rgb;
-using testing::for_grid_colors;
-using testing::is_nearest;
+namespace quadrelle::testing {
 
 TEST(hsv_change, of_nothing_is_the_identity_for_every_color) {
     for (std::uint32_t rgb = 0; rgb < 0x1000000U; rgb += 3) {
@@ -52,4 +47,4 @@ TEST(hsv_change, keeps_alpha_and_leaves_alone_what_is_not_seen) {
     EXPECT_EQ(adjusted({0, 0, 0, 0}, change), Color(0, 0, 0, 0));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,6 +1,6 @@
 #include "color/palette_store.h"
 
-#include "tests/support/scratch_files.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -8,16 +8,15 @@
 #include <random>
 #include <string>
 
-namespace quadrelle {
-
+namespace quadrelle::testing {
 namespace {
 
-class Palette_File : public testing::Test {
+class Palette_File : public ::testing::Test {
 protected:
-    void put_record(const std::string& text) const { test::put_bytes(path, test::record_bytes(text)); }
+    void put_record(const std::string& text) const { store_text(path, record_bytes(text)); }
 
-    test::Scratch_Folder folder;
-    std::string path = folder.file("palette.dat");
+    Temporary_Folder folder;
+    std::string path = folder.path("palette.dat");
 };
 
 // What callers rely on, whatever the file held.
@@ -58,7 +57,7 @@ TEST_F(Palette_File, built_in_palettes_without_a_file_and_no_file_without_a_chan
 
 TEST_F(Palette_File, a_loaded_palette_is_black_and_stays_unwritten) {
     put_record("2,4,Four,2,Two");
-    const std::string before = test::bytes_of_file(path);
+    const std::string before = stored_text(path);
     {
         const Palette_Store store(path);
         ASSERT_EQ(store.size(), 2);
@@ -68,7 +67,7 @@ TEST_F(Palette_File, a_loaded_palette_is_black_and_stays_unwritten) {
         EXPECT_EQ(store.count(1), 2);
         EXPECT_EQ(store.name(1), "Two");
     }
-    EXPECT_EQ(test::bytes_of_file(path), before);
+    EXPECT_EQ(stored_text(path), before);
 }
 
 TEST_F(Palette_File, a_change_is_written_with_entries_before_the_name) {
@@ -79,8 +78,7 @@ TEST_F(Palette_File, a_change_is_written_with_entries_before_the_name) {
         EXPECT_EQ(store.color(0, 1), Color(1, 2, 3, 4));
         EXPECT_TRUE(store.changed());
     }
-    EXPECT_EQ(test::bytes_of_file(path),
-              test::record_bytes("2,2,0,0,0,255,1,2,3,4Pair,,1,0,0,0,255Rolololo,"));
+    EXPECT_EQ(stored_text(path), record_bytes("2,2,0,0,0,255,1,2,3,4Pair,,1,0,0,0,255Rolololo,"));
 }
 
 // The reader takes the first numbers of the entries for names and counts, deliberately.
@@ -105,7 +103,7 @@ TEST_F(Palette_File, a_file_without_palettes_leaves_the_built_in_ones) {
         put_record(text);
         expect_built_in(Palette_Store(path));
     }
-    test::put_bytes(path, std::string(4, '\0'));
+    store_text(path, std::string(4, '\0'));
     expect_built_in(Palette_Store(path));
     std::filesystem::remove(path);
     std::filesystem::create_directory(path);
@@ -114,16 +112,15 @@ TEST_F(Palette_File, a_file_without_palettes_leaves_the_built_in_ones) {
 
 TEST_F(Palette_File, flipped_and_random_bytes_load_or_are_fatal) {
     put_record("3,4,Four,2,Two,12,Dozen");
-    const std::string whole = test::bytes_of_file(path);
+    const std::string whole = stored_text(path);
     for (std::size_t i = 0; i < whole.size(); ++i) {
         for (unsigned bit = 0; bit < 8; ++bit) {
             std::string flipped = whole;
             flipped[i] = static_cast<char>(static_cast<unsigned char>(flipped[i]) ^ 1U << bit);
-            test::put_bytes(path, flipped);
+            store_text(path, flipped);
             const bool is_longer = i < 4 && flipped[i] != whole[i] && (i > 0 || (whole[0] >> bit & 1) == 0);
             if (is_longer) {
-                EXPECT_EQ(test::fatal_output([&] { const Palette_Store store(path); }),
-                          "Error: Unable to load block from  " + path + "!\n");
+                EXPECT_FATAL(const Palette_Store store(path), "Unable to load block from  " + path);
             } else {
                 expect_usable(Palette_Store(path), flipped);
             }
@@ -140,4 +137,4 @@ TEST_F(Palette_File, flipped_and_random_bytes_load_or_are_fatal) {
     }
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

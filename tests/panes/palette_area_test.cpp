@@ -1,6 +1,6 @@
 #include "panes/palette_area.h"
 
-#include "tests/support/scratch_files.h"
+#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 
 #include <string>
@@ -16,7 +16,7 @@ protected:
     // Loaded palettes are black, which is enough to tell how their cells lie.
     static Palette_Store store_with(int entries) {
         const std::string path = "palette.dat";
-        test::put_bytes(path, test::record_bytes("1," + std::to_string(entries) + ",Own"));
+        store_text(path, record_bytes("1," + std::to_string(entries) + ",Own"));
         return Palette_Store(path);
     }
     // The middle of a cell of the built-in palettes: eight columns of 24 x 20 pixels below the palette's

@@ -1,6 +1,6 @@
 #include "pixels/tile.h"
 
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 
@@ -8,20 +8,8 @@
 #include <array>
 #include <random>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art;
-using testing::art_color;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
-
-Tile random_tile(int width, int height, std::mt19937& random) {
-    Tile tile(width, height);
-    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
-    return tile;
-}
 
 // The channel that plain bilinear sampling in double precision gives.
 double reference(const Tile& source, Size target, int x, int y, std::uint8_t Color::*part) {
@@ -66,7 +54,7 @@ Tile grey_row(std::initializer_list<int> values) {
 
 TEST(Tile_Resampling, resampling_to_the_same_size_copies_alpha_too) {
     std::mt19937 random(1);
-    const Tile source = random_tile(5, 7, random);
+    const Tile source = random_tile({5, 7}, random);
     Tile target(5, 7);
     source.resample_into(target);
     EXPECT_TRUE(std::ranges::equal(source.pixels(), target.pixels()));
@@ -92,11 +80,11 @@ TEST(Tile_Resampling, resampling_follows_bilinear_sampling) {
     for (const int from : lengths) {
         for (const int to : lengths) {
             SCOPED_TRACE(std::to_string(from) + " to " + std::to_string(to));
-            const Tile source = random_tile(from, 3, random);
+            const Tile source = random_tile({from, 3}, random);
             Tile target(to, 4);
             source.resample_into(target);
             ASSERT_NO_FATAL_FAILURE(expect_near_reference(source, target));
-            const Tile upright = random_tile(2, from, random);
+            const Tile upright = random_tile({2, from}, random);
             Tile tall(3, to);
             upright.resample_into(tall);
             ASSERT_NO_FATAL_FAILURE(expect_near_reference(upright, tall));
@@ -122,4 +110,4 @@ TEST(Tile_Resampling, anti_aliasing_softens_edges_and_makes_opaque) {
     EXPECT_GE(plain.get_pixel(0, 0).r, 253);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,18 +1,13 @@
 #include "pixels/tile.h"
 
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <stdexcept>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art;
-using testing::art_color;
-using testing::make_tile;
+namespace quadrelle::testing {
 
 TEST(Tile, answers_fixed_colors_outside_and_writes_nothing_there) {
     Tile tile = make_tile({"ab", "cd", "ef"});
@@ -95,4 +90,4 @@ TEST(Tile, copies_are_independent_and_swaps_exchange) {
     EXPECT_EQ(art(first), (Art{"ab"}));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

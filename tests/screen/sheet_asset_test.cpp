@@ -2,8 +2,7 @@
 
 #include "screen/font_table.h"
 #include "screen/sprite_table.h"
-#include "tests/support/project_paths.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 namespace {
 
 namespace fs = std::filesystem;
@@ -33,7 +32,7 @@ constexpr Pixel blue{0, 0, 255};
 class Bitmap {
 public:
     explicit Bitmap(const fs::path& path) {
-        bytes_ = testing::stored(path.string());
+        bytes_ = stored(path.string());
         if (bytes_.size() < 54)
             bytes_.assign(54, 0);
     }
@@ -61,11 +60,11 @@ private:
         return (static_cast<std::size_t>(width()) * static_cast<std::size_t>(depth()) / 8 + 3) / 4 * 4;
     }
 
-    testing::Bytes bytes_;
+    Bytes bytes_;
 };
 
 const Bitmap& committed_sheet() {
-    static const Bitmap sheet(testing::source_folder() / "data" / "pool.bmp");
+    static const Bitmap sheet(source_folder() / "data" / "pool.bmp");
     return sheet;
 }
 
@@ -124,7 +123,7 @@ int text_width(Font font, const std::string& text) {
 
 // The widths of the grids, in the order in which they stand in the source.
 std::vector<int> intended_widths(const std::string& file_name) {
-    std::ifstream source(testing::source_folder() / "art" / "fonts" / file_name);
+    std::ifstream source(source_folder() / "art" / "fonts" / file_name);
     std::vector<int> widths;
     for (std::string line; std::getline(source, line);)
         if (line.starts_with("= ") && std::getline(source, line))
@@ -228,12 +227,12 @@ constexpr const char* program_suffix =
 class Composer : public ::testing::Test {
 protected:
     void SetUp() override {
-        program_ = testing::built_program().parent_path() / (std::string("compose_sheet") + program_suffix);
+        program_ = built_program().parent_path() / (std::string("compose_sheet") + program_suffix);
         if (!fs::exists(program_))
             GTEST_SKIP() << "this build has no composer";
         fs::create_directories(art() / "sprites");
-        fs::copy(testing::source_folder() / "art" / "palette.txt", art());
-        fs::copy(testing::source_folder() / "art" / "fonts", art() / "fonts");
+        fs::copy(source_folder() / "art" / "palette.txt", art());
+        fs::copy(source_folder() / "art" / "fonts", art() / "fonts");
     }
 
     fs::path art() const { return folder_.native_path() / "art"; }
@@ -250,7 +249,7 @@ protected:
         const std::string command =
             program_.string() + " " + options + art().string() + " " + output().string() + " 2> " + report;
         const bool succeeded = std::system(command.c_str()) == 0;
-        const testing::Bytes bytes = testing::stored(report);
+        const Bytes bytes = stored(report);
         EXPECT_EQ(succeeded, bytes.empty());
         EXPECT_EQ(succeeded, fs::exists(output()));
         return {bytes.begin(), bytes.end()};
@@ -276,7 +275,7 @@ protected:
     }
 
 private:
-    testing::Temporary_Folder folder_;
+    Temporary_Folder folder_;
     fs::path program_;
 };
 
@@ -343,4 +342,4 @@ TEST_F(Composer, misses_no_glyph) {
 }
 
 } // namespace
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,8 +1,7 @@
 #include "screen/surface.h"
 
 #include "pixels/tile.h"
-#include "tests/support/fatal_checks.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <SDL3/SDL.h>
 

@@ -1,5 +1,7 @@
 #include "selection/picture_formats.h"
 
+#include "tests/support/tiles.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -12,13 +14,6 @@ namespace quadrelle::testing {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-
-Tile random_tile(Size size, unsigned seed) {
-    std::mt19937 random(seed);
-    Tile tile(size.width, size.height);
-    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
-    return tile;
-}
 
 // A bitmap of rows of 24 bits without alpha.
 Bytes bitmap(Size size, std::uint8_t channel) {

@@ -1,20 +1,14 @@
 #include "selection/rotation.h"
 
+#include "tests/support/tiles.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <random>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 namespace {
-
-Tile random_tile(Size size, std::mt19937& random) {
-    Tile tile(size.width, size.height);
-    tile.map_colours([&](Color) {
-        return Color(static_cast<int>(random() % 3) * 100, static_cast<int>(random() % 2) * 200, 7);
-    });
-    return tile;
-}
 
 bool same(const Tile& tile, const Tile& other) {
     return tile.size() == other.size() && std::ranges::equal(tile.pixels(), other.pixels());
@@ -95,4 +89,4 @@ TEST(Rotation, turns_by_the_angle_between_two_directions) {
 }
 
 } // namespace
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -3,7 +3,7 @@
 #include "selection/floating_paste.h"
 #include "selection/selection_transforms.h"
 #include "selection/work_area.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // The folders of src/ are a ladder: a file includes its own folder or one before it in the order below, and
 // no two units, each a header with its source, include each other, directly or through others.
 
-#include "tests/support/project_paths.h"
+#include "tests/support/files.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +15,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 namespace {
 
 constexpr std::array<std::string_view, 13> ladder{"base",      "color",   "commands", "pixels", "tools",
@@ -93,7 +93,7 @@ private:
 
 std::vector<Include> read_includes() {
     constexpr std::string_view start = "#include \"";
-    const std::filesystem::path root = testing::source_folder() / "src";
+    const std::filesystem::path root = source_folder() / "src";
     std::vector<Include> includes;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
         const std::string file = std::filesystem::relative(entry.path(), root).generic_string();
@@ -126,4 +126,4 @@ TEST(Include_Ladder, finds_what_breaks_it) {
 }
 
 } // namespace
-} // namespace quadrelle
+} // namespace quadrelle::testing

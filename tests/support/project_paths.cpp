@@ -1,4 +1,4 @@
-#include "tests/support/project_paths.h"
+#include "tests/support/files.h"
 
 namespace quadrelle::testing {
 

@@ -3,7 +3,7 @@
 #include "base/platform_files.h"
 #include "screen/screen.h"
 #include "selection/picture_formats.h"
-#include "tests/support/project_paths.h"
+#include "tests/support/files.h"
 
 #include <SDL3/SDL_stdinc.h>
 

@@ -4,7 +4,7 @@
 
 #include "base/geometry.h"
 #include "color/color.h"
-#include "tests/support/program_folder.h"
+#include "tests/support/files.h"
 #include "tests/support/scripted_events.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "tileset/bitmap_export.h"
 
 #include "base/platform_files.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <SDL3/SDL.h>
 

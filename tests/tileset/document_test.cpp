@@ -1,18 +1,13 @@
 #include "tileset/document.h"
 
 #include "commands/command_table.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 
 #include <vector>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
 
 Tileset_Document document_of(int tiles) {
@@ -100,4 +95,4 @@ TEST(Tileset_Document, transforms_the_current_tile_only) {
 }
 
 } // namespace
-} // namespace quadrelle
+} // namespace quadrelle::testing

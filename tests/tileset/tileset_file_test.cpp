@@ -1,8 +1,7 @@
 #include "tileset/tileset_file.h"
 
 #include "base/platform_files.h"
-#include "tests/support/fatal_checks.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
@@ -17,13 +16,7 @@
 #include <unistd.h>
 #endif
 
-namespace quadrelle {
-
-using testing::Bytes;
-using testing::store;
-using testing::stored;
-using testing::Temporary_Folder;
-
+namespace quadrelle::testing {
 namespace {
 
 // Two tiles of 2 x 1 pixels.
@@ -293,4 +286,4 @@ TEST(Tileset_File, saving_keeps_permissions_and_links) {
 
 #endif
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

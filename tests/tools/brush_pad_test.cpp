@@ -1,7 +1,7 @@
 #include "tools/brush_pad.h"
 
 #include "base/data_stream.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <algorithm>
 #include <random>
@@ -11,12 +11,7 @@
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art_color;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr Size board = Brush_Pad::board_size;
@@ -293,4 +288,4 @@ TEST(Brush_Pad, rows_that_make_no_sense_are_left_out) {
     EXPECT_EQ(count("400", many), 255U);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

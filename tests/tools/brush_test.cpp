@@ -1,15 +1,12 @@
 #include "tools/brush.h"
 
-#include "tests/support/drawn.h"
+#include "tests/support/tiles.h"
 
 #include <stdexcept>
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::art_color;
-using testing::make_tile;
+namespace quadrelle::testing {
 
 TEST(Brush, repeats_as_a_wallpaper_to_all_sides) {
     const Brush stamp = stamp_brush(make_tile({"abc"}), make_tile({"##."}));
@@ -25,4 +22,4 @@ TEST(Brush, needs_a_pixel_and_one_for_each_place) {
     EXPECT_THROW(Brush({2, 2}, {Color(), Color(), Color()}, Brush_Owner::pen), std::length_error);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,6 +1,6 @@
 #include "tools/flood_fill.h"
 
-#include "tests/support/drawn.h"
+#include "tests/support/tiles.h"
 
 #include <algorithm>
 #include <chrono>
@@ -10,14 +10,7 @@
 
 #include <random>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art;
-using testing::art_color;
-using testing::drawn;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
 
 Art filled(const Art& before, Tile_Point seed) {
@@ -171,4 +164,4 @@ TEST(Flood_Fill, ends_at_the_wave_limit) {
     EXPECT_LT(time, 500.0);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

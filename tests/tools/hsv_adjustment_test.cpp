@@ -1,21 +1,12 @@
 #include "tools/hsv_adjustment.h"
 
+#include "tests/support/tiles.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
 
-namespace quadrelle {
-
-namespace {
-
-Tile random_tile(Size size) {
-    std::mt19937 random(20);
-    Tile tile(size.width, size.height);
-    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
-    return tile;
-}
-
-} // namespace
+namespace quadrelle::testing {
 
 TEST(hsv_adjustment, keeps_to_the_mask_and_begins_at_the_source) {
     Tile tile = random_tile({20, 20});
@@ -35,4 +26,4 @@ TEST(hsv_adjustment, keeps_to_the_mask_and_begins_at_the_source) {
     }
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,19 +1,13 @@
 #include "tools/line.h"
 
-#include "tests/support/drawn.h"
+#include "tests/support/tiles.h"
 
 #include <limits>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art_color;
-using testing::blank;
-using testing::drawn;
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr int largest = std::numeric_limits<int>::max();
@@ -72,4 +66,4 @@ TEST(Line, knows_its_length) {
     EXPECT_EQ(line_length({smallest, 0}, {largest, 0}), 4294967296);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -1,19 +1,12 @@
 #include "tools/pens.h"
 
-#include "tests/support/drawn.h"
+#include "tests/support/tiles.h"
 
 #include <limits>
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art_color;
-using testing::blank;
-using testing::drawn;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
 
 const Brush& pixel_brush() {
@@ -181,4 +174,4 @@ TEST(Pens, smudge_along_a_segment_pixel_by_pixel) {
     EXPECT_EQ(tile.get_pixel(3, 0), (Color{16, 8, 4}));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

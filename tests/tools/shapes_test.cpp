@@ -1,19 +1,12 @@
 #include "tools/shapes.h"
 
-#include "tests/support/drawn.h"
+#include "tests/support/tiles.h"
 
 #include <limits>
 
 #include <gtest/gtest.h>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art;
-using testing::art_color;
-using testing::blank;
-using testing::drawn;
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr int largest = std::numeric_limits<int>::max();
@@ -99,4 +92,4 @@ TEST(Shapes, know_their_figures) {
     EXPECT_EQ(ellipse_radii({smallest, 0}, {largest, smallest}), (Radii{largest, largest}));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -11,14 +11,9 @@
 #include <stdexcept>
 #include <string>
 
-namespace quadrelle {
+namespace quadrelle::testing {
 
-using testing::Bytes;
 using ::testing::HasSubstr;
-using testing::pixel_at;
-using testing::Script;
-using testing::store;
-using testing::stored;
 
 namespace {
 
@@ -27,7 +22,7 @@ constexpr int choice_id = 21;
 constexpr int tick_id = 30;
 
 // A dialog with one item of each kind that can be changed.
-class Dialog_Container_Test : public testing::Window_Test {
+class Dialog_Container_Test : public Window_Test {
 protected:
     void make(const std::string& data_file = {}) {
         dialog.emplace("Dialog", data_file);
@@ -145,7 +140,7 @@ TEST_F(Dialog_Container_Test, is_drawn_over_the_backdrop) {
     script.check([&] {
         EXPECT_EQ(pixel_at({5, 5}), Color(1, 2, 3));
         EXPECT_EQ(pixel_at({box.x + 3, box.bottom() - 3}), standard_color(Standard_Color::pane_background));
-        EXPECT_TRUE(testing::has_picture(dialog->item(number_id)->area));
+        EXPECT_TRUE(has_picture(dialog->item(number_id)->area));
         script.press({dialog->item(number_id)->area.x, dialog->item(number_id)->area.y});
         // The dialog stays in sight behind the prompt.
         script.check([&] {
@@ -235,4 +230,4 @@ TEST_F(Dialog_Container_Test, no_data_file_breaks_it) {
     expect_values(50, 0, 0);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

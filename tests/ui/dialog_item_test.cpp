@@ -11,11 +11,10 @@
 #include <string>
 #include <vector>
 
-namespace quadrelle {
-
+namespace quadrelle::testing {
 namespace {
 
-class Dialog_Item_Test : public testing::Window_Test {};
+class Dialog_Item_Test : public Window_Test {};
 
 using Texts = std::vector<std::string>;
 
@@ -137,4 +136,4 @@ TEST_F(Dialog_Item_Test, numbers_are_as_wide_as_they_are_written) {
     EXPECT_EQ(list.area.width, Text_Dialog({}, "A long one").area.width);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

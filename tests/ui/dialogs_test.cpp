@@ -12,14 +12,10 @@
 #include <optional>
 #include <string>
 
-namespace quadrelle {
-
-using testing::pixel_at;
-using testing::Script;
-
+namespace quadrelle::testing {
 namespace {
 
-class Dialogs_Test : public testing::Window_Test {};
+class Dialogs_Test : public Window_Test {};
 
 constexpr Point middle{616, 332};
 
@@ -82,7 +78,7 @@ TEST_F(Dialogs_Test, debug_monitor_fits_into_the_window) {
     script.check([] {
         EXPECT_EQ(pixel_at({616, 2}), standard_color(Standard_Color::frame));
         EXPECT_EQ(pixel_at({2, 332}), standard_color(Standard_Color::frame));
-        EXPECT_TRUE(testing::has_picture({100, 30, 1000, 60}));
+        EXPECT_TRUE(has_picture({100, 30, 1000, 60}));
     });
     script.key(key::escape);
     show_log();
@@ -162,4 +158,4 @@ TEST_F(Number_Prompt_Test, stays_inside_the_window) {
     }
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -10,14 +10,10 @@
 #include "ui/location_info.h"
 #include "ui/number_info.h"
 
-namespace quadrelle {
-
-using testing::has_picture;
-using testing::pixel_at;
-
+namespace quadrelle::testing {
 namespace {
 
-class Pane_Test : public testing::Window_Test {};
+class Pane_Test : public Window_Test {};
 
 constexpr Color background = standard_color(Standard_Color::pane_background);
 constexpr Color clear_color{10, 20, 30};
@@ -114,4 +110,4 @@ TEST_F(Pane_Test, preview_stays_inside_its_client_area) {
     }
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

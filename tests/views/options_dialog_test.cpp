@@ -1,7 +1,7 @@
 #include "views/options_dialog.h"
 
 #include "base/data_directory.h"
-#include "tests/support/fatal_checks.h"
+#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 
 #include <array>
@@ -9,16 +9,10 @@
 #include <memory>
 #include <string>
 
-namespace quadrelle {
-
-using testing::Bytes;
-using testing::Script;
-using testing::store;
-using testing::stored;
-
+namespace quadrelle::testing {
 namespace {
 
-class Options_Test : public testing::Window_Test {
+class Options_Test : public Window_Test {
 protected:
     [[nodiscard]] std::string file() { return folder().data_path("options.dlg"); }
 };
@@ -81,4 +75,4 @@ TEST_F(Options_Test, accepted_changes_are_kept_between_runs) {
     EXPECT_EQ(loaded_values(), changed);
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

@@ -5,16 +5,13 @@
 #include "tests/support/window_test.h"
 #include "tileset/tileset.h"
 
-namespace quadrelle {
-
-using testing::pixel_at;
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr Point corner{16, 16};
 constexpr int edge = 32;
 
-class Tile_Grid_Test : public testing::Window_Test {
+class Tile_Grid_Test : public Window_Test {
 protected:
     static Tileset set_of(Size tile_size, int count) {
         Tileset tileset(tile_size);
@@ -102,4 +99,4 @@ TEST_F(Tile_Grid_Test, draws_no_marker_outside_of_its_cells) {
     EXPECT_EQ(pixel_at({corner.x + 15 * edge, corner.y + 15 * edge}), Color(255, 255, 255));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

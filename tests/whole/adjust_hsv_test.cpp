@@ -8,8 +8,6 @@
 namespace quadrelle::testing {
 namespace {
 
-using Tile_Picture = std::vector<Color>;
-
 constexpr int hue_y = 74;
 constexpr int saturation_y = 98;
 constexpr int value_y = 122;
@@ -36,10 +34,7 @@ protected:
         tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
         document().history().reset(document().tileset());
     }
-    static Tile_Picture picture(int index = 0) {
-        const Tile& tile = document().tileset().tile_at(index);
-        return {tile.pixels().begin(), tile.pixels().end()};
-    }
+    static Tile_Picture picture(int index = 0) { return picture_of(document().tileset().tile_at(index)); }
     static Tile_Picture changed(Tile_Picture pixels, const HSV_Change& change) {
         std::ranges::transform(pixels, pixels.begin(), [&](Color color) { return adjusted(color, change); });
         return pixels;

@@ -15,8 +15,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color black(0, 0, 0);
-constexpr Color red(255, 0, 0);
 constexpr Color dark_grey(64, 64, 64);
 constexpr Color pane_background(137, 137, 137);
 

@@ -13,7 +13,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color red(200, 30, 40);
 constexpr Point beside_the_canvas{800, 600};
 
 class Brush_View_Test : public Program_Test {

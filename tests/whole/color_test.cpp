@@ -4,16 +4,13 @@
 #include "color/palette_store.h"
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
-#include "tests/support/scratch_files.h"
+#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL_keyboard.h>
 
 namespace quadrelle::testing {
 namespace {
-
-constexpr Color white{255, 255, 255};
-constexpr Color black{0, 0, 0};
 
 class Color_Test : public Program_Test {
 protected:
@@ -121,13 +118,13 @@ TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     click({entry_10.x, entry_10.y + 20});
     EXPECT_EQ(palette_store->color(0, 18), Color(1, 2, 3, 4));
     const std::string path = folder().data_path("palette.dat");
-    EXPECT_TRUE(test::bytes_of_file(path).empty());
+    EXPECT_TRUE(stored_text(path).empty());
     ASSERT_TRUE(data_directory().enter(Data_Directory::inside));
     palette_store.reset();
     data_directory().leave();
     // Entries follow the count, each as four numbers.
-    EXPECT_TRUE(test::bytes_of_file(path).substr(4).starts_with("3,32,255,255,255,255,0,0,0,255,97,18,124"));
-    EXPECT_NE(test::bytes_of_file(path).find(",1,2,3,4,5,6,7,255,"), std::string::npos);
+    EXPECT_TRUE(stored_text(path).substr(4).starts_with("3,32,255,255,255,255,0,0,0,255,97,18,124"));
+    EXPECT_NE(stored_text(path).find(",1,2,3,4,5,6,7,255,"), std::string::npos);
 }
 
 } // namespace

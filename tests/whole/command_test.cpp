@@ -30,15 +30,6 @@ protected:
             EXPECT_LE(execute_and_escape(row.id).size(), 1U);
         }
     }
-
-    // A file that is all header.
-    void load_empty_tileset(std::uint8_t width, std::uint8_t height) {
-        const std::string path = folder().data_path("empty.qdl");
-        store(path, {'Q', 'D', 'L', '\n', 0, width, height, 0, 0, 0, 0});
-        answer_files(File_Answer_State::chosen, path);
-        execute(Command::load);
-        answer_files(File_Answer_State::cancelled);
-    }
 };
 
 TEST_F(Command_Test, every_one_leaves_the_program_usable) {
@@ -54,8 +45,7 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
     const std::vector<Size> sizes{{24, 24}, {255, 255}, {24, 0}, {0, 24}, {0, 0}};
     for (const Size& size : sizes) {
         SCOPED_TRACE(size.width * 1000 + size.height);
-        load_empty_tileset(static_cast<std::uint8_t>(size.width), static_cast<std::uint8_t>(size.height));
-        ASSERT_FALSE(document().tileset().has_tiles());
+        load_empty_set(size);
         EXPECT_FALSE(has_picture({264, 64, 512, 512}));
         script().drag({cell(3, 3), cell(5, 5)}).wheel(1).wheel(-1);
         play();
@@ -108,8 +98,6 @@ TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
         EXPECT_EQ(count_in_preview({255, 255, 255}) > 0, expected == Color(255, 255, 255));
         EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl" + title);
     };
-    constexpr Color white(255, 255, 255);
-    constexpr Color black(0, 0, 0);
     document().clear_modified();
     shown(Command::add_new_tile, black, "*");
     shown(Command::previous_tile, white, "*");

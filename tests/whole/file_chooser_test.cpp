@@ -1,7 +1,7 @@
 // The program's own dialog for choosing a file, driven as a user does it.
 
 #include "screen/screen.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 
@@ -58,9 +58,9 @@ protected:
         }
         return script();
     }
-    std::string in_art(const std::string& name) { return folder().folder().path("art/" + name); }
+    std::string in_art(const std::string& name) { return folder().path("art/" + name); }
     void make_folder(const std::string& name) {
-        std::filesystem::create_directories(folder().folder().native_path() / name);
+        std::filesystem::create_directories(folder().native_path() / name);
     }
 };
 
@@ -197,7 +197,7 @@ TEST_F(File_Chooser_Test, survives_folders_that_vanish) {
 
     // The last folder is gone: it opens in the one above.
     text("here").key(key::enter);
-    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset), folder().folder().path("here.qdl"));
+    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset), folder().path("here.qdl"));
 }
 
 } // namespace

@@ -9,9 +9,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color white(255, 255, 255);
-constexpr Color red(200, 0, 0);
-
 class Floating_Test : public Program_Test {
 protected:
     static Work_Area& work() { return editor->canvas().work_area(); }

@@ -44,12 +44,6 @@ protected:
         script().key(key::escape);
         dialog.run();
     }
-    void load_empty_set() {
-        const std::string path = folder().data_path("empty.qdl");
-        store(path, {'Q', 'D', 'L', '\n', 0, 24, 24, 0, 0, 0, 0});
-        answer_files(File_Answer_State::chosen, path);
-        execute(Command::load);
-    }
 };
 
 TEST_F(Help_Test, every_text_fits_into_the_window) {
@@ -70,7 +64,7 @@ TEST_F(Help_Test, statistics_count_tiles_bytes_and_undo) {
                                  " File size: 6923 bytes\r\r Undo buffer: 4 Kb\r\rFilename:\runtitled0.qdl")
         .key(key::enter);
     execute(Command::statistics);
-    load_empty_set();
+    load_empty_set({24, 24});
     EXPECT_TRUE(statistics_text(document())
                     .starts_with("Tile memory\r Tiles: 0 x 2304 = 0 bytes\r Size: 24 x 24 pixels\r"
                                  " File size: 11 bytes\r\r Undo buffer: 0 Kb\r\rFilename:\r"));
@@ -155,12 +149,12 @@ TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
     });
     script().release(cell(6, 5));
     play();
-    load_empty_set();
+    load_empty_set({24, 24});
     EXPECT_EQ(hint_at(cell(3, 4), script()).at(0), "No tile");
 }
 
 TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {
-    load_empty_set();
+    load_empty_set({24, 24});
     for (const Command command : {Command::rotate, Command::scroll_left, Command::scroll_down, Command::flip,
                                   Command::anti_alias, Command::delete_tile, Command::save_history_buffer,
                                   Command::vertical_seam_tool, Command::versions}) {

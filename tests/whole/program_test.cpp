@@ -136,6 +136,16 @@ Script& Program_Test::expect_dialog(Shown_Dialog expected) {
     });
 }
 
+void Program_Test::load_empty_set(Size size) {
+    const std::string path = folder().data_path("empty.qdl");
+    store(path, {'Q', 'D', 'L', '\n', 0, static_cast<std::uint8_t>(size.width),
+                 static_cast<std::uint8_t>(size.height), 0, 0, 0, 0});
+    answer_files(File_Answer_State::chosen, path);
+    execute(Command::load);
+    ASSERT_FALSE(document().tileset().has_tiles());
+    answer_files(File_Answer_State::cancelled);
+}
+
 void Program_Test::answer_files(File_Answer_State state, const std::string& path) {
     asked_file_.reset();
     set_file_chooser([this, state, path](File_Dialog_Kind kind) {

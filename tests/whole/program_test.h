@@ -5,6 +5,7 @@
 
 #include "app/editor.h"
 #include "commands/command.h"
+#include "tests/support/tiles.h"
 #include "tests/support/window_test.h"
 #include "tools/options.h"
 #include "views/file_dialog.h"
@@ -39,6 +40,9 @@ protected:
     [[nodiscard]] Program_Folder& folder() { return *folder_; }
     [[nodiscard]] static Tileset_Document& document() { return editor->documents().current(); }
     [[nodiscard]] static Color tile_pixel(int x, int y);
+    [[nodiscard]] static Tile_Picture tile_picture() {
+        return picture_of(*document().tileset().current_tile());
+    }
     [[nodiscard]] static std::string window_title();
     // How many pixels of the preview have that colour; it repeats the tile twice each way.
     [[nodiscard]] static int count_in_preview(Color color);
@@ -48,6 +52,9 @@ protected:
     Script& expect_question(const std::string& title, const std::string& text);
     // At this step the loop with that name waits.
     Script& expect_loop(const std::string& name);
+
+    // A set of that size without tiles, which no command makes.
+    void load_empty_set(Size size);
 
     // What the system's file dialog answers from now on, and whether it was asked since.
     void answer_files(File_Answer_State state, const std::string& path = {});

@@ -12,7 +12,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color white(255, 255, 255);
 constexpr Color yellow(0xff, 0xe2, 0x3a);
 
 // Every pixel another colour.

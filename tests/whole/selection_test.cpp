@@ -16,17 +16,9 @@
 namespace quadrelle::testing {
 namespace {
 
-using Tile_Picture = std::vector<Color>;
-
-constexpr Color black(0, 0, 0);
-constexpr Color white(255, 255, 255);
-constexpr Color red(200, 30, 40);
-constexpr Color clear(0, 0, 0, 0);
-
 class Selection_Test : public Program_Test {
 protected:
     static Tile& tile() { return *document().tileset().current_tile(); }
-    static Tile_Picture pixels() { return {tile().pixels().begin(), tile().pixels().end()}; }
     static Work_Area& work() { return editor->canvas().work_area(); }
     static int count(Color color) { return static_cast<int>(std::ranges::count(tile().pixels(), color)); }
 
@@ -57,7 +49,7 @@ protected:
 
 TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without_loss) {
     paint_noise(1);
-    const Tile_Picture before = pixels();
+    const Tile_Picture before = tile_picture();
     select_rectangle({2, 2}, {6, 5});
     execute(Command::cut);
     EXPECT_EQ(count(clear), 12);
@@ -74,7 +66,7 @@ TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without
     play();
     click({20, 20});
     EXPECT_FALSE(work().paste());
-    EXPECT_EQ(pixels(), before);
+    EXPECT_EQ(tile_picture(), before);
     // Each of these was a step, the four nudges together, and takes the paste with it.
     for (int i = 0; i < 5; ++i) {
         execute(Command::undo);

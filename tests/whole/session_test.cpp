@@ -16,8 +16,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color black(0, 0, 0);
-constexpr Color white(255, 255, 255);
 // Half of it is odd: a seam shift is not its own inverse.
 constexpr int edge = 26;
 constexpr int seam_shift = 12;

@@ -62,14 +62,6 @@ protected:
         ASSERT_EQ(history().entries().size(), 3U);
     }
 
-    void load_empty_set() {
-        const std::string path = folder().data_path("empty.qdl");
-        std::ofstream(path, std::ios::binary).write("QDL\n\0\4\1\0\0\0\0", 11);
-        answer_files(File_Answer_State::chosen, path);
-        execute(Command::load);
-        ASSERT_FALSE(tileset().has_tiles());
-    }
-
     static void expect_images(const std::vector<int>& images) {
         ASSERT_EQ(tileset().count(), static_cast<int>(images.size()));
         for (int i = 0; i < tileset().count(); ++i) {
@@ -204,7 +196,7 @@ TEST_F(Set_Views_Test, swapped_tiles_are_where_undo_ends) {
 }
 
 TEST_F(Set_Views_Test, every_view_works_without_tiles) {
-    load_empty_set();
+    load_empty_set(tile_size);
     script().press(in_cell(0)).press_number(in_cell(1), middle_button).key(key::tab).key(key::space);
     execute(Command::arrange_select);
     script().press(in_cell(0));

@@ -3,9 +3,7 @@
 #include "app/start_up.h"
 #include "app/editor.h"
 #include "color/palette_store.h"
-#include "tests/support/project_paths.h"
-#include "tests/support/scratch_files.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 #include "views/options_dialog.h"
 
@@ -33,7 +31,7 @@ protected:
                                    folder_.native_path() / "data" / "pool.bmp");
     }
     [[nodiscard]] std::string path(const std::string& name) const { return folder_.path(name); }
-    void put(const std::string& name, const std::string& bytes) const { test::put_bytes(path(name), bytes); }
+    void put(const std::string& name, const std::string& bytes) const { store_text(path(name), bytes); }
 
     // The exit status; 137 when it had to be killed because it went on running.
     [[nodiscard]] int run() const {
@@ -106,8 +104,8 @@ TEST(Start_Up, takes_data_files_with_any_content) {
     for (const std::string& record : records) {
         SCOPED_TRACE(record.substr(0, 60));
         const Program_Folder folder;
-        test::put_bytes(folder.data_path("palette.dat"), test::record_bytes(record));
-        test::put_bytes(folder.data_path("options.dlg"), test::record_bytes(record));
+        store_text(folder.data_path("palette.dat"), record_bytes(record));
+        store_text(folder.data_path("options.dlg"), record_bytes(record));
         start_application();
         EXPECT_TRUE(editor->show_first_frame());
         EXPECT_GE(palette_store->size(), 1);
@@ -130,7 +128,7 @@ TEST(Start_Up, leaves_no_file_and_no_changed_folder_behind) {
     ASSERT_TRUE(editor->show_first_frame());
     shut_down_application();
     EXPECT_EQ(current_directory(), before);
-    EXPECT_EQ(folder.folder().entry_count(), 1);
+    EXPECT_EQ(folder.entry_count(), 1);
     EXPECT_FALSE(std::filesystem::exists(folder.data_path("palette.dat")));
     EXPECT_FALSE(std::filesystem::exists(folder.data_path("options.dlg")));
 }

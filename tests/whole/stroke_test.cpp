@@ -6,9 +6,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color white(255, 255, 255);
-constexpr Color black(0, 0, 0);
-
 class Stroke_Test : public Program_Test {
 protected:
     static int count_of(Color color) {

@@ -2,7 +2,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 
 #include <algorithm>
@@ -49,7 +49,7 @@ protected:
             const Color color = color_of(i);
             bytes.insert(bytes.end(), {255, color.b, color.g, color.r});
         }
-        const std::string path = folder().folder().path("many.qdl");
+        const std::string path = folder().path("many.qdl");
         store(path, bytes);
         answer_files(File_Answer_State::chosen, path);
         execute(Command::load);

@@ -11,8 +11,6 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color red(200, 30, 40);
-
 class Tools_Test : public Program_Test {};
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {

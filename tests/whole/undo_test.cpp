@@ -9,19 +9,9 @@
 namespace quadrelle::testing {
 namespace {
 
-using Tile_Picture = std::vector<Color>;
-
-constexpr Color white(255, 255, 255);
-constexpr Color black(0, 0, 0);
-
-Tile_Picture picture_of(const Tile& tile) {
-    return {tile.pixels().begin(), tile.pixels().end()};
-}
-
 class Undo_Test : public Program_Test {
 protected:
     static const Undo_History& history() { return document().history(); }
-    static Tile_Picture picture() { return picture_of(*document().tileset().current_tile()); }
 
     void stroke(const std::vector<Point>& points) {
         script().drag(points);
@@ -46,15 +36,15 @@ TEST_F(Undo_Test, takes_a_stroke_as_one_step_and_none_when_it_changed_nothing) {
     stroke({cell(2, 2), cell(9, 2)});
     EXPECT_EQ(history().entries().size(), 2U);
     EXPECT_EQ(history().entries().back().kind, Command::pen);
-    const Tile_Picture drawn = picture();
+    const Tile_Picture drawn = tile_picture();
 
     document().clear_modified();
     press_undo();
-    EXPECT_EQ(picture(), Tile_Picture(drawn.size(), black));
+    EXPECT_EQ(tile_picture(), Tile_Picture(drawn.size(), black));
     EXPECT_EQ(pixel_at(cell(9, 5)), black);
     EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
     press_redo();
-    EXPECT_EQ(picture(), drawn);
+    EXPECT_EQ(tile_picture(), drawn);
     EXPECT_EQ(pixel_at(cell(9, 5)), white);
 }
 

@@ -8,11 +8,6 @@
 namespace quadrelle::testing {
 namespace {
 
-using Tile_Picture = std::vector<Color>;
-
-constexpr Color white(255, 255, 255);
-constexpr Color black(0, 0, 0);
-
 Point middle_of(const Rectangle& area) {
     return {area.x + area.width / 2, area.y + area.height / 2};
 }
@@ -41,7 +36,6 @@ protected:
     }
 
     static Tile& tile() { return *document().tileset().current_tile(); }
-    static Tile_Picture picture() { return {tile().pixels().begin(), tile().pixels().end()}; }
     static std::size_t steps() { return document().history().entries().size(); }
     void paint(Point position) {
         script().click(position);
@@ -85,7 +79,7 @@ TEST_F(Versions_Test, previews_a_slot_while_its_key_or_a_button_on_it_is_held) {
 
 TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     paint_probe();
-    const Tile_Picture kept = picture();
+    const Tile_Picture kept = tile_picture();
     document().clear_modified();
     // Without a selected slot there is nowhere to store.
     script().key('v').click(store_button());
@@ -97,11 +91,11 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     play();
     EXPECT_FALSE(document().is_modified());
     EXPECT_EQ(steps(), 2U);
-    EXPECT_EQ(picture(), kept);
+    EXPECT_EQ(tile_picture(), kept);
 
     paint(cell(9, 9));
     paint(cell(4, 5));
-    const Tile_Picture later = picture();
+    const Tile_Picture later = tile_picture();
     document().clear_modified();
     script().key('v').press(slot(1));
     script().check([&] { EXPECT_EQ(in_big_view(), white); });
@@ -109,7 +103,7 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     in_main();
     play();
     EXPECT_EQ(floating(), kept);
-    EXPECT_EQ(picture(), later);
+    EXPECT_EQ(tile_picture(), later);
     EXPECT_EQ(pixel_at(cell(9, 9)), black);
     EXPECT_TRUE(document().is_modified());
     EXPECT_EQ(steps(), 5U);
@@ -117,11 +111,11 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     EXPECT_EQ(toolbox->current_tool(), Tool::selection);
     script().key('p');
     play();
-    EXPECT_EQ(picture(), kept);
+    EXPECT_EQ(tile_picture(), kept);
     EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
     script().key('z', Modifier::control).key('z', Modifier::control);
     play();
-    EXPECT_EQ(picture(), later);
+    EXPECT_EQ(tile_picture(), later);
     EXPECT_FALSE(editor->canvas().work_area().paste());
 
     store_in('2');
@@ -131,14 +125,14 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
 TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
     paint_probe();
     document().clear_modified();
-    const Tile_Picture before = picture();
+    const Tile_Picture before = tile_picture();
     const auto leave = [&](auto how) {
         script().key('v').key('1').key_up('1');
         in_dialog();
         how();
         in_main();
         play();
-        EXPECT_EQ(picture(), before);
+        EXPECT_EQ(tile_picture(), before);
     };
     leave([&] { script().key(key::escape); });
     leave([&] { script().quit(); });
@@ -153,7 +147,7 @@ TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
     script().key('v').press(take_button());
     in_main();
     play();
-    EXPECT_EQ(picture(), before);
+    EXPECT_EQ(tile_picture(), before);
     EXPECT_FALSE(document().is_modified());
     EXPECT_EQ(steps(), 2U);
 }
@@ -178,7 +172,7 @@ TEST_F(Versions_Test, belong_to_the_document_and_not_to_one_of_its_tiles) {
 TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
     paint_probe();
     tile().set_pixel(20, 20, {9, 8, 7, 6});
-    const Tile_Picture kept = picture();
+    const Tile_Picture kept = tile_picture();
     store_in('1');
     editor->documents().resize_current({12, 40});
     const Tile copy = document().versions().copy(0, {12, 40});
