@@ -9,17 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <random>
 #include <vector>
 
 namespace quadrelle::testing {
-
-static std::ostream& operator<<(std::ostream& out, Color color) {
-    return out << "(" << int{color.r} << " " << int{color.g} << " " << int{color.b} << " " << int{color.a}
-               << ")";
-}
-
 namespace {
 
 constexpr Size viewport{96, 80};

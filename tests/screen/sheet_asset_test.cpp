@@ -1,13 +1,14 @@
 // The committed sheet as the program will find it, and the composer's answers to wrong sources.
 
-#include "screen/font_table.h"
-#include "screen/sprite_table.h"
+#include "screen/sprite_sheet.h"
 #include "tests/support/files.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <sstream>
+#include <cstdlib>
+#include <fstream>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,204 +17,87 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Pixel {
-    int r = 0;
-    int g = 0;
-    int b = 0;
-
-    bool operator==(const Pixel&) const = default;
-};
-
-constexpr Pixel magenta{255, 0, 255};
-constexpr Pixel green{0, 255, 0};
-constexpr Pixel yellow{255, 255, 0};
-constexpr Pixel blue{0, 0, 255};
-
-class Bitmap {
-public:
-    explicit Bitmap(const fs::path& path) {
-        bytes_ = stored(path.string());
-        if (bytes_.size() < 54)
-            bytes_.assign(54, 0);
-    }
-
-    int width() const { return number(18, 4); }
-    int height() const { return number(22, 4); }
-
-    Pixel at(int x, int y) const {
-        const std::size_t row = start() + row_size() * static_cast<std::size_t>(height() - 1 - y);
-        const std::size_t place = row + static_cast<std::size_t>(x) * static_cast<std::size_t>(depth()) / 8;
-        const std::size_t colour = depth() == 8 ? 54 + std::size_t{4} * bytes_.at(place) : place;
-        return {bytes_.at(colour + 2), bytes_.at(colour + 1), bytes_.at(colour)};
-    }
-
-private:
-    int number(std::size_t place, int size) const {
-        int value = 0;
-        for (int i = 0; i < size; ++i)
-            value |= bytes_[place + static_cast<std::size_t>(i)] << (8 * i);
-        return value;
-    }
-    int depth() const { return number(28, 2); }
-    std::size_t start() const { return static_cast<std::size_t>(number(10, 4)); }
-    std::size_t row_size() const {
-        return (static_cast<std::size_t>(width()) * static_cast<std::size_t>(depth()) / 8 + 3) / 4 * 4;
-    }
-
-    Bytes bytes_;
-};
-
-const Bitmap& committed_sheet() {
-    static const Bitmap sheet(source_folder() / "data" / "pool.bmp");
+const Surface& committed_sheet() {
+    static const Surface sheet((source_folder() / "data" / "pool.bmp").string());
     return sheet;
 }
 
-struct Glyph {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-};
-
-// Walks along the marker line and re-reads each marker as the first column of the next glyph.
-std::vector<Glyph> glyphs_of_row(const Bitmap& sheet, int y, int glyph_height) {
-    std::vector<Glyph> glyphs;
-    int start = 0;
-    int counter = 0;
-    bool expects_start = true;
-    for (int x = 0; x < sheet_width;) {
-        const Pixel pixel = sheet.at(x, y);
-        const bool is_marker = pixel == blue || pixel == (expects_start ? green : yellow);
-        if (!is_marker) {
-            ++counter;
-            ++x;
-            continue;
+// A line for each row of pixels: '#' light, '+' dark, '.' the key colour.
+std::string picture_of(const Surface& sheet, const Rectangle& area) {
+    std::string text;
+    for (int y = area.y; y < area.bottom(); ++y, text += '\n') {
+        for (int x = area.x; x < area.right(); ++x) {
+            const auto pixel = sheet.get_pixel(x, y);
+            const bool is_key = pixel.r == 255 && pixel.g == 0 && pixel.b == 255;
+            text += is_key ? '.' : pixel.r > 128 ? '#' : '+';
         }
-        glyphs.push_back({start, y + 1, counter, glyph_height});
-        start = x;
-        expects_start = !expects_start;
-        counter = 0;
-        if (pixel == blue)
-            break;
     }
-    return glyphs;
+    return text;
 }
 
-std::vector<Glyph> glyphs_of(const Bitmap& sheet, const Font_Row& font) {
-    std::vector<Glyph> glyphs;
-    for (int row = 0; row < font.glyph_rows; ++row) {
-        const int y = font.marker_y + row * (font.glyph_height + 1);
-        const auto more = glyphs_of_row(sheet, y, font.glyph_height);
-        glyphs.insert(glyphs.end(), more.begin(), more.end());
+bool is_drawn(const Rectangle& area) {
+    return picture_of(committed_sheet(), area).find_first_of("#+") != std::string::npos;
+}
+
+std::vector<int> widths_of(Font font) {
+    std::vector<int> widths;
+    for (const Rectangle& glyph :
+         scan_glyphs(committed_sheet(), font_table[static_cast<std::size_t>(font)])) {
+        widths.push_back(glyph.width);
     }
-    return glyphs;
-}
-
-std::vector<Glyph> glyphs_of(Font font) {
-    return glyphs_of(committed_sheet(), font_table[static_cast<std::size_t>(font)]);
-}
-
-int text_width(Font font, const std::string& text) {
-    const auto glyphs = glyphs_of(font);
-    int width = 0;
-    for (const char character : text)
-        width += glyphs.at(static_cast<std::size_t>(character - first_character)).width;
-    return width;
+    return widths;
 }
 
 // The widths of the grids, in the order in which they stand in the source.
 std::vector<int> intended_widths(const std::string& file_name) {
     std::ifstream source(source_folder() / "art" / "fonts" / file_name);
     std::vector<int> widths;
-    for (std::string line; std::getline(source, line);)
-        if (line.starts_with("= ") && std::getline(source, line))
+    for (std::string line; std::getline(source, line);) {
+        if (line.starts_with("= ") && std::getline(source, line)) {
             widths.push_back(static_cast<int>(line.size()));
+        }
+    }
     return widths;
-}
-
-std::vector<int> widths_of(const std::vector<Glyph>& glyphs) {
-    std::vector<int> widths;
-    widths.reserve(glyphs.size());
-    for (const Glyph& glyph : glyphs)
-        widths.push_back(glyph.width);
-    return widths;
-}
-
-int visible_pixels(const Bitmap& sheet, const Glyph& area) {
-    int count = 0;
-    for (int y = area.y; y < area.y + area.height; ++y)
-        for (int x = area.x; x < area.x + area.width; ++x)
-            count += sheet.at(x, y) == magenta ? 0 : 1;
-    return count;
-}
-
-bool is_stroke(Pixel pixel) {
-    return pixel != magenta && pixel.r > 128;
-}
-
-bool column_has_stroke(const Bitmap& sheet, const Glyph& glyph, int column) {
-    for (int y = glyph.y; y < glyph.y + glyph.height; ++y)
-        if (is_stroke(sheet.at(glyph.x + column, y)))
-            return true;
-    return false;
 }
 
 TEST(Sheet_Asset, every_sprite_is_drawn) {
-    for (const Sprite_Row& row : sprite_table)
-        EXPECT_GT(visible_pixels(committed_sheet(), {row.x, row.y, row.width, row.height}), 0) << row.name;
+    for (const Sprite_Row& row : sprite_table) {
+        EXPECT_TRUE(is_drawn({row.x, row.y, row.width, row.height})) << row.name;
+    }
 }
 
 TEST(Sheet_Asset, markers_give_every_glyph_its_width) {
-    EXPECT_EQ(widths_of(glyphs_of(Font::regular)), intended_widths("regular.txt"));
-    EXPECT_EQ(widths_of(glyphs_of(Font::pane)), intended_widths("pane.txt"));
-    EXPECT_EQ(widths_of(glyphs_of(Font::pane_header)), intended_widths("pane_header.txt"));
-    EXPECT_EQ(widths_of(glyphs_of(Font::header)), intended_widths("regular.txt"))
+    EXPECT_EQ(widths_of(Font::regular), intended_widths("regular.txt"));
+    EXPECT_EQ(widths_of(Font::pane), intended_widths("pane.txt"));
+    EXPECT_EQ(widths_of(Font::pane_header), intended_widths("pane_header.txt"));
+    EXPECT_EQ(widths_of(Font::header), intended_widths("regular.txt"))
         << "text must not move when it lights up";
 }
 
-TEST(Sheet_Asset, every_glyph_but_the_blank_is_drawn_and_touches_no_other) {
+TEST(Sheet_Asset, every_glyph_but_the_blank_is_drawn_and_differs_and_touches_no_other) {
     for (const Font_Row& font : font_table) {
-        const auto glyphs = glyphs_of(committed_sheet(), font);
+        const std::vector<Rectangle> glyphs = scan_glyphs(committed_sheet(), font);
         ASSERT_EQ(glyphs.size(), 95U) << font.name;
-        EXPECT_EQ(visible_pixels(committed_sheet(), glyphs[0]), 0) << font.name;
-        EXPECT_GT(glyphs[0].width, 2) << font.name;
-        for (std::size_t i = 1; i < glyphs.size(); ++i) {
-            const char character = static_cast<char>(first_character + static_cast<int>(i));
-            EXPECT_GT(visible_pixels(committed_sheet(), glyphs[i]), 0) << font.name << ' ' << character;
-            EXPECT_FALSE(column_has_stroke(committed_sheet(), glyphs[i], glyphs[i].width - 1))
-                << font.name << ' ' << character;
+        EXPECT_FALSE(is_drawn(glyphs[0])) << font.name;
+        std::set<std::string> pictures;
+        for (const Rectangle& glyph : glyphs) {
+            SCOPED_TRACE(std::string(font.name) + ' ' +
+                         static_cast<char>(first_character + static_cast<int>(pictures.size())));
+            EXPECT_TRUE(is_drawn(glyph) || pictures.empty());
+            EXPECT_TRUE(pictures.insert(picture_of(committed_sheet(), glyph)).second) << "as another one";
+            const Rectangle last_column{glyph.right() - 1, glyph.y, 1, glyph.height};
+            EXPECT_EQ(picture_of(committed_sheet(), last_column).find('#'), std::string::npos);
         }
     }
 }
 
-TEST(Sheet_Asset, look_alike_letters_differ) {
-    const auto picture = [](const Glyph& glyph) {
-        std::string text;
-        for (int y = 0; y < glyph.height; ++y) {
-            for (int x = 0; x < glyph.width; ++x)
-                text += is_stroke(committed_sheet().at(glyph.x + x, glyph.y + y)) ? '#' : '.';
-            text += '\n';
-        }
-        return text;
-    };
+TEST(Sheet_Asset, numbers_do_not_jump) {
     for (const Font_Row& font : font_table) {
-        std::vector<std::string> pictures;
-        for (const Glyph& glyph : glyphs_of(committed_sheet(), font))
-            pictures.push_back(picture(glyph));
-        std::sort(pictures.begin(), pictures.end());
-        const auto twin = std::adjacent_find(pictures.begin(), pictures.end());
-        EXPECT_EQ(twin, pictures.end()) << font.name << '\n' << *twin;
+        const std::vector<int> widths = widths_of(font.id);
+        for (std::size_t digit = '0' - first_character; digit <= '9' - first_character; ++digit) {
+            EXPECT_EQ(widths.at(digit), widths.at('0' - first_character)) << font.name;
+        }
     }
-}
-
-TEST(Sheet_Asset, numbers_do_not_jump_and_long_lines_fit) {
-    for (const Font font : {Font::regular, Font::pane, Font::pane_header, Font::header})
-        for (char digit = '1'; digit <= '9'; ++digit)
-            EXPECT_EQ(text_width(font, {digit}), text_width(font, "0"));
-    EXPECT_LT(text_width(Font::pane, "Exclude pixel size precise brush"), 200);
-    EXPECT_LT(text_width(Font::regular, "Draws on the tile with the left or right color; Shift draws a line "
-                                        "from the last point."),
-              640);
 }
 
 constexpr const char* program_suffix =
@@ -228,8 +112,9 @@ class Composer : public ::testing::Test {
 protected:
     void SetUp() override {
         program_ = built_program().parent_path() / (std::string("compose_sheet") + program_suffix);
-        if (!fs::exists(program_))
+        if (!fs::exists(program_)) {
             GTEST_SKIP() << "this build has no composer";
+        }
         fs::create_directories(art() / "sprites");
         fs::copy(source_folder() / "art" / "palette.txt", art());
         fs::copy(source_folder() / "art" / "fonts", art() / "fonts");
@@ -249,10 +134,10 @@ protected:
         const std::string command =
             program_.string() + " " + options + art().string() + " " + output().string() + " 2> " + report;
         const bool succeeded = std::system(command.c_str()) == 0;
-        const Bytes bytes = stored(report);
-        EXPECT_EQ(succeeded, bytes.empty());
+        const std::string said = stored_text(report);
+        EXPECT_EQ(succeeded, said.empty());
         EXPECT_EQ(succeeded, fs::exists(output()));
-        return {bytes.begin(), bytes.end()};
+        return said;
     }
 
     std::string complaints_about(const std::string& sprites) const {
@@ -260,18 +145,8 @@ protected:
         return complaints();
     }
 
-    // The sprite's pixels as the characters of a palette of three.
-    std::string drawn(const std::string& name) const {
-        const Bitmap sheet(output());
-        const auto row = std::find_if(sprite_table.begin(), sprite_table.end(),
-                                      [&](const Sprite_Row& candidate) { return candidate.name == name; });
-        std::string text;
-        for (int y = row->y; y < row->y + row->height; ++y, text += '\n')
-            for (int x = row->x; x < row->x + row->width; ++x) {
-                const Pixel pixel = sheet.at(x, y);
-                text += pixel == magenta ? '.' : pixel == Pixel{1, 2, 3} ? 'a' : 'b';
-            }
-        return text;
+    [[nodiscard]] std::string drawn(Sprite sprite) const {
+        return picture_of(Surface(output().string()), sprite_rect(sprite));
     }
 
 private:
@@ -281,8 +156,9 @@ private:
 
 std::string repeated(const std::string& row, int count) {
     std::string rows;
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         rows += row + '\n';
+    }
     return rows;
 }
 
@@ -293,12 +169,12 @@ TEST_F(Composer, draws_plates_and_derived_grids) {
                                "# a comment\n= background aligner on plate\n" + "aaa.....\n" +
                                repeated("........", 7)),
               "");
-    EXPECT_EQ(drawn("background aligner"), "aaabbbbb\n" + repeated("bbbbbbbb", 7));
+    EXPECT_EQ(drawn(Sprite::background_aligner), "+++#####\n" + repeated("########", 7));
 
     EXPECT_EQ(complaints_about(colours + "@ mark\naaa.....\n" + repeated("........", 7) +
                                "= background aligner from mark shift 1 6 recolour ab\n"),
               "");
-    EXPECT_EQ(drawn("background aligner"), repeated("........", 6) + ".bbb....\n........\n");
+    EXPECT_EQ(drawn(Sprite::background_aligner), repeated("........", 6) + ".###....\n........\n");
 }
 
 TEST_F(Composer, names_file_and_line_of_a_wrong_sprite) {
@@ -329,9 +205,7 @@ TEST_F(Composer, lists_all_missing_sprites_at_once) {
 }
 
 TEST_F(Composer, misses_no_glyph) {
-    std::stringstream font;
-    font << std::ifstream(art() / "fonts" / "pane.txt").rdbuf();
-    std::string text = font.str();
+    std::string text = stored_text((art() / "fonts" / "pane.txt").string());
     const std::size_t start = text.find("= Q\n");
     text.erase(start, text.find("= R\n") - start);
     write("fonts/pane.txt", text);

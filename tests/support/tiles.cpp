@@ -67,9 +67,7 @@ Tile_Picture picture_of(const Tile& tile) {
 
 Tile random_tile(Size size, std::mt19937& random) {
     Tile tile(size.width, size.height);
-    for (Color& pixel : tile.pixels()) {
-        pixel = Color::from_word(static_cast<std::uint32_t>(random()));
-    }
+    tile.map_colours([&](Color) { return Color::from_word(static_cast<std::uint32_t>(random())); });
     return tile;
 }
 

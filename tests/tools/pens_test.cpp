@@ -68,14 +68,14 @@ TEST(Pens, lighten_and_darken) {
 }
 
 TEST(Pens, colorize_toward_the_tool_colour) {
-    const Color red{255, 0, 0};
+    const Color pure_red{255, 0, 0};
     const Color grey{100, 100, 100, 9};
-    EXPECT_EQ(inked(grey, colorize(red, Colorize_Type::linear)), (Color{173, 0, 0, 9}));
+    EXPECT_EQ(inked(grey, colorize(pure_red, Colorize_Type::linear)), (Color{173, 0, 0, 9}));
     EXPECT_EQ(inked(grey, colorize({}, Colorize_Type::linear)), (Color{0, 0, 0, 9}));
-    EXPECT_EQ(inked({255, 255, 255}, colorize(red, Colorize_Type::linear)), red);
-    EXPECT_EQ(inked(grey, colorize(red, Colorize_Type::luma)), (Color{100, 0, 0, 9}));
+    EXPECT_EQ(inked({255, 255, 255}, colorize(pure_red, Colorize_Type::linear)), red);
+    EXPECT_EQ(inked(grey, colorize(pure_red, Colorize_Type::luma)), (Color{100, 0, 0, 9}));
     EXPECT_EQ(inked({0, 255, 0, 9}, colorize({50, 50, 50}, Colorize_Type::luma)), (Color{255, 255, 255, 9}));
-    EXPECT_EQ(inked(grey, {Pixel_Operation::colorize, {}}, red), (Color{173, 0, 0, 9}));
+    EXPECT_EQ(inked(grey, {Pixel_Operation::colorize, {}}, pure_red), (Color{173, 0, 0, 9}));
 }
 
 TEST(Pens, bring_the_history_back) {

@@ -1,7 +1,9 @@
 // From start to end: the program as a process of its own, and start and end within the test.
 
 #include "app/start_up.h"
+
 #include "app/editor.h"
+#include "base/platform_files.h"
 #include "color/palette_store.h"
 #include "tests/support/files.h"
 #include "tests/support/window_test.h"
