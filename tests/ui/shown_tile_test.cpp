@@ -1,7 +1,7 @@
 #include "ui/shown_tile.h"
 
 #include "screen/renderer.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <SDL3/SDL.h>
 #include <gtest/gtest.h>
@@ -12,12 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace quadrelle {
-
-using testing::Art;
-using testing::art_color;
-using testing::make_tile;
-
+namespace quadrelle::testing {
 namespace {
 
 // What tiles draw goes into a picture of 6 x 4 pixels instead of a window.
@@ -39,7 +34,7 @@ protected:
                 picture.set_pixel(x, y, color);
             }
         }
-        return testing::art(picture);
+        return art(picture);
     }
 
 private:
@@ -100,4 +95,4 @@ TEST_F(Shown_Tile_Test, tells_tiles_apart) {
     EXPECT_EQ(drawn(make_tile({"f", "g"}), {0, 0, 1, 2}), (Art{"f.....", "g.....", "......", "......"}));
 }
 
-} // namespace quadrelle
+} // namespace quadrelle::testing

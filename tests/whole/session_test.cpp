@@ -157,7 +157,7 @@ private:
     void pour() {
         select_tool(Tool::wand_selector);
         const auto mode = static_cast<Wand_Mode>(one_in(3) ? 1 + below(2) : 0);
-        toolbox->options().set_value(Tool_Option::wand_mode, static_cast<int>(mode));
+        toolbox->options().wand_mode = mode;
         const Mouse_Button button = some_button();
         const Tile_Point at = some_pixel();
         click(window_point(at), button);
@@ -309,7 +309,7 @@ private:
     }
     void choose_mode() {
         model_.mode = static_cast<Selection_Mode>(below(3));
-        toolbox->options().set_value(Tool_Option::selection_mode, static_cast<int>(model_.mode));
+        toolbox->options().selection_mode = model_.mode;
     }
     void go_by(Command command, int step) {
         editor->execute(command);
