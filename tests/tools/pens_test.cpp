@@ -72,7 +72,7 @@ TEST(Pens, colorize_toward_the_tool_colour) {
     const Color grey{100, 100, 100, 9};
     EXPECT_EQ(inked(grey, colorize(pure_red, Colorize_Type::linear)), (Color{173, 0, 0, 9}));
     EXPECT_EQ(inked(grey, colorize({}, Colorize_Type::linear)), (Color{0, 0, 0, 9}));
-    EXPECT_EQ(inked({255, 255, 255}, colorize(pure_red, Colorize_Type::linear)), red);
+    EXPECT_EQ(inked({255, 255, 255}, colorize(pure_red, Colorize_Type::linear)), pure_red);
     EXPECT_EQ(inked(grey, colorize(pure_red, Colorize_Type::luma)), (Color{100, 0, 0, 9}));
     EXPECT_EQ(inked({0, 255, 0, 9}, colorize({50, 50, 50}, Colorize_Type::luma)), (Color{255, 255, 255, 9}));
     EXPECT_EQ(inked(grey, {Pixel_Operation::colorize, {}}, pure_red), (Color{173, 0, 0, 9}));

@@ -171,7 +171,7 @@ TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
     // The first one lies on the cells 0 to 5, the second one on 6 to 9.
     script().motion(board_point(0, 0));
     play();
-    EXPECT_EQ(pixel_at(board_point(0, 0)), red);
+    EXPECT_EQ(pixel_at(board_point(0, 0)), Color(255, 0, 0));
     EXPECT_EQ(pixel_at(board_point(6, 0)), dark_grey);
     EXPECT_EQ(pixel_at(board_point(3, 4)), gradient(2, 3));
     script().click(board_point(0, 0));

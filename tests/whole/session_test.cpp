@@ -329,7 +329,9 @@ private:
     }
     void scroll_strip(Command command, int first) {
         editor->execute(command);
-        model_.end_shifts();
+        if (command == Command::rewind_strip || command == Command::forward_strip) {
+            model_.end_shifts();
+        }
         model_.set().scroll_to(first);
     }
     void arrange() {
