@@ -3,7 +3,7 @@
 #include "canvas/stroke_table.h"
 #include "commands/command_table.h"
 #include "tests/support/drawing_board.h"
-#include "tests/support/tile_art.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +15,7 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr Color red(200, 30, 40);
 constexpr Color blue(20, 60, 210, 128);
-
-using Tile_Picture = std::vector<Color>;
 
 struct Stroke_Case {
     Command command;
@@ -53,10 +50,6 @@ void make_colorful(Tile& tile, int variant) {
         tile.set_pixel_at(i,
                           {40 + i % 150, 50 + i / 150 * 20 + variant, 160 - i % 130, i % 3 == 0 ? 90 : 255});
     }
-}
-
-Tile_Picture picture_of(const Tile& tile) {
-    return {tile.pixels().begin(), tile.pixels().end()};
 }
 
 void choose(Tool_State& tools, const Stroke_Case& stroke, int brush_size) {

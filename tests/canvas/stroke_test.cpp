@@ -1,4 +1,5 @@
 #include "tests/support/drawing_board.h"
+#include "tests/support/tiles.h"
 
 #include <gtest/gtest.h>
 
@@ -6,10 +7,6 @@
 
 namespace quadrelle::testing {
 namespace {
-
-constexpr Color black(0, 0, 0);
-constexpr Color white(255, 255, 255);
-constexpr Color red(200, 30, 40);
 
 class Stroke_On_Board : public ::testing::Test {
 protected:

@@ -2,23 +2,22 @@
 
 #include "tests/color/hsv_grid.h"
 
-#include <gtest/gtest.h>
-
 namespace quadrelle::testing {
+namespace {
 
 TEST(color_edit, agrees_with_an_independent_conversion_both_ways) {
-    for_grid_colors([](Color color) {
+    for_many_colors([](Color color) {
         Color_Edit edit(color);
-        const auto exact = exact_hsv(color);
+        const Exact_HSV exact = hsv_of(color);
         ASSERT_NEAR(edit.number(Color_Channel::saturation), 100.0 * exact.saturation, 0.5 + 1e-9);
         ASSERT_NEAR(edit.number(Color_Channel::value), exact.value / 2.55, 0.5 + 1e-9);
         ASSERT_NEAR(std::remainder(edit.number(Color_Channel::hue) - exact.hue, 360.0), 0.0, 0.5 + 1e-9);
 
-        const auto expect = [&](Color_Channel channel, int number, Exact_HSV wanted) {
+        const auto expect = [&](Color_Channel channel, int number, const Exact_HSV& wanted) {
             Color_Edit changed = edit;
             changed.set_number(channel, number);
             if (changed.number(channel) != edit.number(channel)) {
-                ASSERT_TRUE(is_nearest(changed.color(), exact_rgb(wanted))) << color.word();
+                ASSERT_TRUE(is_near(changed.color(), exact_rgb(wanted))) << color.word();
             }
             ASSERT_EQ(changed.number(channel), number);
         };
@@ -41,14 +40,13 @@ TEST(color_edit, keeps_the_hue_through_every_grey) {
         edit.set_color({40, 40, 40, 77});
         edit.set_color({0, 0, 0, 77});
         // Turned by the red that was added on the way.
-        const int kept = edit.number(Color_Channel::hue);
-        ASSERT_EQ(kept, 180);
+        ASSERT_EQ(edit.number(Color_Channel::hue), 180);
         edit.set_number(Color_Channel::hue, hue);
         edit.set_color({120, 120, 120, 77});
         ASSERT_EQ(edit.number(Color_Channel::hue), hue);
         edit.set_number(Color_Channel::saturation, 100);
         edit.set_number(Color_Channel::value, 100);
-        ASSERT_TRUE(is_nearest(edit.color(), exact_rgb({hue + 0.0, 1.0, 255.0}))) << hue;
+        ASSERT_TRUE(is_near(edit.color(), exact_rgb({hue + 0.0, 1.0, 255.0}))) << hue;
         ASSERT_EQ(edit.color().a, 77);
     }
 }
@@ -70,18 +68,22 @@ TEST(color_edit, stops_or_wraps_at_both_ends_of_every_number) {
             edit.set_number(row.id, number);
             EXPECT_EQ(edit.number(row.id), number);
         }
-        for (const Color_Channel_Row& other : color_channels) {
-            const bool is_component = other.id == Color_Channel::hue ||
-                                      other.id == Color_Channel::saturation ||
-                                      other.id == Color_Channel::value;
-            const bool was_component = row.id == Color_Channel::hue || row.id == Color_Channel::saturation ||
-                                       row.id == Color_Channel::value;
-            if (other.id != row.id && is_component && was_component) {
-                EXPECT_EQ(edit.number(other.id), Color_Edit(Color(97, 18, 124, 200)).number(other.id))
-                    << other.name;
-            }
+    }
+}
+
+// Also through numbers that leave nothing to see of it.
+TEST(color_edit, one_component_leaves_the_others) {
+    constexpr std::array components{Color_Channel::hue, Color_Channel::saturation, Color_Channel::value};
+    const Color_Edit before(Color(97, 18, 124, 200));
+    for (const Color_Channel changed : components) {
+        Color_Edit edit(before);
+        edit.set_number(changed, 0);
+        edit.set_number(changed, 9);
+        for (const Color_Channel other : components) {
+            EXPECT_EQ(edit.number(other), other == changed ? 9 : before.number(other));
         }
     }
 }
 
+} // namespace
 } // namespace quadrelle::testing

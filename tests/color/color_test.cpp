@@ -1,17 +1,12 @@
 #include "color/color.h"
 
-#include "color/hsv.h"
-#include "color/standard_colors.h"
-
-#include <gtest/gtest.h>
+#include "tests/color/hsv_grid.h"
 
 #include <bit>
-#include <cmath>
 #include <cstdint>
 #include <limits>
 
-namespace quadrelle {
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
@@ -25,20 +20,6 @@ Color changed(Color color, Action action) {
     action(color);
     return color;
 }
-
-// Calls with about 27000 colours that cover both ends of every channel.
-template <typename Action>
-void for_many_colors(Action action) {
-    for (int r = 0; r <= 255; r += r == 252 ? 3 : 9) {
-        for (int g = 0; g <= 255; g += g == 252 ? 3 : 9) {
-            for (int b = 0; b <= 255; b += b == 252 ? 3 : 9) {
-                action(Color(r, g, b));
-            }
-        }
-    }
-}
-
-} // namespace
 
 TEST(Color, addition_wraps_and_clamped_addition_tells_of_its_bound) {
     EXPECT_EQ(changed({100, 1, 255, 200}, [](Color& c) { c.add(200, -2, 1, 56); }), Color(44, 255, 0, 0));
@@ -79,26 +60,22 @@ TEST(Color, amounts_without_sense_stay_in_range) {
 // The reference counts in thousandths, with the unusual weight of blue.
 TEST(Color, weighted_brightening_has_the_weights_299_587_144) {
     for (int channel = 0; channel <= 255; ++channel) {
-        const Color grey(channel, channel, channel);
-        const auto after = [channel](int thousandths) {
-            return std::min(255000, std::max(0, channel * 1000 + thousandths)) / 1000;
+        const auto after = [channel](int amount) {
+            const auto sum = [&](int weight) {
+                return std::clamp(channel * 1000 + amount * weight, 0, 255000) / 1000;
+            };
+            return Color(sum(299), sum(587), sum(144));
         };
-        EXPECT_EQ(changed(grey, [](Color& c) { c.brighten_weighted(3.0); }),
-                  Color(after(897), after(1761), after(432)));
-        EXPECT_EQ(changed(grey, [](Color& c) { c.darken_weighted(3.0); }),
-                  Color(after(-897), after(-1761), after(-432)));
-        EXPECT_EQ(changed(grey, [](Color& c) { c.brighten_weighted(51.5); }),
-                  Color(after(15398), after(30230), after(7416)));
+        const Color grey(channel, channel, channel);
+        EXPECT_EQ(changed(grey, [](Color& c) { c.brighten_weighted(3.0); }), after(3));
+        EXPECT_EQ(changed(grey, [](Color& c) { c.darken_weighted(51.0); }), after(-51));
     }
 }
 
 TEST(Color, mixes_truncate_and_take_the_other_alpha) {
     EXPECT_EQ(changed({255, 1, 0, 7}, [](Color& c) { c.average({254, 2, 1, 99}); }), Color(254, 1, 0, 99));
-    EXPECT_EQ(changed({200, 100, 10, 7},
-                      [](Color& c) {
-                          c.blend({100, 200, 11, 99}, 0.25);
-                      }),
-              Color(125, 175, 10, 99));
+    const auto blend = [](Color& c) { c.blend({100, 200, 11, 99}, 0.25); };
+    EXPECT_EQ(changed({200, 100, 10, 7}, blend), Color(125, 175, 10, 99));
     for_many_colors([](Color color) {
         const Color other(color.b, color.r, 255 - color.g, 3);
         EXPECT_EQ(changed(color, [&](Color& c) { c.blend(other, 0.5); }),
@@ -109,27 +86,16 @@ TEST(Color, mixes_truncate_and_take_the_other_alpha) {
 }
 
 TEST(Color, matching_a_direction_keeps_the_length) {
-    const auto matched = [](Color own, Color other) {
-        own.match_direction(other);
-        return own;
-    };
-    EXPECT_EQ(matched({100, 100, 100, 50}, {255, 0, 0}), Color(173, 0, 0, 50));
-    EXPECT_EQ(matched({1, 2, 3, 50}, {0, 0, 0, 255}), Color(0, 0, 0, 50));
-    EXPECT_EQ(matched({0, 0, 0, 50}, {9, 8, 7}), Color(0, 0, 0, 50));
-    EXPECT_EQ(matched({255, 255, 255}, {0, 0, 1}), Color(0, 0, 255));
-
-    for_many_colors([&](Color own) {
+    for_many_colors([](Color own) {
         const Color other(own.g, 255 - own.b, own.r ^ 21);
-        const auto length = [](Color c) {
-            return std::sqrt(static_cast<long double>(c.r * c.r + c.g * c.g + c.b * c.b));
-        };
-        const Color result = matched(own, other);
+        const auto length = [](Color c) { return std::sqrt(1.0 * (c.r * c.r + c.g * c.g + c.b * c.b)); };
+        const Color result = changed(own, [&](Color& c) { c.match_direction(other); });
         for (int i = 0; i < 3; ++i) {
-            const long double exact = std::min(255.0L, length(own) * other.channel(i) / length(other));
-            EXPECT_GE(result.channel(i), std::floor(exact - 1e-9L));
-            EXPECT_LE(result.channel(i), std::floor(exact + 1e-9L));
+            const double exact = std::min(255.0, length(own) * other.channel(i) / length(other));
+            EXPECT_NEAR(result.channel(i), exact - 0.5, 0.5 + 1e-9);
         }
     });
+    EXPECT_EQ(changed({1, 2, 3, 50}, [](Color& c) { c.match_direction({}); }), Color(0, 0, 0, 50));
 }
 
 TEST(Color, taking_a_hue_keeps_value_and_alpha) {
@@ -156,4 +122,5 @@ TEST(Color, luminance_follows_the_curve_of_the_eye) {
     EXPECT_FALSE(Color(0, 255, 0).is_dark());
 }
 
-} // namespace quadrelle
+} // namespace
+} // namespace quadrelle::testing

@@ -1,70 +1,15 @@
 // HSV and HSL against other textbook forms of the same formulas.
 
 #include "color/hsl.h"
-#include "color/hsv.h"
+#include "tests/color/hsv_grid.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
 #include <limits>
 
-namespace quadrelle {
-
+namespace quadrelle::testing {
 namespace {
 
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-template <typename Action>
-void for_many_colors(Action action) {
-    for (int r = 0; r <= 255; r += 5) {
-        for (int g = 0; g <= 255; g += 5) {
-            for (int b = 0; b <= 255; b += 5) {
-                action(Color(r, g, b));
-            }
-        }
-    }
-}
-
-// The hue as an angle in the plane across the grey axis, straightened within its sixth of the wheel.
-double hue_reference(Color c) {
-    std::array<int, 3> sorted = {c.r, c.g, c.b};
-    std::ranges::sort(sorted);
-    const double within = static_cast<double>(sorted[1] - sorted[0]) / (sorted[2] - sorted[0]);
-    int sixth = 0;
-    if (c.r >= c.g && c.g >= c.b) {
-        sixth = 0;
-    } else if (c.g >= c.r && c.r >= c.b) {
-        sixth = 1;
-    } else if (c.g >= c.b && c.b >= c.r) {
-        sixth = 2;
-    } else if (c.b >= c.g && c.g >= c.r) {
-        sixth = 3;
-    } else if (c.b >= c.r && c.r >= c.g) {
-        sixth = 4;
-    } else {
-        sixth = 5;
-    }
-    return 60.0 * (sixth % 2 == 0 ? sixth + within : sixth + 1 - within);
-}
-
-double distance_on_the_wheel(double a, double b) {
-    const double difference = std::fabs(a - b);
-    return std::min(difference, 360.0 - difference);
-}
-
-void expect_truncated(int channel, double exact) {
-    EXPECT_GE(channel, std::floor(exact - 1e-9));
-    EXPECT_LE(channel, std::floor(exact + 1e-9));
-}
-
-Color through_hsl(Color color) {
-    return HSL_Color(color, color).to_rgb();
-}
-
-} // namespace
 
 TEST(Bounded_Value, clamps_all_but_what_is_not_a_number) {
     Bounded_Value value(0.0, 255.0, 300.0);
@@ -78,37 +23,24 @@ TEST(Bounded_Value, clamps_all_but_what_is_not_a_number) {
     value = nan;
     EXPECT_TRUE(std::isnan(value.value()));
     EXPECT_EQ(value.channel(), 0);
-    EXPECT_EQ(value.high(), 255.0);
 }
 
 TEST(HSV_Color, a_grey_takes_the_hue_of_its_reference) {
-    const HSV_Color color({128, 128, 128}, {0, 255, 0});
-    EXPECT_EQ(color.hue, 120.0);
-    EXPECT_EQ(color.saturation.value(), 0.0);
-    EXPECT_EQ(color.value.value(), 128.0);
-    EXPECT_EQ(color.to_rgb(), Color(128, 128, 128));
+    EXPECT_EQ(HSV_Color({128, 128, 128}, {0, 255, 0}).hue, 120.0);
     EXPECT_EQ(HSV_Color({9, 8, 8}, {0, 255, 0}).hue, 0.0);
-
     HSV_Color grey({128, 128, 128}, {7, 7, 7});
     EXPECT_TRUE(std::isnan(grey.hue));
     grey.saturation = 1.0;
     EXPECT_EQ(grey.to_rgb(), Color(128, 128, 128));
 }
 
-TEST(HSV_Color, from_rgb_and_back_loses_at_most_a_truncation) {
+TEST(HSV_Color, from_rgb_is_exact_and_back_loses_at_most_a_truncation) {
     for_many_colors([](Color color) {
-        const HSV_Color hsv(color, {1, 2, 3});
-        EXPECT_EQ(hsv.value.value(), color.max_channel());
-        if (!color.is_grey()) {
-            EXPECT_NEAR(hsv.saturation.value() * color.max_channel(),
-                        color.max_channel() - color.min_channel(), 1e-9);
-            EXPECT_LT(distance_on_the_wheel(hsv.hue, hue_reference(color)), 1e-9);
-        }
-        const Color back = hsv.to_rgb();
-        EXPECT_EQ(back.max_channel(), color.max_channel());
-        for (int i = 0; i < 3; ++i) {
-            expect_truncated(back.channel(i), color.channel(i));
-        }
+        const auto exact = exact_rgb(hsv_of(color));
+        ASSERT_TRUE(is_near(color, exact, 0.0)) << color.word();
+        const Color back = HSV_Color(color, {255, 0, 0}).to_rgb();
+        ASSERT_EQ(back.max_channel(), color.max_channel());
+        ASSERT_TRUE(is_near(back, {exact[0] - 0.5, exact[1] - 0.5, exact[2] - 0.5})) << color.word();
     });
 }
 
@@ -131,32 +63,27 @@ TEST(HSL_Color, a_round_trip_deliberately_changes_most_colors) {
     EXPECT_NEAR(hsl.saturation.value(), 300.0 / 730.0, 1e-12);
     EXPECT_EQ(hsl.to_rgb(), Color(193, 107, 107));
     for (const Color pure : {Color(255, 0, 0), Color(0, 255, 0), Color(255, 0, 255), Color(77, 77, 77)}) {
-        EXPECT_EQ(through_hsl(pure), pure);
+        EXPECT_EQ(HSL_Color(pure, pure).to_rgb(), pure);
     }
 }
 
+// By the value and saturation in HSV that a lightness and a saturation stand for.
 TEST(HSL_Color, to_rgb_over_the_whole_space) {
     HSL_Color hsl;
-    for (double hue = 0.0; hue <= 360.0; hue += 1.25) {
-        for (double s = 0.0; s <= 1.0; s += 0.0625) {
-            for (double l = 0.0; l <= 1.0; l += 0.03125) {
-                hsl.hue = hue;
-                hsl.saturation = s;
-                hsl.lightness = l;
-                const Color result = hsl.to_rgb();
-                const auto exact = [&](double turn) {
-                    const double k = std::fmod(turn + hue / 30.0, 12.0);
-                    return 255.0 *
-                           (l - s * std::min(l, 1.0 - l) * std::max(-1.0, std::min({k - 3.0, 9.0 - k, 1.0})));
-                };
-                ASSERT_NEAR(result.r, exact(0.0), 0.5 + 1e-9);
-                ASSERT_NEAR(result.g, exact(8.0), 0.5 + 1e-9);
-                ASSERT_NEAR(result.b, exact(4.0), 0.5 + 1e-9);
-            }
+    for (hsl.hue = 0.0; hsl.hue <= 360.0; hsl.hue += 2.5) {
+        for (int i = 0; i < 17 * 33; ++i) {
+            const double s = i % 17 / 16.0;
+            const double l = i / 17 / 32.0;
+            hsl.saturation = s;
+            hsl.lightness = l;
+            const double value = l + s * std::min(l, 1.0 - l);
+            const double share = value == 0.0 ? 0.0 : 2.0 * (1.0 - l / value);
+            ASSERT_TRUE(is_near(hsl.to_rgb(), exact_rgb({hsl.hue, share, 255.0 * value})));
         }
     }
     hsl.lightness = nan;
     EXPECT_EQ(hsl.to_rgb(), Color(0, 0, 0));
 }
 
-} // namespace quadrelle
+} // namespace
+} // namespace quadrelle::testing

@@ -3,6 +3,7 @@
 // Colours to go through, and the textbook way from hue, saturation and value to a colour.
 
 #include "color/color.h"
+#include "color/hsv.h"
 
 #include <gtest/gtest.h>
 
@@ -13,16 +14,12 @@
 
 namespace quadrelle::testing {
 
-// 52 x 52 x 52, and 2 more of each channel so that neighbours of the ends are there.
+// 26 x 26 x 26, and 3 more of each channel for the ends and their neighbours.
 template <typename Action>
-void for_grid_colors(Action action) {
-    constexpr auto channel = [](int i) { return i < 52 ? 5 * i : i == 52 ? 1 : 254; };
-    for (int r = 0; r < 54; ++r) {
-        for (int g = 0; g < 54; ++g) {
-            for (int b = 0; b < 54; ++b) {
-                action(Color(channel(r), channel(g), channel(b)));
-            }
-        }
+void for_many_colors(Action action) {
+    constexpr auto channel = [](int i) { return i < 26 ? 10 * i : std::array{1, 254, 255}.at(i - 26); };
+    for (int i = 0; i < 29 * 29 * 29; ++i) {
+        action(Color(channel(i / 29 / 29), channel(i / 29 % 29), channel(i % 29)));
     }
 }
 
@@ -32,29 +29,10 @@ struct Exact_HSV {
     double value = 0.0; // 0 to 255
 };
 
-// The hue from where the middle channel lies between the others, six cases written out.
-inline Exact_HSV exact_hsv(Color c) {
-    const double high = std::max({c.r, c.g, c.b});
-    const double low = std::min({c.r, c.g, c.b});
-    const double range = high - low;
-    if (range == 0.0) {
-        return {0.0, 0.0, high};
-    }
-    double hue = 0.0;
-    if (c.b == low && c.r == high) {
-        hue = 60.0 * (c.g - low) / range;
-    } else if (c.b == low) {
-        hue = 120.0 - 60.0 * (c.r - low) / range;
-    } else if (c.r == low && c.g == high) {
-        hue = 120.0 + 60.0 * (c.b - low) / range;
-    } else if (c.r == low) {
-        hue = 240.0 - 60.0 * (c.g - low) / range;
-    } else if (c.b == high) {
-        hue = 240.0 + 60.0 * (c.r - low) / range;
-    } else {
-        hue = 360.0 - 60.0 * (c.b - low) / range;
-    }
-    return {hue, range / high, high};
+// As the program sees it; a grey is a red one.
+inline Exact_HSV hsv_of(Color color) {
+    const HSV_Color hsv(color, {255, 0, 0});
+    return {hsv.hue, hsv.saturation.value(), hsv.value.value()};
 }
 
 // Each channel a trapezium over the wheel, summed up from its straight parts.
@@ -68,12 +46,14 @@ inline std::array<double, 3> exact_rgb(const Exact_HSV& hsv) {
     return rgb;
 }
 
-// Each channel is the nearest whole number.
-inline ::testing::AssertionResult is_nearest(Color color, const std::array<double, 3>& exact) {
+// No channel is further away than that.
+inline ::testing::AssertionResult is_near(Color color, const std::array<double, 3>& exact,
+                                          double distance = 0.5) {
     for (int i = 0; i < 3; ++i) {
-        if (std::fabs(color.channel(i) - exact.at(static_cast<std::size_t>(i))) > 0.5 + 1e-6) {
-            return ::testing::AssertionFailure() << "channel " << i << ": " << int{color.channel(i)}
-                                                 << " for " << exact.at(static_cast<std::size_t>(i));
+        const double wanted = exact.at(static_cast<std::size_t>(i));
+        if (std::fabs(color.channel(i) - wanted) > distance + 1e-6) {
+            return ::testing::AssertionFailure()
+                   << "channel " << i << ": " << int{color.channel(i)} << " for " << wanted;
         }
     }
     return ::testing::AssertionSuccess();
