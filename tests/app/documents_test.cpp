@@ -26,10 +26,7 @@ protected:
     static Documents& documents() { return editor->documents(); }
     static std::string name() { return document().file_name(); }
 
-    void draw_pixel(int x, int y) {
-        script().click(cell(x, y));
-        play();
-    }
+    void draw_pixel(int x, int y) { play(script().click(cell(x, y))); }
     void choose(const std::string& path) { answer_files(File_Answer_State::chosen, path); }
     std::string in_folder(const std::string& file) { return folder().path(file); }
     // Saved there, as the current document's file.
@@ -51,8 +48,7 @@ protected:
 TEST_F(Documents_Test, save_asks_for_a_name_once_and_forces_its_extension) {
     draw_pixel(2, 3);
     choose(in_folder("tiles.png"));
-    script().key('s', Modifier::control);
-    play();
+    play(script().key('s', Modifier::control));
     EXPECT_EQ(asked_file(), File_Dialog_Kind::save_tileset);
     const std::string path = in_folder("tiles.qdl");
     EXPECT_EQ(window_title(), product + path);
@@ -224,8 +220,7 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     EXPECT_EQ(window_title(), product + "untitled1.qdl");
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(tile_pixel(1, 1), Color(0, 0, 0));
-    script().motion({1, 1});
-    play();
+    play(script().motion({1, 1}));
     EXPECT_NE(pixel_at(cell(1, 1)), white);
     execute(Command::close);
     EXPECT_EQ(window_title(), product + "untitled2.qdl");
@@ -235,18 +230,15 @@ TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) 
     draw_pixel(1, 1);
     execute(Command::add_new_tile);
     documents().new_document({10, 10});
-    script().click(tab_after({}));
-    play();
+    play(script().click(tab_after({})));
     EXPECT_EQ(window_title(), product + "untitled0.qdl*");
     EXPECT_EQ(document().tileset().current_index(), 0);
     EXPECT_EQ(pixel_at(cell(1, 1)), white);
     // Its own tab does nothing: the tile stays.
     execute(Command::next_tile);
-    script().click(tab_after({}));
-    play();
+    play(script().click(tab_after({})));
     EXPECT_EQ(document().tileset().current_index(), 1);
-    script().click(tab_after({"untitled0.qdl*"}), Mouse_Button::right);
-    play();
+    play(script().click(tab_after({"untitled0.qdl*"}), Mouse_Button::right));
     EXPECT_EQ(name(), "untitled1.qdl");
     EXPECT_EQ(editor->canvas().magnified_size(), (Size{100, 100}));
 }
@@ -257,17 +249,14 @@ TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     for (int i = 0; i < 11; ++i) {
         documents().new_document({8, 8});
     }
-    script().click(left_arrow);
-    play();
+    play(script().click(left_arrow));
     const std::string hidden = name();
     // A tab that shows stays in its place when it is chosen.
-    script().click({500, 53}).click(tab_after({}));
-    play();
+    play(script().click({500, 53}).click(tab_after({})));
     EXPECT_EQ(name(), hidden);
     EXPECT_NE(hidden, "untitled11.qdl");
     // That tab is the first one in the row now, and others are hidden behind it.
-    script().click(right_arrow);
-    play();
+    play(script().click(right_arrow));
     EXPECT_NE(name(), hidden);
     // Leftwards until the first tab shows; then there is no arrow any more.
     for (int i = 0; i < 12; ++i) {
@@ -275,38 +264,11 @@ TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     }
     play();
     const std::string reached = name();
-    script().click(left_arrow);
-    play();
+    play(script().click(left_arrow));
     EXPECT_EQ(name(), reached);
-    script().click(tab_after({}));
-    play();
+    play(script().click(tab_after({})));
     EXPECT_EQ(name(), "untitled0.qdl");
 }
-
-// What the list of documents should be, told plainly.
-struct Model {
-    struct Entry {
-        std::string name;
-        int tiles = 1;
-        bool is_modified = false;
-    };
-    std::vector<Entry> entries{{"untitled0.qdl"}};
-    std::size_t current = 0;
-    int next_untitled = 1;
-
-    [[nodiscard]] Entry& entry() { return entries.at(current); }
-    void add() {
-        entries.push_back({"untitled" + std::to_string(next_untitled++) + ".qdl"});
-        current = entries.size() - 1;
-    }
-    void close() {
-        entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(current));
-        if (entries.empty()) {
-            add();
-        }
-        current = std::min(current, entries.size() - 1);
-    }
-};
 
 } // namespace
 } // namespace quadrelle::testing

@@ -14,8 +14,6 @@
 namespace quadrelle::testing {
 namespace {
 
-int operations_left = 0;
-
 // Steps into a folder, and back out at the end of the test.
 class Visit {
 public:
@@ -69,12 +67,10 @@ TEST(Files, an_atomic_file_that_missed_a_block_is_never_committed) {
     const Temporary_Folder folder;
     const std::string path = folder.path("file");
     Atomic_File file(path);
-    operations_left = 0;
-    set_file_fault_hook([] { return operations_left-- == 0; });
+    const Fault fault(0);
     EXPECT_FALSE(file.write(Bytes{1, 2, 3}));
     EXPECT_FALSE(file.write(Bytes{4}));
     EXPECT_FALSE(file.commit());
-    set_file_fault_hook(nullptr);
     EXPECT_FALSE(std::filesystem::exists(path));
 }
 

@@ -92,8 +92,7 @@ TEST_F(Menu_Bar_Test, lights_what_the_pointer_is_on) {
     script().motion({600, 650}).press(header(edit));
     lights(item(edit, 0), {left_of(edit) + 2, 27}, true);
     lights(item(edit, 2), {left_of(edit) + 2, 27 + 50}, false);
-    script().key(key::escape);
-    play();
+    play(script().key(key::escape));
 }
 
 } // namespace

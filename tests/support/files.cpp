@@ -3,6 +3,7 @@
 #include "base/data_directory.h"
 #include "base/platform_files.h"
 
+#include <csignal>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -75,6 +76,54 @@ std::string record_bytes(const std::string& text) {
         bytes += static_cast<char>((text.size() + 1) >> shift & 255U);
     }
     return bytes + text + ':';
+}
+
+void Old_File::expect_untouched() const {
+    EXPECT_EQ(stored(path), bytes);
+    EXPECT_EQ(folder.entry_count(), 1);
+}
+
+namespace {
+
+int operations_left = 0;
+
+} // namespace
+
+Fault::Fault(int operation, Kind kind) {
+    operations_left = operation;
+    if (kind == Kind::failure) {
+        set_file_fault_hook([] { return operations_left-- == 0; });
+    } else {
+        set_file_fault_hook([] { return operations_left-- == 0 && std::raise(SIGTERM) == 0; });
+    }
+}
+
+Fault::~Fault() {
+    set_file_fault_hook(nullptr);
+}
+
+bool Fault::is_reached() {
+    return operations_left < 0;
+}
+
+int failures_of(const std::function<bool(const std::string& path)>& save) {
+    int failures = 0;
+    bool is_reached = true;
+    for (int operation = 0; is_reached; ++operation) {
+        const Old_File old;
+        const Fault fault(operation);
+        const bool is_saved = save(old.path);
+        is_reached = Fault::is_reached();
+        if (is_saved) {
+            EXPECT_TRUE(operation == 0 || !is_reached) << operation;
+            EXPECT_EQ(old.folder.entry_count(), 1);
+            EXPECT_NE(stored(old.path), old.bytes);
+        } else {
+            ++failures;
+            old.expect_untouched();
+        }
+    }
+    return failures;
 }
 
 void send_output_to_standard_error() {

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -56,6 +57,32 @@ void store_text(const std::string& path, const std::string& text);
 
 // The text as a record file holds it: a length, the text, a colon.
 [[nodiscard]] std::string record_bytes(const std::string& text);
+
+// A folder in which one file is already there.
+struct Old_File {
+    Temporary_Folder folder;
+    std::string path = folder.path("old file");
+    Bytes bytes = {'o', 'l', 'd'};
+
+    Old_File() { store(path, bytes); }
+    void expect_untouched() const;
+};
+
+// The file operation with that number, from 0, fails while this lives, or kills the process.
+class Fault {
+public:
+    enum class Kind { failure, kill };
+    explicit Fault(int operation, Kind kind = Kind::failure);
+    Fault(const Fault&) = delete;
+    Fault& operator=(const Fault&) = delete;
+    ~Fault();
+
+    [[nodiscard]] static bool is_reached();
+};
+
+// Lets every operation fail in its turn of a function that saves over an old file, which then has to be left
+// as it was; returns how often that was. Only creating is tried again, under another name.
+[[nodiscard]] int failures_of(const std::function<bool(const std::string& path)>& save);
 
 // Death tests read standard error, fatal errors go to standard output.
 void send_output_to_standard_error();

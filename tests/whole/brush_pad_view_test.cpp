@@ -44,8 +44,7 @@ protected:
     void choose_in_edit_menu(Command command) {
         const auto& rows = menu_table.at(1).rows;
         const auto row = std::ranges::find(rows, command, &Menu_Row::command) - rows.begin();
-        script().press({48, 12}).press({60, 25 + 25 * static_cast<int>(row) + 12}).motion({800, 600});
-        play();
+        play(script().press({48, 12}).press({60, 25 + 25 * static_cast<int>(row) + 12}).motion({800, 600}));
     }
     // A brush of that rectangle of the gradient on the pad.
     void lay_on_pad(Tile_Point from, Tile_Point to) {
@@ -73,8 +72,7 @@ protected:
 TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes) {
     paint_gradient();
     execute(Command::circle_selector);
-    script().drag({cell(5, 6), cell(7, 8)});
-    play();
+    play(script().drag({cell(5, 6), cell(7, 8)}));
     const Selection circle = work().selection();
     ASSERT_EQ(circle.bounds(), (Rectangle{3, 4, 5, 5}));
     ASSERT_FALSE(circle.contains({3, 4}));
@@ -88,22 +86,18 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
         return is_set ? std::optional(gradient(3 + x, 4 + y)) : std::nullopt;
     };
     tool_colors->set_color(Mouse_Button::left, red);
-    script().motion(cell(12, 13));
-    play();
+    play(script().motion(cell(12, 13)));
     EXPECT_EQ(pixel_at(cell(12, 13)), gradient(5, 6)) << "the preview is centred on the pointer";
     EXPECT_EQ(tile_pixel(12, 13), black);
     for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-        script().click(cell(12, 13), button);
-        play();
+        play(script().click(cell(12, 13), button));
         expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 11); });
     }
     toolbox->options().stamp_mode = Pen_Mode::offset;
-    script().click(cell(13, 14));
-    play();
+    play(script().click(cell(13, 14)));
     expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 10); });
     toolbox->options().stamp_mode = Pen_Mode::pattern;
-    script().click(cell(13, 14));
-    play();
+    play(script().click(cell(13, 14)));
     expect_painted([&](int x, int y) {
         const bool is_covered = x >= 11 && x < 16 && y >= 12 && y < 17;
         return is_covered ? brush_pixel(x % 5, y % 5) : std::nullopt;
@@ -111,12 +105,10 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
     // Filling with it, seen from the seed on.
     execute(Command::flood_fill);
     toolbox->options().fill_mode = Fill_Mode::stamp;
-    script().click(cell(7, 8));
-    play();
+    play(script().click(cell(7, 8)));
     expect_painted([&](int x, int y) { return brush_pixel((x + 3) % 5, (y + 2) % 5); });
     // A key for a size asks for a built-in brush again.
-    script().key('b').key('3').click(cell(4, 4));
-    play();
+    play(script().key('b').key('3').click(cell(4, 4)));
     EXPECT_EQ(toolbox->brush().owner(), Brush_Owner::pen);
     EXPECT_EQ(tile_pixel(4, 4), red);
 }
@@ -169,30 +161,24 @@ TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
     lay_on_pad({10, 10}, {12, 13});
     EXPECT_EQ(toolbox->brush().size(), (Size{2, 3}));
     // The first one lies on the cells 0 to 5, the second one on 6 to 9.
-    script().motion(board_point(0, 0));
-    play();
+    play(script().motion(board_point(0, 0)));
     EXPECT_EQ(pixel_at(board_point(0, 0)), Color(255, 0, 0));
     EXPECT_EQ(pixel_at(board_point(6, 0)), dark_grey);
     EXPECT_EQ(pixel_at(board_point(3, 4)), gradient(2, 3));
-    script().click(board_point(0, 0));
-    play();
+    play(script().click(board_point(0, 0)));
     EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
-    script().click(board_point(6, 4)).click(board_point(30, 100));
-    play();
+    play(script().click(board_point(6, 4)).click(board_point(30, 100)));
     EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "free cells choose nothing";
     // The border counts as the cells beside it, as far as a cell is wide.
-    script().click({1028 - 2, 58 - 2});
-    play();
+    play(script().click({1028 - 2, 58 - 2}));
     EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
-    script().click(board_point(6, 4)).click({1028 - 3, 60}).click({1028, 40});
-    play();
+    play(script().click(board_point(6, 4)).click({1028 - 3, 60}).click({1028, 40}));
     EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "the rest of the frame and the title do not";
     EXPECT_EQ(pixel_at(board_point(0, 0)), dark_grey);
     // With other tools the pad is not there.
     EXPECT_EQ(pixel_at(board_point(20, 150)), pane_background);
     execute(Command::dropper);
-    script().click(board_point(0, 0));
-    play();
+    play(script().click(board_point(0, 0)));
     EXPECT_EQ(toolbox->brush_pad().current()->id, 2);
     EXPECT_NE(pixel_at(board_point(20, 150)), pane_background);
     // Brushes go one after the other; the pen's is left.
@@ -220,8 +206,7 @@ TEST_F(Brush_Pad_View_Test, pad_is_kept_until_the_next_start) {
     ASSERT_TRUE(std::filesystem::exists(file));
     ASSERT_EQ(toolbox->brush_pad().brushes().size(), 1U);
     EXPECT_FALSE(toolbox->brush_pad().has_current());
-    script().key('b').click(board_point(2, 2));
-    play();
+    play(script().key('b').click(board_point(2, 2)));
     ASSERT_EQ(toolbox->brush().size(), (Size{3, 2}));
     EXPECT_EQ(toolbox->brush().pixel(2, 1), gradient(5, 4));
     std::filesystem::remove(file);

@@ -22,10 +22,7 @@ protected:
         const int count = option == Option::precise_brush ? 3 : 2;
         set_option(option, (options->value(option) + 1) % count);
     }
-    void hover(Point position) {
-        script().motion(position);
-        play();
-    }
+    void hover(Point position) { play(script().motion(position)); }
     // In the middle of a cell.
     static Color shown(int column, int row) { return pixel_at(cell(column, row)); }
     static Color corner_of(int column, int row) {
@@ -51,8 +48,7 @@ TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
                 }
             }
             EXPECT_FALSE(previewed.empty());
-            script().click(at).motion(beside_the_canvas);
-            play();
+            play(script().click(at).motion(beside_the_canvas));
             for (int y = 0; y < 24; ++y) {
                 for (int x = 0; x < 24; ++x) {
                     const bool was_previewed =
@@ -97,11 +93,9 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::hidden);
     EXPECT_EQ(cursor_at(beside_the_canvas), Cursor::shown);
     EXPECT_EQ(cursor_at({270, 70}), Cursor::hidden);
-    script().key('d');
-    play();
+    play(script().key('d'));
     EXPECT_EQ(current_cursor(), Cursor::shown);
-    script().key('p');
-    play();
+    play(script().key('p'));
     EXPECT_EQ(current_cursor(), Cursor::hidden);
     // A dialog shows it, wherever the pointer was.
     Cursor in_dialog = Cursor::hidden;
@@ -134,8 +128,7 @@ TEST_F(Brush_View_Test, strokes_hide_the_cursor_and_give_it_back) {
     EXPECT_EQ(during_stroke(cell(5, 5)), Cursor::shown);
     // A window that is closed during a stroke ends the stroke.
     execute(Command::pen);
-    script().press(cell(3, 3)).quit();
-    play();
+    play(script().press(cell(3, 3)).quit());
     EXPECT_EQ(current_cursor(), Cursor::hidden);
 }
 

@@ -21,10 +21,7 @@ protected:
 
     static Color left() { return tool_colors->color(Mouse_Button::left); }
     static Color right() { return tool_colors->color(Mouse_Button::right); }
-    void click(Point point, Mouse_Button button = Mouse_Button::left) {
-        script().click(point, button);
-        play();
-    }
+    void click(Point point, Mouse_Button button = Mouse_Button::left) { play(script().click(point, button)); }
 };
 
 constexpr Point square{1032, 201};
@@ -57,8 +54,7 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     tool_colors->set_color(Mouse_Button::right, {10, 20, 30});
     click(red_less);
     EXPECT_EQ(left(), Color(254, 255, 255));
-    script().click(right_panel).click(red_less);
-    play();
+    play(script().click(right_panel).click(red_less));
     EXPECT_EQ(right(), Color(9, 20, 30));
     EXPECT_EQ(pixel_at({variation(2, 7).x, variation(2, 7).y}), right());
     script()

@@ -36,8 +36,7 @@ TEST_F(Command_Test, every_one_leaves_the_program_usable) {
     execute_every_command();
     tool_colors->reset();
     execute(Command::pen);
-    script().click(cell(3, 3));
-    play();
+    play(script().click(cell(3, 3)));
     EXPECT_EQ(tile_pixel(3, 3), Color(255, 255, 255));
 }
 
@@ -47,8 +46,7 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
         SCOPED_TRACE(size.width * 1000 + size.height);
         load_empty_set(size);
         EXPECT_FALSE(has_picture({264, 64, 512, 512}));
-        script().drag({cell(3, 3), cell(5, 5)}).wheel(1).wheel(-1);
-        play();
+        play(script().drag({cell(3, 3), cell(5, 5)}).wheel(1).wheel(-1));
         execute_every_command();
         execute(Command::add_new_tile);
         EXPECT_GT(document().tileset().count(), 0);
@@ -80,8 +78,7 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
                 by_key.emplace_back(loop);
                 script().key(key::escape);
             });
-            script().key(row.key, row.modifier).key_up(row.key);
-            play();
+            play(script().key(row.key, row.modifier).key_up(row.key));
             EXPECT_EQ(by_key, from_menu) << row.name;
             script().set_afterwards({});
         }
@@ -89,8 +86,7 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
 }
 
 TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
-    script().click(cell(2, 2)).motion({1, 1});
-    play();
+    play(script().click(cell(2, 2)).motion({1, 1}));
     const auto shown = [](Command command, Color expected, const std::string& title) {
         editor->execute(command);
         editor->redraw(Present::yes);
@@ -109,8 +105,7 @@ TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
     EXPECT_EQ(document().tileset().count(), 1);
     shown(Command::next_tile, black, "*");
     // The last tile stays, blank.
-    script().click(cell(2, 2)).motion({1, 1});
-    play();
+    play(script().click(cell(2, 2)).motion({1, 1}));
     shown(Command::delete_tile, black, "*");
 }
 

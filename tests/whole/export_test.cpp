@@ -115,8 +115,7 @@ TEST_F(Export_Test, shows_a_larger_picture_from_its_corner_and_moves_it) {
 }
 
 TEST_F(Export_Test, takes_the_tile_as_it_is_without_the_seam) {
-    script().click(cell(0, 0));
-    play();
+    play(script().click(cell(0, 0)));
     execute(Command::horizontal_seam_tool);
     answer_with("seam");
     script().key(key::enter);

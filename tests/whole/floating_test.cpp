@@ -23,8 +23,7 @@ protected:
         }
         work().select(selected_rectangle(tile().size(), from, to), Selection_Change::add);
         execute(Command::work_selection);
-        script().drag({cell(from.x, from.y), cell(from.x + 3, from.y)});
-        play();
+        play(script().drag({cell(from.x, from.y), cell(from.x + 3, from.y)}));
     }
 };
 
@@ -33,8 +32,7 @@ TEST_F(Floating_Test, a_paste_that_persists_leaves_alone_what_is_drawn_over_it_l
     lift({2, 2}, {6, 6});
     execute(Command::pen);
     EXPECT_EQ(tile_pixel(6, 4), red);
-    script().click(cell(6, 4));
-    play();
+    play(script().click(cell(6, 4)));
     for (const Command command : {Command::line, Command::invert_selection, Command::deselect,
                                   Command::deselect, Command::rectangle_selector}) {
         execute(command);

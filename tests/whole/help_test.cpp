@@ -147,8 +147,7 @@ TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
         EXPECT_EQ(editor->panes().hint_lines().lines().at(0), "Pixel 6, 5");
         EXPECT_EQ(editor->panes().hint_lines().lines().at(1), "Color: 255, 255, 255, 255   #ffffff");
     });
-    script().release(cell(6, 5));
-    play();
+    play(script().release(cell(6, 5)));
     load_empty_set({24, 24});
     EXPECT_EQ(hint_at(cell(3, 4), script()).at(0), "No tile");
 }

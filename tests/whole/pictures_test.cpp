@@ -66,8 +66,7 @@ public:
             execute(Command::deselect);
         }
         execute(Command::paste);
-        script().drag({cell(12, 12), cell(16, 15)}).motion(cell(3, 5));
-        play();
+        play(script().drag({cell(12, 12), cell(16, 15)}).motion(cell(3, 5)));
         show();
     }
 
@@ -81,8 +80,7 @@ public:
         }
         execute(Command::deselect);
         toolbox->options().stamp_mode = Pen_Mode::offset;
-        script().click({1028 + 3 * 10, 58 + 3 * 2}).motion({1028 + 3 * 22, 58 + 3 * 3});
-        play();
+        play(script().click({1028 + 3 * 10, 58 + 3 * 2}).motion({1028 + 3 * 22, 58 + 3 * 3}));
         show();
     }
 
@@ -129,14 +127,12 @@ public:
 
     void undo_list() {
         make_set({24, 24}, 1, 0);
-        script().drag({cell(2, 2), cell(9, 9)});
-        play();
+        play(script().drag({cell(2, 2), cell(9, 9)}));
         for (const Command command : {Command::mirror, Command::rotate, Command::flip, Command::circle}) {
             execute(command);
         }
         script().drag({cell(5, 6), cell(12, 15)}).key(key::left).key('z', Modifier::control);
-        script().key('z', Modifier::control);
-        play();
+        play(script().key('z', Modifier::control));
         execute(Command::free_rotate);
         show_in_loop().key(key::escape);
         execute(Command::view_undo_history);
@@ -161,20 +157,12 @@ public:
 private:
     // Every tile another one, all of them with edges, ramps and clear pixels.
     void make_set(Size size, int count, int current) {
-        editor->documents().new_document(size);
-        Tileset& tileset = document().tileset();
-        for (int i = 0; i < count; ++i) {
-            if (i > 0) {
-                tileset.append_loaded(std::make_unique<Tile>(size.width, size.height));
-            }
-            Tile& tile = tileset.tile_at(i);
-            for (int pixel = 0; pixel < tile.pixel_count(); ++pixel) {
-                const int column = pixel % size.width * 6 / size.width;
-                const int row = pixel / size.width * 6 / size.height;
-                const int alpha = pixel % (size.width + 1) == 3 ? 80 : 255;
-                tile.set_pixel_at(pixel, {column * 50, row * 50, (column * row * 40 + i * 70) % 256, alpha});
-            }
-        }
+        Program_Test::make_set(size, count, [size](int tile, Point pixel) {
+            const int column = pixel.x * 6 / size.width;
+            const int row = pixel.y * 6 / size.height;
+            const int alpha = (pixel.y * size.width + pixel.x) % (size.width + 1) == 3 ? 80 : 255;
+            return Color(column * 50, row * 50, (column * row * 40 + tile * 70) % 256, alpha);
+        });
         go_to(current);
     }
     void go_to(int tile) {

@@ -136,6 +136,22 @@ Script& Program_Test::expect_dialog(Shown_Dialog expected) {
     });
 }
 
+void Program_Test::make_set(Size size, int count, const std::function<Color(int tile, Point pixel)>& color) {
+    ASSERT_TRUE(editor->documents().new_document(size));
+    Tileset& tileset = document().tileset();
+    for (int i = 0; i < count; ++i) {
+        if (i > 0) {
+            tileset.append_loaded(std::make_unique<Tile>(size.width, size.height));
+        }
+        Tile& tile = tileset.tile_at(i);
+        for (int pixel = 0; pixel < tile.pixel_count(); ++pixel) {
+            tile.set_pixel_at(pixel, color(i, {pixel % size.width, pixel / size.width}));
+        }
+    }
+    document().history().reset(tileset);
+    editor->redraw(Present::no);
+}
+
 void Program_Test::load_empty_set(Size size) {
     const std::string path = folder().data_path("empty.qdl");
     store(path, {'Q', 'D', 'L', '\n', 0, static_cast<std::uint8_t>(size.width),

@@ -11,6 +11,7 @@
 #include "views/file_dialog.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ protected:
 
     // Until every event of the script is answered and the window is drawn again.
     void play();
+    // The steps are those that were just added to the script.
+    void play(const Script& /*steps*/) { play(); }
     // One command, and the events of the script while it asks something.
     void execute(Command command);
 
@@ -53,6 +56,8 @@ protected:
     // At this step the loop with that name waits.
     Script& expect_loop(const std::string& name);
 
+    // Another set with that many tiles, saved and with one step in its history; the first one is current.
+    void make_set(Size size, int count, const std::function<Color(int tile, Point pixel)>& color);
     // A set of that size without tiles, which no command makes.
     void load_empty_set(Size size);
 

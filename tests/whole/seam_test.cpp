@@ -170,14 +170,11 @@ TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {
             ++icon.y;
         }
         const Color plain = lit(icon);
-        script().click(icon);
-        play();
+        play(script().click(icon));
         EXPECT_NE(lit(icon), plain);
-        script().click(icon);
-        play();
+        play(script().click(icon));
         EXPECT_EQ(lit(icon), plain);
-        script().click(icon);
-        play();
+        play(script().click(icon));
         execute(Command::next_tile);
         EXPECT_EQ(lit(icon), plain);
     }

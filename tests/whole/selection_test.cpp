@@ -26,18 +26,13 @@ protected:
     static constexpr Point corner(int column, int row) { return {400 + 10 * column, 200 + 10 * row}; }
     void select_rectangle(Tile_Point from, Tile_Point to, Mouse_Button button = Mouse_Button::left) {
         execute(Command::rectangle_selector);
-        script().drag({corner(from.x, from.y), corner(to.x, to.y)}, button);
-        play();
+        play(script().drag({corner(from.x, from.y), corner(to.x, to.y)}, button));
     }
     void drag(Tile_Point from, Tile_Point to, Mouse_Button button = Mouse_Button::left) {
         script().press(cell(from.x, from.y), button).motion(cell(8, 17)).motion(cell(to.x, to.y));
-        script().release(cell(to.x, to.y), button);
-        play();
+        play(script().release(cell(to.x, to.y), button));
     }
-    void click(Tile_Point pixel) {
-        script().click(cell(pixel.x, pixel.y));
-        play();
-    }
+    void click(Tile_Point pixel) { play(script().click(cell(pixel.x, pixel.y))); }
     static void paint_noise(unsigned seed) {
         std::mt19937 random(seed);
         tile().map_colours([&](Color) {
@@ -62,8 +57,7 @@ TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without
     drag({3, 3}, {0, 23});
     drag({0, 23}, {3, 3});
     script().key(key::left, Modifier::shift).key(key::up, Modifier::shift);
-    script().key(key::right, Modifier::shift).key(key::down, Modifier::shift);
-    play();
+    play(script().key(key::right, Modifier::shift).key(key::down, Modifier::shift));
     click({20, 20});
     EXPECT_FALSE(work().paste());
     EXPECT_EQ(tile_picture(), before);
@@ -157,18 +151,15 @@ protected:
 
 TEST_F(Copy_Panes_Test, a_click_makes_a_previous_copy_current) {
     make_copies();
-    script().click(next(first_copy, 3));
-    play();
+    play(script().click(next(first_copy, 3)));
     EXPECT_EQ(editor->copies().current_index(), 3U);
     execute(Command::paste);
     EXPECT_EQ(work().paste()->picture.size(), (Size{2, 1}));
     // Nothing was copied there, and the panes show beside no other tool.
     execute(Command::rectangle_selector);
-    script().click(next(first_copy, 4));
-    play();
+    play(script().click(next(first_copy, 4)));
     execute(Command::pen);
-    script().click(first_copy);
-    play();
+    play(script().click(first_copy));
     EXPECT_EQ(editor->copies().current_index(), 3U);
 }
 
@@ -178,11 +169,9 @@ TEST_F(Copy_Panes_Test, stay_inside_the_window_beside_every_tool) {
                                   Command::brush_selector, Command::wand_selector, Command::work_selection}) {
         execute(command);
         const int y = std::min(toolbox->beside_entry().y, 632 - 361);
-        script().click({first_copy.x + 64, first_copy.y - 266 + y});
-        play();
+        play(script().click({first_copy.x + 64, first_copy.y - 266 + y}));
         EXPECT_EQ(editor->copies().current_index(), 2U) << menu_text(command);
-        script().click({first_copy.x, first_copy.y - 266 + y});
-        play();
+        play(script().click({first_copy.x, first_copy.y - 266 + y}));
         EXPECT_EQ(editor->copies().current_index(), 0U) << menu_text(command);
         EXPECT_EQ(pixel_at({1030, 634}), pixel_at({1030, 200}));
     }
@@ -191,8 +180,7 @@ TEST_F(Copy_Panes_Test, stay_inside_the_window_beside_every_tool) {
 TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
     // Two rows of four: Copy, Cut, Paste, Clone; Clear, Fill, Invert, Deselect.
     const auto press = [&](int column, int row) {
-        script().click({1028 + 20 + column * 50, 266 + 361 - 5 - 44 + 10 + row * 23});
-        play();
+        play(script().click({1028 + 20 + column * 50, 266 + 361 - 5 - 44 + 10 + row * 23}));
     };
     select_rectangle({0, 0}, {4, 4});
     press(1, 1);

@@ -88,10 +88,7 @@ private:
         return {canvas.origin().x + pixel.x * canvas.pixel_size() + part,
                 canvas.origin().y + pixel.y * canvas.pixel_size() + part};
     }
-    void click(Point point, Mouse_Button button = Mouse_Button::left) {
-        script().click(point, button);
-        play();
-    }
+    void click(Point point, Mouse_Button button = Mouse_Button::left) { play(script().click(point, button)); }
     void drag(Tile_Point from, Tile_Point to, Mouse_Button button, int part = 5) {
         script().drag({window_point(from, part), window_point(some_pixel(), part), window_point(to, part)},
                       button);
@@ -252,8 +249,7 @@ private:
     }
     void nudge(Keycode pressed, Tile_Point step) {
         if (model_.shows_paste()) {
-            script().key(pressed, Modifier::shift);
-            play();
+            play(script().key(pressed, Modifier::shift));
             model_.nudge(step);
         }
     }
@@ -286,8 +282,7 @@ private:
         const Color color = choose_color();
         editor->execute(tool);
         model_.select_tool(tool == Command::filled_rectangle ? Tool::rectangle : tool_of(tool));
-        script().drag({window_point(from), window_point(to)});
-        play();
+        play(script().drag({window_point(from), window_point(to)}));
         model_.edit(
             [&] { model_.draw([&](Drawing_Target& target) { draw_with(target, from, to, color); }); });
     }

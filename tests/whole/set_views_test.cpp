@@ -1,18 +1,10 @@
 #include "color/translucency.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
-#include "ui/dialogs.h"
-#include "views/arrange_select.h"
 
 #include <SDL3/SDL_keyboard.h>
 
-#include <algorithm>
-#include <array>
-#include <fstream>
 #include <functional>
-#include <random>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace quadrelle::testing {
@@ -45,21 +37,8 @@ protected:
     static const Undo_History& history() { return document().history(); }
     static Canvas_View& canvas() { return editor->canvas(); }
 
-    // Saved, with one step in its history, and the first tile current.
-    void make_set(int count) {
-        ASSERT_TRUE(editor->documents().new_document(tile_size));
-        for (int image = 0; image < count; ++image) {
-            if (image > 0) {
-                tileset().append_loaded(std::make_unique<Tile>(tile_size.width, tile_size.height));
-            }
-            for (int x = 0; x < tile_size.width; ++x) {
-                tileset().tile_at(image).set_pixel(x, 0, image_pixel(image, x));
-            }
-        }
-        execute(Command::mirror);
-        execute(Command::mirror);
-        document().clear_modified();
-        ASSERT_EQ(history().entries().size(), 3U);
+    void make(int count) {
+        make_set(tile_size, count, [](int tile, Point pixel) { return image_pixel(tile, pixel.x); });
     }
 
     static void expect_images(const std::vector<int>& images) {
@@ -74,99 +53,30 @@ protected:
     }
 };
 
-// What a user expects of "Arrange/Select".
-struct Arrangement_Model {
-    std::vector<int> images;
-    int current = 0;
-    int primary = 0;
-    int secondary = 0;
-    bool has_swapped = false;
-
-    [[nodiscard]] int count() const { return static_cast<int>(images.size()); }
-    void swap() {
-        if (primary != secondary) {
-            std::swap(images.at(static_cast<std::size_t>(primary)),
-                      images.at(static_cast<std::size_t>(secondary)));
-            std::swap(primary, secondary);
-            has_swapped = true;
+TEST_F(Set_Views_Test, arrangement_changes_nothing_beside_its_keys_and_cells) {
+    make(8);
+    const std::vector<std::function<void()>> ends{
+        [this] { script().key(key::escape); }, [this] { script().key(key::enter); },
+        [this] { script().key('y'); },         [this] { script().press(on_title); },
+        [this] { script().quit(); },
+    };
+    for (const auto& add_end : ends) {
+        for (const Point outside : {Point{15, 16}, {528, 100}, {100, 528}, {5, 5}, off_grid, in_cell(8)}) {
+            script().click(outside).press_number(outside, middle_button);
         }
-    }
-    void press(int tile, int button) {
-        if (tile < std::min(count(), 256)) {
-            primary = button == 1 ? tile : primary;
-            secondary = button == 2 ? tile : secondary;
-        }
-    }
-    // The grid's picture of the secondary tile, and both markers.
-    void expect_shown() const {
-        EXPECT_EQ(pixel_at(grid_cell(secondary)), Color(0xff, 0xf0, 0xa8));
-        EXPECT_EQ(pixel_at(in_cell(secondary)),
-                  image_pixel(images.at(static_cast<std::size_t>(secondary)), 2));
-        if (primary != secondary && primary < 256) {
-            EXPECT_EQ(pixel_at(grid_cell(primary)), Color(255, 255, 255));
-        }
-    }
-};
-
-class Arrangement_Walk {
-public:
-    Arrangement_Walk(Script& script, std::mt19937& random, Arrangement_Model& model)
-        : script_(script), random_(random), model_(model) {}
-
-    void add_steps(int count) {
-        for (int i = 0; i < count; ++i) {
-            add_step();
-            script_.check([model = model_] { model.expect_shown(); });
-        }
+        script().press(in_cell(5), Mouse_Button::right).wheel(1).key('x').key('z', Modifier::control);
+        expect_loop("Arrange/Select").key(key::tab);
         add_end();
+        execute(Command::arrange_select);
+        expect_images({0, 1, 2, 3, 4, 5, 6, 7});
+        EXPECT_EQ(tileset().current_index(), 0);
     }
-
-private:
-    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
-
-    void add_step() {
-        const int choice = below(10);
-        if (choice < 4) {
-            press(below(std::min(model_.count(), 256)), 1);
-        } else if (choice < 6) {
-            press(below(std::min(model_.count(), 256)), middle_button);
-        } else if (choice == 6) {
-            press(below(256), 1 + below(5));
-        } else if (choice == 7) {
-            do_nothing();
-        } else {
-            script_.key(key::tab);
-            model_.swap();
-        }
-    }
-    void press(int tile, int button) {
-        const Point corner = grid_cell(tile);
-        script_.press_number({corner.x + below(32), corner.y + below(32)}, button);
-        model_.press(tile, button);
-    }
-    void do_nothing() {
-        static constexpr std::array<Point, 5> outside{{{15, 16}, {528, 100}, {100, 528}, {5, 5}, off_grid}};
-        script_.click(outside.at(static_cast<std::size_t>(below(5))));
-        script_.motion({below(600), below(600)}).wheel(1).key('x').key('z', Modifier::control);
-    }
-    void add_end() {
-        switch (below(7)) {
-        case 0: script_.key(key::escape); return;
-        case 1: script_.key(key::enter); return;
-        case 2: script_.key('y'); return;
-        case 3: script_.quit(); return;
-        case 4: script_.press(on_title); return;
-        default: script_.key(key::space); model_.current = model_.primary;
-        }
-    }
-
-    Script& script_;
-    std::mt19937& random_;
-    Arrangement_Model& model_;
-};
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(history().entries().size(), 1U);
+}
 
 TEST_F(Set_Views_Test, swapped_tiles_are_where_undo_ends) {
-    make_set(8);
+    make(8);
     script().press(in_cell(3)).press_number(in_cell(7), middle_button).key(key::tab).key(key::space);
     execute(Command::arrange_select);
     // Both markers followed their images: the current tile is the one that was picked first.
@@ -209,7 +119,7 @@ TEST_F(Set_Views_Test, every_view_works_without_tiles) {
 }
 
 TEST_F(Set_Views_Test, real_size_repeats_the_tile_all_over_the_window) {
-    make_set(2);
+    make(2);
     tileset().tile_at(0).set_pixel(3, 0, {90, 60, 30, 128});
     const auto expect_scale = [this](int scale) {
         script().check([scale] {
@@ -244,9 +154,9 @@ TEST_F(Set_Views_Test, real_size_repeats_the_tile_all_over_the_window) {
 }
 
 TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
-    make_set(60);
+    make(60);
     script().key(key::tab).check([] {
-        EXPECT_EQ(pixel_at(grid_cell(0)), Color(255, 255, 255));
+        EXPECT_EQ(pixel_at(grid_cell(0)), white);
         EXPECT_EQ(pixel_at(in_cell(59)), image_pixel(59, 2));
     });
     script().press(in_cell(41));
@@ -257,7 +167,7 @@ TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
     EXPECT_FALSE(canvas().work_area().has_selection());
     EXPECT_EQ(pixel_at(first_pixel), image_pixel(41, 0));
     EXPECT_EQ(count_in_preview(image_pixel(41, 1)), 4);
-    ASSERT_EQ(history().entries().size(), 4U);
+    ASSERT_EQ(history().entries().size(), 2U);
     EXPECT_EQ(history().entries().back().kind, Command::change_tile);
     EXPECT_EQ(history().entries().back().tile_index, 41);
     execute(Command::undo);
@@ -265,7 +175,7 @@ TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
 }
 
 TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
-    make_set(60);
+    make(60);
     const std::vector<std::function<void()>> ends{
         [this] { script().key(key::escape); },
         [this] { script().key(key::tab); },
@@ -276,7 +186,12 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
         [this] { script().quit(); },
     };
     for (const auto& add_end : ends) {
-        script().key(key::tab).repeated_key(key::tab).press_number(in_cell(5), middle_button).key('p').wheel(-1);
+        script()
+            .key(key::tab)
+            .repeated_key(key::tab)
+            .press_number(in_cell(5), middle_button)
+            .key('p')
+            .wheel(-1);
         expect_loop("tile array");
         add_end();
         expect_loop("main").motion({5, 5});
@@ -284,11 +199,11 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
         EXPECT_EQ(tileset().current_index(), 0);
     }
     EXPECT_FALSE(document().is_modified());
-    EXPECT_EQ(history().entries().size(), 3U);
+    EXPECT_EQ(history().entries().size(), 1U);
 }
 
 TEST_F(Set_Views_Test, tile_array_shows_the_tile_as_it_is_and_leaves_the_seam_tool_as_it_was) {
-    make_set(3);
+    make(3);
     execute(Command::horizontal_seam_tool);
     ASSERT_NE(tile_pixel(2, 0), image_pixel(0, 2));
     script().check([] { EXPECT_EQ(pixel_at(in_cell(0)), image_pixel(0, 2)); }).key(key::escape);
@@ -304,18 +219,16 @@ TEST_F(Set_Views_Test, tile_array_shows_the_tile_as_it_is_and_leaves_the_seam_to
 }
 
 TEST_F(Set_Views_Test, preview_follows_every_motion_of_a_stroke) {
-    script().press(cell(2, 2)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 4); });
-    script().motion(cell(5, 2)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 16); });
-    script().motion(cell(5, 3)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 20); });
-    script().release(cell(5, 3));
-    play();
+    script().press(cell(2, 2)).check([] { EXPECT_EQ(count_in_preview(white), 4); });
+    script().motion(cell(5, 2)).check([] { EXPECT_EQ(count_in_preview(white), 16); });
+    script().motion(cell(5, 3)).check([] { EXPECT_EQ(count_in_preview(white), 20); });
+    play(script().release(cell(5, 3)));
     execute(Command::line);
     script().press(cell(10, 9)).motion(cell(19, 9)).check([] {
-        EXPECT_EQ(count_in_preview({255, 255, 255}), 20 + 40);
+        EXPECT_EQ(count_in_preview(white), 20 + 40);
     });
-    script().motion(cell(11, 9)).check([] { EXPECT_EQ(count_in_preview({255, 255, 255}), 20 + 8); });
-    script().release(cell(11, 9));
-    play();
+    script().motion(cell(11, 9)).check([] { EXPECT_EQ(count_in_preview(white), 20 + 8); });
+    play(script().release(cell(11, 9)));
 }
 
 } // namespace

@@ -15,19 +15,15 @@ class Tools_Test : public Program_Test {};
 
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
-    script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2});
-    play();
+    play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2}));
     EXPECT_EQ(toolbox->current_command(), Command::rectangle);
     EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
-    script().click({796, 40 + 24 * 7 + 2 * 7 + 24});
-    play();
+    play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24}));
     EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_outline);
     // The rectangle's rows cover the entry below it; the entries above can be clicked.
-    script().click({900, 32 + 26 * 4 + 10});
-    play();
+    play(script().click({900, 32 + 26 * 4 + 10}));
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-    script().click({796, 40}, Mouse_Button::right);
-    play();
+    play(script().click({796, 40}, Mouse_Button::right));
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
 }
 
@@ -36,15 +32,12 @@ TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
     constexpr Point beside{300, 100};
     document().tileset().current_tile()->set_pixel(5, 6, red);
     execute(Command::filled_rectangle);
-    script().key('d').click(tick).click(beside).drag({cell(5, 5), beside});
-    play();
+    play(script().key('d').click(tick).click(beside).drag({cell(5, 5), beside}));
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-    script().press(cell(5, 6)).quit();
-    play();
+    play(script().press(cell(5, 6)).quit());
     EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
     tool_colors->reset();
-    script().drag({beside, cell(5, 6)});
-    play();
+    play(script().drag({beside, cell(5, 6)}));
     EXPECT_EQ(tool_colors->color(Mouse_Button::left), red);
     EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
 }
@@ -117,8 +110,7 @@ TEST_F(Tools_Test, draw_as_their_option_rows_say) {
         // No motion on the spot: the lightness pen may be due again.
         script().press(from, test.button);
         to == from ? script() : script().motion(to);
-        script().release(to, test.button);
-        play();
+        play(script().release(to, test.button));
         int changed = 0;
         for (int i = 0; i < tile.pixel_count(); ++i) {
             changed += tile.get_pixel_at(i) == before[static_cast<std::size_t>(i)] ? 0 : 1;
@@ -138,11 +130,9 @@ TEST_F(Tools_Test, lightness_pen_goes_on_while_its_button_is_held) {
     script().press(cell(4, 4)).pause(20).pause(20);
     script().check([] { EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106)); });
     script().check([] { EXPECT_EQ(pixel_at(cell(4, 4)), Color(106, 106, 106)); });
-    script().release(cell(4, 4));
-    play();
+    play(script().release(cell(4, 4)));
     EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106));
-    script().press(cell(9, 4), Mouse_Button::right).pause(20).release(cell(9, 4), Mouse_Button::right);
-    play();
+    play(script().press(cell(9, 4), Mouse_Button::right).pause(20).release(cell(9, 4), Mouse_Button::right));
     EXPECT_LT(tile_pixel(9, 4).r, 100);
 }
 

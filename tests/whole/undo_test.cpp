@@ -13,18 +13,9 @@ class Undo_Test : public Program_Test {
 protected:
     static const Undo_History& history() { return document().history(); }
 
-    void stroke(const std::vector<Point>& points) {
-        script().drag(points);
-        play();
-    }
-    void press_undo() {
-        script().key('z', Modifier::control);
-        play();
-    }
-    void press_redo() {
-        script().key('r', Modifier::control);
-        play();
-    }
+    void stroke(const std::vector<Point>& points) { play(script().drag(points)); }
+    void press_undo() { play(script().key('z', Modifier::control)); }
+    void press_redo() { play(script().key('r', Modifier::control)); }
 };
 
 TEST_F(Undo_Test, takes_a_stroke_as_one_step_and_none_when_it_changed_nothing) {

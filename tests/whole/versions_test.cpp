@@ -37,21 +37,14 @@ protected:
 
     static Tile& tile() { return *document().tileset().current_tile(); }
     static std::size_t steps() { return document().history().entries().size(); }
-    void paint(Point position) {
-        script().click(position);
-        play();
-    }
+    void paint(Point position) { play(script().click(position)); }
     void paint_probe() { paint(cell(probe.x, probe.y)); }
     Script& in_dialog() { return expect_loop("dialog \"Versions\""); }
     Script& in_main() { return expect_loop("main").motion({1220, 650}); }
     void store_in(Keycode digit) {
-        script().key('v').key(digit).key_up(digit).click(store_button()).key(key::escape);
-        play();
+        play(script().key('v').key(digit).key_up(digit).click(store_button()).key(key::escape));
     }
-    void take_from(Keycode digit) {
-        script().key('v').key(digit).key_up(digit).click(take_button());
-        play();
-    }
+    void take_from(Keycode digit) { play(script().key('v').key(digit).key_up(digit).click(take_button())); }
     // What was taken floats over the tile.
     static Tile_Picture floating() {
         const auto pixels = editor->canvas().work_area().paste().value().picture.pixels();
@@ -109,12 +102,10 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     EXPECT_EQ(steps(), 5U);
     EXPECT_EQ(document().history().entries().back().kind, Command::paste);
     EXPECT_EQ(toolbox->current_tool(), Tool::selection);
-    script().key('p');
-    play();
+    play(script().key('p'));
     EXPECT_EQ(tile_picture(), kept);
     EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
-    script().key('z', Modifier::control).key('z', Modifier::control);
-    play();
+    play(script().key('z', Modifier::control).key('z', Modifier::control));
     EXPECT_EQ(tile_picture(), later);
     EXPECT_FALSE(editor->canvas().work_area().paste());
 

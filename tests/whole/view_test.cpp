@@ -16,8 +16,7 @@ protected:
 constexpr Point centre_of_24{400, 200};
 
 TEST_F(View_Test, zooms_by_wheel_and_keypad_within_its_limits) {
-    script().wheel(1).wheel(0.2F).wheel(0).wheel(-1).key(key::keypad_plus).key(key::keypad_minus);
-    play();
+    play(script().wheel(1).wheel(0.2F).wheel(0).wheel(-1).key(key::keypad_plus).key(key::keypad_minus));
     EXPECT_EQ(canvas().pixel_size(), 11);
     EXPECT_EQ(canvas().origin(), (Point{388, 188}));
 
@@ -27,8 +26,7 @@ TEST_F(View_Test, zooms_by_wheel_and_keypad_within_its_limits) {
     play();
     EXPECT_EQ(canvas().pixel_size(), 32);
     const Point largest = canvas().origin();
-    script().key(key::keypad_plus).wheel(1);
-    play();
+    play(script().key(key::keypad_plus).wheel(1));
     EXPECT_EQ(canvas().origin(), largest);
 
     for (int i = 0; i < 40; ++i) {
@@ -42,8 +40,7 @@ TEST_F(View_Test, zooms_by_wheel_and_keypad_within_its_limits) {
 
 TEST_F(View_Test, draws_where_the_zoomed_tile_is_shown) {
     // 24 cells of 9 pixels around the viewport's middle.
-    script().key(key::keypad_minus).click({520 - 12 * 9 + 4, 320 - 12 * 9 + 4});
-    play();
+    play(script().key(key::keypad_minus).click({520 - 12 * 9 + 4, 320 - 12 * 9 + 4}));
     EXPECT_EQ(tile_pixel(0, 0), Color(255, 255, 255));
     EXPECT_EQ(pixel_at({520 - 12 * 9 + 4, 320 - 12 * 9 + 4}), Color(255, 255, 255));
     EXPECT_EQ(pixel_at({520 - 12 * 9 - 1, 320}), pixel_at({266, 66}));
