@@ -1,15 +1,9 @@
 #include "app/documents.h"
 
 #include "screen/screen.h"
-#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 #include "ui/dialog_container.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -183,7 +177,7 @@ TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(document().tileset().tile_size(), (Size{12, 12}));
     EXPECT_EQ(tile_pixel(1, 1), white);
-    EXPECT_EQ(tile_pixel(2, 1), Color(0, 0, 0));
+    EXPECT_EQ(tile_pixel(2, 1), black);
     EXPECT_TRUE(document().is_modified());
     EXPECT_EQ(editor->canvas().magnified_size(), (Size{120, 120}));
 }
@@ -219,7 +213,7 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     execute(Command::close);
     EXPECT_EQ(window_title(), product + "untitled1.qdl");
     EXPECT_EQ(documents().count(), 1);
-    EXPECT_EQ(tile_pixel(1, 1), Color(0, 0, 0));
+    EXPECT_EQ(tile_pixel(1, 1), black);
     play(script().motion({1, 1}));
     EXPECT_NE(pixel_at(cell(1, 1)), white);
     execute(Command::close);

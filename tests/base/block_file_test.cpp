@@ -2,8 +2,6 @@
 
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 namespace quadrelle::testing {
 
 TEST(Block_File, reads_blocks_until_one_is_short) {

@@ -3,13 +3,9 @@
 #include "base/block_file.h"
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
-#include <cstdint>
 #include <limits>
 #include <random>
-#include <string>
 
 namespace quadrelle::testing {
 namespace {

@@ -3,12 +3,7 @@
 #include "base/file_names.h"
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <fstream>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -4,8 +4,6 @@
 #include "base/data_directory.h"
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 #ifndef _WIN32
 #include <sys/stat.h>
 #include <unistd.h>

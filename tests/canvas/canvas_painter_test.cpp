@@ -1,111 +1,40 @@
 #include "canvas/canvas_painter.h"
 
 #include "color/standard_colors.h"
-#include "screen/float_rectangle.h"
-
-#include <SDL3/SDL.h>
-
+#include "color/translucency.h"
 #include "tests/support/tiles.h"
-
-#include <gtest/gtest.h>
-
-#include <random>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
 
-constexpr Size viewport{96, 80};
+constexpr Color across(255, 0, 1);
+constexpr Color down(255, 0, 2);
 
-std::vector<Color> composed(const Canvas_Picture& picture) {
-    std::vector<Color> pixels(static_cast<std::size_t>(viewport.width * viewport.height), Color(1, 2, 3, 4));
-    Canvas_Painter painter;
-    painter.paint(picture, {pixels.data(), viewport.width * 4, viewport});
+std::vector<Color> composed(const Canvas_Picture& picture, Size size) {
+    std::vector<Color> pixels(static_cast<std::size_t>(size.width * size.height), Color(1, 2, 3, 4));
+    Canvas_Painter().paint(picture, {pixels.data(), size.width * 4, size});
     return pixels;
 }
 
-// The plain way: rectangles drawn one over the other by the renderer, the checkerboard counted cell by cell.
-class Reference {
-public:
-    Reference()
-        : surface_(SDL_CreateSurface(viewport.width, viewport.height, SDL_PIXELFORMAT_XRGB8888)),
-          renderer_(SDL_CreateSoftwareRenderer(surface_)) {}
-    ~Reference() {
-        SDL_DestroyRenderer(renderer_);
-        SDL_DestroySurface(surface_);
+// Pixel by pixel: the checkerboard, the tile over it, the lines of the grid over both.
+Color expected_at(const Canvas_Picture& picture, Point at) {
+    const int x = at.x - picture.origin.x;
+    const int y = at.y - picture.origin.y;
+    const int edge = picture.pixel_size;
+    const Tile_Point cell{x / edge, y / edge};
+    if (x < 0 || y < 0 || picture.tile->is_outside(cell.x, cell.y)) {
+        return picture.surround;
     }
-    Reference(const Reference&) = delete;
-    Reference& operator=(const Reference&) = delete;
-
-    void draw(const Canvas_Picture& picture) {
-        fill({0, 0, viewport.width, viewport.height}, picture.surround);
-        bool starts_light = false;
-        int row_counter = 0;
-        for (int row = 0; row < picture.tile->height(); ++row) {
-            draw_row(picture, row, starts_light);
-            if (++row_counter == picture.checker.height) {
-                row_counter = 0;
-                starts_light = !starts_light;
-            }
-        }
-        SDL_FlushRenderer(renderer_);
-    }
-
-    [[nodiscard]] Color at(int x, int y) const {
-        Uint8 r = 0;
-        Uint8 g = 0;
-        Uint8 b = 0;
-        SDL_ReadSurfacePixel(surface_, x, y, &r, &g, &b, nullptr);
-        return {r, g, b};
-    }
-
-private:
-    void fill(const Rectangle& area, Color color) {
-        const SDL_FRect rect = float_rectangle(area);
-        SDL_SetRenderDrawBlendMode(renderer_, SDL_BLENDMODE_BLEND);
-        SDL_SetRenderDrawColor(renderer_, color.r, color.g, color.b, color.a);
-        SDL_RenderFillRect(renderer_, &rect);
-    }
-
-    void draw_row(const Canvas_Picture& picture, int row, bool is_light) {
-        const int edge = picture.pixel_size;
-        int column_counter = 0;
-        for (int column = 0; column < picture.tile->width(); ++column) {
-            const int x = picture.origin.x + column * edge;
-            const int y = picture.origin.y + row * edge;
-            const Color background =
-                standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
-            const Color pixel = picture.tile->get_pixel(column, row);
-            fill({x, y, edge, edge}, background);
-            fill({x, y, edge, edge}, pixel);
-            const Color grid = grid_color(pixel, picture.grid_intensity);
-            fill({x, y + edge - 1, edge, 1}, grid);
-            fill({x + edge - 1, y, 1, edge - 1}, grid);
-            if (++column_counter == picture.checker.width) {
-                column_counter = 0;
-                is_light = !is_light;
-            }
-        }
-    }
-
-    SDL_Surface* surface_;
-    SDL_Renderer* renderer_;
-};
-
-void expect_same_as_rectangles(const Canvas_Picture& picture) {
-    const std::vector<Color> pixels = composed(picture);
-    Reference reference;
-    reference.draw(picture);
-    for (int y = 0; y < viewport.height; ++y) {
-        for (int x = 0; x < viewport.width; ++x) {
-            ASSERT_EQ(pixels[static_cast<std::size_t>(y * viewport.width + x)], reference.at(x, y))
-                << x << ", " << y << " with pixel size " << picture.pixel_size << ", origin "
-                << picture.origin.x << ", " << picture.origin.y;
-        }
-    }
+    const bool is_light = (cell.x / picture.checker.width + cell.y / picture.checker.height) % 2 == 1;
+    const Color pixel = picture.tile->get_pixel(cell.x, cell.y);
+    const Color shown = blended_over(
+        pixel, standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark));
+    const bool is_grid = x % edge == edge - 1 || y % edge == edge - 1;
+    return is_grid ? blended_over(grid_color(pixel, picture.grid_intensity), shown) : shown;
 }
 
-TEST(Canvas_Painter, paints_what_rectangles_drawn_cell_by_cell_show) {
+TEST(Canvas_Painter, paints_what_each_pixel_of_the_window_has_to_show) {
+    constexpr Size viewport{96, 80};
     const Tile tile = random_tile({9, 7}, 7);
     Canvas_Picture picture;
     picture.tile = &tile;
@@ -117,7 +46,13 @@ TEST(Canvas_Painter, paints_what_rectangles_drawn_cell_by_cell_show) {
                                    Point{96, 80}, Point{-300, 5}, Point{3, -2000}}) {
             picture.pixel_size = pixel_size;
             picture.origin = origin;
-            expect_same_as_rectangles(picture);
+            const std::vector<Color> pixels = composed(picture, viewport);
+            for (int i = 0; i < viewport.width * viewport.height; ++i) {
+                const Point at{i % viewport.width, i / viewport.width};
+                ASSERT_EQ(pixels[static_cast<std::size_t>(i)], expected_at(picture, at))
+                    << at.x << ", " << at.y << " with pixel size " << pixel_size << ", origin " << origin.x
+                    << ", " << origin.y;
+            }
         }
     }
 }
@@ -127,12 +62,12 @@ TEST(Canvas_Painter, shows_the_surround_without_a_tile_or_without_pixels) {
     const Tile flat(5, 0);
     Canvas_Picture picture;
     picture.surround = Color(10, 20, 30);
-    const Cell_Marker marker{{1, 1}, {Color(255, 0, 1)}};
+    const Cell_Marker marker{{1, 1}, {across}};
     picture.column_marker = &marker;
     picture.row_marker = &marker;
     for (const Tile* tile : {static_cast<const Tile*>(nullptr), &empty, &flat}) {
         picture.tile = tile;
-        for (const Color pixel : composed(picture)) {
+        for (const Color pixel : composed(picture, {20, 20})) {
             ASSERT_EQ(pixel, picture.surround);
         }
     }
@@ -144,6 +79,82 @@ TEST(Canvas_Painter, grid_contrasts_with_the_pixel_and_vanishes_at_intensity_0) 
     EXPECT_EQ(grid_color(Color(12, 200, 90), 0), Color(12, 200, 90));
 }
 
-} // namespace
+// Lines of one pixel without gaps, longer than two cells.
+const Cell_Edges edges{{{8, 1}, std::vector<Color>(8, across)}, {{1, 8}, std::vector<Color>(8, down)}};
 
+class Selection_Picture : public ::testing::Test {
+protected:
+    Selection_Picture() {
+        for (const Tile_Point to : {Tile_Point{3, 2}, {2, 3}}) {
+            selection.combine(selected_rectangle(tile.size(), {1, 1}, to), Selection_Change::add);
+        }
+        picture.tile = &tile;
+        picture.pixel_size = 4;
+    }
+
+    // '-' and '|' for the lines, '.' for every other pixel.
+    [[nodiscard]] Art lines(Size size) const {
+        Art rows(static_cast<std::size_t>(size.height));
+        const std::vector<Color> pixels = composed(picture, size);
+        for (std::size_t i = 0; i < pixels.size(); ++i) {
+            const char mark = pixels[i] == across ? '-' : pixels[i] == down ? '|' : '.';
+            rows[i / static_cast<std::size_t>(size.width)] += mark;
+        }
+        return rows;
+    }
+
+    // The selected cells are (1, 1), (2, 1) and (1, 2).
+    Tile tile{4, 4};
+    Selection selection{Size{4, 4}};
+    Canvas_Picture picture;
+};
+
+TEST_F(Selection_Picture, a_line_runs_inside_the_selected_cells_along_all_others) {
+    picture.outlines = {{&selection, &edges}};
+    picture.origin = {-3, -3};
+    EXPECT_EQ(lines({10, 10}), (Art{"..........", ".|------|.", ".|......|.", ".|......|.", ".|...---|.",
+                                    ".|..|.....", ".|..|.....", ".|..|.....", ".|--|.....", ".........."}));
+    // Cut off by the viewport, and along the tile's own edge.
+    picture.origin = {-7, -12};
+    selection.clear();
+    selection.invert();
+    EXPECT_EQ(lines({6, 5}), (Art{"......", "......", "......", "------", "......"}));
+}
+
+TEST_F(Selection_Picture, only_what_is_not_selected_is_dimmed) {
+    tile.fill(Color(10, 10, 10));
+    for (const int pixel_size : {3, 10, 32}) {
+        picture.pixel_size = pixel_size;
+        picture.selection = nullptr;
+        const Size size{4 * pixel_size, 4 * pixel_size};
+        const std::vector<Color> plain = composed(picture, size);
+        picture.selection = &selection;
+        const std::vector<Color> dimmed = composed(picture, size);
+        for (int i = 0; i < size.width * size.width; ++i) {
+            const Tile_Point cell{i % size.width / pixel_size, i / size.width / pixel_size};
+            const auto at = static_cast<std::size_t>(i);
+            EXPECT_EQ(dimmed[at] == plain[at], selection.contains(cell)) << i << ", size " << pixel_size;
+        }
+    }
+}
+
+// Translucent, hanging over, and plotted: what was shown is what comes out.
+TEST_F(Selection_Picture, a_paste_shows_as_it_will_be_when_plotted) {
+    Floating_Paste paste{Tile(3, 3), {2, -1}};
+    for (int i = 0; i < 9; ++i) {
+        paste.picture.set_pixel_at(i, {20 * i, 255 - 20 * i, 99, i == 4 ? 0 : 31 * i});
+    }
+    tile.set_pixel(3, 1, {0, 0, 200, 128});
+    picture.paste = &paste;
+    const std::vector<Color> shown = composed(picture, {16, 16});
+    Tile plotted(tile);
+    Drawing_Target target(plotted);
+    paste.plot(target);
+    EXPECT_NE(picture_of(plotted), picture_of(tile));
+    picture.paste = nullptr;
+    picture.tile = &plotted;
+    EXPECT_EQ(composed(picture, {16, 16}), shown);
+}
+
+} // namespace
 } // namespace quadrelle::testing

@@ -5,12 +5,7 @@
 #include "tests/support/drawing_board.h"
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <set>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

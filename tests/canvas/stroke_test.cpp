@@ -1,10 +1,6 @@
 #include "tests/support/drawing_board.h"
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-
 namespace quadrelle::testing {
 namespace {
 

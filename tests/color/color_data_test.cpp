@@ -2,8 +2,6 @@
 
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 namespace quadrelle::testing {
 
 TEST(Color_Data, names_are_exact) {

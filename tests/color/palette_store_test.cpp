@@ -2,11 +2,7 @@
 
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <random>
-#include <string>
 
 namespace quadrelle::testing {
 namespace {

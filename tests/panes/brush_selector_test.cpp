@@ -1,16 +1,11 @@
 #include "panes/brush_selector.h"
 
-#include "color/standard_colors.h"
 #include "tests/support/window_test.h"
-
-#include <optional>
-#include <utility>
 
 namespace quadrelle::testing {
 namespace {
 
 constexpr Point position{816, 62};
-constexpr Color lit = standard_color(Standard_Color::highlight);
 
 class Brush_Selector_Test : public Window_Test {
 protected:
@@ -51,24 +46,6 @@ TEST_F(Brush_Selector_Test, icons_choose_shape_and_size) {
     EXPECT_FALSE(selector_->click(inside(size_icon(6)), chosen_));
     EXPECT_FALSE(selector_->click(inside(shape_icon(7)), chosen_));
     EXPECT_FALSE(selector_->click({position.x + 9, position.y + 10}, chosen_));
-}
-
-TEST_F(Brush_Selector_Test, lights_the_chosen_icons_and_shows_masks_at_twice_their_size) {
-    chosen_.select_shape(Brush_Shape::square);
-    chosen_.select_size(3);
-    selector_->draw(chosen_);
-    for (int i = 0; i < brush_shape_count; ++i) {
-        EXPECT_EQ(pixel_at(shape_icon(i)) == lit, i == 1) << i;
-    }
-    for (int i = 0; i < brush_size_count; ++i) {
-        EXPECT_EQ(pixel_at(size_icon(i)) == lit, i == 3) << i;
-    }
-    // A square of 4: eight pixels in the middle of the icon's eighteen.
-    const Point corner = size_icon(3);
-    for (const auto& [offset, is_set] : {std::pair{4, false}, {5, true}, {12, true}, {13, false}}) {
-        EXPECT_EQ(pixel_at({corner.x + offset, corner.y + 9}) == lit, is_set) << offset;
-        EXPECT_EQ(pixel_at({corner.x + 9, corner.y + offset}) == lit, is_set) << offset;
-    }
 }
 
 } // namespace

@@ -2,11 +2,7 @@
 
 #include "tests/support/window_test.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <optional>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -1,6 +1,5 @@
 #include "panes/menu_bar.h"
 
-#include "color/standard_colors.h"
 #include "commands/menu_table.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
@@ -30,8 +29,6 @@ protected:
     Script& expect_menu() { return expect_loop("menu"); }
     Script& expect_closed() { return expect_loop("main").motion({600, 650}); }
 };
-
-constexpr Color lit = standard_color(Standard_Color::highlight_deep);
 
 TEST_F(Menu_Bar_Test, slides_to_the_neighbour_and_back_over_what_it_covers) {
     script().press(header(file)).motion(item(file, 2)).motion(header(edit)).motion(header(tileset));
@@ -80,19 +77,6 @@ TEST_F(Menu_Bar_Test, opens_by_the_right_button_and_ignores_all_others) {
     expect_closed();
     play();
     EXPECT_EQ(tile_pixel(4, 4), Color(0, 0, 0));
-}
-
-TEST_F(Menu_Bar_Test, lights_what_the_pointer_is_on) {
-    const auto lights = [this](Point where, Point corner, bool is_lit) {
-        script().motion(where).check([corner, is_lit] { EXPECT_EQ(pixel_at(corner) == lit, is_lit); });
-    };
-    const Point header_corner{left_of(tile) + 2, 2};
-    lights(header(tile), header_corner, true);
-    lights(header(edit), header_corner, false);
-    script().motion({600, 650}).press(header(edit));
-    lights(item(edit, 0), {left_of(edit) + 2, 27}, true);
-    lights(item(edit, 2), {left_of(edit) + 2, 27 + 50}, false);
-    play(script().key(key::escape));
 }
 
 } // namespace

@@ -1,10 +1,6 @@
 #include "panes/palette_area.h"
 
-#include "tests/support/files.h"
 #include "tests/support/window_test.h"
-
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -86,20 +82,6 @@ TEST_F(Palette_Area_Test, every_number_of_entries_has_its_room) {
             area.move_selection(0, 1);
         }
         area.draw();
-    }
-}
-
-TEST_F(Palette_Area_Test, the_selected_entry_is_outlined_in_dark_and_light) {
-    Palette_Store store("missing.dat");
-    Palette_Area area(position, store);
-    const std::vector<Color> shades{{0, 0, 0}, {255, 255, 255}, {128, 128, 128}, {255, 0, 255, 128}};
-    for (int i = 0; i < static_cast<int>(shades.size()); ++i) {
-        area.click(cell(area, i, 2));
-        area.store(shades[static_cast<std::size_t>(i)]);
-        area.draw();
-        const Point corner{cell(area, i, 2).x - 12, cell(area, i, 2).y - 10};
-        EXPECT_EQ(pixel_at(corner), Color(0, 0, 0));
-        EXPECT_EQ(pixel_at({corner.x + 1, corner.y + 1}), Color(255, 255, 255));
     }
 }
 

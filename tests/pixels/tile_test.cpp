@@ -2,9 +2,6 @@
 
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
 #include <stdexcept>
 
 namespace quadrelle::testing {

@@ -3,14 +3,10 @@
 #include "screen/sprite_sheet.h"
 #include "tests/support/files.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <set>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -5,11 +5,6 @@
 
 #include <SDL3/SDL.h>
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

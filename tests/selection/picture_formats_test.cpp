@@ -2,12 +2,7 @@
 
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
 #include <cstdlib>
-#include <random>
 #include <string_view>
 
 namespace quadrelle::testing {

@@ -2,11 +2,6 @@
 
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-
 namespace quadrelle::testing {
 namespace {
 

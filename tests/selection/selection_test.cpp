@@ -5,12 +5,6 @@
 #include "selection/work_area.h"
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -5,15 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <fstream>
 #include <map>
 #include <set>
-#include <string>
 #include <string_view>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 namespace quadrelle::testing {
 namespace {

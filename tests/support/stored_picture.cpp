@@ -7,11 +7,8 @@
 
 #include <SDL3/SDL_stdinc.h>
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <string_view>
-#include <vector>
 
 namespace quadrelle::testing {
 

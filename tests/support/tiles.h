@@ -1,11 +1,15 @@
 #pragma once
 
 // Tiles as rows of characters: '.' opaque black, ' ' transparent black, '#' white, letters colours of their
-// own. A picture before, something drawn on it, the picture after.
+// own. A picture before, something drawn on it, the picture after. Brings what most tests need besides.
 
 #include "pixels/tile.h"
 #include "tools/drawing_target.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
 #include <functional>
 #include <random>
 #include <string>

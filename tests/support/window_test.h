@@ -9,8 +9,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quadrelle::testing {
 

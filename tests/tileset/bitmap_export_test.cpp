@@ -5,7 +5,6 @@
 #include "tests/support/tiles.h"
 
 #include <memory>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -3,10 +3,6 @@
 #include "commands/command_table.h"
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -3,9 +3,6 @@
 #include "tests/support/files.h"
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <array>
 #include <csignal>
 
 #ifndef _WIN32

@@ -3,13 +3,7 @@
 #include "base/data_stream.h"
 #include "tests/support/tiles.h"
 
-#include <algorithm>
-#include <random>
-#include <string>
 #include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 namespace quadrelle::testing {
 namespace {

@@ -4,8 +4,6 @@
 
 #include <stdexcept>
 
-#include <gtest/gtest.h>
-
 namespace quadrelle::testing {
 
 TEST(Brush, repeats_as_a_wallpaper_to_all_sides) {

@@ -2,10 +2,6 @@
 
 #include "tests/support/tiles.h"
 
-#include <gtest/gtest.h>
-
-#include <random>
-
 namespace quadrelle::testing {
 
 TEST(hsv_adjustment, keeps_to_the_mask_and_begins_at_the_source) {

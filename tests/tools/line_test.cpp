@@ -3,9 +3,6 @@
 #include "tests/support/tiles.h"
 
 #include <limits>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 namespace quadrelle::testing {
 namespace {

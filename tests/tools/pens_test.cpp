@@ -4,8 +4,6 @@
 
 #include <limits>
 
-#include <gtest/gtest.h>
-
 namespace quadrelle::testing {
 namespace {
 

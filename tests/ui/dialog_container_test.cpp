@@ -7,9 +7,7 @@
 
 #include <gmock/gmock.h>
 
-#include <optional>
 #include <stdexcept>
-#include <string>
 
 namespace quadrelle::testing {
 

@@ -8,8 +8,6 @@
 #include "ui/textlist_dialog_item.h"
 
 #include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

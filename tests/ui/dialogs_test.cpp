@@ -7,11 +7,6 @@
 #include "ui/number_prompt.h"
 #include "views/log_view.h"
 
-#include <algorithm>
-#include <functional>
-#include <optional>
-#include <string>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -4,13 +4,9 @@
 #include "tests/support/tiles.h"
 
 #include <SDL3/SDL.h>
-#include <gtest/gtest.h>
 
-#include <array>
-#include <functional>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -6,9 +6,6 @@
 
 #include <SDL3/SDL.h>
 
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -3,9 +3,6 @@
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
 
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -3,9 +3,6 @@
 #include "base/file_names.h"
 #include "tests/support/window_test.h"
 
-#include <optional>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

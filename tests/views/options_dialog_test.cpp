@@ -1,13 +1,9 @@
 #include "views/options_dialog.h"
 
 #include "base/data_directory.h"
-#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 
-#include <array>
-#include <cstddef>
 #include <memory>
-#include <string>
 
 namespace quadrelle::testing {
 namespace {

@@ -1,10 +1,6 @@
 #include "color/hsv_change.h"
 #include "tests/whole/program_test.h"
 
-#include <algorithm>
-#include <random>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -59,23 +55,6 @@ TEST_F(Adjust_HSV_Test, shows_the_change_while_it_is_chosen_and_records_it_as_on
     EXPECT_EQ(picture(), before);
     editor->execute(Command::redo);
     EXPECT_EQ(picture(), after);
-}
-
-TEST_F(Adjust_HSV_Test, leaves_the_canvas_and_the_preview_in_view) {
-    constexpr Color red(200, 40, 40);
-    constexpr Color blue(40, 40, 200);
-    document().tileset().current_tile()->fill(red);
-    const auto expect_everywhere = [](Color color) {
-        for (const int i : {0, 11, 23}) {
-            EXPECT_EQ(pixel_at(cell(i, i)), color);
-            EXPECT_EQ(pixel_at(cell(23 - i, i)), color);
-        }
-        EXPECT_EQ(count_in_preview(color), 4 * 24 * 24);
-    };
-    script().click({number_x, hue_y}).type("-120").key(key::enter);
-    script().check([&] { expect_everywhere(blue); }).key(key::escape);
-    execute(Command::adjust_hsv);
-    expect_everywhere(red);
 }
 
 TEST_F(Adjust_HSV_Test, gives_every_pixel_back_when_given_up) {

@@ -7,11 +7,6 @@
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <functional>
-#include <optional>
-
 namespace quadrelle::testing {
 namespace {
 

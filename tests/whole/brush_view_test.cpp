@@ -7,9 +7,6 @@
 #include "screen/cursor.h"
 #include "ui/dialog_item.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -4,7 +4,6 @@
 #include "color/palette_store.h"
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
-#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL_keyboard.h>
@@ -21,7 +20,6 @@ protected:
 
     static Color left() { return tool_colors->color(Mouse_Button::left); }
     static Color right() { return tool_colors->color(Mouse_Button::right); }
-    void click(Point point, Mouse_Button button = Mouse_Button::left) { play(script().click(point, button)); }
 };
 
 constexpr Point square{1032, 201};
@@ -52,7 +50,7 @@ TEST_F(Color_Test, selector_sets_the_colour_of_the_pressed_button) {
 
 TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     tool_colors->set_color(Mouse_Button::right, {10, 20, 30});
-    click(red_less);
+    play(script().click(red_less));
     EXPECT_EQ(left(), Color(254, 255, 255));
     play(script().click(right_panel).click(red_less));
     EXPECT_EQ(right(), Color(9, 20, 30));
@@ -65,7 +63,7 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     play();
     EXPECT_EQ(left(), Color(254, 255, 255));
     execute(Command::swap_tool_colors);
-    click(red_less);
+    play(script().click(red_less));
     EXPECT_EQ(right(), Color(253, 255, 255));
 }
 
@@ -101,17 +99,17 @@ TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     tool_colors->set_color(Mouse_Button::left, {1, 2, 3, 4});
     tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
     // Without shift the entry's colour is taken, and nothing stored.
-    click(entry_10, Mouse_Button::right);
+    play(script().click(entry_10, Mouse_Button::right));
     EXPECT_EQ(right(), palette_store->color(0, 10));
     EXPECT_FALSE(palette_store->changed());
-    click(set_button);
+    play(script().click(set_button));
     EXPECT_EQ(palette_store->color(0, 10), Color(1, 2, 3, 4));
     tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
     SDL_SetModState(SDL_KMOD_LSHIFT);
-    click({entry_10.x + 24, entry_10.y}, Mouse_Button::right);
+    play(script().click({entry_10.x + 24, entry_10.y}, Mouse_Button::right));
     EXPECT_EQ(palette_store->color(0, 11), Color(5, 6, 7));
     EXPECT_EQ(right(), Color(5, 6, 7));
-    click({entry_10.x, entry_10.y + 20});
+    play(script().click({entry_10.x, entry_10.y + 20}));
     EXPECT_EQ(palette_store->color(0, 18), Color(1, 2, 3, 4));
     const std::string path = folder().data_path("palette.dat");
     EXPECT_TRUE(stored_text(path).empty());

@@ -3,10 +3,6 @@
 #include "panes/tool_colors.h"
 #include "tests/whole/program_test.h"
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -83,30 +79,6 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
             script().set_afterwards({});
         }
     }
-}
-
-TEST_F(Command_Test, tile_commands_change_what_the_canvas_shows) {
-    play(script().click(cell(2, 2)).motion({1, 1}));
-    const auto shown = [](Command command, Color expected, const std::string& title) {
-        editor->execute(command);
-        editor->redraw(Present::yes);
-        EXPECT_EQ(pixel_at(cell(2, 2)), expected);
-        EXPECT_EQ(count_in_preview({255, 255, 255}) > 0, expected == Color(255, 255, 255));
-        EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl" + title);
-    };
-    document().clear_modified();
-    shown(Command::add_new_tile, black, "*");
-    shown(Command::previous_tile, white, "*");
-    shown(Command::previous_tile, white, "*");
-    shown(Command::insert_new_tile, black, "*");
-    shown(Command::next_tile, white, "*");
-    shown(Command::delete_tile, black, "*");
-    shown(Command::delete_tile, black, "*");
-    EXPECT_EQ(document().tileset().count(), 1);
-    shown(Command::next_tile, black, "*");
-    // The last tile stays, blank.
-    play(script().click(cell(2, 2)).motion({1, 1}));
-    shown(Command::delete_tile, black, "*");
 }
 
 TEST_F(Command_Test, quit_asks_and_only_a_yes_ends_the_program) {

@@ -4,8 +4,6 @@
 #include "screen/surface.h"
 #include "tests/whole/program_test.h"
 
-#include <filesystem>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -1,15 +1,10 @@
 // The program's own dialog for choosing a file, driven as a user does it.
 
 #include "screen/screen.h"
-#include "tests/support/files.h"
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 
-#include <deque>
-#include <filesystem>
 #include <fstream>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

@@ -9,10 +9,8 @@
 #include "tests/whole/program_test.h"
 #include "views/versions_layout.h"
 
-#include <array>
 #include <memory>
 #include <ostream>
-#include <string>
 
 namespace quadrelle::testing {
 namespace {

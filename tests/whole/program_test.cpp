@@ -7,8 +7,6 @@
 
 #include <SDL3/SDL.h>
 
-#include <algorithm>
-#include <array>
 #include <memory>
 #include <utility>
 

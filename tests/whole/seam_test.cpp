@@ -1,13 +1,5 @@
 #include "panes/icon_bar.h"
 #include "tests/whole/program_test.h"
-#include "tileset/tileset_file.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -106,22 +98,8 @@ TEST_F(Seam_Test, marks_the_seam_while_it_is_shifted) {
     expect_marked(false, false);
 }
 
-TEST_F(Seam_Test, marks_large_cells_more_broadly_and_only_within_the_viewport) {
-    canvas().set_pixel_size(16);
-    canvas().centre();
-    execute(Command::horizontal_seam_tool);
-    const int seam = canvas().origin().x + 12 * 16;
-    EXPECT_EQ(pixel_at({seam + 3, 300 / 16 * 16 + 64 % 16}), yellow);
-    canvas().scroll_origin(264 - 2 - seam, -40);
-    execute(Command::vertical_seam_tool);
-    EXPECT_NE(pixel_at({262, 200}), yellow);
-    EXPECT_NE(pixel_at({263, 200}), yellow);
-    EXPECT_EQ(pixel_at({265, canvas().origin().y + 16 * 8}), yellow);
-}
-
 TEST_F(Seam_Test, is_undone_before_commands_on_the_set) {
-    for (const Command command : {Command::next_tile, Command::add_new_tile, Command::insert_new_tile,
-                                  Command::load, Command::rewind_strip, Command::versions}) {
+    for (const Command command : {Command::load, Command::versions}) {
         SCOPED_TRACE(static_cast<int>(command));
         const Tile original = distinct_tile({10, 6});
         Tile& tile = show(original);
@@ -136,21 +114,6 @@ TEST_F(Seam_Test, is_undone_before_commands_on_the_set) {
     }
 }
 
-TEST_F(Seam_Test, is_never_saved) {
-    const Tile original = distinct_tile({10, 6});
-    for (const Command command : {Command::save, Command::save_as}) {
-        show(original);
-        shift_both_ways();
-        const std::string path = folder().data_path("seam.qdl");
-        std::filesystem::remove(path);
-        answer_files(File_Answer_State::chosen, path);
-        execute(command);
-        const Loaded_Tileset loaded = load_tileset(path);
-        ASSERT_EQ(loaded.outcome, Load_Outcome::loaded);
-        EXPECT_TRUE(same(loaded.tileset->tile_at(0), original));
-    }
-}
-
 TEST_F(Seam_Test, what_the_history_pen_draws_is_shifted_along) {
     Tile& tile = show(distinct_tile({8, 8}));
     canvas().save_history();
@@ -160,6 +123,20 @@ TEST_F(Seam_Test, what_the_history_pen_draws_is_shifted_along) {
     EXPECT_TRUE(same(tile, *canvas().history()));
     execute(Command::mirror);
     EXPECT_FALSE(same(tile, *canvas().history()));
+}
+
+// Across the edge that the shift brought into the middle.
+TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
+    execute(Command::horizontal_seam_tool);
+    Work_Area& work = canvas().work_area();
+    work.select(selected_rectangle({24, 24}, {10, 4}, {16, 8}), Selection_Change::add);
+    const Selection before = work.selection();
+    canvas().tile()->set_pixel(10, 5, red);
+    execute(Command::mirror);
+    EXPECT_EQ(tile_pixel(15, 5), red);
+    EXPECT_TRUE(work.selection() == before);
+    execute(Command::undo);
+    EXPECT_EQ(tile_pixel(10, 5), red);
 }
 
 TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {

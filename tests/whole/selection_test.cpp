@@ -7,11 +7,8 @@
 
 #include <SDL3/SDL_clipboard.h>
 
-#include <algorithm>
-#include <random>
 #include <tuple>
 #include <utility>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -41,36 +38,6 @@ protected:
         });
     }
 };
-
-TEST_F(Selection_Test, a_paste_floats_until_it_is_plotted_and_hangs_over_without_loss) {
-    paint_noise(1);
-    const Tile_Picture before = tile_picture();
-    select_rectangle({2, 2}, {6, 5});
-    execute(Command::cut);
-    EXPECT_EQ(count(clear), 12);
-    execute(Command::paste);
-    EXPECT_EQ(toolbox->current_tool(), Tool::selection);
-    EXPECT_FALSE(work().has_selection());
-    EXPECT_EQ(count(clear), 12);
-    // The canvas shows it already.
-    EXPECT_EQ(pixel_at(cell(3, 3)), before[3 * 24 + 3]);
-    drag({3, 3}, {0, 23});
-    drag({0, 23}, {3, 3});
-    script().key(key::left, Modifier::shift).key(key::up, Modifier::shift);
-    play(script().key(key::right, Modifier::shift).key(key::down, Modifier::shift));
-    click({20, 20});
-    EXPECT_FALSE(work().paste());
-    EXPECT_EQ(tile_picture(), before);
-    // Each of these was a step, the four nudges together, and takes the paste with it.
-    for (int i = 0; i < 5; ++i) {
-        execute(Command::undo);
-    }
-    EXPECT_FALSE(work().paste());
-    EXPECT_EQ(work().selection().count(), 12);
-    EXPECT_EQ(count(clear), 12);
-    execute(Command::redo);
-    EXPECT_EQ(work().paste()->position, (Tile_Point{2, 2}));
-}
 
 TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
     struct Row {
@@ -104,31 +71,6 @@ TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
         EXPECT_EQ(count(red), 12);
         EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);
         work().drop_paste();
-    }
-}
-
-TEST_F(Selection_Test, wand_floats_at_once_in_its_quick_modes) {
-    for (const auto& [mode, holes] :
-         {std::pair{Wand_Mode::quick_copy, 0}, std::pair{Wand_Mode::quick_cut, 8}}) {
-        tile().fill(black);
-        for (int i = 0; i < 8; ++i) {
-            tile().set_pixel(4 + i % 4, 4 + i / 4, red);
-        }
-        // So that the history knows it.
-        execute(Command::mirror);
-        execute(Command::mirror);
-        execute(Command::wand_selector);
-        toolbox->options().wand_mode = mode;
-        click({5, 5});
-        EXPECT_EQ(toolbox->current_tool(), Tool::selection);
-        EXPECT_EQ(count(clear), holes);
-        ASSERT_TRUE(work().paste());
-        EXPECT_EQ(work().paste()->position, (Tile_Point{4, 4}));
-        EXPECT_EQ(work().paste()->picture.size(), (Size{4, 2}));
-        // One step, not two.
-        execute(Command::undo);
-        EXPECT_FALSE(work().paste());
-        EXPECT_EQ(count(red), 8);
     }
 }
 

@@ -7,16 +7,8 @@
 #include "tileset/tileset_file.h"
 #include "tools/flood_fill.h"
 #include "tools/line.h"
+#include "tools/options.h"
 #include "tools/shapes.h"
-#include "ui/dialog_container.h"
-#include "ui/options.h"
-
-#include <algorithm>
-#include <array>
-#include <functional>
-#include <random>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -196,9 +188,8 @@ private:
             Command::paste, [&] { model_.floats(in_view(*model_.copies[0], model_.size())); }, true);
     }
     void clone() {
-        constexpr int clone_item = 131;
-        options->dialog().item(clone_item)->notify(Dialog_Event_Kind::increase);
-        options->load();
+        const auto style = static_cast<Clone_Style>((options->value(Option::clone_style) + 1) % 4);
+        set_option(Option::clone_style, static_cast<int>(style));
         const bool has_own = model_.shows_paste() || model_.has_selection();
         if (!has_own && model_.copies.empty()) {
             editor->execute(Command::clone);
@@ -208,7 +199,6 @@ private:
             if (has_own) {
                 model_.copy();
             }
-            const auto style = static_cast<Clone_Style>(options->value(Option::clone_style));
             model_.floats(cloned(*model_.copies[0], style, model_.size()));
         };
         change(Command::clone, expected, true);

@@ -5,15 +5,8 @@
 #include "app/editor.h"
 #include "base/platform_files.h"
 #include "color/palette_store.h"
-#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 #include "views/options_dialog.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {

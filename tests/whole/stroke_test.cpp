@@ -1,8 +1,6 @@
 #include "panes/tool_colors.h"
 #include "tests/whole/program_test.h"
 
-#include <algorithm>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -23,12 +21,6 @@ TEST_F(Stroke_Test, shows_the_pixels_it_paints_in_tile_window_and_title) {
     }
     EXPECT_EQ(pixel_at(cell(7, 5)), black);
     EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
-}
-
-TEST_F(Stroke_Test, leaves_the_tileset_unmarked_when_nothing_changes) {
-    play(script().drag({cell(2, 3), cell(9, 3)}, Mouse_Button::right).click({270, 70}));
-    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl");
-    EXPECT_FALSE(document().is_modified());
 }
 
 TEST_F(Stroke_Test, begins_on_the_strip_left_of_and_above_the_tile_but_not_beyond) {

@@ -1,8 +1,5 @@
 #include "tests/whole/program_test.h"
 
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

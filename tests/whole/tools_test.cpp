@@ -5,9 +5,6 @@
 #include "panes/tool_colors.h"
 #include "panes/toolbox.h"
 
-#include <string>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 

@@ -1,10 +1,4 @@
-#include "commands/command_table.h"
-#include "panes/tool_colors.h"
-#include "panes/toolbox.h"
-#include "screen/screen.h"
 #include "tests/whole/program_test.h"
-
-#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -15,40 +9,7 @@ protected:
 
     void stroke(const std::vector<Point>& points) { play(script().drag(points)); }
     void press_undo() { play(script().key('z', Modifier::control)); }
-    void press_redo() { play(script().key('r', Modifier::control)); }
 };
-
-TEST_F(Undo_Test, takes_a_stroke_as_one_step_and_none_when_it_changed_nothing) {
-    ASSERT_EQ(history().entries().size(), 1U);
-    press_undo();
-    press_redo();
-    EXPECT_FALSE(document().is_modified());
-    stroke({cell(2, 2), cell(9, 2), cell(9, 9), cell(2, 9)});
-    stroke({cell(2, 2), cell(9, 2)});
-    EXPECT_EQ(history().entries().size(), 2U);
-    EXPECT_EQ(history().entries().back().kind, Command::pen);
-    const Tile_Picture drawn = tile_picture();
-
-    document().clear_modified();
-    press_undo();
-    EXPECT_EQ(tile_picture(), Tile_Picture(drawn.size(), black));
-    EXPECT_EQ(pixel_at(cell(9, 5)), black);
-    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
-    press_redo();
-    EXPECT_EQ(tile_picture(), drawn);
-    EXPECT_EQ(pixel_at(cell(9, 5)), white);
-}
-
-TEST_F(Undo_Test, makes_the_tool_of_the_step_current_again) {
-    stroke({cell(1, 1)});
-    toolbox->select(Command::stamp_brush);
-    editor->execute(Command::change_tile);
-    ASSERT_EQ(history().entries().back().tool, Tool::stamp_brush);
-    press_undo();
-    EXPECT_EQ(toolbox->current_tool(), Tool::pen);
-    press_redo();
-    EXPECT_EQ(toolbox->current_tool(), Tool::stamp_brush);
-}
 
 TEST_F(Undo_Test, shows_the_newest_seven_states_in_its_pane) {
     constexpr Point first{36, 394};

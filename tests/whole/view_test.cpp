@@ -2,9 +2,6 @@
 
 #include <SDL3/SDL_events.h>
 
-#include <functional>
-#include <vector>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -36,14 +33,6 @@ TEST_F(View_Test, zooms_by_wheel_and_keypad_within_its_limits) {
     EXPECT_EQ(canvas().pixel_size(), 3);
     EXPECT_EQ(canvas().origin(), (Point{484, 284}));
     EXPECT_FALSE(document().is_modified());
-}
-
-TEST_F(View_Test, draws_where_the_zoomed_tile_is_shown) {
-    // 24 cells of 9 pixels around the viewport's middle.
-    play(script().key(key::keypad_minus).click({520 - 12 * 9 + 4, 320 - 12 * 9 + 4}));
-    EXPECT_EQ(tile_pixel(0, 0), Color(255, 255, 255));
-    EXPECT_EQ(pixel_at({520 - 12 * 9 + 4, 320 - 12 * 9 + 4}), Color(255, 255, 255));
-    EXPECT_EQ(pixel_at({520 - 12 * 9 - 1, 320}), pixel_at({266, 66}));
 }
 
 TEST_F(View_Test, pans_with_control_and_the_right_button) {
