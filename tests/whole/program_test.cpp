@@ -146,7 +146,6 @@ void Program_Test::make_set(Size size, int count, const std::function<Color(int 
             tile.set_pixel_at(pixel, color(i, {pixel % size.width, pixel / size.width}));
         }
     }
-    document().history().reset(tileset);
     editor->redraw(Present::no);
 }
 

@@ -56,7 +56,7 @@ protected:
     // At this step the loop with that name waits.
     Script& expect_loop(const std::string& name);
 
-    // Another set with that many tiles, saved and with one step in its history; the first one is current.
+    // Another set with that many tiles, the first one current. Its history knows a black tile.
     void make_set(Size size, int count, const std::function<Color(int tile, Point pixel)>& color);
     // A set of that size without tiles, which no command makes.
     void load_empty_set(Size size);

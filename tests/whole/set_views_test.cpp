@@ -36,6 +36,7 @@ protected:
 
     void make(int count) {
         make_set(tile_size, count, [](int tile, Point pixel) { return image_pixel(tile, pixel.x); });
+        document().history().reset(tileset());
     }
 
     static void expect_images(const std::vector<int>& images) {

@@ -22,6 +22,7 @@ protected:
     // Of one pixel a tile: tile i has the colour of i.
     void make(int count) {
         make_set({1, 1}, count, [](int tile, Point) { return color_of(tile); });
+        document().history().reset(tileset());
     }
 };
 
