@@ -20,12 +20,35 @@ namespace quadrelle {
 
 namespace {
 
-using Handler = Outcome (*)(Editor_Parts& editor);
+// A function of its own for the command, or one for several, which is told the command.
+class Handler {
+public:
+    using Of_One = Outcome (*)(Editor_Parts& editor);
+    using Of_Several = Outcome (*)(Editor_Parts& editor, Command command);
 
-// The handler that always gets the same argument.
-template <auto handler, auto argument>
+    constexpr Handler(Of_One function) : of_one_(function) {}
+    constexpr Handler(Of_Several function) : of_several_(function) {}
+
+    constexpr bool operator==(const Handler&) const = default;
+
+    Outcome operator()(Editor_Parts& editor, Command command) const {
+        return of_one_ != nullptr ? of_one_(editor) : of_several_(editor, command);
+    }
+
+private:
+    Of_One of_one_ = nullptr;
+    Of_Several of_several_ = nullptr;
+};
+
+struct Handler_Row {
+    Command id;
+    Handler handle;
+};
+
+// One that always gets the same argument.
+template <auto function, auto argument>
 Outcome with(Editor_Parts& editor) {
-    return handler(editor, argument);
+    return function(editor, argument);
 }
 
 Outcome nothing(Editor_Parts& /*editor*/) {
@@ -36,23 +59,18 @@ Outcome nobody(Editor_Parts& /*editor*/) {
     return Outcome::unknown;
 }
 
-struct Handler_Row {
-    Command id;
-    Handler handler;
-};
-
 // clang-format off
 constexpr std::array<Handler_Row, command_count> handlers{{
-    {Command::pen,                   with<tool_commands::select_tool, Tool::pen>},
-    {Command::dropper,               with<tool_commands::select_tool, Tool::dropper>},
-    {Command::lightness_pen,         with<tool_commands::select_tool, Tool::lightness_pen>},
-    {Command::colorize_pen,          with<tool_commands::select_tool, Tool::colorize_pen>},
-    {Command::flood_fill,            with<tool_commands::select_tool, Tool::flood_fill>},
-    {Command::line,                  with<tool_commands::select_tool, Tool::line>},
+    {Command::pen,                   tool_commands::select},
+    {Command::dropper,               tool_commands::select},
+    {Command::lightness_pen,         tool_commands::select},
+    {Command::colorize_pen,          tool_commands::select},
+    {Command::flood_fill,            tool_commands::select},
+    {Command::line,                  tool_commands::select},
     {Command::rectangle,             with<tool_commands::select_plain, Tool::rectangle>},
     {Command::circle,                with<tool_commands::select_plain, Tool::ellipse>},
-    {Command::stamp_brush,           with<tool_commands::select_tool, Tool::stamp_brush>},
-    {Command::smudge_brush,          with<tool_commands::select_tool, Tool::smudge_brush>},
+    {Command::stamp_brush,           tool_commands::select},
+    {Command::smudge_brush,          tool_commands::select},
     {Command::save_history_buffer,   tile_commands::save_history_buffer},
     {Command::swap_tool_colors,      tool_commands::swap_colors},
     {Command::select_brush_size_1,   with<brush_commands::select_size, 0>},
@@ -65,34 +83,34 @@ constexpr std::array<Handler_Row, command_count> handlers{{
     {Command::color_right,           with<tool_commands::step_in_palette, Point{1, 0}>},
     {Command::color_down,            with<tool_commands::step_in_palette, Point{0, 1}>},
     {Command::color_up,              with<tool_commands::step_in_palette, Point{0, -1}>},
-    {Command::rectangle_selector,    with<tool_commands::select_tool, Tool::rectangle_selector>},
-    {Command::circle_selector,       with<tool_commands::select_tool, Tool::circle_selector>},
-    {Command::brush_selector,        with<tool_commands::select_tool, Tool::brush_selector>},
-    {Command::wand_selector,         with<tool_commands::select_tool, Tool::wand_selector>},
+    {Command::rectangle_selector,    tool_commands::select},
+    {Command::circle_selector,       tool_commands::select},
+    {Command::brush_selector,        tool_commands::select},
+    {Command::wand_selector,         tool_commands::select},
     {Command::deselect,              edit_commands::deselect},
     {Command::invert_selection,      edit_commands::invert_selection},
     {Command::fill,                  edit_commands::fill},
     {Command::clear,                 edit_commands::clear},
-    {Command::work_selection,        with<tool_commands::select_tool, Tool::selection>},
-    {Command::scroll_left,           with<tile_commands::transform, Command::scroll_left>},
-    {Command::scroll_right,          with<tile_commands::transform, Command::scroll_right>},
-    {Command::scroll_up,             with<tile_commands::transform, Command::scroll_up>},
-    {Command::scroll_down,           with<tile_commands::transform, Command::scroll_down>},
-    {Command::rotate,                with<tile_commands::turn, Command::rotate>},
-    {Command::rotate_back,           with<tile_commands::turn, Command::rotate_back>},
-    {Command::mirror,                with<tile_commands::turn, Command::mirror>},
-    {Command::flip,                  with<tile_commands::turn, Command::flip>},
+    {Command::work_selection,        tool_commands::select},
+    {Command::scroll_left,           tile_commands::transform},
+    {Command::scroll_right,          tile_commands::transform},
+    {Command::scroll_up,             tile_commands::transform},
+    {Command::scroll_down,           tile_commands::transform},
+    {Command::rotate,                tile_commands::turn},
+    {Command::rotate_back,           tile_commands::turn},
+    {Command::mirror,                tile_commands::turn},
+    {Command::flip,                  tile_commands::turn},
     {Command::horizontal_seam_tool,  with<tile_commands::shift_to_seam, Seam::horizontal>},
     {Command::vertical_seam_tool,    with<tile_commands::shift_to_seam, Seam::vertical>},
-    {Command::scroll,                with<tool_commands::select_tool, Tool::scroll>},
-    {Command::free_rotate,           with<tool_commands::select_tool, Tool::rotate>},
-    {Command::next_tile,             with<tileset_commands::leave_to_document, Command::next_tile>},
-    {Command::previous_tile,         with<tileset_commands::leave_to_document, Command::previous_tile>},
-    {Command::next_tile_strip,       with<tileset_commands::leave_to_document, Command::next_tile_strip>},
-    {Command::previous_tile_strip,   with<tileset_commands::leave_to_document, Command::previous_tile_strip>},
+    {Command::scroll,                tool_commands::select},
+    {Command::free_rotate,           tool_commands::select},
+    {Command::next_tile,             tileset_commands::leave_to_document},
+    {Command::previous_tile,         tileset_commands::leave_to_document},
+    {Command::next_tile_strip,       tileset_commands::leave_to_document},
+    {Command::previous_tile_strip,   tileset_commands::leave_to_document},
     {Command::change_tile,           nothing},
-    {Command::rewind_strip,          with<tileset_commands::leave_to_document, Command::rewind_strip>},
-    {Command::forward_strip,         with<tileset_commands::leave_to_document, Command::forward_strip>},
+    {Command::rewind_strip,          tileset_commands::leave_to_document},
+    {Command::forward_strip,         tileset_commands::leave_to_document},
     {Command::copy,                  edit_commands::copy},
     {Command::use_as_brush,          brush_commands::use_as_brush},
     {Command::cut,                   edit_commands::cut},
@@ -110,12 +128,12 @@ constexpr std::array<Handler_Row, command_count> handlers{{
     {Command::quit,                  file_commands::quit},
     {Command::view_in_real_size,     view_commands::view_in_real_size},
     {Command::arrange_select,        tileset_commands::arrange_select},
-    {Command::add_new_tile,          with<tileset_commands::leave_to_document, Command::add_new_tile>},
-    {Command::insert_new_tile,       with<tileset_commands::leave_to_document, Command::insert_new_tile>},
-    {Command::delete_tile,           with<tileset_commands::leave_to_document, Command::delete_tile>},
+    {Command::add_new_tile,          tileset_commands::leave_to_document},
+    {Command::insert_new_tile,       tileset_commands::leave_to_document},
+    {Command::delete_tile,           tileset_commands::leave_to_document},
     {Command::statistics,            tileset_commands::statistics},
     {Command::view_tile_array,       tileset_commands::view_tile_array},
-    {Command::anti_alias,            with<tile_commands::transform, Command::anti_alias>},
+    {Command::anti_alias,            tile_commands::transform},
     {Command::center_tile_on_view,   view_commands::centre},
     {Command::adjust_hsv,            tile_commands::adjust_hsv},
     {Command::zoom_tile_up,          with<view_commands::zoom, Zoom_Step::in>},
@@ -141,7 +159,9 @@ constexpr std::array<Handler_Row, command_count> handlers{{
 // clang-format on
 
 static_assert(rows_follow_their_ids(handlers));
-static_assert(std::ranges::all_of(handlers, [](const Handler_Row& row) { return row.handler != nullptr; }));
+static_assert(std::ranges::all_of(handlers, [](const Handler_Row& row) {
+    return row.handle != Handler(tool_commands::select) || tool_of(row.id) != Tool::none;
+}));
 
 } // namespace
 
@@ -151,7 +171,7 @@ Outcome carry_out(Editor_Parts& editor, Command command) {
         dialogs->message("Note", "This set has no tile. Tileset, Add new tile makes one.");
         return Outcome::refused;
     }
-    return handlers.at(static_cast<std::size_t>(command)).handler(editor);
+    return handlers.at(static_cast<std::size_t>(command)).handle(editor, command);
 }
 
 } // namespace quadrelle

@@ -17,6 +17,10 @@ Shape_Type& type_of(Tool shape) {
 
 } // namespace
 
+Outcome select(Editor_Parts& editor, Command of_tool) {
+    return select_tool(editor, tool_of(of_tool));
+}
+
 Outcome select_tool(Editor_Parts& editor, Tool tool) {
     if (tool == toolbox->current_tool()) {
         return Outcome::done;

@@ -12,6 +12,7 @@ struct Editor_Parts;
 
 namespace tool_commands {
 
+Outcome select(Editor_Parts& editor, Command of_tool);
 Outcome select_tool(Editor_Parts& editor, Tool tool);
 // Rectangles and ellipses. The plain one leaves the filled type, but not the one with an outline too.
 Outcome select_plain(Editor_Parts& editor, Tool shape);

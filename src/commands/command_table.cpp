@@ -164,9 +164,13 @@ std::string menu_text(Command command) {
     return text;
 }
 
-std::string_view description(Command command) {
+std::optional<std::string_view> help_text(Command command) {
     const auto found = std::ranges::find(descriptions, command, &Description::command);
-    return found == descriptions.end() ? "dsc" : found->text;
+    return found == descriptions.end() ? std::nullopt : std::optional(found->text);
+}
+
+std::string_view description(Command command) {
+    return help_text(command).value_or("dsc");
 }
 
 } // namespace quadrelle

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -211,6 +212,7 @@ inline constexpr const std::array<Command_Row, command_count>& command_table = c
 [[nodiscard]] Command find_command(Key_Chord chord);
 // The name, followed by the key label in parentheses when there is a key.
 [[nodiscard]] std::string menu_text(Command command);
+[[nodiscard]] std::optional<std::string_view> help_text(Command command);
 // The help text; "dsc" where a command has none.
 [[nodiscard]] std::string_view description(Command command);
 

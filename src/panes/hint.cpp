@@ -10,8 +10,6 @@ namespace quadrelle {
 
 namespace {
 
-constexpr std::string_view no_help = "dsc";
-
 // In one line: where it breaks depends on the room.
 std::string first_paragraph(std::string_view text) {
     std::string paragraph(text.substr(0, text.find("\r\r")));
@@ -20,8 +18,7 @@ std::string first_paragraph(std::string_view text) {
 }
 
 Hint brief(Command command) {
-    const std::string_view text = description(command);
-    return {menu_text(command), text == no_help ? "" : first_paragraph(text)};
+    return {menu_text(command), first_paragraph(help_text(command).value_or(""))};
 }
 
 Hint brief(Place place) {
