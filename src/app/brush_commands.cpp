@@ -35,11 +35,12 @@ Brush_Source source_of(const Tile& tile, const Selection& selection) {
 }
 
 // A paste only while it is to be seen.
-std::optional<Brush_Source> chosen_source(const Canvas_View& canvas) {
+std::optional<Brush_Source> chosen_source(const Editor_Parts& editor) {
+    const Canvas_View& canvas = editor.canvas;
     if (canvas.tile() == nullptr) {
         return std::nullopt;
     }
-    if (canvas.shows_paste(toolbox->state())) {
+    if (editor.desk.shows_paste()) {
         return source_of(*canvas.work_area().paste());
     }
     const Work_Area& work = canvas.work_area();
@@ -58,7 +59,7 @@ Outcome refuse(std::string_view reason) {
 } // namespace
 
 Outcome use_as_brush(Editor_Parts& editor) {
-    const std::optional<Brush_Source> source = chosen_source(editor.canvas);
+    const std::optional<Brush_Source> source = chosen_source(editor);
     if (!source) {
         return refuse("Nothing selected to use as brush.");
     }

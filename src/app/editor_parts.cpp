@@ -1,14 +1,15 @@
 #include "app/editor_parts.h"
 
 #include "commands/command_table.h"
+#include "panes/toolbox.h"
 #include "tools/options.h"
 
 namespace quadrelle {
 
 Editor_Parts::Editor_Parts(const Redraw& redraw_window)
     : redraw(redraw_window), canvas(options->value(Option::editor_pixel_size)),
-      documents([this] { show_current_tile(); }), recorder(documents, canvas), desk(canvas, recorder),
-      panes(canvas, documents, desk.copies(), redraw_window) {}
+      documents([this] { show_current_tile(); }), recorder(documents, canvas, *toolbox),
+      desk(canvas, recorder, *toolbox), panes(canvas, documents, desk.copies(), redraw_window) {}
 
 void Editor_Parts::show_current_tile() {
     Tileset& tileset = documents.current().tileset();

@@ -40,7 +40,7 @@ void Recorder::step(const Edit& edit, Merge merge) {
 
 void Recorder::record(Command kind) {
     canvas_.with_tile_in_place(
-        [&] { documents_.current().record(kind, toolbox->current_tool(), canvas_.work_area().state()); });
+        [&] { documents_.current().record(kind, toolbox_.current_tool(), canvas_.work_area().state()); });
 }
 
 bool Recorder::undo() {
@@ -64,7 +64,7 @@ std::optional<Undo_Entry> Recorder::missing_floor() {
         const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
                               canvas_.work_area() == entry->work;
         if (!is_known) {
-            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox->current_tool(),
+            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox_.current_tool(),
                                   canvas_.work_area().state());
         }
     });
@@ -88,8 +88,8 @@ bool Recorder::restore(const Undo_Entry* entry) {
         entry->snapshot->tile.copy_to(*tileset.current_tile());
         canvas_.work_area().restore(entry->work);
     });
-    if (entry->tool != toolbox->current_tool()) {
-        toolbox->select(row_of(entry->tool).command);
+    if (entry->tool != toolbox_.current_tool()) {
+        toolbox_.select(row_of(entry->tool).command);
     }
     documents_.mark_changed();
     return true;

@@ -13,6 +13,7 @@ namespace quadrelle {
 
 class Canvas_View;
 class Documents;
+class Toolbox;
 
 // Does something to the current tile or the work area. Answers with the command that the step is called
 // after, or none when there is nothing to record.
@@ -23,8 +24,9 @@ enum class Merge { no, with_last };
 
 class Recorder {
 public:
-    // Borrows both.
-    Recorder(Documents& documents, Canvas_View& canvas) : documents_(documents), canvas_(canvas) {}
+    // Borrows all three.
+    Recorder(Documents& documents, Canvas_View& canvas, Toolbox& tools)
+        : documents_(documents), canvas_(canvas), toolbox_(tools) {}
 
     // What `edit` does becomes a step, and the document changed. The history gets the state before it too
     // where it did not know it, so that the step can be undone.
@@ -42,6 +44,7 @@ private:
 
     Documents& documents_;
     Canvas_View& canvas_;
+    Toolbox& toolbox_;
     // What floats in the last step that may be merged with, as the history keeps it.
     std::weak_ptr<const Floating_Paste> merged_;
 };

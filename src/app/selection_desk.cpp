@@ -21,8 +21,12 @@ Floating_Paste placed(const Tile& picture, Size tile) {
 
 } // namespace
 
+bool Selection_Desk::shows_paste() const {
+    return canvas_.shows_paste(toolbox_.state());
+}
+
 bool Selection_Desk::has_something() const {
-    return canvas_.shows_paste(toolbox->state()) || canvas_.work_area().has_selection();
+    return shows_paste() || canvas_.work_area().has_selection();
 }
 
 Outcome Selection_Desk::change(const std::function<void()>& work) {
@@ -73,7 +77,7 @@ void Selection_Desk::fill_selected(Color color) {
 }
 
 void Selection_Desk::clear_selected() {
-    if (canvas_.shows_paste(toolbox->state())) {
+    if (shows_paste()) {
         canvas_.work_area().drop_paste();
     } else {
         fill_selected(Color(0, 0, 0, 0));
@@ -85,7 +89,7 @@ std::optional<Floating_Paste> Selection_Desk::what_to_copy() const {
     if (canvas_.tile() == nullptr || canvas_.tile()->pixel_count() == 0) {
         return std::nullopt;
     }
-    if (canvas_.shows_paste(toolbox->state())) {
+    if (shows_paste()) {
         return *work.paste();
     }
     return work.has_selection() ? lifted(*canvas_.tile(), work.selection())
@@ -143,14 +147,14 @@ void Selection_Desk::float_picture(const Floating_Paste& picture) {
     canvas_.work_area().deselect();
     settle();
     canvas_.work_area().float_paste(picture);
-    if (toolbox->current_tool() != Tool::selection) {
-        toolbox->select(Command::work_selection);
+    if (toolbox_.current_tool() != Tool::selection) {
+        toolbox_.select(Command::work_selection);
     }
 }
 
 bool Selection_Desk::float_wand_area(Tile_Point pressed) {
-    const auto mode = toolbox->state().options.wand_mode;
-    if (toolbox->current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
+    const auto mode = toolbox_.state().options.wand_mode;
+    if (toolbox_.current_tool() != Tool::wand_selector || mode == Wand_Mode::normal ||
         !canvas_.work_area().selection().contains(pressed)) {
         return false;
     }
@@ -160,7 +164,7 @@ bool Selection_Desk::float_wand_area(Tile_Point pressed) {
 }
 
 bool Selection_Desk::nudge(int dx, int dy) {
-    if (!canvas_.shows_paste(toolbox->state())) {
+    if (!shows_paste()) {
         return false;
     }
     const auto move = [&] {
@@ -178,12 +182,11 @@ Outcome Selection_Desk::transform(Command command) {
     if (canvas_.tile() == nullptr) {
         return Outcome::unknown;
     }
-    if (canvas_.shows_paste(toolbox->state())) {
-        return outcome_of(work.transform_paste(command));
+    if (shows_paste()) {
+        return work.transform_paste(command);
     }
-    return work.has_selection()
-               ? outcome_of(transform_selected(*canvas_.tile(), work.mutable_selection(), command))
-               : Outcome::unknown;
+    return work.has_selection() ? transform_selected(*canvas_.tile(), work.mutable_selection(), command)
+                                : Outcome::unknown;
 }
 
 // It floats on unless the mode of the tool lets it go.
@@ -194,7 +197,7 @@ void Selection_Desk::plot_paste() {
     }
     Drawing_Target target = work.target(*canvas_.tile());
     work.paste()->plot(target);
-    if (toolbox->state().options.selection_mode == Selection_Mode::standard) {
+    if (toolbox_.state().options.selection_mode == Selection_Mode::standard) {
         work.drop_paste();
     }
 }
@@ -207,8 +210,8 @@ Outcome Selection_Desk::plot() {
 // plotted when its tool was left, and what was drawn over it since is to stay.
 bool Selection_Desk::is_to_settle() const {
     const Work_Area& work = canvas_.work_area();
-    const bool was_left = toolbox->state().options.selection_mode == Selection_Mode::persistent &&
-                          !toolbox->state().shows_floating_paste();
+    const bool was_left = toolbox_.state().options.selection_mode == Selection_Mode::persistent &&
+                          !toolbox_.state().shows_floating_paste();
     return work.paste() && !work.has_selection() && !was_left;
 }
 
@@ -219,7 +222,7 @@ void Selection_Desk::settle() {
 }
 
 void Selection_Desk::settle_before_leaving() {
-    if (toolbox->state().options.selection_mode != Selection_Mode::fixed && is_to_settle()) {
+    if (toolbox_.state().options.selection_mode != Selection_Mode::fixed && is_to_settle()) {
         recorder_.step([this] { return plot() == Outcome::done ? Command::plot_paste : Command::none; });
     }
 }

@@ -18,15 +18,19 @@ namespace quadrelle {
 
 class Canvas_View;
 class Recorder;
+class Toolbox;
 
 class Selection_Desk {
 public:
-    // Borrows both.
-    Selection_Desk(Canvas_View& canvas, Recorder& recorder) : canvas_(canvas), recorder_(recorder) {}
+    // Borrows all three.
+    Selection_Desk(Canvas_View& canvas, Recorder& recorder, Toolbox& tools)
+        : canvas_(canvas), recorder_(recorder), toolbox_(tools) {}
 
     [[nodiscard]] Copy_Buffer& copies() { return copies_; }
     [[nodiscard]] const Copy_Buffer& copies() const { return copies_; }
-    // A picture floats visibly, or something is selected.
+    // Something floats in view.
+    [[nodiscard]] bool shows_paste() const;
+    // That, or something is selected.
     [[nodiscard]] bool has_something() const;
 
     // These four are refused where they change nothing. A selection goes first, then what floats, which
@@ -70,6 +74,7 @@ private:
 
     Canvas_View& canvas_;
     Recorder& recorder_;
+    Toolbox& toolbox_;
     Copy_Buffer copies_;
     System_Clipboard clipboard_;
 };

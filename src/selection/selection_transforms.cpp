@@ -63,10 +63,10 @@ void anti_alias(Tile& tile, const Selection& selection) {
 
 } // namespace
 
-Command transform_selected(Tile& tile, Selection& selection, Command command) {
+Outcome transform_selected(Tile& tile, Selection& selection, Command command) {
     const Transform_Row* const row = find_transform(command);
     if (row == nullptr && command != Command::anti_alias) {
-        return Command::none;
+        return Outcome::unknown;
     }
     const Rectangle bounds = selection.bounds();
     if (row == nullptr) {
@@ -76,9 +76,9 @@ Command transform_selected(Tile& tile, Selection& selection, Command command) {
     } else if (row->placement->fits({bounds.width, bounds.height})) {
         turn(tile, selection, *row->placement);
     } else {
-        return Command::skip_command;
+        return Outcome::refused;
     }
-    return command;
+    return Outcome::done;
 }
 
 } // namespace quadrelle

@@ -56,10 +56,10 @@ void Work_Area::update_paste_area() {
     }
 }
 
-Command Work_Area::transform_paste(Command command) {
+Outcome Work_Area::transform_paste(Command command) {
     const Transform_Row* const row = find_transform(command);
     if (row == nullptr || row->placement == nullptr) {
-        return Command::none;
+        return Outcome::unknown;
     }
     const Size before = paste_->picture.size();
     const Size size = row->placement->size_after(before);
@@ -68,7 +68,7 @@ Command Work_Area::transform_paste(Command command) {
     after.position.x += (before.width - size.width) / 2;
     after.position.y += (before.height - size.height) / 2;
     float_paste(after);
-    return command;
+    return Outcome::done;
 }
 
 Drawing_Target Work_Area::target(Tile& tile) const {

@@ -2,7 +2,7 @@
 
 // What is selected on the canvas, and what floats over it. Knows no view, no tool and no history.
 
-#include "commands/command.h"
+#include "commands/outcome.h"
 #include "selection/floating_paste.h"
 #include "selection/selection.h"
 
@@ -24,8 +24,8 @@ class Work_Area {
 public:
     Work_Area() : selection_(Selection(Size{})) {}
 
-    // Makes it fit a tile of that size: nothing is selected, and what floats stays and does not come to lie
-    // beside the tile.
+    // For a tile of that size. Nothing is selected; what floats stays, and does not come to lie beside the
+    // tile.
     void resize(Size tile);
 
     [[nodiscard]] const Selection& selection() const { return *selection_; }
@@ -45,14 +45,14 @@ public:
     void float_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
     void drop_paste() { paste_.reset(); }
-    // Returns where the paste lies in the tile; may be asked only while there is one.
+    // Where the paste lies in the tile; only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
     // floated before becomes a part of the tile. The selection is not empty.
     void lift_selection(Tile& tile);
 
-    // Turns or mirrors the paste about its middle. Returns the command when that was done, else none.
-    Command transform_paste(Command command);
+    // Turns or mirrors the paste about its middle; every other command is unknown.
+    Outcome transform_paste(Command command);
 
     [[nodiscard]] Drawing_Target target(Tile& tile) const;
 

@@ -40,7 +40,7 @@ Command Tileset_Document::handle_command(Command command) {
     case Command::forward_strip:
     case Command::previous_tile_strip:
     case Command::next_tile_strip: return scroll_strip(command);
-    default: return transform_tile(tileset_.current_tile(), command);
+    default: return answer_of(command, transform_tile(tileset_.current_tile(), command));
     }
 }
 

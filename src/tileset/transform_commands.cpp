@@ -5,13 +5,13 @@
 
 namespace quadrelle {
 
-Command transform_tile(Tile* tile, Command command) {
+Outcome transform_tile(Tile* tile, Command command) {
     const Transform_Row* const row = find_transform(command);
     if (row == nullptr && command != Command::anti_alias) {
-        return Command::none;
+        return Outcome::unknown;
     }
     if (tile == nullptr) {
-        return Command::skip_command;
+        return Outcome::refused;
     }
     if (row == nullptr) {
         tile->anti_alias();
@@ -20,9 +20,9 @@ Command transform_tile(Tile* tile, Command command) {
     } else if (row->placement->fits(tile->size())) {
         place(Tile(*tile), *tile, *row->placement);
     } else {
-        return Command::skip_command;
+        return Outcome::refused;
     }
-    return command;
+    return Outcome::done;
 }
 
 } // namespace quadrelle

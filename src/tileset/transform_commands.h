@@ -2,13 +2,13 @@
 
 // The commands that turn, mirror, scroll or soften one whole tile. Knows neither sets nor views.
 
-#include "commands/command.h"
+#include "commands/outcome.h"
 #include "pixels/tile.h"
 
 namespace quadrelle {
 
-// Returns the command when it was carried out, `skip_command` where it was refused, without a tile and for
-// the rotation of a tile that is not square, and none for every other command.
-[[nodiscard]] Command transform_tile(Tile* tile, Command command);
+// Is refused without a tile, and for the rotation of a tile that is not square; every other command is
+// unknown.
+[[nodiscard]] Outcome transform_tile(Tile* tile, Command command);
 
 } // namespace quadrelle

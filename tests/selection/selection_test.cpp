@@ -156,7 +156,7 @@ TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
             SCOPED_TRACE(menu_text(command));
             Tile tile(original);
             Selection selection = before;
-            const bool is_refused = transform_selected(tile, selection, command) == Command::skip_command;
+            const bool is_refused = transform_selected(tile, selection, command) == Outcome::refused;
             EXPECT_EQ(sorted(pixels_of(tile)), sorted(pixels_of(original)));
             EXPECT_EQ(selection.count(), before.count());
             EXPECT_EQ(selection.bounds(), before.bounds());
@@ -181,8 +181,8 @@ TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {
         work.float_paste({random.tile(size), {random.below(20) - 4, random.below(20) - 4}});
         const Work_State before = work.state();
         for (const Command command : {Command::mirror, Command::flip}) {
-            EXPECT_EQ(work.transform_paste(command), command);
-            EXPECT_EQ(work.transform_paste(command), command);
+            EXPECT_EQ(work.transform_paste(command), Outcome::done);
+            EXPECT_EQ(work.transform_paste(command), Outcome::done);
             EXPECT_TRUE(work == before);
         }
         for (const auto& [there, back] : {std::pair{Command::rotate, Command::rotate_back},
@@ -195,7 +195,7 @@ TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {
             }
             EXPECT_TRUE(work == before) << size.width << " x " << size.height;
         }
-        EXPECT_EQ(work.transform_paste(Command::scroll_left), Command::none);
+        EXPECT_EQ(work.transform_paste(Command::scroll_left), Outcome::unknown);
     }
 }
 
