@@ -8,7 +8,7 @@ namespace quadrelle {
 
 struct Editor_Parts;
 
-// A command that needs a tile is refused where there is none; the user is told.
+// Calls the handler of the command. One that needs a tile is refused where there is none; the user is told.
 [[nodiscard]] Outcome carry_out(Editor_Parts& editor, Command command);
 
 } // namespace quadrelle

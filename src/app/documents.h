@@ -28,7 +28,7 @@ public:
 
     // An untitled tileset of one tile. False, with nothing done, after 1000 of them.
     bool new_document(Size tile_size);
-    // Another tile of the current document, which its strip then shows.
+    // Makes another tile of the current document the current one, and shows it in the strip.
     void show_tile(int index);
     // Resamples the tiles of the current document.
     void resize_current(Size tile_size);

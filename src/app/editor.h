@@ -34,7 +34,7 @@ public:
 private:
     void handle(const Input_Event& event);
     void execute_if_any(Command command);
-    // The command to record, or none when it was not carried out.
+    // Carries the command out. Returns the command to record, or none when it failed or was refused.
     [[nodiscard]] Command perform(Command command);
 
     Editor_Parts parts_;

@@ -11,17 +11,15 @@
 
 namespace quadrelle {
 
-constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
-
 struct Editor_Parts {
     explicit Editor_Parts(const Redraw& redraw_window);
     // The parts refer to each other.
     Editor_Parts(const Editor_Parts&) = delete;
     Editor_Parts& operator=(const Editor_Parts&) = delete;
 
-    // After another tile, or a set of another size, came into view.
+    // To be called after another tile, or a set of another size, became the current one.
     void show_current_tile();
-    // What follows from a command that was carried out.
+    // Brings into view what a command did that was carried out.
     void follow_up(Command done);
 
     Redraw redraw;

@@ -9,12 +9,12 @@ namespace quadrelle {
 
 class Canvas_View;
 
-// The brush shows at the pointer, and the cursor where the brush does not.
+// Shows the brush at the pointer, and the cursor where the brush does not show.
 void show_hover(Canvas_View& canvas, const Pointer_State& pointer);
-// While a command runs, which may show a dialog over the canvas.
+// Shows the cursor alone, while a command runs, which may show a dialog over the canvas.
 void hide_hover(Canvas_View& canvas);
 
-// The toolbox says what is there.
+// Lets the toolbox say what is there.
 void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer);
 
 } // namespace quadrelle

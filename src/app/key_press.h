@@ -9,7 +9,7 @@ namespace quadrelle {
 
 struct Editor_Parts;
 
-// The command that is still to be carried out, or none.
+// Returns the command that is still to be carried out, or none.
 [[nodiscard]] Command press_key(Editor_Parts& editor, Key_Chord chord);
 
 } // namespace quadrelle

@@ -8,8 +8,8 @@ namespace quadrelle {
 
 struct Editor_Parts;
 
-// Of the button and at the place that `editor.pointer` holds. The command that is still to be carried out, or
-// none.
+// Answers the press of the button and at the place that `editor.pointer` holds. Returns the command that is
+// still to be carried out, or none.
 [[nodiscard]] Command press_mouse(Editor_Parts& editor);
 
 } // namespace quadrelle

@@ -15,11 +15,12 @@ class Canvas_View;
 class Documents;
 class Toolbox;
 
-// Does something to the current tile or the work area. Answers with the command that the step is called
-// after, or none when there is nothing to record.
+// Changes the current tile or the work area. Returns the command that names the step, or none when there is
+// nothing to record.
 using Edit = std::function<Command()>;
 
-// Whether a step takes the place of the one before it where that was of the same kind.
+// A step that is merged takes the place of the one before it, if that was merged too and nothing came
+// between.
 enum class Merge { no, with_last };
 
 class Recorder {
@@ -28,12 +29,12 @@ public:
     Recorder(Documents& documents, Canvas_View& canvas, Toolbox& tools)
         : documents_(documents), canvas_(canvas), toolbox_(tools) {}
 
-    // What `edit` does becomes a step, and the document changed. The history gets the state before it too
-    // where it did not know it, so that the step can be undone.
+    // Makes what `edit` does a step and marks the document changed. The history gets the state before it too
+    // where it does not know it, so that the step can be undone.
     void step(const Edit& edit, Merge merge = Merge::no);
-    // The current tile, as it is, becomes an entry of the history.
+    // Adds the current tile, as it is, to the history.
     void record(Command kind);
-    // False at the first and the last step.
+    // Give back the state before or after. Return false where there is none.
     bool undo();
     bool redo();
 

@@ -28,39 +28,42 @@ public:
 
     [[nodiscard]] Copy_Buffer& copies() { return copies_; }
     [[nodiscard]] const Copy_Buffer& copies() const { return copies_; }
-    // Something floats in view.
+    // Returns whether something floats in view.
     [[nodiscard]] bool shows_paste() const;
-    // That, or something is selected.
+    // Returns whether something floats in view or is selected.
     [[nodiscard]] bool has_something() const;
 
-    // These four are refused where they change nothing. A selection goes first, then what floats, which
-    // settles.
+    // These four are refused where they change nothing. To deselect gives up the selection, or else what
+    // floats, which settles.
     Outcome deselect();
     Outcome invert();
     Outcome fill(Color color);
     Outcome clear();
 
-    // What is selected, or the paste that is to be seen, or else the whole tile; refused without a pixel.
+    // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
     Outcome copy();
     Outcome cut();
-    // A new picture on the system's clipboard becomes the current copy.
+    // Makes a picture that another program put on the clipboard the current copy. The canvas shows a tile.
     Picture_Fault take_clipboard();
-    // Refused without a copy. What is selected is copied before it is cloned.
+    // Float the current copy; refused without one. What is selected is copied before it is cloned.
     Outcome paste();
     Outcome clone(Clone_Style style);
 
-    // In place of the selection and of what floated, which settles. The tool that moves it is taken.
+    // Floats the picture in place of the selection and of what floated, which settles. Takes the tool that
+    // moves it.
     void float_picture(const Floating_Paste& picture);
-    // Where the wand was pressed, as its quick modes say; false when nothing was selected there, or the wand
-    // only selects.
+    // Floats what was selected where the wand was pressed, as its quick modes say. Returns false when nothing
+    // was selected there, or the wand only selects.
     [[nodiscard]] bool float_wand_area(Tile_Point pressed);
-    // False when nothing floats in view. Nudges that follow each other are one step.
+    // Moves what floats by that many pixels; nudges that follow each other are one step. Returns false when
+    // nothing floats in view.
     bool nudge(int dx, int dy);
-    // Turns, mirrors or scrolls what floats or is selected. Unknown where neither is there.
+    // Turns or mirrors what floats, or also scrolls and softens what is selected. All else is unknown.
     Outcome transform(Command command);
-    // Refused when that changed nothing.
+    // Draws what floats into the tile. Refused when that changed nothing.
     Outcome plot();
-    // Before another tool is taken or the tile is saved; a step of its own. What is fixed floats on.
+    // Settles what floats, as a step of its own, before another tool is taken or the tile is saved. What is
+    // fixed floats on.
     void settle_before_leaving();
 
 private:

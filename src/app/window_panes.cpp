@@ -21,8 +21,6 @@ constexpr Point history_position{31, 368};
 constexpr Point palette_position{31, 427};
 constexpr int icon_bar_top = 32;
 
-constexpr Pointer_State nowhere{-1, -1, Mouse_Button::none};
-
 Point below(const Element& element) {
     return {element.area.x, element.area.bottom() + element_gap};
 }
@@ -180,7 +178,7 @@ Command Window_Panes::click(Pointer_State& pointer) {
     const Command chosen = menu_bar_.click(pointer);
     if (chosen != Command::none) {
         // Nothing under the closed menu reacts to where it was clicked.
-        pointer = nowhere;
+        pointer = pointer_nowhere;
     }
     return chosen;
 }

@@ -22,6 +22,9 @@ namespace quadrelle {
 class Canvas_View;
 class Documents;
 
+// Where the pointer is while it is not over the window.
+constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
+
 enum class Present { no, yes };
 
 // Draws the whole window.
@@ -33,11 +36,11 @@ public:
     Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw);
 
     void draw(const Pointer_State& pointer);
-    // The current tool where there is nothing else.
+    // Returns what lies there: the current tool where there is nothing else.
     [[nodiscard]] Pointed pointed(Point point) const;
-    // What was hit answers, or gives the command that is still to be carried out.
+    // Lets the pane that was hit answer. Returns the command that is still to be carried out, or none.
     [[nodiscard]] Command click(Pointer_State& pointer);
-    // No button of the mouse is held any more.
+    // To be called when no button of the mouse is held any more.
     void release() { navigation_.release(); }
 
     // The preview repeats the tile as often as the options say and as there is room.

@@ -24,8 +24,8 @@ class Work_Area {
 public:
     Work_Area() : selection_(Selection(Size{})) {}
 
-    // For a tile of that size. Nothing is selected; what floats stays, and does not come to lie beside the
-    // tile.
+    // Makes it fit a tile of that size: nothing is selected, and what floats stays and does not come to lie
+    // beside the tile.
     void resize(Size tile);
 
     [[nodiscard]] const Selection& selection() const { return *selection_; }
@@ -45,7 +45,7 @@ public:
     void float_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
     void drop_paste() { paste_.reset(); }
-    // Where the paste lies in the tile; only while there is one.
+    // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
     // floated before becomes a part of the tile. The selection is not empty.

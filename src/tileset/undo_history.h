@@ -40,7 +40,7 @@ public:
 
     // What was undone and not redone is forgotten, and beyond the capacity the oldest entry.
     void add(Undo_Entry entry);
-    // The entry that is added next takes the place of the current one, unless that is the first.
+    // Lets the entry that is added next take the place of the current one, unless that is the first.
     void give_up_current() { position_ -= position_ > 0 ? 1 : 0; }
     void clear();
     // Nothing but the current tile is left: the floor that undoing ends at. Without tiles, nothing.
