@@ -28,9 +28,7 @@ Tool_Color_Panel::Tool_Color_Panel(Point position, Tool_Colors& colors)
       selector_({position.x, place_colors(position)},
                 [this](Mouse_Button button, Color color) { set_color(button, color); }),
       handles_(below(selector_), [this](Color color) { set_color(colors_.active_side, color); }),
-      variations_(rest_below(handles_)) {
-    show_current_color();
-}
+      variations_(rest_below(handles_)) {}
 
 // The y below both.
 int Tool_Color_Panel::place_colors(Point position) {
@@ -41,29 +39,26 @@ int Tool_Color_Panel::place_colors(Point position) {
     return position.y;
 }
 
-void Tool_Color_Panel::set_color(Mouse_Button button, Color color) {
-    colors_.set(button, color);
-    show_current_color();
-}
-
 void Tool_Color_Panel::show_current_color() {
     handles_.set_color(current_color());
     variations_.set_color(current_color());
 }
 
 void Tool_Color_Panel::swap() {
-    const Color left = color(Mouse_Button::left);
-    set_color(Mouse_Button::left, color(Mouse_Button::right));
-    set_color(Mouse_Button::right, left);
+    std::swap(colors_.left, colors_.right);
 }
 
 void Tool_Color_Panel::reset() {
     const Tool_Colors start;
-    set_color(Mouse_Button::left, start.left);
-    set_color(Mouse_Button::right, start.right);
+    colors_.left = start.left;
+    colors_.right = start.right;
 }
 
 void Tool_Color_Panel::draw(Tool_Color_Panes shown) {
+    show_current_color();
+    if (shown == Tool_Color_Panes::none) {
+        return;
+    }
     for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
         Tool_Color& pane = panes_.at(side(button));
         pane.set_color(colors_.of(button));
@@ -91,7 +86,6 @@ bool Tool_Color_Panel::click_side(Point point) {
     for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
         if (panes_.at(side(button)).contains(point.x, point.y) && colors_.active_side != button) {
             colors_.active_side = button;
-            show_current_color();
             return true;
         }
     }
@@ -99,14 +93,13 @@ bool Tool_Color_Panel::click_side(Point point) {
 }
 
 std::optional<Place> Tool_Color_Panel::place_at(Point point, Tool_Color_Panes shown) const {
-    const std::array<std::pair<const Pane*, Place>, 5> panes{
+    const std::array<std::pair<const Pane*, Place>, static_cast<std::size_t>(Tool_Color_Panes::all)> panes{
         {{&panes_.at(side(Mouse_Button::left)), Place::left_color},
          {&panes_.at(side(Mouse_Button::right)), Place::right_color},
          {&selector_, Place::hsv_selector},
          {&handles_, Place::handles},
          {&variations_, Place::variations}}};
-    const std::size_t shown_count = shown == Tool_Color_Panes::all ? panes.size() : panes_.size();
-    for (std::size_t i = 0; i < shown_count; ++i) {
+    for (std::size_t i = 0; i < static_cast<std::size_t>(shown); ++i) {
         if (panes.at(i).first->area.contains(point)) {
             return panes.at(i).second;
         }

@@ -11,13 +11,15 @@
 #include "tools/tool_state.h"
 
 #include <array>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace quadrelle {
 
-enum class Tool_Color_Panes { both_colors, all };
+// How many of them show, from the top.
+enum class Tool_Color_Panes : std::size_t { none = 0, both_colors = 2, all = 5 };
 
 class Tool_Color_Panel {
 public:
@@ -25,7 +27,7 @@ public:
     Tool_Color_Panel(Point position, Tool_Colors& colors);
 
     [[nodiscard]] Color color(Mouse_Button button) const { return colors_.of(button); }
-    void set_color(Mouse_Button button, Color color);
+    void set_color(Mouse_Button button, Color color) { colors_.set(button, color); }
     // Of the side that was clicked last. The handles and variations are about it.
     [[nodiscard]] Color current_color() const { return colors_.current(); }
     [[nodiscard]] Mouse_Button active_side() const { return colors_.active_side; }
@@ -33,6 +35,7 @@ public:
     // White and black, as at start.
     void reset();
 
+    // The colours are read anew each time; those panes that are not shown follow them too.
     void draw(Tool_Color_Panes shown);
     // A click on a colour makes its side the active one; the other panes pick and change colours, also along
     // the pointer's motions: `redraw` then draws and presents the window. True when something was chosen.

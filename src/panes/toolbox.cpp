@@ -34,6 +34,14 @@ void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, tool.name);
 }
 
+// The dropper takes no clicks on the panes below the two colours.
+Tool_Color_Panes color_panes_of(Tool tool) {
+    if (row_of(tool).uses_tool_colors) {
+        return Tool_Color_Panes::all;
+    }
+    return tool == Tool::dropper ? Tool_Color_Panes::both_colors : Tool_Color_Panes::none;
+}
+
 std::string brush_pad_path() {
     return data_directory().path("brushpad.dat");
 }
@@ -103,13 +111,6 @@ bool Toolbox::click_brush_pad(Point point) {
     return has_brush_pad_at(point) && state_.choose_from_pad(*brush_pad_panes_.cell_at(point));
 }
 
-void Toolbox::take(const Stroke_Findings& found) {
-    state_.take(found);
-    if (found.picked) {
-        tool_colors->set_color(found.picked->side, found.picked->color);
-    }
-}
-
 Point Toolbox::beside_entry() const {
     return {position_.x + side_offset, entry_area(static_cast<std::size_t>(state_.tool)).y};
 }
@@ -125,12 +126,7 @@ void Toolbox::draw(Point pointer) {
         brush_selector_.draw(state_.chosen_brush);
     }
     option_panes_.draw(state_);
-    if (row_of(state_.tool).uses_tool_colors) {
-        tool_colors->draw(Tool_Color_Panes::all);
-    } else if (state_.tool == Tool::dropper) {
-        // It takes no clicks on the others.
-        tool_colors->draw(Tool_Color_Panes::both_colors);
-    }
+    tool_colors->draw(color_panes_of(state_.tool));
     if (state_.tool == Tool::stamp_brush) {
         brush_pad_panes_.draw(state_.brush_pad, pointer);
     }
@@ -140,11 +136,7 @@ std::optional<Place> Toolbox::place_at(Point point) const {
     if (has_brush_pad_at(point)) {
         return Place::brush_pad;
     }
-    if (row_of(state_.tool).uses_tool_colors) {
-        return tool_colors->place_at(point, Tool_Color_Panes::all);
-    }
-    return state_.tool == Tool::dropper ? tool_colors->place_at(point, Tool_Color_Panes::both_colors)
-                                        : std::nullopt;
+    return tool_colors->place_at(point, color_panes_of(state_.tool));
 }
 
 Command Toolbox::command_at(Point point) const {

@@ -44,7 +44,7 @@ public:
     bool use_as_brush(const Tile& picture, const Tile& mask) { return state_.use_as_brush(picture, mask); }
     bool move_to_pad() { return state_.move_to_pad(); }
     bool delete_brush() { return state_.delete_brush(); }
-    void take(const Stroke_Findings& found);
+    void take(const Stroke_Findings& found) { state_.take(found); }
 
     // Where the column beside the chosen tool's entry begins.
     [[nodiscard]] Point beside_entry() const;

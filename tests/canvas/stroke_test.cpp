@@ -35,6 +35,16 @@ TEST_F(Stroke_On_Board, dropper_picks_for_its_button) {
     EXPECT_EQ(board.tools.colors.left, white);
 }
 
+TEST_F(Stroke_On_Board, figures_follow_and_shift_turns_in_steps) {
+    board.tools.select(Command::free_rotate);
+    board.drag({{20, 12}, {20, 15}});
+    EXPECT_EQ(board.tools.figures.location, (Tile_Point{20, 15}));
+    EXPECT_EQ(board.tools.figures.degrees, 19);
+    board.is_shift_held = true;
+    board.drag({{20, 12}, {20, 15}});
+    EXPECT_EQ(board.tools.figures.degrees, 15);
+}
+
 // Grey, on which the lightness pen of one pixel draws; how often it touched each pixel of a row or column.
 class Lightness_Stroke : public Stroke_On_Board {
 protected:

@@ -28,6 +28,7 @@ public:
     Tile tile;
     Canvas_View canvas{10};
     Canvas_Settings settings;
+    bool is_shift_held = false;
 
 private:
     Pointer_State pointer_;
