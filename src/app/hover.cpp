@@ -4,6 +4,7 @@
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
 #include "tools/options.h"
+#include "ui/layout.h"
 
 #include <optional>
 
@@ -12,7 +13,7 @@ namespace quadrelle {
 namespace {
 
 bool is_over_tile(const Canvas_View& canvas, Point point) {
-    return canvas_viewport.contains(point) && canvas.tile() != nullptr;
+    return window_layout::canvas.contains(point) && canvas.tile() != nullptr;
 }
 
 } // namespace

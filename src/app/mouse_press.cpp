@@ -5,6 +5,7 @@
 #include "canvas/stroke_loop.h"
 #include "panes/toolbox.h"
 #include "tools/options.h"
+#include "ui/layout.h"
 
 namespace quadrelle {
 
@@ -47,7 +48,7 @@ Command press_mouse(Editor_Parts& editor) {
     if (button == Mouse_Button::none) {
         return Command::none;
     }
-    if (!canvas_viewport.contains(editor.pointer.point())) {
+    if (!window_layout::canvas.contains(editor.pointer.point())) {
         return editor.panes.click(editor.pointer);
     }
     if (editor.canvas.tile() != nullptr) {

@@ -10,6 +10,7 @@
 #include "screen/screen.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
+#include "ui/layout.h"
 #include "views/new_tileset_dialog.h"
 #include "views/options_dialog.h"
 
@@ -18,9 +19,6 @@
 namespace quadrelle {
 
 namespace {
-
-constexpr Size window_size{1232, 664};
-constexpr Point toolbox_position{816, 32};
 
 void start_video() {
     SDL_SetHintWithPriority(SDL_HINT_APP_NAME, "Quadrelle", SDL_HINT_DEFAULT);
@@ -43,10 +41,10 @@ void start_application() {
     start_video();
     debug_monitor = std::make_unique<Debug_Monitor>();
     enter_data();
-    screen = std::make_unique<Screen>(window_size);
+    screen = std::make_unique<Screen>(window_layout::window);
     palette_store = std::make_unique<Palette_Store>();
     dialogs = std::make_unique<Dialogs>();
-    toolbox = std::make_unique<Toolbox>(toolbox_position);
+    toolbox = std::make_unique<Toolbox>(corner_of(window_layout::tool_list));
     data_directory().leave();
     color_data = std::make_unique<Color_Data>();
     new_tileset_dialog = std::make_unique<New_Tileset_Dialog>();

@@ -6,6 +6,7 @@
 #include "panes/toolbox.h"
 #include "screen/events.h"
 #include "tools/options.h"
+#include "ui/layout.h"
 
 #include <array>
 #include <utility>
@@ -13,17 +14,6 @@
 namespace quadrelle {
 
 namespace {
-
-constexpr Rectangle preview_area{31, 32, 202, 202};
-constexpr Rectangle magnification_area{31, 259, 202, 26};
-constexpr Point navigation_position{31, 310};
-constexpr Point history_position{31, 368};
-constexpr Point palette_position{31, 427};
-constexpr int icon_bar_top = 32;
-
-Point below(const Element& element) {
-    return {element.area.x, element.area.bottom() + element_gap};
-}
 
 // Columns or rows of the preview that fit into its 192 pixels.
 int fitting_repeat(int tile_extent, int repeat) {
@@ -37,10 +27,12 @@ int fitting_repeat(int tile_extent, int repeat) {
 
 Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw)
     : canvas_(canvas), documents_(documents), copies_(copies), redraw_(std::move(redraw)),
-      preview_(preview_area), magnification_(magnification_area, "Magnification", "x"),
-      palette_(palette_position, *palette_store), selected_color_(below(palette_), palette_),
-      history_(history_position), navigation_(navigation_position),
-      menu_bar_([this] { redraw_(Present::no); }), icon_bar_(icon_bar_top) {}
+      preview_(below_title(window_layout::preview)),
+      magnification_(below_title(window_layout::magnification), "Magnification", "x"),
+      palette_(corner_of(window_layout::palette), *palette_store),
+      selected_color_(corner_of(window_layout::selected_color), palette_),
+      history_(corner_of(window_layout::history)), navigation_(corner_of(window_layout::navigation)),
+      menu_bar_([this] { redraw_(Present::no); }) {}
 
 void Window_Panes::size_preview() {
     const Size tile = documents_.current().tileset().tile_size();
@@ -55,7 +47,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
     documents_.draw_tabs();
     toolbox->draw(pointer.point());
     if (toolbox->state().is_in_selection_group()) {
-        copy_panes_.place(toolbox->beside_entry());
+        copy_panes_.place(toolbox->entry_top());
         copy_panes_.draw(copies_);
     }
     hint_lines_.set_hint(hint_of(pointed(pointer.point())));
@@ -108,7 +100,7 @@ Pointed Window_Panes::pointed(Point point) const {
 }
 
 std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
-    if (!canvas_viewport.contains(point)) {
+    if (!window_layout::canvas.contains(point)) {
         return std::nullopt;
     }
     if (canvas_.tile() == nullptr) {
@@ -140,7 +132,7 @@ std::optional<Place> Window_Panes::place_at(Point point) const {
     if (documents_.has_tab_at(point)) {
         return Place::tabs;
     }
-    if (Tile_Strip::area.contains(point)) {
+    if (window_layout::tile_strip.contains(point)) {
         return Place::strip;
     }
     return toolbox->place_at(point);
@@ -216,7 +208,7 @@ Command Window_Panes::click_buttons(const Pointer_State& pointer) {
         return toolbox->command_at(point);
     }
     Tileset_Document& document = documents_.current();
-    const int tile = document.strip().tile_at(point);
+    const int tile = tile_at(document.strip(), point);
     if (tile >= 0 && tile != document.tileset().current_index()) {
         document.tileset().select(tile);
         size_preview();

@@ -28,8 +28,8 @@ int seam_shift_of(int extent) {
 
 Canvas_View::Canvas_View(int pixel_size)
     : pixel_size_(std::clamp(pixel_size, smallest_pixel_size, largest_pixel_size)),
-      texture_(std::make_unique<Opaque_Texture>(Size{canvas_viewport.width, canvas_viewport.height},
-                                                active_renderer())) {}
+      texture_(std::make_unique<Opaque_Texture>(
+          Size{window_layout::canvas.width, window_layout::canvas.height}, active_renderer())) {}
 
 Canvas_View::~Canvas_View() = default;
 
@@ -129,8 +129,8 @@ bool Canvas_View::zoom(Zoom_Step step) {
 
 void Canvas_View::centre() {
     const Size size = magnified_size();
-    origin_ = {centred_start(canvas_viewport.x, canvas_viewport.width, size.width),
-               centred_start(canvas_viewport.y, canvas_viewport.height, size.height)};
+    origin_ = {centred_start(window_layout::canvas.x, window_layout::canvas.width, size.width),
+               centred_start(window_layout::canvas.y, window_layout::canvas.height, size.height)};
 }
 
 void Canvas_View::scroll_origin(int dx, int dy) {
@@ -157,7 +157,7 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
     Canvas_Picture picture;
     picture.tile = tile_;
     picture.pixel_size = pixel_size_;
-    picture.origin = {origin_.x - canvas_viewport.x, origin_.y - canvas_viewport.y};
+    picture.origin = {origin_.x - window_layout::canvas.x, origin_.y - window_layout::canvas.y};
     picture.grid_intensity = settings.grid_intensity;
     picture.checker = settings.checker;
     picture.surround = standard_color(Standard_Color::dark_frame);
@@ -200,16 +200,16 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
                                            const Canvas_Settings& settings) const {
     const Brush& brush = tools.brush();
     const Tile_Point corner = tools.brush_corner(tool_point(hover.position, tools, settings));
-    const Point cell{origin_.x - canvas_viewport.x + corner.x * pixel_size_,
-                     origin_.y - canvas_viewport.y + corner.y * pixel_size_};
+    const Point cell{origin_.x - window_layout::canvas.x + corner.x * pixel_size_,
+                     origin_.y - window_layout::canvas.y + corner.y * pixel_size_};
     Brush_Feedback feedback{&brush, {}, {}, tools.brush_color(hover.button)};
     if (shows_brush_preview(tools, settings, hover.button)) {
         feedback.preview = cell;
     }
     if (shows_brush_outline(tools, settings)) {
         const Point centred_on_pointer{
-            hover.position.x - canvas_viewport.x - brush.size().width * pixel_size_ / 2,
-            hover.position.y - canvas_viewport.y - brush.size().height * pixel_size_ / 2};
+            hover.position.x - window_layout::canvas.x - brush.size().width * pixel_size_ / 2,
+            hover.position.y - window_layout::canvas.y - brush.size().height * pixel_size_ / 2};
         feedback.outline = settings.is_outline_blocky ? cell : centred_on_pointer;
     }
     return feedback;
@@ -222,7 +222,7 @@ void Canvas_View::draw(const Tool_State& tools, const Canvas_Settings& settings)
             paint_brush_feedback(brush_feedback(*hover_, tools, settings), pixel_size_, rows);
         }
     });
-    texture_->draw_at({canvas_viewport.x, canvas_viewport.y});
+    texture_->draw_at({window_layout::canvas.x, window_layout::canvas.y});
 }
 
 } // namespace quadrelle

@@ -11,6 +11,7 @@
 #include "canvas/edge_pictures.h"
 #include "commands/command.h"
 #include "selection/work_area.h"
+#include "ui/layout.h"
 
 #include <functional>
 #include <memory>
@@ -20,7 +21,6 @@ namespace quadrelle {
 
 class Opaque_Texture;
 
-constexpr Rectangle canvas_viewport{264, 64, 512, 512};
 constexpr int smallest_pixel_size = 3;
 constexpr int largest_pixel_size = 32;
 
@@ -119,7 +119,7 @@ private:
 
     Tile* tile_ = nullptr;
     int pixel_size_;
-    Point origin_{canvas_viewport.x, canvas_viewport.y};
+    Point origin_{window_layout::canvas.x, window_layout::canvas.y};
     int horizontal_seam_shift_ = no_seam_shift;
     int vertical_seam_shift_ = no_seam_shift;
     mutable Edge_Pictures edges_;

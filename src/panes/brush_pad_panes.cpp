@@ -3,14 +3,14 @@
 #include "base/fitting.h"
 #include "color/standard_colors.h"
 #include "color/translucency.h"
+#include "ui/layout.h"
 
 namespace quadrelle {
 
 namespace {
 
 constexpr int cell_edge = 3;
-constexpr Size board_area{202, 531};
-constexpr Size selected_area{202, 160};
+constexpr Rectangle selected_area{0, 0, window_layout::column_width, window_layout::pane_height(150)};
 constexpr int largest_cell_edge = 6; // of the current brush; as much larger as it may be
 constexpr Size checker{2, 2};
 constexpr Color frame_color = standard_color(Standard_Color::dark_frame);
@@ -36,9 +36,9 @@ void paint_brush(Tile& target, const Pad_Brush& brush, Tile_Point corner, Color 
 
 } // namespace
 
-Brush_Pad_Panes::Brush_Pad_Panes(Point board)
-    : selected_pane_({0, 0, selected_area.width, selected_area.height}, "Selected"),
-      board_pane_({board.x, board.y, board_area.width, board_area.height}, "Brush pad"),
+Brush_Pad_Panes::Brush_Pad_Panes()
+    : selected_pane_(below_title(selected_area), "Selected"),
+      board_pane_(below_title(window_layout::brush_pad), "Brush pad"),
       board_picture_(Brush_Pad::board_size.width, Brush_Pad::board_size.height) {}
 
 int Brush_Pad_Panes::move_selected(Point position) {

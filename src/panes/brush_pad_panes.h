@@ -13,14 +13,14 @@ namespace quadrelle {
 
 class Brush_Pad_Panes {
 public:
-    // The top-left corner of the board's pane. The other one has none yet.
-    explicit Brush_Pad_Panes(Point board);
+    Brush_Pad_Panes();
 
-    // The y for what comes below.
+    // Puts the pane "Selected" there and returns the y for what comes below.
     int move_selected(Point position);
-    // The frame of the brush under the pointer is red.
+    // Draws both; the frame of the brush under the pointer is red.
     void draw(const Brush_Pad& pad, Point pointer);
-    // None outside of the board's pane. Its border belongs to the cells beside it.
+    // Returns the board's cell at `point`, or none outside of its pane. The border belongs to the cells
+    // beside it.
     [[nodiscard]] std::optional<Tile_Point> cell_at(Point point) const;
 
 private:

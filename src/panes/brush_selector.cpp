@@ -4,6 +4,7 @@
 #include "screen/renderer.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
+#include "ui/layout.h"
 
 namespace quadrelle {
 
@@ -11,7 +12,8 @@ namespace {
 
 constexpr int icon_edge = 18;
 constexpr int largest_size_index = brush_size_count - 1;
-constexpr Rectangle row_area{0, 0, 202, 26};
+constexpr Rectangle row_area =
+    below_title({0, 0, window_layout::column_width, window_layout::row_pane_height});
 constexpr Color icon_background = standard_color(Standard_Color::dark_frame);
 constexpr Color icon_frame = standard_color(Standard_Color::frame);
 constexpr Color mask_color = standard_color(Standard_Color::light_grey);

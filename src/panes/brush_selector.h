@@ -14,10 +14,10 @@ class Brush_Selector {
 public:
     Brush_Selector();
 
-    // Both rows below each other; the y for what comes below.
+    // Puts both rows below each other and returns the y for what comes below.
     int move(Point position);
     void draw(const Chosen_Brush& chosen);
-    // False where there is no icon, or the one chosen already.
+    // Returns false where there is no icon, or the one chosen already.
     bool click(Point point, Chosen_Brush& chosen) const;
 
 private:

@@ -3,6 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "ui/layout.h"
 #include "ui/swatch.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ constexpr int buttons_in_row = static_cast<int>(step_row.size());
 constexpr int first_hsl_row = 4;
 constexpr int row_step = 17;
 constexpr int button_drop = 1;
-constexpr Size pane_size{202, row_count* row_step + 2 + 2 * pane_border};
+static_assert(window_layout::handles.height == window_layout::pane_height(row_count * row_step + 2));
 
 // A slider is 130 pixels wide: the row's icon, and a track of which each column is one step.
 constexpr int track_left = 17;
@@ -66,7 +67,8 @@ constexpr bool is_hsl(int row) {
 } // namespace
 
 Color_Handles::Color_Handles(Point position, std::function<void(Color)> hand_on)
-    : Pane({position.x, position.y, pane_size.width, pane_size.height}, "Handles"),
+    : Pane(below_title({position.x, position.y, window_layout::handles.width, window_layout::handles.height}),
+           "Handles"),
       hand_on_(std::move(hand_on)), hsl_(color_, color_),
       picture_({picture_width, (row_count - 1) * row_step + track_size.height}) {
     for (const Handle_Row& row : handle_rows) {

@@ -22,18 +22,18 @@ public:
 
     void layout() override;
     void draw() const override;
-    // The colour to change, when it became another one elsewhere.
+    // Takes the colour to change, when it became another one elsewhere.
     void set_color(Color color);
-    // A step button, or a slider, which then follows the pointer until a button is released. False where
-    // there is neither. `redraw` draws and presents the window.
+    // Answers a press on a step button, or on a slider, which then follows the pointer until a button is
+    // released. Returns false where there is neither. `redraw` draws and presents the window.
     bool click(Point point, const std::function<void()>& redraw);
 
 private:
     [[nodiscard]] Rectangle track(int row) const;
-    // Where the channel lies between its bounds, 0 to 1.
+    // Returns where the channel lies between its bounds, 0 to 1.
     [[nodiscard]] double fraction(int row) const;
     [[nodiscard]] Bounded_Value& hsl_value(int row);
-    // -1 when the channel was at its bound, else 0.
+    // Returns -1 when the channel was at its bound, else 0.
     int step(int row, int amount);
     void set_fraction(int row, double fraction);
     void press(int button);

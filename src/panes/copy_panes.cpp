@@ -5,7 +5,9 @@
 #include "commands/command_table.h"
 #include "screen/screen.h"
 #include "ui/checkerboard.h"
+#include "ui/layout.h"
 #include "ui/swatch.h"
+#include "ui/text_button.h"
 
 #include <algorithm>
 
@@ -13,9 +15,7 @@ namespace quadrelle {
 
 namespace {
 
-constexpr int column_width = 202;
-constexpr int column_bottom = 632;
-constexpr int client_width = column_width - 2 * pane_border;
+constexpr int client_width = window_layout::copies.width - 2 * pane_border;
 
 constexpr int current_height = 120;
 constexpr int cell_edge = 32;
@@ -36,36 +36,28 @@ constexpr std::array button_commands{Command::copy,
                                      Command::deselect};
 constexpr int button_rows = static_cast<int>(button_commands.size() / buttons_in_row);
 
-Size below_title(int client_height) {
-    return {column_width, client_height + 2 * pane_border};
+// Without a place as yet.
+Rectangle pane_around(int client_height) {
+    return below_title({0, 0, window_layout::copies.width, window_layout::pane_height(client_height)});
 }
 
 std::string_view label(Command command) {
     return command == Command::invert_selection ? "Invert" : row_of(command).name;
 }
 
-void draw_button(const Rectangle& area, std::string_view text) {
-    screen->draw_panel(area, standard_color(Standard_Color::pane_frame));
-    const int x = area.x + (area.width - screen->text_width(Font::pane, text)) / 2;
-    screen->draw_text(Font::pane, {x, area.y}, text);
-}
-
 } // namespace
 
 Copy_Panes::Copy_Panes()
-    : current_({0, 0, column_width, below_title(current_height).height}, "Copy buffer"),
-      previous_({0, 0, column_width, below_title(static_cast<int>(cell_rows) * cell_edge).height},
-                "Previous copies"),
-      commands_({0, 0, column_width,
-                 below_title(button_rows * button_height + (button_rows - 1) * button_gap).height},
-                "Selection"),
+    : current_(pane_around(current_height), "Copy buffer"),
+      previous_(pane_around(static_cast<int>(cell_rows) * cell_edge), "Previous copies"),
+      commands_(pane_around(button_rows * button_height + (button_rows - 1) * button_gap), "Selection"),
       checkerboard_(make_checkerboard({client_width, current_height})) {}
 
-void Copy_Panes::place(Point top_left) {
+void Copy_Panes::place(int top) {
     const int height = current_.area.height + previous_.area.height + commands_.area.height + 2 * element_gap;
-    int y = std::min(top_left.y, column_bottom - height);
+    int y = std::min(top, window_layout::copies.bottom() - height);
     for (Pane* const pane : {&current_, &previous_, &commands_}) {
-        pane->move(top_left.x, y);
+        pane->move(window_layout::copies.x, y);
         y = pane->area.bottom() + element_gap;
     }
     place_buttons();
@@ -111,7 +103,7 @@ void Copy_Panes::draw(const Copy_Buffer& copies) {
     }
     commands_.draw();
     for (std::size_t i = 0; i < button_count; ++i) {
-        draw_button(buttons_.at(i), label(button_commands.at(i)));
+        draw_button(buttons_.at(i), Font::pane, label(button_commands.at(i)), 0);
     }
 }
 

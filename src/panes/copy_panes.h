@@ -21,15 +21,15 @@ class Copy_Panes {
 public:
     Copy_Panes();
 
-    // With that top left corner, or higher where they would leave the column.
-    void place(Point top_left);
+    // Puts the panes into their column from `top` down, or higher where they would leave it.
+    void place(int top);
     void draw(const Copy_Buffer& copies);
 
     [[nodiscard]] const Pane& current() const { return current_; }
     [[nodiscard]] const Pane& previous() const { return previous_; }
-    // The previous copy that is there, if there are so many; the newest one is 0.
+    // Returns the index of the previous copy at `point`, if there are so many; the newest one is 0.
     [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
-    // Whose button is there, or none.
+    // Returns the command whose button is at `point`, or none.
     [[nodiscard]] Command command_at(Point point) const;
 
 private:

@@ -3,6 +3,7 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "screen/texture.h"
+#include "ui/layout.h"
 #include "ui/shown_text.h"
 
 #include <algorithm>
@@ -11,8 +12,7 @@ namespace quadrelle {
 
 namespace {
 
-// Above the canvas viewport, with room for the right arrow at the viewport's end.
-constexpr Rectangle row{264, 43, 496, 21};
+constexpr Rectangle row = window_layout::tabs;
 constexpr int longest_title = 320;
 constexpr Rectangle arrow = sprite_rect(Sprite::button_less);
 constexpr int arrow_gap = 1;

@@ -19,11 +19,11 @@ public:
     Document_Tabs();
     ~Document_Tabs();
 
-    // In the order of the documents. Tabs that do not fit beside the current one are left out; an arrow at
-    // either end of the row stands for them.
+    // Takes the titles in the order of the documents. Tabs that do not fit beside the current one are left
+    // out; an arrow at either end of the row stands for them.
     void set_titles(std::span<const std::string> titles, std::size_t current);
     void draw() const;
-    // The document whose tab is there, the next hidden one for an arrow, or -1.
+    // Returns the document whose tab is at `point`, the next hidden one for an arrow, or -1.
     [[nodiscard]] int tab_at(Point point) const;
 
 private:

@@ -83,9 +83,9 @@ struct Hint {
     bool operator==(const Hint&) const = default;
 };
 
-// Name, key and the first paragraph of the help; of a pixel its place and colour.
+// Returns name, key and the first paragraph of the help; of a pixel its place and colour.
 [[nodiscard]] Hint hint_of(const Pointed& pointed);
-// The whole help of a command.
+// Returns the whole help.
 [[nodiscard]] Hint help_of(Command command);
 [[nodiscard]] Hint help_of(Place place);
 

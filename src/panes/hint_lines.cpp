@@ -3,6 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/layout.h"
 #include "ui/wrapped_text.h"
 
 #include <SDL3/SDL_surface.h>
@@ -18,8 +19,9 @@ constexpr Font title_font = Font::pane_header;
 constexpr Font font = Font::pane;
 // A little less than the letters' cells, whose lowest rows are empty.
 constexpr int line_step = 17;
-constexpr Size size{Hint_Lines::area.width, Hint_Lines::area.height};
-constexpr std::size_t most_lines = Hint_Lines::area.height / line_step;
+constexpr Rectangle area = window_layout::hint_lines;
+constexpr Size size{area.width, area.height};
+constexpr std::size_t most_lines = area.height / line_step;
 
 } // namespace
 

@@ -15,16 +15,14 @@ namespace quadrelle {
 
 class Hint_Lines {
 public:
-    static constexpr Rectangle area{264, 580, 512, 52};
-
     // The screen must be there.
     Hint_Lines();
 
-    // Brought into lines that fit; what has no room is cut off with "...".
+    // Brings the hint into lines that fit; what has no room is cut off with "...".
     void set_hint(const Hint& hint);
     void draw() const;
 
-    // From the top, as they are drawn; the first one is the title.
+    // Returns the lines from the top, as they are drawn; the first one is the title.
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
 
 private:

@@ -1,6 +1,7 @@
 #include "panes/history_pane.h"
 
 #include "screen/screen.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -9,7 +10,6 @@ namespace quadrelle {
 
 namespace {
 
-constexpr Size size_below_title{194, 34};
 constexpr int thumbnail_edge = 24;
 constexpr int thumbnail_step = 26;
 
@@ -20,7 +20,8 @@ const Tile& picture_of(const Undo_Entry& entry) {
 } // namespace
 
 History_Pane::History_Pane(Point position)
-    : Pane({position.x, position.y, size_below_title.width, size_below_title.height}, "History") {}
+    : Pane(below_title({position.x, position.y, window_layout::history.width, window_layout::history.height}),
+           "History") {}
 
 void History_Pane::draw(const Undo_History& history) {
     Pane::draw();

@@ -15,7 +15,7 @@ public:
     explicit History_Pane(Point position);
 
     using Pane::draw;
-    // The newest seven entries, the newest one on the right.
+    // Draws the newest seven entries, the newest one on the right.
     void draw(const Undo_History& history);
 
 private:

@@ -4,6 +4,7 @@
 #include "screen/cursor.h"
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +16,7 @@ namespace quadrelle {
 namespace {
 
 // The room below the title bar: both pictures, their outlines and the pane's border.
-constexpr Size pane_size{202, HSV_Selector::size + 2 + 2 * pane_border};
+static_assert(window_layout::hsv_selector.height == window_layout::pane_height(HSV_Selector::size + 2));
 constexpr int bar_gap = 7;
 constexpr int marker_centre = 5;
 
@@ -60,7 +61,9 @@ Point clamped(Point point, const Rectangle& area) {
 } // namespace
 
 HSV_Selector::HSV_Selector(Point position, Set_Color set_color)
-    : Pane({position.x, position.y, pane_size.width, pane_size.height}, "HSV Selector"),
+    : Pane(below_title({position.x, position.y, window_layout::hsv_selector.width,
+                        window_layout::hsv_selector.height}),
+           "HSV Selector"),
       set_color_(std::move(set_color)), square_image_({size, size}),
       bar_image_({segments * segment_width, size}) {
     HSV_Selector::layout();

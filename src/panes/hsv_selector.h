@@ -27,13 +27,13 @@ public:
 
     void layout() override;
     void draw() const override;
-    // The hue that the square shows.
+    // Chooses the hue that the square shows.
     void set_hue(Color hue);
-    // Picks along the pointer's motions until a button is released. True only when the square was hit.
-    // `redraw` draws and presents the window.
+    // Picks along the pointer's motions until a button is released. Returns true only when the square was
+    // hit. `redraw` draws and presents the window.
     bool click(Mouse_Button side, Point point, const std::function<void()>& redraw);
 
-    // On the window.
+    // These lie on the window.
     [[nodiscard]] Rectangle square_rect() const { return square_rect_; }
     [[nodiscard]] Rectangle bar_rect() const { return bar_rect_; }
 

@@ -4,6 +4,7 @@
 #include "panes/command_icons.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,6 @@ namespace quadrelle {
 
 namespace {
 
-constexpr int left = 784;
 constexpr Size icon_size{24, 24};
 constexpr int separator_height = 7;
 
@@ -49,10 +49,15 @@ constexpr std::array icons = std::to_array<Icon>({
     {Command::center_tile_on_view, Place::after_separator},
 });
 
+constexpr int separator_count =
+    static_cast<int>(std::ranges::count(icons, Place::after_separator, &Icon::place));
+static_assert(static_cast<int>(icons.size()) * icon_size.height + separator_count * separator_height ==
+              window_layout::icon_bar.height);
+
 // Calls `use` with every icon and its area, from the top.
 template <typename Use>
-void for_each_icon(int top, Use use) {
-    Rectangle area{left, top, icon_size.width, icon_size.height};
+void for_each_icon(Use use) {
+    Rectangle area{window_layout::icon_bar.x, window_layout::icon_bar.y, icon_size.width, icon_size.height};
     for (const Icon& icon : icons) {
         area.y += icon.place == Place::after_separator ? separator_height : 0;
         use(icon, area);
@@ -75,7 +80,7 @@ void draw_icon(Sprite icon, const Rectangle& area, bool is_lit) {
 } // namespace
 
 void Icon_Bar::draw(const std::function<bool(Command)>& is_pressed) const {
-    for_each_icon(top_, [&](const Icon& icon, const Rectangle& area) {
+    for_each_icon([&](const Icon& icon, const Rectangle& area) {
         if (icon.place == Place::after_separator) {
             screen->draw_sprite(Sprite::verti_icon_separator, {area.x, area.y - separator_height});
         }
@@ -85,7 +90,7 @@ void Icon_Bar::draw(const std::function<bool(Command)>& is_pressed) const {
 
 Command Icon_Bar::command_at(Point point) const {
     Command found = Command::none;
-    for_each_icon(top_, [&](const Icon& icon, const Rectangle& area) {
+    for_each_icon([&](const Icon& icon, const Rectangle& area) {
         if (area.contains(point)) {
             found = icon.command;
         }

@@ -11,16 +11,10 @@ namespace quadrelle {
 
 class Icon_Bar {
 public:
-    // Its top in the window.
-    explicit Icon_Bar(int top) : top_(top) {}
-
     // `is_pressed` tells which icons are lit.
     void draw(const std::function<bool(Command)>& is_pressed) const;
-    // The command of the icon there, or none.
+    // Returns the command of the icon at `point`, or none.
     [[nodiscard]] Command command_at(Point point) const;
-
-private:
-    int top_;
 };
 
 } // namespace quadrelle

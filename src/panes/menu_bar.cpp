@@ -4,6 +4,7 @@
 #include "commands/command_table.h"
 #include "commands/menu_table.h"
 #include "screen/screen.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,6 +14,8 @@ namespace quadrelle {
 namespace {
 
 constexpr Font menu_font = Font::regular;
+// The bar and every item have the same height.
+constexpr int menu_item_height = window_layout::menu_bar.height;
 constexpr int box_margin = 3;
 constexpr Point text_offset{2, 3};
 constexpr Color bar_color = standard_color(Standard_Color::pane_frame);

@@ -17,23 +17,20 @@ namespace quadrelle {
 
 class Texture;
 
-// Height of the bar and of every item, in window pixels.
-constexpr int menu_item_height = 25;
-
 class Menu_Bar {
 public:
     // `redraw_behind` draws the whole window without presenting it.
     explicit Menu_Bar(std::function<void()> redraw_behind);
     ~Menu_Bar();
 
-    // The six headers. An open menu is drawn by its own loop only.
+    // Draws the six headers. An open menu is drawn by its own loop only.
     void draw(const Pointer_State& pointer) const;
     // Runs the menu whose header lies under the pointer until an item is chosen or the menu dismissed. Keeps
     // the pointer up to date meanwhile.
     [[nodiscard]] Command click(Pointer_State& pointer);
-    // Whether a header or the open menu is there.
+    // Returns whether a header or the open menu is at `point`.
     [[nodiscard]] bool contains(Point point) const;
-    // That of the open menu's row that is there, or none.
+    // Returns the command of the open menu's row at `point`, or none.
     [[nodiscard]] Command command_at(Point point) const;
 
 private:
@@ -53,7 +50,7 @@ private:
     void add_menu(std::size_t column);
     void draw_header(const Menu& menu, bool is_highlighted) const;
     void draw_open_menu(const Pointer_State& pointer) const;
-    // Null while none is open.
+    // Returns null while none is open.
     [[nodiscard]] const Menu* open_menu() const;
     [[nodiscard]] int header_at(Point point) const;
     [[nodiscard]] Loop_Step handle(const Input_Event& event, Pointer_State& pointer, Command& chosen);

@@ -5,15 +5,14 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/layout.h"
 #include "ui/swatch.h"
-
-#include <string_view>
+#include "ui/text_button.h"
 
 namespace quadrelle {
 
 namespace {
 
-constexpr int pane_width = 202;
 constexpr int name_height = 19;
 constexpr Size grid_size{192, 80};
 constexpr int coarse_columns = 8;
@@ -24,13 +23,10 @@ constexpr int swatch_edge = 40;
 constexpr int text_gap = 7;
 constexpr int text_rise = 4; // the letters begin below their position
 constexpr int second_line = 25;
-constexpr std::string_view set_label = "Set";
 constexpr Size set_button_size{46, 18};
 
-// The height below a pane's title bar that leaves this much room inside.
-constexpr int height_for(int client_height) {
-    return client_height + 2 * pane_border;
-}
+static_assert(window_layout::palette.height == window_layout::pane_height(name_height + grid_size.height));
+static_assert(window_layout::selected_color.height == window_layout::pane_height(selected_size.height));
 
 Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
     const Rectangle button = sprite_rect(sprite);
@@ -40,7 +36,8 @@ Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
 } // namespace
 
 Palette_Area::Palette_Area(Point position, Palette_Store& store)
-    : Pane({position.x, position.y, pane_width, height_for(name_height + grid_size.height)}, "Palette"),
+    : Pane(below_title({position.x, position.y, window_layout::palette.width, window_layout::palette.height}),
+           "Palette"),
       store_(store) {}
 
 int Palette_Area::divisions() const {
@@ -128,7 +125,9 @@ Color Palette_Area::move_selection(int dx, int dy) {
 }
 
 Selected_Color_Area::Selected_Color_Area(Point position, const Palette_Area& palette)
-    : Pane({position.x, position.y, pane_width, height_for(selected_size.height)}, "Selected"),
+    : Pane(below_title({position.x, position.y, window_layout::selected_color.width,
+                        window_layout::selected_color.height}),
+           "Selected"),
       palette_(palette) {}
 
 Rectangle Selected_Color_Area::set_button() const {
@@ -146,10 +145,7 @@ void Selected_Color_Area::draw() const {
     const Point text{swatch.right() + text_gap, client.y - text_rise};
     screen->draw_text(Font::pane, text, color_numbers(palette_.selected_color()));
     screen->draw_text(Font::pane, {text.x, text.y + second_line}, hex_text(palette_.selected_color()));
-    const Rectangle button = set_button();
-    screen->draw_panel(button, standard_color(Standard_Color::pane_frame));
-    const int label_x = button.x + (button.width - screen->text_width(Font::pane, set_label)) / 2;
-    screen->draw_text(Font::pane, {label_x, button.y - 1}, set_label);
+    draw_button(set_button(), Font::pane, "Set", -1);
 }
 
 } // namespace quadrelle

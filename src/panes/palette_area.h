@@ -13,20 +13,20 @@ namespace quadrelle {
 
 class Palette_Area : public Pane {
 public:
-    // Borrows the store. `position` is the top-left corner of the pane, 202 pixels wide.
+    // Borrows the store. `position` is the top-left corner of the pane.
     Palette_Area(Point position, Palette_Store& store);
 
     void draw() const override;
     // Chooses a palette, or selects an entry: then its colour is the answer.
     std::optional<Color> click(Point point);
-    // By one entry along either axis; at an edge the selection stays. The entry's colour.
+    // Goes by one entry along either axis and returns its colour; at an edge the selection stays.
     Color move_selection(int dx, int dy);
     [[nodiscard]] Color selected_color() const { return store_.color(palette_, entry_); }
     // Makes the colour the selected entry's.
     void store(Color color) { store_.set_color(palette_, entry_, color); }
 
 private:
-    // Eight by four cells, or the same room divided more finely for a palette with more entries.
+    // A palette has eight by four cells, or the same room divided more finely for more entries.
     [[nodiscard]] int divisions() const;
     [[nodiscard]] int columns() const;
     [[nodiscard]] Size cell_size() const;

@@ -15,9 +15,9 @@ public:
     ~Preview_Pane() override;
 
     using Pane::draw;
-    // Null shows the empty pane.
+    // Draws the empty pane where the tile is null.
     void draw(const Tile* tile);
-    // What has no room is not shown.
+    // Repeats the tile that often; what has no room is not shown.
     void set_repeat(int columns, int rows);
 
 private:

@@ -4,6 +4,7 @@
 #include "screen/sprite_sheet.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tileset.h"
+#include "ui/layout.h"
 
 #include <array>
 #include <string>
@@ -11,8 +12,6 @@
 namespace quadrelle {
 
 namespace {
-
-constexpr Size size_below_title{202, 33};
 
 bool is_rewindable(const Tile_Strip& strip) {
     return !strip.is_at_start();
@@ -66,7 +65,9 @@ void draw_number(int number, const Rectangle& area) {
 } // namespace
 
 Tile_Navigation_Pane::Tile_Navigation_Pane(Point position)
-    : Pane({position.x, position.y, size_below_title.width, size_below_title.height}, "Tileset navigation") {}
+    : Pane(below_title(
+               {position.x, position.y, window_layout::navigation.width, window_layout::navigation.height}),
+           "Tileset navigation") {}
 
 // Side by side as on the sheet.
 Rectangle Tile_Navigation_Pane::area_of(std::size_t button) const {

@@ -18,10 +18,10 @@ public:
 
     using Pane::draw;
     void draw(const Tile_Strip& strip) const;
-    // That of the button that is there, or none. A disabled button answers too: its command finds nothing to
-    // do.
+    // Returns the command of the button at `point`, or none. A disabled button answers too: its command
+    // finds nothing to do.
     [[nodiscard]] Command command_at(Point point) const;
-    // The same; the button is held from now on.
+    // Returns the same; the button is held from now on.
     Command click(Point point);
     void release() { held_.reset(); }
 

@@ -5,6 +5,7 @@
 #include "screen/screen.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tileset.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 
@@ -12,7 +13,9 @@ namespace quadrelle {
 
 namespace {
 
-static_assert(Tile_Strip::cell_size == thumbnail_edge);
+constexpr Rectangle area = window_layout::tile_strip;
+constexpr int cell_size = area.height;
+static_assert(cell_size == thumbnail_edge && area.width == Tile_Strip::visible_cells * cell_size);
 
 // A shallow hollow.
 void paint_free_place(int x, const Pixel_Rows& target) {
@@ -32,9 +35,9 @@ void paint_free_place(int x, const Pixel_Rows& target) {
 
 void paint(const Tile_Strip& strip, const Pixel_Rows& target) {
     for (int cell = 0; cell < Tile_Strip::visible_cells; ++cell) {
-        const int x = cell * Tile_Strip::cell_size;
-        const int index = strip.first() + cell;
-        if (index < strip.count()) {
+        const int x = cell * cell_size;
+        const int index = strip.tile_in(cell);
+        if (index >= 0) {
             paint_thumbnail(strip.tileset().tile_at(index), {x, 0}, target);
         } else {
             paint_free_place(x, target);
@@ -44,18 +47,21 @@ void paint(const Tile_Strip& strip, const Pixel_Rows& target) {
 
 } // namespace
 
-Tile_Strip_Picture::Tile_Strip_Picture()
-    : texture_({Tile_Strip::area.width, Tile_Strip::area.height}, screen->renderer()) {}
+Tile_Strip_Picture::Tile_Strip_Picture() : texture_({area.width, area.height}, screen->renderer()) {}
 
 // Composed in memory: as single textures, scaled and blended, the tiles would cost much more.
 void Tile_Strip_Picture::draw(const Tile_Strip& strip) {
-    constexpr Point place{Tile_Strip::area.x, Tile_Strip::area.y};
+    constexpr Point place = corner_of(area);
     texture_.update([&strip](const Pixel_Rows& target) { paint(strip, target); });
     texture_.draw_at(place);
     const int current = strip.cell_of_current();
     if (current >= 0) {
-        screen->draw_sprite(Sprite::first_marker, {place.x + current * Tile_Strip::cell_size, place.y});
+        screen->draw_sprite(Sprite::first_marker, {place.x + current * cell_size, place.y});
     }
+}
+
+int tile_at(const Tile_Strip& strip, Point point) {
+    return area.contains(point) ? strip.tile_in((point.x - area.x) / cell_size) : -1;
 }
 
 } // namespace quadrelle

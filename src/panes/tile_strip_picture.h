@@ -19,4 +19,7 @@ private:
     Opaque_Texture texture_;
 };
 
+// Returns the index of the tile that the strip shows at `point`, or -1.
+[[nodiscard]] int tile_at(const Tile_Strip& strip, Point point);
+
 } // namespace quadrelle

@@ -3,6 +3,7 @@
 #include "color/color_data.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
+#include "ui/layout.h"
 #include "ui/swatch.h"
 
 namespace quadrelle {
@@ -12,12 +13,12 @@ namespace {
 constexpr int swatch_edge = 17;
 constexpr int text_gap = 6;
 constexpr int line_step = 17;
-constexpr Size pane_size{202, 46};
+constexpr Size pane_size{window_layout::left_color.width, window_layout::left_color.height};
 
 } // namespace
 
 Tool_Color::Tool_Color(Point position, std::string_view title, Color color)
-    : Pane({position.x, position.y, pane_size.width, pane_size.height}, title), color_(color) {}
+    : Pane(below_title({position.x, position.y, pane_size.width, pane_size.height}), title), color_(color) {}
 
 void Tool_Color::draw() const {
     Pane::draw();

@@ -11,14 +11,14 @@ namespace quadrelle {
 
 class Tool_Color : public Pane {
 public:
-    // `position` is the top-left corner of the pane, 202 pixels wide.
+    // `position` is the top-left corner of the pane.
     Tool_Color(Point position, std::string_view title, Color color);
 
     void draw() const override;
 
     [[nodiscard]] Color color() const { return color_; }
     void set_color(Color color) { color_ = color; }
-    // A lit frame around the swatch.
+    // Draws a lit frame around the swatch.
     void set_lit(bool is_lit) { is_lit_ = is_lit; }
 
 private:

@@ -1,43 +1,23 @@
 #include "panes/tool_colors.h"
 
+#include "ui/layout.h"
+
 #include <utility>
 
 namespace quadrelle {
 
 std::unique_ptr<Tool_Color_Panel> tool_colors;
 
-namespace {
-
-constexpr int column_bottom = 632;
-
-Point below(const Element& element) {
-    return {element.area.x, element.area.bottom() + element_gap};
-}
-
-// As a pane takes it: its height without the title bar.
-Rectangle rest_below(const Element& element) {
-    const Point corner = below(element);
-    return {corner.x, corner.y, element.area.width, column_bottom - corner.y - pane_title_height};
-}
-
-} // namespace
-
-Tool_Color_Panel::Tool_Color_Panel(Point position, Tool_Colors& colors)
-    : colors_(colors), panes_{Tool_Color(position, "Left button color", colors.left),
-                              Tool_Color(position, "Right button color", colors.right)},
-      selector_({position.x, place_colors(position)},
+Tool_Color_Panel::Tool_Color_Panel(Tool_Colors& colors)
+    : colors_(colors), panes_{Tool_Color(corner_of(window_layout::left_color), "Left button color",
+                                         colors.left),
+                              Tool_Color(corner_of(window_layout::right_color), "Right button color",
+                                         colors.right)},
+      selector_(corner_of(window_layout::hsv_selector),
                 [this](Mouse_Button button, Color color) { set_color(button, color); }),
-      handles_(below(selector_), [this](Color color) { set_color(colors_.active_side, color); }),
-      variations_(rest_below(handles_)) {}
-
-// The y below both.
-int Tool_Color_Panel::place_colors(Point position) {
-    for (Tool_Color& pane : panes_) {
-        pane.move(position.x, position.y);
-        position.y = pane.area.bottom() + element_gap;
-    }
-    return position.y;
-}
+      handles_(corner_of(window_layout::handles),
+               [this](Color color) { set_color(colors_.active_side, color); }),
+      variations_(below_title(window_layout::variations)) {}
 
 void Tool_Color_Panel::show_current_color() {
     handles_.set_color(current_color());

@@ -23,16 +23,16 @@ enum class Tool_Color_Panes : std::size_t { none = 0, both_colors = 2, all = 5 }
 
 class Tool_Color_Panel {
 public:
-    // The top-left corner of the upper pane. Shows and sets the colours, which are borrowed.
-    Tool_Color_Panel(Point position, Tool_Colors& colors);
+    // Shows and sets the colours, which are borrowed.
+    explicit Tool_Color_Panel(Tool_Colors& colors);
 
     [[nodiscard]] Color color(Mouse_Button button) const { return colors_.of(button); }
     void set_color(Mouse_Button button, Color color) { colors_.set(button, color); }
-    // Of the side that was clicked last. The handles and variations are about it.
+    // Returns the colour of the side that was clicked last: the handles and variations work on it.
     [[nodiscard]] Color current_color() const { return colors_.current(); }
     [[nodiscard]] Mouse_Button active_side() const { return colors_.active_side; }
     void swap();
-    // White and black, as at start.
+    // Makes the colours white and black, as at the start.
     void reset();
 
     // The colours are read anew each time; those panes that are not shown follow them too.
@@ -40,11 +40,10 @@ public:
     // A click on a colour makes its side the active one; the other panes pick and change colours, also along
     // the pointer's motions: `redraw` then draws and presents the window. True when something was chosen.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
-    // Which of the panes that are shown is there, if any.
+    // Returns which of the panes that are shown is at `point`, if any.
     [[nodiscard]] std::optional<Place> place_at(Point point, Tool_Color_Panes shown) const;
 
 private:
-    int place_colors(Point position);
     bool click_side(Point point);
     void show_current_color();
     [[nodiscard]] static std::size_t side(Mouse_Button button) {

@@ -1,5 +1,7 @@
 #include "panes/tool_option_panes.h"
 
+#include "ui/layout.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -11,7 +13,8 @@ namespace quadrelle {
 
 namespace {
 
-constexpr Rectangle row_area{0, 0, 202, 26};
+constexpr Rectangle row_area =
+    below_title({0, 0, window_layout::column_width, window_layout::row_pane_height});
 
 enum class Option_Kind { choice, tick };
 enum class Option_Place { above_figures, below_figures };

@@ -20,10 +20,10 @@ public:
     Tool_Option_Panes();
     ~Tool_Option_Panes();
 
-    // Shows the tool's rows from `position` downwards; the y for what comes below.
+    // Shows the tool's rows from `position` downwards and returns the y for what comes below.
     int place(Tool tool, Point position);
     void draw(const Tool_State& state);
-    // True when a visible row took the click.
+    // Returns true when a visible row took the click.
     bool click(Point point, Tool_Options& options);
 
 private:

@@ -7,6 +7,7 @@
 #include "panes/command_icons.h"
 #include "panes/tool_colors.h"
 #include "screen/screen.h"
+#include "ui/layout.h"
 
 #include <algorithm>
 #include <array>
@@ -19,9 +20,7 @@ std::unique_ptr<Toolbox> toolbox;
 
 namespace {
 
-constexpr Size entry_size{202, 26};
-constexpr int color_panel_offset = 210;
-constexpr int side_offset = 207;
+constexpr Size entry_size{window_layout::tool_list.width, 26};
 
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
@@ -63,10 +62,8 @@ void save_brush_pad(const Brush_Pad& pad) {
 
 } // namespace
 
-Toolbox::Toolbox(Point position)
-    : position_(position), brush_pad_panes_({position.x + side_offset, position.y}) {
-    tool_colors =
-        std::make_unique<Tool_Color_Panel>(Point{position.x + color_panel_offset, position.y}, state_.colors);
+Toolbox::Toolbox(Point position) : position_(position) {
+    tool_colors = std::make_unique<Tool_Color_Panel>(state_.colors);
     lay_out();
     load_brush_pad(state_.brush_pad);
 }
@@ -111,8 +108,8 @@ bool Toolbox::click_brush_pad(Point point) {
     return has_brush_pad_at(point) && state_.choose_from_pad(*brush_pad_panes_.cell_at(point));
 }
 
-Point Toolbox::beside_entry() const {
-    return {position_.x + side_offset, entry_area(static_cast<std::size_t>(state_.tool)).y};
+int Toolbox::entry_top() const {
+    return entry_area(static_cast<std::size_t>(state_.tool)).y;
 }
 
 void Toolbox::draw(Point pointer) {

@@ -20,8 +20,8 @@ namespace quadrelle {
 
 class Toolbox {
 public:
-    // The top-left corner of the tool list. Reads the brush pad from the data directory; a file that is
-    // shorter than it says is fatal.
+    // `position` is the top-left corner of the tool list. Reads the brush pad from the data directory; a file
+    // that is shorter than it says is fatal.
     explicit Toolbox(Point position);
     // Writes the brush pad when it was changed; says nothing when it cannot.
     ~Toolbox();
@@ -32,31 +32,31 @@ public:
     [[nodiscard]] Tool current_tool() const { return state_.tool; }
     [[nodiscard]] const Brush& brush() const { return state_.brush(); }
     [[nodiscard]] const Brush_Pad& brush_pad() const { return state_.brush_pad; }
-    // What may be changed at any time: it is read anew whenever it is shown.
+    // These may be changed at any time: they are read anew whenever they are shown.
     [[nodiscard]] Tool_Options& options() { return state_.options; }
     [[nodiscard]] Tool_Figures& figures() { return state_.figures; }
 
     // Any command may come here; one that selects a tool makes it the current one.
     void select(Command command);
-    // 0 to 5.
+    // The index goes from 0 to 5.
     void select_brush_size(int size_index) { state_.chosen_brush.select_size(size_index); }
-    // The operations of the brush pad; false when there is nothing to do.
+    // These are the operations of the brush pad; they return false when there is nothing to do.
     bool use_as_brush(const Tile& picture, const Tile& mask) { return state_.use_as_brush(picture, mask); }
     bool move_to_pad() { return state_.move_to_pad(); }
     bool delete_brush() { return state_.delete_brush(); }
     void take(const Stroke_Findings& found) { state_.take(found); }
 
-    // Where the column beside the chosen tool's entry begins.
-    [[nodiscard]] Point beside_entry() const;
+    // Returns the y of the chosen tool's entry in the list.
+    [[nodiscard]] int entry_top() const;
 
     // What lies under the pointer may show it.
     void draw(Point pointer);
-    // The tool whose entry in the list is there and not covered, or none.
+    // Returns the tool whose entry in the list is at `point` and not covered, or none.
     [[nodiscard]] Command command_at(Point point) const;
-    // The pane beside the list that is there, if any.
+    // Returns the pane beside the list that is at `point`, if any.
     [[nodiscard]] std::optional<Place> place_at(Point point) const;
-    // True when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and presents
-    // the window, while the pointer is followed.
+    // Returns true when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and
+    // presents the window, while the pointer is followed.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
 
 private:

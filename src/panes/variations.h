@@ -16,9 +16,9 @@ public:
     explicit Color_Variations(const Rectangle& below_title);
 
     void draw() const override;
-    // The colour that the ramps are made around.
+    // Takes the colour that the ramps are made around.
     void set_color(Color color);
-    // The colour of the cell there.
+    // Returns the colour of the cell at `point`.
     [[nodiscard]] std::optional<Color> click(Point point) const;
 
 private:

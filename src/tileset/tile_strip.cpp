@@ -42,11 +42,8 @@ int Tile_Strip::cell_of_current() const {
     return tileset_->has_tiles() && cell >= 0 && cell < visible_cells ? cell : -1;
 }
 
-int Tile_Strip::tile_at(Point point) const {
-    if (!area.contains(point)) {
-        return -1;
-    }
-    const int index = (point.x - area.x) / cell_size + first_;
+int Tile_Strip::tile_in(int cell) const {
+    const int index = first_ + cell;
     return index < count() ? index : -1;
 }
 

@@ -2,17 +2,13 @@
 
 // Which tiles of a set the row along the bottom of the window shows. Moves nothing but itself; draws nothing.
 
-#include "base/geometry.h"
-
 namespace quadrelle {
 
 class Tileset;
 
 class Tile_Strip {
 public:
-    static constexpr int cell_size = 24;
     static constexpr int visible_cells = 51;
-    static constexpr Rectangle area{4, 664 - 28, visible_cells* cell_size, cell_size};
 
     // The strip borrows the set.
     explicit Tile_Strip(const Tileset& tileset) : tileset_(&tileset) {}
@@ -35,8 +31,8 @@ public:
 
     // Returns a cell, or -1 when the current tile is out of view.
     [[nodiscard]] int cell_of_current() const;
-    // Returns the index of the tile under the point, or -1.
-    [[nodiscard]] int tile_at(Point point) const;
+    // Returns the index of the tile in that cell, or -1 where there is none.
+    [[nodiscard]] int tile_in(int cell) const;
 
 private:
     static constexpr int page = visible_cells - 5;

@@ -1,8 +1,8 @@
 #include "ui/button_dialog_item.h"
 
 #include "base/data_stream.h"
-#include "color/standard_colors.h"
 #include "screen/screen.h"
+#include "ui/text_button.h"
 
 namespace quadrelle {
 
@@ -37,9 +37,7 @@ void Button_Dialog_Item::draw() const {
         screen->draw_sprite(row().sprite, {area.x, area.y});
         return;
     }
-    screen->draw_panel(area, standard_color(Standard_Color::pane_frame));
-    const int label_width = screen->text_width(font, row().label);
-    screen->draw_text(font, {(area.width - label_width) / 2 + area.x, area.y + label_drop}, row().label);
+    draw_button(area, font, row().label, label_drop);
 }
 
 void Button_Dialog_Item::save(Data_Stream& stream) const {

@@ -79,7 +79,7 @@ public:
     [[nodiscard]] Button_Type type() const { return type_; }
 
     Dialog_Event click(Point point) override;
-    // All but four kinds stand two pixels lower than the text beside them.
+    // Puts all but four kinds two pixels lower than the text beside them.
     void set_position(Point position) override;
     void draw() const override;
     void save(Data_Stream& stream) const override;
@@ -96,11 +96,11 @@ class Radiobutton_Dialog_Item : public Button_Dialog_Item {
 public:
     Radiobutton_Dialog_Item(Item_Id ids, bool is_checked, Font item_font = Font::regular);
 
-    // 1 when checked, else 0.
+    // Returns 1 when checked, else 0.
     [[nodiscard]] int value() const override { return type_ == Button_Type::radio_check ? 1 : 0; }
     void set_value(int value) override;
     Dialog_Event click(Point point) override;
-    // Nothing but its two types is taken.
+    // Takes nothing but its two types.
     void load(Data_Stream& stream) override;
 };
 

@@ -9,9 +9,9 @@
 
 namespace quadrelle {
 
-// For what is drawn seldom or small: square by square.
+// Draws square by square: for what is drawn seldom or small.
 void draw_checkerboard(const Rectangle& area);
-// For what is drawn in every frame.
+// Returns a picture for what is drawn in every frame.
 [[nodiscard]] std::unique_ptr<Texture> make_checkerboard(Size size);
 
 } // namespace quadrelle

@@ -23,17 +23,17 @@ public:
     // The text must outlive the dialog.
     Dialog_Row& add_text_row(std::string_view text);
     Dialog_Row& add_image_row(Sprite sprite);
-    // A text by itself: the dialog is at least as wide as its title.
+    // Adds a text that stands by itself: the dialog becomes at least as wide as its title.
     void add_message(std::string_view text);
-    // The last row: everything else is added before.
+    // Adds the last row: everything else is added before.
     void finish_ok();
     void finish_ok_cancel();
 
-    // True when accepted; the items are then saved. Cancel restores numbers and choices, but deliberately not
-    // ticks; every other end leaves all items as they are.
+    // Returns true when accepted; the items are then saved. Cancel restores numbers and choices, but
+    // deliberately not ticks; every other end leaves all items as they are.
     bool run();
     [[nodiscard]] Dialog_Item* item(int id) const { return rows_.item(id); }
-    // Of the item with that id; -1 without one.
+    // Returns the value of the item with that id, or -1 without one.
     [[nodiscard]] int value(int id) const;
     [[nodiscard]] const Dialog_Frame& frame() const { return frame_; }
     [[nodiscard]] Dialog_Rows& rows() { return rows_; }

@@ -15,18 +15,18 @@ constexpr int dialog_margin = 7;
 
 class Dialog_Frame {
 public:
-    // Centred on the screen.
+    // Stands in the middle of the screen.
     explicit Dialog_Frame(std::string_view title);
 
-    // Of the part below the title; centres the frame.
+    // Makes the part below the title that large and centres the frame.
     void set_size(Size below_title);
-    // Elsewhere, so that what is worked on stays in view.
+    // Puts the frame elsewhere, so that what is worked on stays in view.
     void set_area(const Rectangle& area) { area_ = area; }
     void draw() const;
     [[nodiscard]] int title_width() const;
 
     [[nodiscard]] const std::string& title() const { return title_; }
-    // With the title.
+    // Returns the whole frame with the title.
     [[nodiscard]] const Rectangle& area() const { return area_; }
 
 private:

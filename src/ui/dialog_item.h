@@ -28,7 +28,7 @@ public:
     virtual ~Dialog_Item() = default;
 
     [[nodiscard]] virtual int value() const { return -1; }
-    // One that the item cannot have changes nothing.
+    // Takes the value; one that the item cannot have changes nothing.
     virtual void set_value(int /*value*/) {}
     // Takes on the size of what it shows, where that can change.
     virtual void measure() {}
@@ -37,7 +37,7 @@ public:
     virtual void notify(Dialog_Event_Kind kind);
     virtual void set_position(Point position);
     virtual void draw() const {}
-    // At the start of a modal dialog, and at its end with Cancel.
+    // A modal dialog calls these at its start, and at its end with Cancel.
     virtual void begin() { saved = 0; }
     virtual void revert() {}
     virtual void save(Data_Stream& stream) const;

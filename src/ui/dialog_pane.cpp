@@ -17,16 +17,12 @@ int Dialog_Pane::place(int x, int y) {
     move(x, y);
     const Rectangle client = client_area();
     rows_.stack({client.x, client.y - rows_rise}, Dialog_Rows::Extent::all);
-    draw();
     return area.bottom() + element_gap;
 }
 
 bool Dialog_Pane::click(Point point) {
     const Dialog_Event event = rows_.item_at(point);
     rows_.notify(event);
-    if (row_of(event.kind).redraws) {
-        draw();
-    }
     return event.is_known();
 }
 

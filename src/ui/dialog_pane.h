@@ -16,11 +16,11 @@ public:
     void draw() const override;
     int place(int x, int y) override;
 
-    // Lets the items answer. Whether one of them did; the pane has then drawn itself again.
+    // Lets the items answer; true when one of them did.
     bool click(Point point);
-    // Of the pane's control; -1 without one.
+    // Returns the value of the pane's control, or -1 without one.
     [[nodiscard]] int value() const;
-    // The control takes one of its values; any other one changes nothing.
+    // Gives the control one of its values; any other one changes nothing.
     void show(int value);
     [[nodiscard]] Dialog_Rows& rows() { return rows_; }
 
@@ -43,7 +43,7 @@ public:
 
 class Tick_Pane : public Dialog_Pane {
 public:
-    // Starts unticked. The text must outlive the pane.
+    // The tick is off at first. The text must outlive the pane.
     Tick_Pane(const Rectangle& below_title, std::string_view title, std::string_view text);
 };
 

@@ -28,11 +28,11 @@ public:
     void place(Point position);
     // Makes the area as wide as the items with the gaps between them, and as high as the highest.
     void measure();
-    // The first known answer of an item, in order.
+    // Returns the first known answer of an item, in order.
     Dialog_Event click(Point point);
     void draw() const;
 
-    // The first with that id, or null.
+    // Returns the first item with that id, or null.
     [[nodiscard]] Dialog_Item* item(int id) const;
     [[nodiscard]] const std::vector<std::unique_ptr<Dialog_Item>>& items() const { return items_; }
 

@@ -15,20 +15,20 @@ public:
     enum class Extent { all, all_but_last };
 
     Dialog_Row& add_row(Dialog_Row row);
-    // Downwards without gaps.
+    // Places the rows downwards without gaps.
     void stack(Point position, Extent extent);
     void draw() const;
 
-    // The answer of the first row that contains the point. An item may change, or ask for a number.
+    // Returns the answer of the first row that contains the point. An item may change, or ask for a number.
     Dialog_Event item_at(Point point);
-    // The first with that id, or null.
+    // Returns the first item with that id, or null.
     [[nodiscard]] Dialog_Item* item(int id) const;
     // Passes the event on to the item that it is meant for, if there is one.
     void notify(const Dialog_Event& event);
 
     void begin();
     void revert();
-    // By position: what the rows of today do not have is skipped.
+    // A file is read by position: what the rows of today do not have is skipped.
     void save(Data_Stream& stream) const;
     void load(Data_Stream& stream);
 

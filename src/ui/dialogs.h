@@ -9,9 +9,9 @@ namespace quadrelle {
 
 class Dialogs {
 public:
-    // Waits until it is dismissed. The text may have several lines, parted by "\r".
+    // Shows a text and waits until it is dismissed. It may have several lines, parted by "\r".
     void message(std::string_view title, std::string_view text) const;
-    // True only for an explicit yes: "Ok", Return or y.
+    // Returns true only for an explicit yes: "Ok", Enter or y.
     [[nodiscard]] bool ask(std::string_view title, std::string_view question) const;
 };
 

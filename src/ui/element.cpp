@@ -4,7 +4,6 @@ namespace quadrelle {
 
 int Element::place(int x, int y) {
     move(x, y);
-    draw();
     return area.bottom() + element_gap;
 }
 

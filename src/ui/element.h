@@ -3,11 +3,9 @@
 // The root of every rectangular thing on the screen.
 
 #include "base/geometry.h"
+#include "ui/layout.h"
 
 namespace quadrelle {
-
-// Room between two elements that stand below each other.
-constexpr int element_gap = 4;
 
 class Element {
 public:
@@ -21,7 +19,7 @@ public:
     // Recomputes what depends on the area, after a move or a resize.
     virtual void layout() {}
     virtual void draw() const {}
-    // Moves, lays out and draws; the y for the next element below.
+    // Moves, lays out, and returns the y for the next element below.
     virtual int place(int x, int y);
 
     void move(int x, int y);

@@ -12,7 +12,7 @@ class Location_Info : public Pane {
 public:
     Location_Info(const Rectangle& below_title, std::string_view title);
 
-    // As "%d, %d".
+    // Shows the numbers as "%d, %d".
     void draw() const override;
     void set_values(Point values) { values_ = values; }
 

@@ -18,7 +18,7 @@ struct Number_Slider_Row {
     int low = 0;
     int high = 0;
     std::string_view unit = {};
-    // With a button that goes there.
+    // A button goes there, if there is such a number.
     std::optional<int> middle = {};
 };
 
@@ -28,7 +28,7 @@ constexpr int number_slider_height = 24;
 
 class Number_Slider {
 public:
-    // As wide as the area, one row high.
+    // The slider is one row high.
     Number_Slider(const Number_Slider_Row& row, Point position, int width);
 
     // The bar shows for each place the colour that the number there stands for.
@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] bool contains(Point point) const { return area_.contains(point); }
     [[nodiscard]] Slider_Part part_at(Point point) const;
-    // The nearest number, also for a place beside the bar.
+    // Returns the nearest number, also for a place beside the bar.
     [[nodiscard]] int number_at(int x) const;
     [[nodiscard]] const Number_Slider_Row& row() const { return row_; }
     [[nodiscard]] const Rectangle& bar() const { return bar_; }

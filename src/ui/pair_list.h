@@ -16,7 +16,7 @@ struct Text_Pair {
 
 class Pair_List : public Dialog_Item {
 public:
-    // As many rows in each column as in the others, but for the last one.
+    // All columns but the last one have the same number of rows.
     Pair_List(std::vector<Text_Pair> pairs, int columns, Font item_font = Font::pane);
 
     void draw() const override;

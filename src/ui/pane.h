@@ -6,14 +6,12 @@
 #include "color/color.h"
 #include "screen/texture.h"
 #include "ui/element.h"
+#include "ui/layout.h"
 
 #include <memory>
 #include <string_view>
 
 namespace quadrelle {
-
-constexpr int pane_title_height = 21;
-constexpr int pane_border = 5;
 
 class Pane : public Element {
 public:
@@ -26,12 +24,12 @@ public:
     void draw() const override;
 
     void set_title(std::string_view title);
-    // The title bar as far as it is drawn.
+    // Returns the title bar as far as it is drawn.
     [[nodiscard]] Rectangle title_area() const;
-    // The same picture as `draw`, without the part that the caller covers: large fills are the greater part
-    // of what a pane costs.
+    // Draws the same picture as `draw` without the part that the caller covers: large fills are the greater
+    // part of what a pane costs.
     void draw_around(const Rectangle& covered) const;
-    // The client area's outline.
+    // Draws the client area's outline.
     void draw_frame() const;
     // Fills the client area.
     void clear(Color color) const;

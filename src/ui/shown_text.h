@@ -10,16 +10,16 @@
 
 namespace quadrelle {
 
-// The characters of a UTF-8 text. A byte that belongs to no character is one by itself.
+// Returns the characters of a UTF-8 text. A byte that belongs to no character is one by itself.
 [[nodiscard]] std::vector<std::string> characters_of(std::string_view text);
 
-// What is drawn for a character: itself, or "?" where the fonts have no letter for it.
+// Returns what is drawn for a character: itself, or "?" where the fonts have no letter for it.
 [[nodiscard]] char shown_letter(std::string_view character);
 [[nodiscard]] std::string shown_text(std::string_view text);
 
 enum class Left_Out { start, middle };
 
-// The shown text, with "..." for what has no room in that width.
+// Returns the shown text, with "..." for what has no room in that width.
 [[nodiscard]] std::string fitted_text(Font font, std::string_view text, int width, Left_Out left_out);
 
 } // namespace quadrelle

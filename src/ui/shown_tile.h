@@ -15,9 +15,9 @@ class Tile;
 
 class Shown_Tile {
 public:
-    // Nearest pixels, what is translucent over what is there.
+    // Draws the nearest pixels, and what is translucent over what is there.
     void draw(const Tile& tile, const Rectangle& destination);
-    // The part `source` of the tile.
+    // Draws the part `source` of the tile.
     void draw_part(const Tile& tile, const Rectangle& source, const Rectangle& destination);
 
 private:

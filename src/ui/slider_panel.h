@@ -12,7 +12,7 @@
 
 namespace quadrelle {
 
-// Whose numbers they are. The index is that of the slider.
+// The owner of the numbers. The index is that of the slider.
 class Slider_Numbers {
 public:
     Slider_Numbers() = default;
@@ -21,11 +21,11 @@ public:
     virtual ~Slider_Numbers() = default;
 
     [[nodiscard]] virtual int number(std::size_t index) const = 0;
-    // Within the bounds of the slider.
+    // The number lies within the bounds of the slider.
     virtual void set_number(std::size_t index, int number) = 0;
-    // May leave the bounds.
+    // The number plus the amount may lie outside of the bounds.
     virtual void step(std::size_t index, int amount) = 0;
-    // What the slider shows where that number is.
+    // Returns the colour that the slider shows where that number is.
     [[nodiscard]] virtual Color color_of(std::size_t index, int number) const = 0;
 };
 
@@ -41,7 +41,7 @@ public:
 
     [[nodiscard]] const Number_Slider& slider(std::size_t index) const { return sliders_[index]; }
     [[nodiscard]] int bottom() const { return bottom_; }
-    // The slider that the keys act on.
+    // Chooses the slider that the keys act on.
     void set_focus(std::optional<std::size_t> index) { focus_ = index; }
     [[nodiscard]] bool has_focus() const { return focus_.has_value(); }
 

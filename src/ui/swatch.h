@@ -7,15 +7,15 @@
 
 namespace quadrelle {
 
-// The colour over a checkerboard that shows through as far as it is transparent.
+// Draws the colour over a checkerboard that shows through as far as the colour is transparent.
 void draw_swatch(const Rectangle& area, Color color);
-// A light outline within a dark one.
+// Draws a light outline within a dark one.
 void draw_mark(const Rectangle& area);
-// On a small cell it lies around it.
+// Draws the mark in the cell, or around a small one.
 void draw_cell_mark(const Rectangle& cell);
 
 constexpr int picture_mark_width = 3;
-// Lies around the picture, light around dark.
+// Draws a mark around the picture, light around dark.
 void draw_mark_around(const Rectangle& picture);
 
 } // namespace quadrelle

@@ -6,19 +6,34 @@
 
 namespace quadrelle {
 
+namespace {
+
+constexpr Font font = Font::regular;
+
+void draw_label(const Rectangle& area, Font label_font, std::string_view label, int drop) {
+    const int x = area.x + (area.width - screen->text_width(label_font, label)) / 2;
+    screen->draw_text(label_font, {x, area.y + drop}, label);
+}
+
+} // namespace
+
+void draw_button(const Rectangle& area, Font label_font, std::string_view label, int drop) {
+    screen->draw_panel(area, standard_color(Standard_Color::pane_frame));
+    draw_label(area, label_font, label, drop);
+}
+
 void Text_Button::draw(Button_Look look) const {
-    constexpr Font font = Font::regular;
-    const bool is_chosen = look == Button_Look::chosen;
-    const Color fill = standard_color(is_chosen ? Standard_Color::list_active : Standard_Color::pane_frame);
-    screen->draw_panel(area_, fill);
-    if (is_chosen) {
-        screen->draw_bevel(area_, fill, Bevel::sunken);
-        screen->fill_rect({area_.x + 4, area_.bottom() - 3, area_.width - 8, 2},
-                          standard_color(Standard_Color::highlight));
+    const int drop = (area_.height - line_height(font)) / 2;
+    if (look == Button_Look::plain) {
+        draw_button(area_, font, label_, drop);
+        return;
     }
-    const Point text{area_.x + (area_.width - screen->text_width(font, label_)) / 2,
-                     area_.y + (area_.height - line_height(font)) / 2};
-    screen->draw_text(font, text, label_);
+    const Color fill = standard_color(Standard_Color::list_active);
+    screen->fill_rect(area_.inset(1), fill);
+    screen->draw_bevel(area_, fill, Bevel::sunken);
+    screen->fill_rect({area_.x + 4, area_.bottom() - 3, area_.width - 8, 2},
+                      standard_color(Standard_Color::highlight));
+    draw_label(area_, font, label_, drop);
 }
 
 } // namespace quadrelle

@@ -1,8 +1,9 @@
 #pragma once
 
-// A labelled button of a dialog that lays out itself.
+// Buttons with a label.
 
 #include "base/geometry.h"
+#include "screen/font_table.h"
 
 #include <string_view>
 
@@ -12,6 +13,10 @@ constexpr int text_button_height = 27;
 
 enum class Button_Look { plain, chosen };
 
+// Draws a raised button with its label in the middle of its width and `drop` pixels below its top.
+void draw_button(const Rectangle& area, Font font, std::string_view label, int drop);
+
+// A button of a dialog that lays out itself.
 class Text_Button {
 public:
     // The label must outlive the button.

@@ -25,14 +25,14 @@ public:
 
     [[nodiscard]] const Rectangle& area() const { return area_; }
     [[nodiscard]] std::string text() const;
-    // With the caret at its end.
+    // Puts the caret at the end of the text.
     void set_text(std::string_view text);
-    // What is typed next takes the place of all.
+    // Selects all: what is typed next takes its place.
     void select_all();
 
-    // Typed text, clicks, the keys that delete and move, Ctrl+a and Ctrl+v.
+    // Takes typed text, clicks, the keys that delete and move, Ctrl+a and Ctrl+v.
     Text_Change handle(const Input_Event& event);
-    // The part around the caret that has room.
+    // Draws the part around the caret that has room.
     void draw(Focus focus, Text_Verdict verdict = Text_Verdict::fine) const;
 
 private:

@@ -22,14 +22,14 @@ public:
     [[nodiscard]] int value() const override { return index_.value(); }
     void set_value(int value) override;
     [[nodiscard]] const std::vector<std::string>& entries() const { return entries_; }
-    // As wide as the widest entry.
+    // Makes the item as wide as the widest entry.
     void measure() override;
     void notify(Dialog_Event_Kind kind) override;
     void draw() const override;
     void begin() override { saved = index_.value(); }
     void revert() override { index_.set(saved); }
     void save(Data_Stream& stream) const override;
-    // An index that has no entry is not taken; the file's bounds never are.
+    // Takes no index that has no entry, and never the file's bounds.
     void load(Data_Stream& stream) override;
 
 private:

@@ -11,14 +11,14 @@
 
 namespace quadrelle {
 
-// Broken at "\r", at blanks, and inside of words that are wider than the width by themselves.
+// Breaks at "\r", at blanks, and inside of words that are wider than the width by themselves.
 [[nodiscard]] std::vector<std::string> wrapped_text(Font font, std::string_view text, int width);
 
-// The first lines; the last one ends in "..." where there were more.
+// Returns the first lines; the last one ends in "..." where there were more.
 [[nodiscard]] std::vector<std::string> first_lines(Font font, std::vector<std::string> lines,
                                                    std::size_t count, int width);
 
-// With "\r" between them.
+// Joins the lines with "\r" between them.
 [[nodiscard]] std::string joined_lines(const std::vector<std::string>& lines);
 
 } // namespace quadrelle

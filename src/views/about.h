@@ -4,7 +4,7 @@
 
 namespace quadrelle {
 
-// Logo, version, renderer and licences in a dialog; waits until it is dismissed.
+// Shows logo, version, renderer and licences in a dialog and waits until it is dismissed.
 void show_about();
 
 } // namespace quadrelle

@@ -6,10 +6,10 @@
 #include "screen/sprite_sheet.h"
 #include "tools/hsv_adjustment.h"
 #include "ui/dialog_frame.h"
+#include "ui/layout.h"
 #include "ui/modal_dialog.h"
 #include "ui/slider_panel.h"
 #include "ui/text_button.h"
-#include "views/beside_canvas.h"
 
 #include <algorithm>
 #include <array>
@@ -32,7 +32,8 @@ constexpr std::array<Number_Slider_Row, 3> slider_rows = {{
 constexpr std::array<int HSV_Change::*, 3> parts = {&HSV_Change::hue, &HSV_Change::saturation, &HSV_Change::value};
 // clang-format on
 
-constexpr Rectangle frame_area{beside_canvas.x, beside_canvas.y, beside_canvas.width,
+constexpr Rectangle frame_area{window_layout::beside_canvas.x, window_layout::beside_canvas.y,
+                               window_layout::beside_canvas.width,
                                dialog_title_height + 3 * number_slider_height + tick_height + note_height +
                                    text_button_height + 4 * gap};
 constexpr Rectangle inside{frame_area.x + gap, frame_area.y + dialog_title_height + gap,

@@ -20,8 +20,8 @@ struct HSV_Adjustment {
 // Whether the user may choose to adjust all tiles.
 enum class All_Tiles_Choice { hidden, shown };
 
-// Shows the change on the target while it is being chosen; at the end every pixel is as before. None when
-// given up. Lies beside the canvas.
+// Shows the change on the target while it is being chosen; at the end every pixel is as before. Returns none
+// when given up.
 [[nodiscard]] std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target,
                                                                All_Tiles_Choice choice);
 

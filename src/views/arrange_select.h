@@ -15,11 +15,11 @@ class Tileset;
 
 class Arrangement {
 public:
-    // 16 x 16 cells of 32 x 32. Tiles that the grid has no cell for can neither be seen nor picked.
+    // Shows 16 x 16 cells of 32 x 32. Tiles that the grid has no cell for can neither be seen nor picked.
     explicit Arrangement(Tileset& tileset);
     Arrangement(Tileset& tileset, Size cells, Size cell);
 
-    // Waits until it is closed. Whether any swap was made, even one that was taken back.
+    // Waits until it is closed. Returns true when any swap was made, even one that was taken back.
     bool run();
 
 private:

@@ -18,9 +18,9 @@ public:
 
     void draw() const;
     void handle(const Input_Event& event);
-    // False while the text stands for no colour, which is then kept as it was before.
+    // Returns false while the text stands for no colour, which is then kept as it was before.
     [[nodiscard]] bool is_complete() const { return refusal_.empty(); }
-    // The colour was changed elsewhere.
+    // Shows a colour that was changed elsewhere.
     void refresh();
 
     [[nodiscard]] int number(std::size_t index) const override;

@@ -23,7 +23,7 @@ public:
     // A click or an arrow key takes a colour, a double click also accepts it.
     List_Answer handle(const Input_Event& event);
 
-    // In the order of the table, down the first column and then down the second.
+    // Returns a colour's place. The table's order leads down the first column and then down the second.
     [[nodiscard]] Rectangle row(std::size_t index) const;
 
 private:
@@ -31,7 +31,7 @@ private:
     List_Answer handle_key(Keycode pressed);
     List_Answer take(std::size_t index);
     void draw_row(std::size_t index) const;
-    // Of the colour as it is now, if it has a name.
+    // Returns the index of the colour as it is now, if it has a name.
     [[nodiscard]] std::optional<std::size_t> current() const;
     [[nodiscard]] std::size_t rows_in_column() const { return (colors_.size() + 1) / 2; }
 

@@ -6,9 +6,9 @@
 #include "screen/screen.h"
 #include "screen/text_input.h"
 #include "ui/dialog_frame.h"
+#include "ui/layout.h"
 #include "ui/modal_dialog.h"
 #include "ui/text_button.h"
-#include "views/beside_canvas.h"
 #include "views/color_data_view.h"
 #include "views/color_database_view.h"
 
@@ -19,9 +19,9 @@ namespace {
 constexpr int tab_height = 24;
 constexpr int gap = 10;
 constexpr int content_height = 340;
-constexpr Rectangle frame_area{beside_canvas.x, beside_canvas.y, beside_canvas.width,
-                               dialog_title_height + tab_height + content_height + text_button_height +
-                                   4 * gap};
+constexpr Rectangle frame_area{
+    window_layout::beside_canvas.x, window_layout::beside_canvas.y, window_layout::beside_canvas.width,
+    dialog_title_height + tab_height + content_height + text_button_height + 4 * gap};
 constexpr Rectangle inside{frame_area.x + gap, frame_area.y + dialog_title_height + gap,
                            frame_area.width - 2 * gap, frame_area.height - dialog_title_height - 2 * gap};
 constexpr Rectangle content{inside.x, inside.y + tab_height + gap, inside.width, content_height};

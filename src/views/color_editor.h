@@ -18,7 +18,7 @@ struct Color_Choice {
     Color_Request request = Color_Request::none;
 };
 
-// Lies beside the canvas.
+// Edits the colour in a dialog beside the canvas.
 [[nodiscard]] Color_Choice edit_color(Color color);
 
 } // namespace quadrelle

@@ -8,7 +8,7 @@ namespace quadrelle {
 
 class Tileset_Document;
 
-// Lines parted by "\r", which fit into the window.
+// Returns lines parted by "\r", which fit into the window.
 [[nodiscard]] std::string statistics_text(const Tileset_Document& document);
 
 } // namespace quadrelle

@@ -21,7 +21,7 @@ public:
     // than the picture.
     Export_Dialog(const Tile& picture, int tile_count);
 
-    // True when accepted.
+    // Returns true when accepted.
     [[nodiscard]] bool run();
 
 private:

@@ -20,15 +20,15 @@ enum class File_Dialog_Kind : std::int32_t {
     count
 };
 
-// Shows the dialog and waits for its end. True with the chosen path (UTF-8, absolute, with the kind's
-// extension where one is forced); false, with `path` unchanged, when it was cancelled or failed. A failure is
-// told to the user here.
+// Shows the dialog and waits for its end. Returns true with the chosen path (UTF-8, absolute, with the
+// kind's extension where one is forced); false, with `path` unchanged, when it was cancelled or failed. A
+// failure is told to the user here.
 [[nodiscard]] bool choose_file(File_Dialog_Kind kind, std::string& path);
 
-// What the program's own dialog answers, for whoever wants no other one.
+// Asks with the program's own dialog, for whoever wants no other one.
 [[nodiscard]] File_Answer ask_own_dialog(File_Dialog_Kind kind);
 
-// Stands in for all dialogs, for tests; an empty function takes them back.
+// Puts a function into the place of all dialogs, for tests; an empty one takes them back.
 using File_Chooser = std::function<File_Answer(File_Dialog_Kind)>;
 void set_file_chooser(File_Chooser chooser);
 

@@ -17,15 +17,15 @@ public:
 
     [[nodiscard]] const Rectangle& area() const { return area_; }
     [[nodiscard]] std::optional<std::size_t> selected() const { return selected_; }
-    // How many rows have room.
+    // Returns how many rows have room.
     [[nodiscard]] int page() const;
-    // Window pixels of a row; beyond the box for one that is not shown.
+    // Returns the place of a row in the window; it lies beyond the box for one that is not shown.
     [[nodiscard]] Rectangle row_area(std::size_t row) const;
 
-    // To be called when other rows are listed: nothing is selected.
+    // Selects nothing; to be called when other rows are listed.
     void reset();
     void select(std::size_t row);
-    // Clamped to the rows.
+    // Stops at the first and the last row.
     void move_selection(int rows);
     void scroll(int rows);
 

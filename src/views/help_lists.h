@@ -9,10 +9,10 @@
 
 namespace quadrelle {
 
-// Key label and name of every command that has a key, in the order of the command table.
+// Returns key label and name of every command that has a key, in the order of the command table.
 [[nodiscard]] std::vector<Text_Pair> keyed_commands();
 
-// To be run; they wait until they are dismissed.
+// These are to be run; they wait until they are dismissed.
 [[nodiscard]] Dialog_Container make_keyboard_dialog();
 [[nodiscard]] Dialog_Container make_mouse_dialog();
 

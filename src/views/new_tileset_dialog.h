@@ -18,7 +18,7 @@ struct New_Tileset_Choice {
 
 class New_Tileset_Dialog {
 public:
-    // Nothing when it was given up.
+    // Returns nothing when it was given up.
     [[nodiscard]] std::optional<New_Tileset_Choice> run() const;
     [[nodiscard]] bool confirm_quit(bool has_unsaved_tiles) const;
 };

@@ -65,7 +65,7 @@ public:
     [[nodiscard]] int shown(Option option) const override;
     bool run() override { return dialog_.run(); }
 
-    // The item that an option is changed with.
+    // Returns the item that an option is changed with.
     [[nodiscard]] Dialog_Item& control(Option option);
     [[nodiscard]] Dialog_Container& container() { return dialog_; }
 

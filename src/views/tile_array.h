@@ -8,7 +8,7 @@ namespace quadrelle {
 
 class Tileset;
 
-// Waits until it is closed. The tile that was clicked, if one was.
+// Waits until it is closed. Returns the tile that was clicked, if one was.
 [[nodiscard]] std::optional<int> show_tile_array(const Tileset& tileset);
 
 } // namespace quadrelle

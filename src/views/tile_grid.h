@@ -28,22 +28,22 @@ public:
     Tile_Grid(std::string_view title, const Tileset& tileset, Size cells, Size cell);
     ~Tile_Grid();
 
-    // -1 where there is none.
+    // Returns the tile at `position`, or -1.
     [[nodiscard]] int tile_at(Point position) const;
     [[nodiscard]] bool is_on_title(Point position) const;
     [[nodiscard]] int columns() const { return cells_.width; }
     [[nodiscard]] int rows() const { return cells_.height; }
 
     [[nodiscard]] int page() const { return page_; }
-    // At least one.
+    // Returns at least one.
     [[nodiscard]] int page_count() const;
-    // Kept between the first and the last page.
+    // Stops at the first and the last page.
     void set_page(int page);
     void show_page_of(int tile);
 
     // The text may have up to three lines.
     void draw(std::string_view text);
-    // With its corner on that of a cell; nothing for a cell that is not there.
+    // Draws the marker with its corner on that of a cell; nothing for a cell that is not there.
     void draw_marker(Sprite marker, int column, int row) const;
 
 private:

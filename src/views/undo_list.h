@@ -6,7 +6,7 @@
 
 namespace quadrelle {
 
-// Waits until it is dismissed.
+// Shows the list and waits until it is dismissed.
 void show_undo_list(const Undo_History& history);
 
 } // namespace quadrelle

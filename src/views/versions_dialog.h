@@ -8,7 +8,8 @@
 
 namespace quadrelle {
 
-// Waits until it is dismissed. The slot that the user wants back, or nothing. The tile must have pixels.
+// Waits until it is dismissed. Returns the slot that the user wants back, or nothing. The tile must have
+// pixels.
 [[nodiscard]] std::optional<int> show_versions(Tile_Versions& versions, const Tile& current);
 
 } // namespace quadrelle

@@ -10,7 +10,7 @@
 
 namespace quadrelle {
 
-// All in window pixels.
+// The rectangles are in window pixels.
 struct Versions_Layout {
     Rectangle dialog; // with its title
     Rectangle big_view;

@@ -143,7 +143,7 @@ TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {
     const auto lit = [](Point icon) { return pixel_at({icon.x + 2, icon.y + 2}); };
     for (const Command command : {Command::horizontal_seam_tool, Command::vertical_seam_tool}) {
         Point icon{784, 32};
-        while (icon.y < 600 && Icon_Bar(32).command_at(icon) != command) {
+        while (icon.y < 600 && Icon_Bar().command_at(icon) != command) {
             ++icon.y;
         }
         const Color plain = lit(icon);

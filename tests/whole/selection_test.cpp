@@ -110,7 +110,7 @@ TEST_F(Copy_Panes_Test, stay_inside_the_window_beside_every_tool) {
     for (const Command command : {Command::rectangle_selector, Command::circle_selector,
                                   Command::brush_selector, Command::wand_selector, Command::work_selection}) {
         execute(command);
-        const int y = std::min(toolbox->beside_entry().y, 632 - 361);
+        const int y = std::min(toolbox->entry_top(), 632 - 361);
         play(script().click({first_copy.x + 64, first_copy.y - 266 + y}));
         EXPECT_EQ(editor->copies().current_index(), 2U) << menu_text(command);
         play(script().click({first_copy.x, first_copy.y - 266 + y}));

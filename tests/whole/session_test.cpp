@@ -9,6 +9,7 @@
 #include "tools/line.h"
 #include "tools/options.h"
 #include "tools/shapes.h"
+#include "ui/layout.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -304,7 +305,8 @@ private:
         const int cell = below(Tile_Strip::visible_cells);
         const int tile = model_.set().first + cell;
         if (tile != static_cast<int>(model_.set().current) && tile < model_.set().count()) {
-            click({Tile_Strip::area.x + Tile_Strip::cell_size * cell + 11, Tile_Strip::area.y + 13});
+            click({window_layout::tile_strip.x + window_layout::tile_strip.height * cell + 11,
+                   window_layout::tile_strip.y + 13});
             model_.go_to(tile);
         }
     }

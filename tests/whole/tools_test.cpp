@@ -57,7 +57,7 @@ struct Tool_Case {
 
 Point icon_of(Command tool) {
     Point icon{796, 32};
-    while (Icon_Bar(32).command_at(icon) != tool) {
+    while (Icon_Bar().command_at(icon) != tool) {
         ++icon.y;
     }
     return icon;
