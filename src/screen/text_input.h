@@ -6,7 +6,7 @@
 
 namespace quadrelle {
 
-// While it lives, SDL_EVENT_TEXT_INPUT events come. The screen must be there.
+// While it lives, typed text comes as events. The screen must be there.
 class Text_Input {
 public:
     Text_Input();
