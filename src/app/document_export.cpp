@@ -3,8 +3,8 @@
 #include "tileset/bitmap_export.h"
 #include "tileset/document.h"
 #include "ui/dialogs.h"
+#include "views/ask_for_file.h"
 #include "views/export_dialog.h"
-#include "views/file_dialog.h"
 
 namespace quadrelle {
 

@@ -4,7 +4,7 @@
 #include "tileset/tileset_file.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
-#include "views/file_dialog.h"
+#include "views/ask_for_file.h"
 
 #include <algorithm>
 #include <utility>

@@ -4,6 +4,7 @@
 #include "app/editor_parts.h"
 #include "tools/options.h"
 #include "views/new_tileset_dialog.h"
+#include "views/quit_question.h"
 
 namespace quadrelle::file_commands {
 
@@ -73,7 +74,7 @@ Outcome edit_options(Editor_Parts& editor) {
 }
 
 Outcome quit(Editor_Parts& editor) {
-    editor.is_quit_requested = new_tileset_dialog->confirm_quit(editor.documents.has_unsaved());
+    editor.is_quit_requested = confirm_quit(editor.documents.has_unsaved());
     return Outcome::done;
 }
 

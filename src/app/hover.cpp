@@ -4,7 +4,7 @@
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
 #include "tools/options.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <optional>
 

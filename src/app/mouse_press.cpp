@@ -5,7 +5,7 @@
 #include "canvas/stroke_loop.h"
 #include "panes/toolbox.h"
 #include "tools/options.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -10,7 +10,7 @@
 #include "screen/screen.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 #include "views/new_tileset_dialog.h"
 #include "views/options_dialog.h"
 

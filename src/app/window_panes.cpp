@@ -6,7 +6,7 @@
 #include "panes/toolbox.h"
 #include "screen/events.h"
 #include "tools/options.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <array>
 #include <utility>

@@ -11,7 +11,7 @@
 #include "canvas/edge_pictures.h"
 #include "commands/command.h"
 #include "selection/work_area.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <functional>
 #include <memory>

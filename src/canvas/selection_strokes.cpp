@@ -1,6 +1,6 @@
 #include "canvas/selection_strokes.h"
 
-#include "selection/rotation.h"
+#include "selection/free_rotation.h"
 #include "selection/scroll.h"
 #include "tools/flood_fill.h"
 #include "tools/shapes.h"

@@ -3,7 +3,7 @@
 #include "base/fitting.h"
 #include "color/standard_colors.h"
 #include "color/translucency.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -4,7 +4,7 @@
 #include "screen/renderer.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -5,9 +5,9 @@
 #include "commands/command_table.h"
 #include "screen/screen.h"
 #include "ui/checkerboard.h"
-#include "ui/layout.h"
 #include "ui/swatch.h"
 #include "ui/text_button.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 

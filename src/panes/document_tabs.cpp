@@ -3,8 +3,8 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "screen/texture.h"
-#include "ui/layout.h"
 #include "ui/shown_text.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 #include "ui/wrapped_text.h"
 
 #include <SDL3/SDL_surface.h>

@@ -1,7 +1,7 @@
 #include "panes/history_pane.h"
 
 #include "screen/screen.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <cstddef>

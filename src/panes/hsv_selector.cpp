@@ -4,7 +4,7 @@
 #include "screen/cursor.h"
 #include "screen/events.h"
 #include "screen/screen.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include "panes/command_icons.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <array>

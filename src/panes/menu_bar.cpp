@@ -4,7 +4,7 @@
 #include "commands/command_table.h"
 #include "commands/menu_table.h"
 #include "screen/screen.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <utility>

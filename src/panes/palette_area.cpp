@@ -5,9 +5,9 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "ui/layout.h"
 #include "ui/swatch.h"
 #include "ui/text_button.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -4,7 +4,7 @@
 #include "screen/sprite_sheet.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tileset.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <array>
 #include <string>

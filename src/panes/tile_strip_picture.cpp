@@ -5,7 +5,7 @@
 #include "screen/screen.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tileset.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 

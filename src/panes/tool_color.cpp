@@ -3,8 +3,8 @@
 #include "color/color_data.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
-#include "ui/layout.h"
 #include "ui/swatch.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -1,6 +1,6 @@
 #include "panes/tool_colors.h"
 
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "panes/tool_option_panes.h"
 
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <array>

@@ -7,7 +7,7 @@
 #include "panes/command_icons.h"
 #include "panes/tool_colors.h"
 #include "screen/screen.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // Operations that no command of the program needs now. They belong to what a tile offers, and are kept
 // together here so that nobody looks for their callers.
 
-#include "pixels/placement.h"
 #include "pixels/tile.h"
+#include "pixels/turn_and_mirror.h"
 
 namespace quadrelle {
 

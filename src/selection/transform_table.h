@@ -3,7 +3,7 @@
 // What the commands that move pixels do, whether to a tile, to what is selected or to what floats.
 
 #include "commands/command.h"
-#include "pixels/placement.h"
+#include "pixels/turn_and_mirror.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 // The root of every rectangular thing on the screen.
 
 #include "base/geometry.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle {
 

@@ -6,7 +6,7 @@
 #include "color/color.h"
 #include "screen/texture.h"
 #include "ui/element.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 #include <memory>
 #include <string_view>

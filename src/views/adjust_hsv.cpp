@@ -6,10 +6,10 @@
 #include "screen/sprite_sheet.h"
 #include "tools/hsv_adjustment.h"
 #include "ui/dialog_frame.h"
-#include "ui/layout.h"
 #include "ui/modal_dialog.h"
 #include "ui/slider_panel.h"
 #include "ui/text_button.h"
+#include "ui/window_layout.h"
 
 #include <algorithm>
 #include <array>

@@ -6,9 +6,9 @@
 #include "screen/screen.h"
 #include "screen/text_input.h"
 #include "ui/dialog_frame.h"
-#include "ui/layout.h"
 #include "ui/modal_dialog.h"
 #include "ui/text_button.h"
+#include "ui/window_layout.h"
 #include "views/color_data_view.h"
 #include "views/color_database_view.h"
 

@@ -1,7 +1,6 @@
 #include "views/new_tileset_dialog.h"
 
 #include "ui/dialog_container.h"
-#include "ui/dialogs.h"
 
 namespace quadrelle {
 
@@ -26,12 +25,6 @@ std::optional<New_Tileset_Choice> New_Tileset_Dialog::run() const {
         return std::nullopt;
     }
     return New_Tileset_Choice{{dialog.value(width_id), dialog.value(height_id)}, dialog.value(keep_id) == 1};
-}
-
-bool New_Tileset_Dialog::confirm_quit(bool has_unsaved_tiles) const {
-    return dialogs->ask("Quit", has_unsaved_tiles
-                                    ? "Quit Quadrelle without saving tiles?\r(Progress will be lost.)"
-                                    : "Quit Quadrelle?");
 }
 
 } // namespace quadrelle

@@ -1,6 +1,6 @@
 #pragma once
 
-// Asks for the tile size of a new tileset, and whether the program may end.
+// Asks for the tile size of a new tileset.
 
 #include "base/geometry.h"
 
@@ -20,7 +20,6 @@ class New_Tileset_Dialog {
 public:
     // Returns nothing when it was given up.
     [[nodiscard]] std::optional<New_Tileset_Choice> run() const;
-    [[nodiscard]] bool confirm_quit(bool has_unsaved_tiles) const;
 };
 
 extern std::unique_ptr<New_Tileset_Dialog> new_tileset_dialog;

@@ -8,7 +8,7 @@
 #include "tests/support/tiles.h"
 #include "tests/support/window_test.h"
 #include "tools/options.h"
-#include "views/file_dialog.h"
+#include "views/ask_for_file.h"
 
 #include <cstdint>
 #include <functional>

@@ -9,7 +9,7 @@
 #include "tools/line.h"
 #include "tools/options.h"
 #include "tools/shapes.h"
-#include "ui/layout.h"
+#include "ui/window_layout.h"
 
 namespace quadrelle::testing {
 namespace {

@@ -1,4 +1,4 @@
-#include "selection/rotation.h"
+#include "selection/free_rotation.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "views/file_dialog.h"
+#include "views/ask_for_file.h"
 
 #include "base/file_names.h"
 #include "tests/support/window_test.h"

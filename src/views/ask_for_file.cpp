@@ -1,10 +1,10 @@
-#include "views/file_dialog.h"
+#include "views/ask_for_file.h"
 
 #include "base/file_names.h"
 #include "base/table.h"
 #include "ui/dialogs.h"
 #include "ui/modal_dialog.h"
-#include "views/file_chooser.h"
+#include "views/own_file_dialog.h"
 #include "views/system_file_dialog.h"
 
 #include <array>

@@ -1,4 +1,4 @@
-#include "pixels/placement.h"
+#include "pixels/turn_and_mirror.h"
 
 #include "pixels/tile.h"
 

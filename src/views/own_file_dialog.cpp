@@ -1,4 +1,4 @@
-#include "views/file_chooser.h"
+#include "views/own_file_dialog.h"
 
 #include "base/file_names.h"
 #include "base/platform_files.h"
