@@ -24,9 +24,6 @@ protected:
     static Point button(int row, int column) {
         return {position.x + 5 + 1 + 135 + 20 * column + 7, position.y + 26 + 1 + 17 * row + 8};
     }
-    static Point slider(int row, int column) {
-        return {position.x + 5 + 1 + 17 + column, position.y + 26 + 1 + 17 * row + 8};
-    }
     [[nodiscard]] Color after_press(Color from, int row, int column) {
         handles_->set_color(from);
         EXPECT_TRUE(handles_->click(button(row, column), [] {}));
@@ -102,45 +99,6 @@ TEST_F(Color_Handles_Test, steps_of_saturation_and_lightness_do_not_drift) {
         }
     }
     EXPECT_EQ(handed_on_.back(), Color(193, 107, 107));
-}
-
-TEST_F(Color_Handles_Test, a_slider_follows_the_pointer_with_its_channel) {
-    struct Step {
-        int column;
-        int level; // of a channel
-        int share; // in 112ths
-    };
-    constexpr auto steps = std::to_array<Step>(
-        {{0, 0, 0}, {112, 255, 112}, {56, 128, 56}, {-40, 0, 0}, {9999, 255, 112}, {1, 2, 1}, {28, 64, 28}});
-    for (int row = 0; row < 6; ++row) {
-        handles_->set_color({255, 0, 0});
-        Script script;
-        std::vector<Color> seen;
-        for (const Step& step : steps) {
-            // Far above or below, the slider stays held.
-            script.motion({slider(row, step.column).x, step.level}).check([&] {
-                seen.push_back(handed_on_.back());
-                handles_->set_color(handed_on_.back());
-            });
-        }
-        script.release(slider(row, 28));
-        EXPECT_TRUE(handles_->click(slider(row, 3), [this] { handles_->draw(); }));
-        ASSERT_EQ(seen.size(), steps.size());
-        for (std::size_t i = 0; i < steps.size(); ++i) {
-            const int level = steps.at(i).level;
-            const double share = steps.at(i).share / 112.0;
-            if (row < 4) {
-                EXPECT_EQ(seen[i].channel(row), level) << row << ": " << i;
-                EXPECT_EQ(seen[i].channel((row + 1) % 4), (row + 1) % 4 == 0 || row == 2 ? 255 : 0);
-            } else {
-                const int largest = std::max({int{seen[i].r}, int{seen[i].g}, int{seen[i].b}});
-                const int smallest = std::min({int{seen[i].r}, int{seen[i].g}, int{seen[i].b}});
-                const double expected = row == 4 ? share : 1.0 - std::abs(2.0 * share - 1.0);
-                EXPECT_NEAR((largest - smallest) / 255.0, expected, 0.005) << row << ": " << i;
-                EXPECT_NEAR((largest + smallest) / 510.0, row == 4 ? 0.5 : share, 0.005);
-            }
-        }
-    }
 }
 
 } // namespace

@@ -5,21 +5,19 @@
 namespace quadrelle::testing {
 namespace {
 
-bool same(const Tile& tile, const Tile& other) {
-    return tile.size() == other.size() && std::ranges::equal(tile.pixels(), other.pixels());
-}
-
 TEST(Rotation, quarter_turns_are_exact_and_a_full_turn_changes_nothing) {
     std::mt19937 random(7);
     for (const int edge : {1, 2, 7, 24}) {
         const Tile picture = random_tile({edge, edge}, random);
         Tile expected(edge, edge);
         expected.rotate_cw(picture);
-        EXPECT_TRUE(same(turned(picture, 90, picture.size()), expected)) << edge;
-        EXPECT_TRUE(same(turned(picture, -270, picture.size()), expected)) << edge;
-        EXPECT_TRUE(same(turned(expected, 270, picture.size()), picture)) << edge;
-        EXPECT_TRUE(same(turned(turned(picture, 180, picture.size()), 540, picture.size()), picture)) << edge;
-        EXPECT_TRUE(same(turned(picture, 360, picture.size()), picture)) << edge;
+        EXPECT_EQ(picture_of(turned(picture, 90, picture.size())), picture_of(expected)) << edge;
+        EXPECT_EQ(picture_of(turned(picture, -270, picture.size())), picture_of(expected)) << edge;
+        EXPECT_EQ(picture_of(turned(expected, 270, picture.size())), picture_of(picture)) << edge;
+        EXPECT_EQ(picture_of(turned(turned(picture, 180, picture.size()), 540, picture.size())),
+                  picture_of(picture))
+            << edge;
+        EXPECT_EQ(picture_of(turned(picture, 360, picture.size())), picture_of(picture)) << edge;
     }
 }
 
@@ -56,7 +54,7 @@ TEST(Rotation, tells_black_from_transparent) {
     for (int degrees = 1; degrees < 90; ++degrees) {
         Tile expected = turned(white, degrees, white.size());
         expected.map_colours([](Color pixel) { return pixel.a == 0 ? pixel : Color(0, 0, 0); });
-        EXPECT_TRUE(same(turned(black, degrees, black.size()), expected)) << degrees;
+        EXPECT_EQ(picture_of(turned(black, degrees, black.size())), picture_of(expected)) << degrees;
     }
 }
 
@@ -71,7 +69,7 @@ TEST(Rotation, a_paste_grows_so_that_nothing_is_lost_and_its_middle_stays) {
     const Floating_Paste upright = turned(paste, 90);
     // Odd across even has no common middle: there is a transparent line more.
     EXPECT_EQ(upright.picture.size(), (Size{5, 10}));
-    EXPECT_TRUE(same(turned(paste, 0).picture, paste.picture));
+    EXPECT_EQ(picture_of(turned(paste, 0).picture), picture_of(paste.picture));
 }
 
 TEST(Rotation, turns_by_the_angle_between_two_directions) {

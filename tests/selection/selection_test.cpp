@@ -8,8 +8,6 @@
 namespace quadrelle::testing {
 namespace {
 
-using Picture = std::vector<Color>;
-
 Art mask_art(const Selection& selection) {
     Art rows = art(selection.mask());
     for (std::string& row : rows) {
@@ -21,23 +19,15 @@ Art mask_art(const Selection& selection) {
 Selection selected(const Art& rows) {
     const Tile mask = make_tile(rows);
     Selection selection(mask.size());
-    selection.draw([&](Drawing_Target& target) {
-        for (int y = 0; y < mask.height(); ++y) {
-            for (int x = 0; x < mask.width(); ++x) {
-                if (mask.is_white_at(x, y)) {
-                    target.plot({x, y}, Selection::selected_color);
-                }
-            }
+    selection.change([&](Tile& tile) {
+        for (int i = 0; i < tile.pixel_count(); ++i) {
+            tile.set_pixel_at(i, mask.get_pixel_at(i) == white ? white : clear);
         }
     });
     return selection;
 }
 
-Picture pixels_of(const Tile& tile) {
-    return {tile.pixels().begin(), tile.pixels().end()};
-}
-
-Picture sorted(Picture pixels) {
+Tile_Picture sorted(Tile_Picture pixels) {
     std::ranges::sort(pixels, {}, &Color::word);
     return pixels;
 }
@@ -47,12 +37,7 @@ public:
     explicit Random(unsigned seed) : engine_(seed) {}
 
     int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(engine_); }
-    Color color() { return Color::from_word(static_cast<std::uint32_t>(engine_())); }
-    Tile tile(Size size) {
-        Tile tile(size.width, size.height);
-        tile.map_colours([&](Color) { return color(); });
-        return tile;
-    }
+    Tile tile(Size size) { return random_tile(size, engine_); }
     // Never empty.
     Selection selection(Size size) {
         Selection selection(size);
@@ -157,16 +142,12 @@ TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
             Tile tile(original);
             Selection selection = before;
             const bool is_refused = transform_selected(tile, selection, command) == Outcome::refused;
-            EXPECT_EQ(sorted(pixels_of(tile)), sorted(pixels_of(original)));
+            EXPECT_EQ(sorted(picture_of(tile)), sorted(picture_of(original)));
             EXPECT_EQ(selection.count(), before.count());
             EXPECT_EQ(selection.bounds(), before.bounds());
-            for (int y = 0; y < size.height; ++y) {
-                for (int x = 0; x < size.width; ++x) {
-                    const Rectangle bounds = before.bounds();
-                    if (is_refused || !bounds.contains({x, y})) {
-                        EXPECT_EQ(tile.get_pixel(x, y), original.get_pixel(x, y));
-                    }
-                }
+            for (int i = 0; i < tile.pixel_count(); ++i) {
+                const bool is_beside = !before.bounds().contains({i % size.width, i / size.width});
+                EXPECT_TRUE(!(is_refused || is_beside) || tile.get_pixel_at(i) == original.get_pixel_at(i));
             }
         }
     }

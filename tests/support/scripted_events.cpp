@@ -11,28 +11,27 @@ namespace quadrelle::testing {
 
 namespace {
 
-Uint8 number_of(Mouse_Button button) {
-    switch (button) {
-    case Mouse_Button::left: return SDL_BUTTON_LEFT;
-    case Mouse_Button::right: return SDL_BUTTON_RIGHT;
-    case Mouse_Button::none: break;
-    }
-    return SDL_BUTTON_MIDDLE;
+int number_of(Mouse_Button button) {
+    return button == Mouse_Button::left    ? SDL_BUTTON_LEFT
+           : button == Mouse_Button::right ? SDL_BUTTON_RIGHT
+                                           : SDL_BUTTON_MIDDLE;
 }
 
 SDL_Keymod held_keys(Modifier modifier) {
-    switch (modifier) {
-    case Modifier::shift: return SDL_KMOD_LSHIFT;
-    case Modifier::control: return SDL_KMOD_LCTRL;
-    case Modifier::alt: return SDL_KMOD_LALT;
-    case Modifier::none: break;
-    }
-    return SDL_KMOD_NONE;
+    return modifier == Modifier::shift     ? SDL_KMOD_LSHIFT
+           : modifier == Modifier::control ? SDL_KMOD_LCTRL
+           : modifier == Modifier::alt     ? SDL_KMOD_LALT
+                                           : SDL_KMOD_NONE;
+}
+
+SDL_Event event_of(Uint32 type) {
+    SDL_Event event{};
+    event.type = type;
+    return event;
 }
 
 SDL_Event key_event(Uint32 type, Keycode code, Modifier modifier) {
-    SDL_Event event{};
-    event.type = type;
+    SDL_Event event = event_of(type);
     event.key.key = code;
     event.key.mod = held_keys(modifier);
     event.key.down = type == SDL_EVENT_KEY_DOWN;
@@ -40,8 +39,7 @@ SDL_Event key_event(Uint32 type, Keycode code, Modifier modifier) {
 }
 
 SDL_Event button_event(Uint32 type, Point position, int number) {
-    SDL_Event event{};
-    event.type = type;
+    SDL_Event event = event_of(type);
     event.button.button = static_cast<Uint8>(number);
     event.button.down = type == SDL_EVENT_MOUSE_BUTTON_DOWN;
     event.button.clicks = 1;
@@ -81,8 +79,7 @@ Script& Script::repeated_key(Keycode held) {
 
 Script& Script::text(std::string_view typed) {
     texts_.emplace_back(typed);
-    SDL_Event event{};
-    event.type = SDL_EVENT_TEXT_INPUT;
+    SDL_Event event = event_of(SDL_EVENT_TEXT_INPUT);
     event.text.text = texts_.back().c_str();
     return add_event(event);
 }
@@ -113,8 +110,7 @@ Script& Script::release(Point position, Mouse_Button button) {
 }
 
 Script& Script::motion(Point position) {
-    SDL_Event event{};
-    event.type = SDL_EVENT_MOUSE_MOTION;
+    SDL_Event event = event_of(SDL_EVENT_MOUSE_MOTION);
     event.motion.x = static_cast<float>(position.x);
     event.motion.y = static_cast<float>(position.y);
     event.motion.xrel = static_cast<float>(position.x - pointer_.x);
@@ -142,22 +138,17 @@ Script& Script::drag(const std::vector<Point>& points, Mouse_Button button) {
 }
 
 Script& Script::wheel(float amount) {
-    SDL_Event event{};
-    event.type = SDL_EVENT_MOUSE_WHEEL;
+    SDL_Event event = event_of(SDL_EVENT_MOUSE_WHEEL);
     event.wheel.y = amount;
     return add_event(event);
 }
 
 Script& Script::pointer_leaves() {
-    SDL_Event event{};
-    event.type = SDL_EVENT_WINDOW_MOUSE_LEAVE;
-    return add_event(event);
+    return add_event(event_of(SDL_EVENT_WINDOW_MOUSE_LEAVE));
 }
 
 Script& Script::quit() {
-    SDL_Event event{};
-    event.type = SDL_EVENT_QUIT;
-    return add_event(event);
+    return add_event(event_of(SDL_EVENT_QUIT));
 }
 
 Script& Script::pause(int milliseconds) {

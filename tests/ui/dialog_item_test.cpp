@@ -62,20 +62,6 @@ TEST(Choices, are_parsed_up_to_the_end_mark) {
     EXPECT_THROW(static_cast<void>(parse_choices("a,b")), std::invalid_argument);
 }
 
-TEST_F(Dialog_Item_Test, rows_stand_from_left_to_right) {
-    Dialog_Row row;
-    row.add<Box_Item>(Size{60, 27}, Dialog_Event{});
-    row.add<Box_Item>(Size{85, 10}, Dialog_Event{});
-    row.add<Box_Item>(Size{20, 30}, Dialog_Event{});
-    row.place({100, 50});
-    EXPECT_EQ(row.area, (Rectangle{100, 50, 179, 30}));
-    EXPECT_EQ(row.items()[1]->area.x, 167);
-    EXPECT_EQ(row.items()[2]->area.x, 259);
-    Dialog_Row empty;
-    empty.place({1, 2});
-    EXPECT_EQ(empty.area, (Rectangle{1, 2, 0, 0}));
-}
-
 TEST_F(Dialog_Item_Test, first_known_answer_of_the_first_row_under_the_point_wins) {
     Dialog_Rows rows;
     for (int i = 0; i < 2; ++i) {

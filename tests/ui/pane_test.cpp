@@ -5,10 +5,6 @@
 #include "pixels/tile.h"
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
-#include "ui/dialog_pane.h"
-#include "ui/dialogs.h"
-#include "ui/location_info.h"
-#include "ui/number_info.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -41,48 +37,6 @@ TEST_F(Pane_Test, contains_its_left_and_top_edges_only) {
     EXPECT_FALSE(pane.contains(194, 116));
     EXPECT_TRUE(pane.contains(Pointer_State{194.9F, 115.9F}));
     EXPECT_FALSE(pane.contains(Pointer_State{4.9F, 26.2F}));
-}
-
-TEST_F(Pane_Test, draws_its_background_but_not_the_strip_beside_the_title) {
-    screen->fill_rect({0, 0, 400, 300}, clear_color);
-    const Pane pane({100, 100, 200, 50}, "Pane");
-    pane.draw();
-    EXPECT_TRUE(has_picture({100, 100, 40, 20}));
-    EXPECT_EQ(pixel_at({299, 120}), clear_color);
-    EXPECT_EQ(pixel_at({100, 121}), background);
-    EXPECT_EQ(pixel_at({299, 170}), background);
-    EXPECT_EQ(pixel_at({299, 171}), clear_color);
-
-    pane.draw_frame();
-    const Color frame = standard_color(Standard_Color::pane_frame);
-    EXPECT_EQ(pixel_at({105, 126}), frame);
-    EXPECT_EQ(pixel_at({294, 165}), frame);
-    EXPECT_EQ(pixel_at({106, 127}), background);
-    pane.clear({1, 2, 3});
-    EXPECT_EQ(pixel_at({105, 126}), Color(1, 2, 3));
-    EXPECT_EQ(pixel_at({200, 140}), Color(1, 2, 3));
-    EXPECT_EQ(pixel_at({104, 126}), background);
-}
-
-TEST_F(Pane_Test, preview_repeats_the_tile_in_the_middle_over_a_checkerboard) {
-    Preview_Pane preview({31, 32, 202, 202});
-    const Rectangle client = preview.client_area();
-    EXPECT_EQ(client, (Rectangle{36, 58, 192, 192}));
-    Tile tile(24, 24);
-    tile.fill({200, 10, 20});
-    tile.set_pixel(0, 0, {0, 0, 0, 0});
-    tile.set_pixel(6, 0, {0, 0, 0, 0});
-    tile.set_pixel(1, 1, {1, 2, 3});
-    preview.set_repeat(2, 3);
-    preview.draw(&tile);
-    const Point corner{client.x + 72, client.y + 60};
-    EXPECT_EQ(pixel_at({corner.x - 1, corner.y}), background);
-    EXPECT_EQ(pixel_at(corner), standard_color(Standard_Color::checker_dark));
-    EXPECT_EQ(pixel_at({corner.x + 6, corner.y}), standard_color(Standard_Color::checker_light));
-    EXPECT_EQ(pixel_at({corner.x + 25, corner.y + 49}), Color(1, 2, 3));
-    EXPECT_EQ(pixel_at({corner.x + 47, corner.y + 71}), Color(200, 10, 20));
-    EXPECT_EQ(pixel_at({corner.x + 48, corner.y + 71}), background);
-    EXPECT_EQ(pixel_at({corner.x + 47, corner.y + 72}), background);
 }
 
 TEST_F(Pane_Test, preview_stays_inside_its_client_area) {

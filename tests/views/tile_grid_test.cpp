@@ -1,6 +1,5 @@
 #include "views/tile_grid.h"
 
-#include "color/translucency.h"
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
 #include "tileset/tileset.h"
@@ -60,29 +59,6 @@ TEST_F(Tile_Grid_Test, finds_the_tile_under_every_cell_of_every_page_and_none_be
         grid.show_page_of(count - 1);
         EXPECT_EQ(grid.page(), pages - 1);
     }
-}
-
-TEST_F(Tile_Grid_Test, draws_each_tile_in_the_middle_of_its_cell_over_a_checkerboard) {
-    Tileset tileset = set_of({2, 1}, 18);
-    tileset.tile_at(17).set_pixel(0, 0, {200, 30, 40});
-    tileset.tile_at(17).set_pixel(1, 0, {10, 200, 30, 128});
-    Tile_Grid grid("Grid", tileset);
-    grid.draw("");
-    // 32 x 16 pixels, eight below the top of the second cell of the second row.
-    const Point start{corner.x + edge, corner.y + edge + 8};
-    EXPECT_EQ(pixel_at(start), Color(200, 30, 40));
-    EXPECT_EQ(pixel_at({start.x + 15, start.y + 15}), Color(200, 30, 40));
-    EXPECT_EQ(pixel_at({start.x + 16, start.y}), blended_over({10, 200, 30, 128}, checkerboard_color(16, 0)));
-    EXPECT_EQ(pixel_at({start.x + 31, start.y + 15}),
-              blended_over({10, 200, 30, 128}, checkerboard_color(31, 15)));
-    const Color around = standard_color(Standard_Color::dark_frame);
-    EXPECT_EQ(pixel_at({start.x, start.y - 1}), around);
-    EXPECT_EQ(pixel_at({start.x, start.y + 16}), around);
-    EXPECT_EQ(pixel_at({start.x + edge, start.y}), around);
-
-    tileset.tile_at(17).fill({9, 8, 7});
-    grid.draw("");
-    EXPECT_EQ(pixel_at({start.x + 31, start.y}), Color(9, 8, 7));
 }
 
 TEST_F(Tile_Grid_Test, draws_no_marker_outside_of_its_cells) {

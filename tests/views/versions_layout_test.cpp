@@ -55,18 +55,5 @@ TEST(Versions_Layout_Test, keeps_all_parts_apart_inside_of_the_window) {
     }
 }
 
-TEST(Versions_Layout_Test, finds_the_slot_of_a_view_or_its_label) {
-    const Versions_Layout layout = versions_layout({24, 24}, window);
-    for (int i = 0; i < 4; ++i) {
-        const Rectangle& slot = layout.slots.at(static_cast<std::size_t>(i));
-        const Rectangle& label = layout.labels.at(static_cast<std::size_t>(i));
-        EXPECT_EQ(layout.slot_at({slot.x, slot.y}), i);
-        EXPECT_EQ(layout.slot_at({slot.right() - 1, slot.bottom() - 1}), i);
-        EXPECT_EQ(layout.slot_at({slot.right(), slot.y}), std::nullopt);
-        EXPECT_EQ(layout.slot_at({label.x + label.width / 2, label.y + 5}), i);
-    }
-    EXPECT_EQ(layout.slot_at({layout.big_view.x, layout.big_view.y}), std::nullopt);
-}
-
 } // namespace
 } // namespace quadrelle::testing

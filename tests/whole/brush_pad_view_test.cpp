@@ -26,10 +26,8 @@ protected:
 
     // Every pixel has a colour of its own.
     static void paint_gradient() {
-        for (int y = 0; y < 24; ++y) {
-            for (int x = 0; x < 24; ++x) {
-                tile().set_pixel(x, y, gradient(x, y));
-            }
+        for (int i = 0; i < tile().pixel_count(); ++i) {
+            tile().set_pixel_at(i, gradient(i % 24, i / 24));
         }
     }
     static void select(Tile_Point from, Tile_Point to) {
@@ -55,10 +53,8 @@ protected:
     // The tile is black but for what `expected` gives.
     using Picture_Function = std::function<std::optional<Color>(int x, int y)>;
     void expect_painted(const Picture_Function& expected) {
-        for (int y = 0; y < 24; ++y) {
-            for (int x = 0; x < 24; ++x) {
-                EXPECT_EQ(tile_pixel(x, y), expected(x, y).value_or(black)) << x << ", " << y;
-            }
+        for (int i = 0; i < tile().pixel_count(); ++i) {
+            EXPECT_EQ(tile().get_pixel_at(i), expected(i % 24, i / 24).value_or(black)) << i;
         }
         tile().fill(black);
     }

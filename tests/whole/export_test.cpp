@@ -71,25 +71,6 @@ TEST_F(Export_Test, tells_what_failed) {
     EXPECT_FALSE(document().is_modified());
 }
 
-TEST_F(Export_Test, shows_a_small_picture_in_the_middle) {
-    paint({200, 30, 40});
-    document().tileset().add_tile();
-    document().tileset().select(0);
-    const Point corner{view.x + 64, view.y + 64};
-    expect_pixel(corner, {200, 30, 40});
-    expect_pixel({corner.x - 1, corner.y}, standard_color(Standard_Color::dark_frame));
-    expect_pixel({corner.x + 23, corner.y + 23}, {200, 30, 40});
-    expect_pixel({corner.x + 24, corner.y}, {0, 0, 0});
-    expect_pixel({corner.x + 383, corner.y + 383}, {0, 0, 0});
-    expect_pixel({corner.x + 384, corner.y + 383}, standard_color(Standard_Color::dark_frame));
-    expect_pixel({view.x, view.y}, standard_color(Standard_Color::dark_frame));
-    expect_pixel({view.x - 1, view.y}, standard_color(Standard_Color::pane_background));
-    // No arrow: there is nothing more to see.
-    script().check([&] { EXPECT_FALSE(has_picture({view.right() - 30, view.y, 30, view.height})); });
-    script().key(key::escape);
-    execute(Command::export_bitmap);
-}
-
 TEST_F(Export_Test, shows_a_larger_picture_from_its_corner_and_moves_it) {
     ASSERT_TRUE(editor->documents().new_document({64, 33}));
     paint({1, 2, 3});

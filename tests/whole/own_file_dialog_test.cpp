@@ -4,8 +4,6 @@
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 
-#include <fstream>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -16,12 +14,6 @@ constexpr Point cancel_button{900, 580};
 
 constexpr Point row(int place) {
     return {400, list.y + 13 + 24 * place};
-}
-
-std::string long_name(std::size_t letters, char letter) {
-    std::string name = ".qdl";
-    name.insert(0, letters, letter);
-    return name;
 }
 
 class File_Chooser_Test : public Program_Test {
@@ -152,30 +144,6 @@ TEST_F(File_Chooser_Test, scrolls_through_many_files) {
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), in_art("1399.qdl"));
     press({key::page_down, key::page_down, key::up, key::enter});
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), in_art("1027.qdl"));
-}
-
-TEST_F(File_Chooser_Test, shows_every_name_inside_its_box) {
-    for (const char letter : {'W', 'i', '\xff'}) {
-        std::ofstream(native(in_art("")) / long_name(251, letter));
-    }
-    for (std::size_t i = 0; i < 20; ++i) {
-        store(in_art(long_name(60 + i, 'm')), {});
-    }
-    const auto look = [] {
-        EXPECT_TRUE(has_picture(list.inset(3)));
-        EXPECT_TRUE(has_picture(field.inset(3)));
-        const int beside = list.right() + 1;
-        EXPECT_FALSE(has_picture({beside, list.y, 4, list.height}));
-        EXPECT_FALSE(has_picture({beside, field.y, 4, field.height}));
-        EXPECT_FALSE(has_picture({field.right() - 4, field.y + 2, 2, field.height - 4}));
-        EXPECT_FALSE(has_picture({list.x + 2, list.bottom() + 1, list.width, 5}));
-    };
-    script().key(key::down); // to the way up, which gives no name
-    for (int i = 0; i < 23; ++i) {
-        script().key(key::down).check(look);
-    }
-    text(std::string(500, 'W')).check(look).key(key::escape);
-    EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), "cancelled");
 }
 
 TEST_F(File_Chooser_Test, survives_folders_that_vanish) {

@@ -150,6 +150,32 @@ public:
         execute(Command::view_tile_array);
     }
 
+    void about() {
+        show_in_loop().key(key::escape);
+        execute(Command::about);
+    }
+
+    void options_dialog() {
+        show_in_loop().key(key::escape);
+        execute(Command::options);
+    }
+
+    // The strip scrolled to its end, a button held, and a brush of the second size in the toolbox.
+    void tile_strip() {
+        make_set({8, 8}, 200, 60);
+        execute(Command::forward_strip);
+        execute(Command::select_brush_size_2);
+        script().press({36 + 126, 347});
+        show_in_loop().release({36 + 126, 347});
+        play();
+    }
+
+    void export_dialog() {
+        make_set({24, 24}, 20, 3);
+        show_in_loop().key(key::escape);
+        execute(Command::export_bitmap);
+    }
+
     void compare() const { expect_stored_picture(GetParam().name, shown_); }
 
 private:
@@ -192,6 +218,10 @@ constexpr std::array scenes = std::to_array<Scene>({
     {"undo_list", &Pictures_Test::undo_list},
     {"keyboard_list", &Pictures_Test::keyboard_list},
     {"tile_array", &Pictures_Test::tile_array},
+    {"about", &Pictures_Test::about},
+    {"options_dialog", &Pictures_Test::options_dialog},
+    {"tile_strip", &Pictures_Test::tile_strip},
+    {"export_dialog", &Pictures_Test::export_dialog},
 });
 
 TEST_P(Pictures_Test, shows_what_is_stored) {

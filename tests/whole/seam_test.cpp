@@ -1,10 +1,7 @@
-#include "panes/icon_bar.h"
 #include "tests/whole/program_test.h"
 
 namespace quadrelle::testing {
 namespace {
-
-constexpr Color yellow(0xff, 0xe2, 0x3a);
 
 // Every pixel another colour.
 Tile distinct_tile(Size size) {
@@ -74,30 +71,6 @@ TEST_F(Seam_Test, shifts_by_an_even_half_and_gives_the_tile_back) {
     }
 }
 
-// The first column of the tile's second half begins at x 520, its first row at y 320.
-TEST_F(Seam_Test, marks_the_seam_while_it_is_shifted) {
-    const auto expect_marked = [](bool column, bool row) {
-        EXPECT_EQ(pixel_at({520, 203}) == yellow, column);
-        EXPECT_EQ(pixel_at({521, 413}) == yellow, column);
-        EXPECT_EQ(pixel_at({403, 321}) == yellow, row);
-        EXPECT_EQ(pixel_at({633, 320}) == yellow, row);
-        EXPECT_NE(pixel_at({519, 203}), yellow);
-        EXPECT_NE(pixel_at({522, 203}), yellow);
-        EXPECT_NE(pixel_at({403, 322}), yellow);
-        EXPECT_NE(pixel_at({403, 319}), yellow);
-    };
-    execute(Command::center_tile_on_view);
-    expect_marked(false, false);
-    execute(Command::horizontal_seam_tool);
-    expect_marked(true, false);
-    execute(Command::vertical_seam_tool);
-    expect_marked(true, true);
-    execute(Command::horizontal_seam_tool);
-    expect_marked(false, true);
-    execute(Command::next_tile);
-    expect_marked(false, false);
-}
-
 TEST_F(Seam_Test, is_undone_before_commands_on_the_set) {
     for (const Command command : {Command::load, Command::versions}) {
         SCOPED_TRACE(static_cast<int>(command));
@@ -137,24 +110,6 @@ TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
     EXPECT_TRUE(work.selection() == before);
     execute(Command::undo);
     EXPECT_EQ(tile_pixel(10, 5), red);
-}
-
-TEST_F(Seam_Test, icons_shift_and_are_lit_meanwhile) {
-    const auto lit = [](Point icon) { return pixel_at({icon.x + 2, icon.y + 2}); };
-    for (const Command command : {Command::horizontal_seam_tool, Command::vertical_seam_tool}) {
-        Point icon{784, 32};
-        while (icon.y < 600 && Icon_Bar().command_at(icon) != command) {
-            ++icon.y;
-        }
-        const Color plain = lit(icon);
-        play(script().click(icon));
-        EXPECT_NE(lit(icon), plain);
-        play(script().click(icon));
-        EXPECT_EQ(lit(icon), plain);
-        play(script().click(icon));
-        execute(Command::next_tile);
-        EXPECT_EQ(lit(icon), plain);
-    }
 }
 
 } // namespace

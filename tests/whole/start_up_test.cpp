@@ -11,16 +11,9 @@
 namespace quadrelle::testing {
 namespace {
 
-std::string text_of(const std::string& path) {
-    const Bytes bytes = stored(path);
-    return {bytes.begin(), bytes.end()};
-}
-
 class Start_Up_Process : public ::testing::Test {
 protected:
-    void SetUp() override { use_real_sheet(); }
-
-    void use_real_sheet() {
+    void SetUp() override {
         std::filesystem::create_directory(folder_.native_path() / "data");
         std::filesystem::copy_file(source_folder() / "data" / "pool.bmp",
                                    folder_.native_path() / "data" / "pool.bmp");
@@ -37,8 +30,8 @@ protected:
     }
     void expect_fatal(const std::string& text) const {
         EXPECT_EQ(run(), 1);
-        EXPECT_EQ(text_of(path("output")), "Error: " + text + "!\n");
-        EXPECT_EQ(text_of(path("errors")), "");
+        EXPECT_EQ(stored_text(path("output")), "Error: " + text + "!\n");
+        EXPECT_EQ(stored_text(path("errors")), "");
     }
 
 private:
@@ -77,7 +70,7 @@ TEST_F(Start_Up_Process, ends_when_a_data_file_is_shorter_than_it_says) {
 
 TEST_F(Start_Up_Process, runs_until_it_is_told_otherwise) {
     EXPECT_EQ(run(), 137);
-    EXPECT_EQ(text_of(path("output")), "");
+    EXPECT_EQ(stored_text(path("output")), "");
 }
 
 // Complete files that no program of ours wrote.
@@ -99,8 +92,9 @@ TEST(Start_Up, takes_data_files_with_any_content) {
     for (const std::string& record : records) {
         SCOPED_TRACE(record.substr(0, 60));
         const Program_Folder folder;
-        store_text(folder.data_path("palette.dat"), record_bytes(record));
-        store_text(folder.data_path("options.dlg"), record_bytes(record));
+        for (const char* const name : {"palette.dat", "options.dlg", "brushpad.dat"}) {
+            store_text(folder.data_path(name), record_bytes(record));
+        }
         start_application();
         EXPECT_TRUE(editor->show_first_frame());
         EXPECT_GE(palette_store->size(), 1);
