@@ -150,11 +150,6 @@ public:
         execute(Command::view_tile_array);
     }
 
-    void about() {
-        show_in_loop().key(key::escape);
-        execute(Command::about);
-    }
-
     void options_dialog() {
         show_in_loop().key(key::escape);
         execute(Command::options);
@@ -218,7 +213,6 @@ constexpr std::array scenes = std::to_array<Scene>({
     {"undo_list", &Pictures_Test::undo_list},
     {"keyboard_list", &Pictures_Test::keyboard_list},
     {"tile_array", &Pictures_Test::tile_array},
-    {"about", &Pictures_Test::about},
     {"options_dialog", &Pictures_Test::options_dialog},
     {"tile_strip", &Pictures_Test::tile_strip},
     {"export_dialog", &Pictures_Test::export_dialog},
