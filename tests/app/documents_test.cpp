@@ -103,9 +103,9 @@ TEST_F(Documents_Test, save_over_a_file_asks_where_the_option_says_so) {
 }
 
 TEST_F(Documents_Test, load_opens_the_same_tiles_as_another_document) {
-    draw_pixel(2, 3);
     execute(Command::add_new_tile);
     draw_pixel(5, 6);
+    const Tile_Picture drawn = tile_picture();
     const std::string path = save_as("täles.qdl");
     choose(path);
     execute(Command::load);
@@ -115,10 +115,10 @@ TEST_F(Documents_Test, load_opens_the_same_tiles_as_another_document) {
     EXPECT_TRUE(document().is_named());
     EXPECT_EQ(document().tileset().count(), 2);
     EXPECT_EQ(document().tileset().current_index(), 0);
-    EXPECT_EQ(pixel_at(cell(2, 3)), white);
+    EXPECT_NE(pixel_at(cell(5, 6)), white);
     execute(Command::next_tile);
+    EXPECT_EQ(tile_picture(), drawn);
     EXPECT_EQ(pixel_at(cell(5, 6)), white);
-    EXPECT_NE(pixel_at(cell(2, 3)), white);
 }
 
 TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
@@ -166,10 +166,7 @@ TEST_F(Documents_Test, new_takes_the_size_that_is_typed) {
 
 TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     const New_Dialog_Layout layout;
-    draw_pixel(2, 2);
-    draw_pixel(3, 2);
-    draw_pixel(2, 3);
-    draw_pixel(3, 3);
+    play(script().drag({cell(2, 2), cell(3, 2), cell(3, 3), cell(2, 3)}));
     script().press(layout.item(11)).type("12").key(key::enter).press(layout.item(21)).type("12");
     script().key(key::enter).press(layout.item(30)).key(key::enter);
     document().clear_modified();
@@ -214,27 +211,8 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     EXPECT_EQ(window_title(), product + "untitled1.qdl");
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(tile_pixel(1, 1), black);
-    play(script().motion({1, 1}));
-    EXPECT_NE(pixel_at(cell(1, 1)), white);
     execute(Command::close);
     EXPECT_EQ(window_title(), product + "untitled2.qdl");
-}
-
-TEST_F(Documents_Test, tab_click_changes_the_document_and_shows_its_first_tile) {
-    draw_pixel(1, 1);
-    execute(Command::add_new_tile);
-    documents().new_document({10, 10});
-    play(script().click(tab_after({})));
-    EXPECT_EQ(window_title(), product + "untitled0.qdl*");
-    EXPECT_EQ(document().tileset().current_index(), 0);
-    EXPECT_EQ(pixel_at(cell(1, 1)), white);
-    // Its own tab does nothing: the tile stays.
-    execute(Command::next_tile);
-    play(script().click(tab_after({})));
-    EXPECT_EQ(document().tileset().current_index(), 1);
-    play(script().click(tab_after({"untitled0.qdl*"}), Mouse_Button::right));
-    EXPECT_EQ(name(), "untitled1.qdl");
-    EXPECT_EQ(editor->canvas().magnified_size(), (Size{100, 100}));
 }
 
 TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
@@ -253,13 +231,9 @@ TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     play(script().click(right_arrow));
     EXPECT_NE(name(), hidden);
     // Leftwards until the first tab shows; then there is no arrow any more.
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 13; ++i) {
         script().click(left_arrow);
     }
-    play();
-    const std::string reached = name();
-    play(script().click(left_arrow));
-    EXPECT_EQ(name(), reached);
     play(script().click(tab_after({})));
     EXPECT_EQ(name(), "untitled0.qdl");
 }

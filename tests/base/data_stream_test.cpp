@@ -46,14 +46,6 @@ TEST(Data_Stream, numbers_put_their_comma_in_front_and_texts_behind) {
     EXPECT_EQ(record.text().substr(29), ",-340282346638528859811704183484516925440.000000");
 }
 
-TEST(Data_Stream, an_empty_text_is_replaced_for_the_caller_too) {
-    Data_Stream record;
-    std::string text;
-    record.write_text(text);
-    EXPECT_EQ(record.text(), "Rolololo,");
-    EXPECT_EQ(text, "Rolololo");
-}
-
 TEST(Data_Stream, a_number_is_the_leading_part_of_its_token) {
     Data_Stream record("12x,5,,7, +8,-9 1:--3,0x10");
     for (const std::int32_t expected : {12, 5, 0, 7, 8, -9, 0, 0, 0, 0}) {
@@ -96,32 +88,6 @@ TEST(Data_Stream, reading_past_the_end_gives_nothing) {
     EXPECT_EQ(record.read_quad(), (std::array<std::int32_t, 4>{}));
     EXPECT_TRUE(Data_Stream(":").is_at_end());
     EXPECT_FALSE(Data_Stream(",:").is_at_end());
-}
-
-// The bytes hold separators and zeros, which must not end them.
-TEST(Data_Stream, file_round_trip_of_every_kind) {
-    const Temporary_Folder folder;
-    const std::string path = folder.path("record.dat");
-    const std::array<std::uint8_t, 5> bytes = {':', ',', 0, 255, ','};
-    std::string text = "some text";
-    Data_Stream written;
-    written.write_bytes(bytes);
-    written.write_quad({1, -2, 3, smallest});
-    written.write_text(text);
-    written.write_quad({9, 8, 7, 6});
-    ASSERT_TRUE(written.save_to(path));
-    EXPECT_EQ(written.text(), "");
-
-    Data_Stream record = loaded(path);
-    std::array<std::uint8_t, 5> read{};
-    record.read_bytes(read);
-    EXPECT_EQ(read, bytes);
-    EXPECT_EQ(record.read_pair(), (std::array<std::int32_t, 2>{1, -2}));
-    EXPECT_EQ(record.read_int(), 3);
-    EXPECT_EQ(record.read_text(), "-2147483648some text");
-    EXPECT_EQ(record.read_text(), "");
-    EXPECT_EQ(record.read_quad(), (std::array<std::int32_t, 4>{9, 8, 7, 6}));
-    EXPECT_TRUE(record.is_at_end());
 }
 
 TEST(Data_Stream, loading_starts_anew_and_a_length_of_zero_keeps_the_text) {

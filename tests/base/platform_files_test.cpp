@@ -10,23 +10,6 @@
 #endif
 
 namespace quadrelle::testing {
-namespace {
-
-// Steps into a folder, and back out at the end of the test.
-class Visit {
-public:
-    explicit Visit(const Temporary_Folder& folder) : home_(current_directory()) {
-        EXPECT_TRUE(change_directory(folder.path("")));
-    }
-    Visit(const Visit&) = delete;
-    Visit& operator=(const Visit&) = delete;
-    ~Visit() { EXPECT_TRUE(change_directory(home_)); }
-
-private:
-    std::string home_;
-};
-
-} // namespace
 
 TEST(Files, names_outside_ascii_name_the_same_file_everywhere) {
     const Temporary_Folder folder;
@@ -73,9 +56,7 @@ TEST(Files, an_atomic_file_that_missed_a_block_is_never_committed) {
 }
 
 TEST(Data_Directory, steps_in_and_out) {
-    const Temporary_Folder folder;
-    const Visit visit(folder);
-    std::filesystem::create_directory(folder.native_path() / "data");
+    const Program_Folder folder;
     store(folder.path("data/palette.dat"), {1});
     Data_Directory directory;
     EXPECT_EQ(stored(directory.path("palette.dat")), (Bytes{1}));
@@ -91,8 +72,8 @@ TEST(Data_Directory, steps_in_and_out) {
 }
 
 TEST(Data_Directory, tells_when_there_is_none) {
-    const Temporary_Folder folder;
-    const Visit visit(folder);
+    const Program_Folder folder;
+    std::filesystem::remove_all(folder.native_path() / "data");
     Data_Directory directory;
     EXPECT_FALSE(directory.enter(Data_Directory::inside));
     EXPECT_EQ(directory.index(), Data_Directory::inside);

@@ -34,16 +34,6 @@ void expect_near_reference(const Tile& source, const Tile& target) {
     }
 }
 
-Tile grey_row(std::initializer_list<int> values) {
-    Tile tile(static_cast<int>(values.size()), 1);
-    const auto* value = values.begin();
-    tile.map_colours([&](Color) {
-        const int grey = *value++;
-        return Color{grey, grey, grey, 9};
-    });
-    return tile;
-}
-
 } // namespace
 
 TEST(Tile_Resampling, resampling_to_the_same_size_copies_alpha_too) {
@@ -52,20 +42,6 @@ TEST(Tile_Resampling, resampling_to_the_same_size_copies_alpha_too) {
     Tile target(5, 7);
     source.resample_into(target);
     EXPECT_TRUE(std::ranges::equal(source.pixels(), target.pixels()));
-}
-
-// Worked out by hand: two columns onto four are sampled at 0, 0.3725, 0.745 and 1.1175.
-TEST(Tile_Resampling, resampling_gives_the_pixels_worked_out_by_hand) {
-    Tile enlarged(4, 1);
-    grey_row({0, 255}).resample_into(enlarged);
-    EXPECT_EQ(enlarged.get_pixel(0, 0), (Color{0, 0, 0}));
-    EXPECT_EQ(enlarged.get_pixel(1, 0), (Color{94, 94, 94}));
-    EXPECT_EQ(enlarged.get_pixel(2, 0), (Color{189, 189, 189}));
-    EXPECT_GE(enlarged.get_pixel(3, 0).r, 254);
-    Tile reduced(2, 1);
-    grey_row({0, 100, 200, 255}).resample_into(reduced);
-    EXPECT_EQ(reduced.get_pixel(0, 0), (Color{0, 0, 0}));
-    EXPECT_EQ(reduced.get_pixel(1, 0), (Color{227, 227, 227}));
 }
 
 TEST(Tile_Resampling, resampling_follows_bilinear_sampling) {
@@ -84,12 +60,6 @@ TEST(Tile_Resampling, resampling_follows_bilinear_sampling) {
             ASSERT_NO_FATAL_FAILURE(expect_near_reference(upright, tall));
         }
     }
-}
-
-TEST(Tile_Resampling, a_tile_without_pixels_resamples_to_black) {
-    Tile target = make_tile({"ab", "cd"});
-    Tile(0, 5).resample_into(target);
-    EXPECT_EQ(art(target), (Art{"..", ".."}));
 }
 
 TEST(Tile_Resampling, anti_aliasing_softens_edges_and_makes_opaque) {

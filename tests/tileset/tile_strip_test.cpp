@@ -48,26 +48,6 @@ TEST(Tile_Strip, pages_between_the_first_tile_and_the_last_ones) {
     }
 }
 
-TEST(Tile_Strip, scrolls_no_further_than_the_current_tile_needs) {
-    for (const int count : {1, 50, 51, 52, 53, 97, 200, 256, 300}) {
-        Tileset tileset = tileset_of(count);
-        for (int current = 0; current < count; ++current) {
-            SCOPED_TRACE(std::to_string(current) + " of " + std::to_string(count));
-            tileset.select(current);
-            Tile_Strip strip(tileset);
-            EXPECT_EQ(strip.cell_of_current(), current < visible ? current : -1);
-            strip.show_current();
-            EXPECT_EQ(strip.first(), std::max(current - visible + 1, 0));
-            EXPECT_EQ(strip.cell_of_current(), std::min(current, visible - 1));
-            strip.forward();
-            const int forward = strip.first();
-            strip.show_current();
-            EXPECT_EQ(strip.first(), std::min(forward, current));
-            EXPECT_EQ(strip.cell_of_current(), current - strip.first());
-        }
-    }
-}
-
 TEST(Tile_Strip, knows_the_tile_in_a_cell) {
     for (const int count : {0, 1, 10, 51, 60, 200}) {
         const Tileset tileset = tileset_of(count);

@@ -134,25 +134,21 @@ TEST(Pens, do_not_work_twice_on_the_pixel_where_segments_meet) {
 }
 
 TEST(Pens, smudge_half_of_the_source_into_each_pixel) {
-    Tile tile(3, 1);
-    Drawing_Target target(tile);
     const Brush row = stamp_brush(make_tile({"##"}), make_tile({"##"}));
-    const auto reset = [&] {
+    const auto smudged = [&](Tile_Point from, Tile_Point by) {
+        Tile tile(3, 1);
         tile.set_pixel(0, 0, {200, 101, 0, 255});
         tile.set_pixel(1, 0, {0, 0, 9, 10});
         tile.set_pixel(2, 0, {0, 0, 0, 20});
+        Drawing_Target target(tile);
+        smudge(target, row, from, by);
+        return picture_of(tile);
     };
-    reset();
-    smudge(target, row, {1, 0}, {0, 0});
-    EXPECT_EQ(tile.get_pixel(1, 0), (Color{100, 50, 4, 10}));
-    EXPECT_EQ(tile.get_pixel(2, 0), (Color{50, 25, 2, 20})); // from the pixel just changed
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{200, 101, 0, 255}));
-    reset();
+    // The last one from the pixel just changed.
+    EXPECT_EQ(smudged({1, 0}, {0, 0}), (Tile_Picture{{200, 101, 0, 255}, {100, 50, 4, 10}, {50, 25, 2, 20}}));
     for (const Tile_Point idle : {Tile_Point{0, 0}, {0, 1}, {-2, 0}, {1 << 30, -(1 << 30)}}) {
-        smudge(target, row, {0, 0}, idle);
+        EXPECT_EQ(smudged({0, 0}, idle), (Tile_Picture{{200, 101, 0, 255}, {0, 0, 9, 10}, {0, 0, 0, 20}}));
     }
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{200, 101, 0, 255}));
-    EXPECT_EQ(tile.get_pixel(1, 0), (Color{0, 0, 9, 10}));
 }
 
 TEST(Pens, smudge_under_the_mask_and_inside_the_selection) {

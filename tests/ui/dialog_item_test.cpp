@@ -93,18 +93,6 @@ TEST_F(Dialog_Item_Test, buttons_answer_for_their_hosts_and_hang_beside_text) {
     EXPECT_EQ(Button_Dialog_Item({}, Button_Type::more).area.width, 15);
 }
 
-TEST_F(Dialog_Item_Test, radio_buttons_toggle_and_are_not_restored) {
-    Radiobutton_Dialog_Item radio({5}, false);
-    radio.begin();
-    EXPECT_EQ(radio.click({7, 7}), Dialog_Event{Dialog_Event_Kind::radio});
-    EXPECT_EQ(radio.value(), 1);
-    EXPECT_EQ(radio.click({15, 7}), Dialog_Event{});
-    radio.revert();
-    EXPECT_EQ(radio.value(), 1);
-    radio.click({7, 7});
-    EXPECT_EQ(radio.value(), 0);
-}
-
 TEST_F(Dialog_Item_Test, numbers_are_as_wide_as_they_are_written) {
     Number_Dialog_Item number({5}, {9, 1, 10});
     const int one_digit = number.area.width;

@@ -1,44 +1,33 @@
 #include "ui/shown_tile.h"
 
-#include "screen/renderer.h"
+#include "screen/screen.h"
 #include "tests/support/tiles.h"
+#include "tests/support/window_test.h"
 
-#include <SDL3/SDL.h>
-
-#include <memory>
 #include <utility>
 
 namespace quadrelle::testing {
 namespace {
 
-// What tiles draw goes into a picture of 6 x 4 pixels instead of a window.
-class Shown_Tile_Test : public ::testing::Test {
+class Shown_Tile_Test : public Window_Test {
 protected:
-    Shown_Tile_Test() { set_active_renderer(renderer_.get()); }
-    ~Shown_Tile_Test() override { set_active_renderer(nullptr); }
-
+    // In the window's corner of 6 x 4 pixels.
     Art drawn(const Tile& tile, const Rectangle& area) {
-        SDL_SetRenderDrawColor(renderer_.get(), 0, 0, 0, 255);
-        SDL_RenderClear(renderer_.get());
-        shown_.draw(tile, area);
-        SDL_RenderPresent(renderer_.get());
-        Tile picture(surface_->w, surface_->h);
-        for (int y = 0; y < surface_->h; ++y) {
-            for (int x = 0; x < surface_->w; ++x) {
-                Color color;
-                SDL_ReadSurfacePixel(surface_.get(), x, y, &color.r, &color.g, &color.b, &color.a);
-                picture.set_pixel(x, y, color);
-            }
+        screen->fill_rect({0, 0, 12, 12}, black);
+        shown_->draw(tile, area);
+        Tile picture(6, 4);
+        for (int i = 0; i < picture.pixel_count(); ++i) {
+            picture.set_pixel_at(i, pixel_at({i % 6, i / 6}));
         }
         return art(picture);
     }
+    void TearDown() override {
+        shown_.reset();
+        Window_Test::TearDown();
+    }
 
 private:
-    std::unique_ptr<SDL_Surface, void (*)(SDL_Surface*)> surface_{
-        SDL_CreateSurface(6, 4, SDL_PIXELFORMAT_ARGB8888), SDL_DestroySurface};
-    std::unique_ptr<SDL_Renderer, void (*)(SDL_Renderer*)> renderer_{
-        SDL_CreateSoftwareRenderer(surface_.get()), SDL_DestroyRenderer};
-    Shown_Tile shown_;
+    std::optional<Shown_Tile> shown_{std::in_place};
 };
 
 } // namespace

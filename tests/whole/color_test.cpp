@@ -87,14 +87,6 @@ TEST_F(Color_Test, the_column_is_there_for_the_tools_that_use_its_colours) {
     }
 }
 
-TEST_F(Color_Test, colour_changes_are_no_steps_to_undo_and_change_no_file) {
-    const auto before = document().history().entries().size();
-    script().click({square.x + 9, square.y + 9}).click(red_less).click(variation(1, 5)).click(set_button);
-    play();
-    EXPECT_EQ(document().history().entries().size(), before);
-    EXPECT_FALSE(editor->documents().has_unsaved());
-}
-
 TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     tool_colors->set_color(Mouse_Button::left, {1, 2, 3, 4});
     tool_colors->set_color(Mouse_Button::right, {5, 6, 7});

@@ -50,21 +50,6 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
     }
 }
 
-TEST_F(Command_Test, of_a_feature_that_is_missing_says_so_by_name) {
-    // These are there, but have nothing that they could work on.
-    const std::vector<Command> refusing{Command::move_to_pad, Command::delete_brush, Command::use_as_brush,
-                                        Command::cut};
-    for (const Command_Row& row : command_table) {
-        const bool may_refuse = std::ranges::find(refusing, row.id) != refusing.end();
-        if (!may_refuse && execute_and_escape(row.id) == std::vector<std::string>{"dialog \"Note\""}) {
-            expect_message("Note", "Unhandled command " + std::string(row.name)).key(key::escape);
-            document().clear_modified();
-            execute(row.id);
-            EXPECT_FALSE(document().is_modified()) << row.name;
-        }
-    }
-}
-
 TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
     for (const Command_Row& row : command_table) {
         if (row.key != key::none) {

@@ -149,19 +149,5 @@ TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
     EXPECT_EQ(hint_at(cell(3, 4), script()).at(0), "No tile");
 }
 
-TEST_F(Help_Test, commands_on_the_tile_of_a_set_without_one_say_so) {
-    load_empty_set({24, 24});
-    for (const Command command : {Command::rotate, Command::anti_alias, Command::delete_tile,
-                                  Command::save_history_buffer, Command::versions}) {
-        SCOPED_TRACE(row_of(command).name);
-        expect_message("Note", "This set has no tile. Tileset, Add new tile makes one.").key(key::enter);
-        execute(command);
-    }
-    EXPECT_FALSE(document().is_modified());
-    execute(Command::line);
-    execute(Command::add_new_tile);
-    execute(Command::rotate);
-}
-
 } // namespace
 } // namespace quadrelle::testing

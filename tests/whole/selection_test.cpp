@@ -39,41 +39,6 @@ protected:
     }
 };
 
-TEST_F(Selection_Test, three_modes_say_what_becomes_of_a_paste) {
-    struct Row {
-        Selection_Mode mode;
-        bool floats_after_plot;
-        bool shows_under_pen;
-        bool is_plotted_by_pen;
-    };
-    for (const Row& row : {Row{Selection_Mode::standard, false, false, true},
-                           Row{Selection_Mode::persistent, true, false, true},
-                           Row{Selection_Mode::fixed, true, true, false}}) {
-        SCOPED_TRACE(static_cast<int>(row.mode));
-        tile().fill(red);
-        toolbox->options().selection_mode = row.mode;
-        select_rectangle({2, 2}, {6, 5});
-        execute(Command::copy);
-        execute(Command::deselect);
-        tile().fill(black);
-        execute(Command::paste);
-        execute(Command::pen);
-        EXPECT_EQ(count(red), row.is_plotted_by_pen ? 12 : 0);
-        EXPECT_EQ(pixel_at(cell(3, 3)), red);
-        tile().fill(black);
-        editor->redraw(Present::yes);
-        EXPECT_EQ(pixel_at(cell(3, 3)), row.shows_under_pen ? red : black);
-        EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);
-
-        execute(Command::paste);
-        tile().fill(black);
-        click({20, 20});
-        EXPECT_EQ(count(red), 12);
-        EXPECT_EQ(work().paste().has_value(), row.floats_after_plot);
-        work().drop_paste();
-    }
-}
-
 // The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
 class Copy_Panes_Test : public Selection_Test {
 protected:

@@ -293,6 +293,8 @@ private:
             perform(command, step);
         }
     }
+    void undo() { walk_history(Command::undo, &Session_Model::undo); }
+    void redo() { walk_history(Command::redo, &Session_Model::redo); }
     void choose_mode() {
         model_.mode = static_cast<Selection_Mode>(below(3));
         toolbox->options().selection_mode = model_.mode;
@@ -382,6 +384,7 @@ private:
         EXPECT_TRUE(same(paste.picture, expected.picture));
     }
 
+    using P = Tile_Point;
     // What is done more often stands here more than once.
     // clang-format off
     const std::vector<std::function<void()>> steps_{
@@ -395,18 +398,17 @@ private:
         [this] { change(Command::clear, [this] { model_.clear(); }); },
         [this] { draw(Command::pen, draw_line); }, [this] { draw(Command::line, draw_line); },
         [this] { draw(Command::rectangle, draw_rectangle); },
-        [this] { draw(Command::filled_rectangle, [](Drawing_Target& target, Tile_Point from, Tile_Point to, Color color) {
+        [this] { draw(Command::filled_rectangle, [](Drawing_Target& target, P from, P to, Color color) {
             draw_filled_rectangle(target, from, to, {color, color}); }); },
-        [this] { draw(Command::flood_fill, [](Drawing_Target& target, Tile_Point from, Tile_Point, Color color) {
+        [this] { draw(Command::flood_fill, [](Drawing_Target& target, P from, P, Color color) {
             flood_fill(target, from, color); }); },
-        [this] { transform(Command::mirror, [](Tile_Point to, Size s) -> Tile_Point { return {s.width - 1 - to.x, to.y}; }); },
-        [this] { transform(Command::flip, [](Tile_Point to, Size s) -> Tile_Point { return {to.x, s.height - 1 - to.y}; }); },
-        [this] { transform(Command::scroll_left, [](Tile_Point to, Size s) -> Tile_Point { return {(to.x + 1) % s.width, to.y}; }); },
-        [this] { transform(Command::scroll_up, [](Tile_Point to, Size s) -> Tile_Point { return {to.x, (to.y + 1) % s.height}; }); },
-        [this] { transform(Command::rotate, [](Tile_Point to, Size s) -> Tile_Point { return {to.y, s.width - 1 - to.x}; }); },
-        [this] { transform(Command::rotate_back, [](Tile_Point to, Size s) -> Tile_Point { return {s.width - 1 - to.y, to.x}; }); },
-        [this] { walk_history(Command::undo, &Session_Model::undo); }, [this] { walk_history(Command::undo, &Session_Model::undo); },
-        [this] { walk_history(Command::undo, &Session_Model::undo); }, [this] { walk_history(Command::redo, &Session_Model::redo); },
+        [this] { transform(Command::mirror, [](P to, Size s) -> P { return {s.width - 1 - to.x, to.y}; }); },
+        [this] { transform(Command::flip, [](P to, Size s) -> P { return {to.x, s.height - 1 - to.y}; }); },
+        [this] { transform(Command::scroll_left, [](P to, Size s) -> P { return {(to.x + 1) % s.width, to.y}; }); },
+        [this] { transform(Command::scroll_up, [](P to, Size s) -> P { return {to.x, (to.y + 1) % s.height}; }); },
+        [this] { transform(Command::rotate, [](P to, Size s) -> P { return {to.y, s.width - 1 - to.x}; }); },
+        [this] { transform(Command::rotate_back, [](P to, Size s) -> P { return {s.width - 1 - to.y, to.x}; }); },
+        [this] { undo(); }, [this] { undo(); }, [this] { undo(); }, [this] { redo(); },
         [this] { choose_mode(); }, [this] { click_in_strip(); },
         [this] { go_by(Command::next_tile, 1); }, [this] { go_by(Command::previous_tile, -1); },
         [this] { perform(Command::add_new_tile, &Session_Model::add_tile); },

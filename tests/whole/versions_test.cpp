@@ -132,20 +132,6 @@ TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
     EXPECT_EQ(steps(), 2U);
 }
 
-TEST_F(Versions_Test, belong_to_the_document_and_not_to_one_of_its_tiles) {
-    paint_probe();
-    store_in('1');
-    execute(Command::add_new_tile);
-    take_from('1');
-    EXPECT_EQ(floating()[24 * probe.y + probe.x], white);
-    EXPECT_EQ(document().tileset().current_index(), 1);
-
-    ASSERT_TRUE(editor->documents().new_document({24, 24}));
-    EXPECT_FALSE(document().versions().is_stored(0));
-    execute(Command::close);
-    EXPECT_TRUE(document().versions().is_stored(0));
-}
-
 TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
     paint_probe();
     tile().set_pixel(20, 20, {9, 8, 7, 6});
