@@ -10,7 +10,7 @@ if(test_sources)
     set_source_files_properties(tests/support/project_paths.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON
         COMPILE_DEFINITIONS "QUADRELLE_SOURCE_DIR=\"${CMAKE_SOURCE_DIR}\";QUADRELLE_PROGRAM=\"$<TARGET_FILE:quadrelle>\"")
     target_precompile_headers(quadrelle_tests PRIVATE <gtest/gtest.h> <algorithm> <array> <functional> <memory> <optional>
-        <span> <string> <string_view> <vector> <SDL3/SDL_events.h>)
+        <span> <string> <string_view> <vector>)
     quadrelle_options(quadrelle_tests)
     # A test program compiles faster unoptimised, and what takes time in it is the library.
     target_compile_options(quadrelle_tests PRIVATE $<$<AND:$<CONFIG:Debug>,$<NOT:$<BOOL:${QUADRELLE_SANITIZED}>>>:-O0>)
@@ -43,6 +43,7 @@ elseif(desktop_tests AND TARGET quadrelle)
             WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
         set_tests_properties(desktop.${name} PROPERTIES
             LABELS desktop TIMEOUT 120 RESOURCE_LOCK display
+            COST 100 # they take longest, so they begin first
             ENVIRONMENT "QUADRELLE_PROGRAM=$<TARGET_FILE:quadrelle>;QUADRELLE_SOURCE_DIR=${CMAKE_SOURCE_DIR}")
     endforeach()
 endif()
