@@ -2,8 +2,6 @@
 
 #include "tests/support/window_test.h"
 
-#include <cmath>
-
 namespace quadrelle::testing {
 namespace {
 
@@ -11,27 +9,18 @@ constexpr Point position{1026, 339};
 
 class Color_Handles_Test : public Window_Test {
 protected:
-    void SetUp() override {
-        Window_Test::SetUp();
-        handles_.emplace(position, [this](Color color) { handed_on_.push_back(color); });
-    }
-    void TearDown() override {
-        handles_.reset();
-        Window_Test::TearDown();
-    }
-
     // The middle of a button: 0 less, 1 middle, 2 more.
     static Point button(int row, int column) {
         return {position.x + 5 + 1 + 135 + 20 * column + 7, position.y + 26 + 1 + 17 * row + 8};
     }
     [[nodiscard]] Color after_press(Color from, int row, int column) {
-        handles_->set_color(from);
-        EXPECT_TRUE(handles_->click(button(row, column), [] {}));
+        handles_.set_color(from);
+        EXPECT_TRUE(handles_.click(button(row, column), [] {}));
         return handed_on_.back();
     }
 
-    std::optional<Color_Handles> handles_;
     std::vector<Color> handed_on_;
+    Color_Handles handles_{position, [this](Color color) { handed_on_.push_back(color); }};
 };
 
 constexpr Color mixed{40, 130, 250, 77};

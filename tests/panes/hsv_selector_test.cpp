@@ -16,26 +16,14 @@ constexpr Color unset{1, 2, 3, 4};
 
 class HSV_Selector_Test : public Window_Test {
 protected:
-    void SetUp() override {
-        Window_Test::SetUp();
-        selector_.emplace(position, [this](Mouse_Button side, Color color) {
-            picked_.push_back({side, color});
-        });
-    }
-    void TearDown() override {
-        selector_.reset();
-        Window_Test::TearDown();
-    }
-
     struct Picked {
         Mouse_Button side;
         Color color;
         bool operator==(const Picked&) const = default;
     };
 
-    [[nodiscard]] HSV_Selector& selector() { return *selector_; }
     [[nodiscard]] Point square(int x, int y) const {
-        return {selector_->square_rect().x + x, selector_->square_rect().y + y};
+        return {selector_.square_rect().x + x, selector_.square_rect().y + y};
     }
     // A press at the first point and motions to the others; the button is released at the end.
     bool drag(const std::vector<Point>& points, Mouse_Button side = Mouse_Button::left) {
@@ -44,20 +32,22 @@ protected:
             script.motion(points[i]).check([this] { seen_.push_back(last()); });
         }
         script.release(points.back(), side);
-        return selector_->click(side, points.front(), [this] { selector_->draw(); });
+        return selector_.click(side, points.front(), [this] { selector_.draw(); });
     }
     [[nodiscard]] Color last() const { return picked_.empty() ? unset : picked_.back().color; }
 
-    std::optional<HSV_Selector> selector_;
     std::vector<Picked> picked_;
     std::vector<Color> seen_; // the last picked colour after each motion
+    HSV_Selector selector_{position, [this](Mouse_Button side, Color color) {
+                               picked_.push_back({side, color});
+                           }};
 };
 
 // Straight lines between the corners: white and the hue above, black below. Both gradients truncate.
 TEST_F(HSV_Selector_Test, square_runs_from_white_and_the_hue_to_black) {
     for (const Color hue : {red, Color(0, 254, 255), Color(130, 0, 255)}) {
-        selector().set_hue(hue);
-        selector().draw();
+        selector_.set_hue(hue);
+        selector_.draw();
         for (int i = 0; i < 128 * 128; i += 3) {
             const double light = 1.0 - i / 128 / 127.0;
             const double share = i % 128 / 127.0;
@@ -88,7 +78,7 @@ TEST_F(HSV_Selector_Test, a_drag_from_the_square_stays_in_it_and_picks_for_its_s
                                  {{10, 20}, {-5, -5}, {0, 0}},
                                  {{10, 20}, {128, 128}, {127, 127}},
                                  {{10, 20}, {150, 64}, {127, 64}}}) {
-            selector().draw();
+            selector_.draw();
             const Color first = pixel_at(square(test.from.x, test.from.y));
             const Color held = pixel_at(square(test.held.x, test.held.y));
             picked_.clear();
@@ -102,7 +92,7 @@ TEST_F(HSV_Selector_Test, a_drag_from_the_square_stays_in_it_and_picks_for_its_s
 }
 
 TEST_F(HSV_Selector_Test, a_marker_stands_for_the_hidden_pointer_until_the_button_is_released) {
-    selector().draw();
+    selector_.draw();
     const Point ring{square(60, 60).x - 5 + 2, square(60, 60).y - 5 + 2};
     int held_outside = 0;
     const auto expect_marker = [&] {
@@ -117,10 +107,10 @@ TEST_F(HSV_Selector_Test, a_marker_stands_for_the_hidden_pointer_until_the_butto
         .key('a')
         .check(expect_marker)
         .release(square(60, 60));
-    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_TRUE(selector_.click(Mouse_Button::left, square(60, 60), [this] { selector_.draw(); }));
     EXPECT_EQ(held_outside, 2);
     EXPECT_EQ(current_cursor(), Cursor::shown);
-    selector().draw();
+    selector_.draw();
     EXPECT_LT(contrast(), 40);
 }
 
@@ -134,7 +124,7 @@ TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_even
             EXPECT_EQ((Point{static_cast<int>(x), static_cast<int>(y)}), square(127, 64));
         })
         .quit();
-    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_TRUE(selector_.click(Mouse_Button::left, square(60, 60), [this] { selector_.draw(); }));
     EXPECT_TRUE(script.is_played());
     EXPECT_FALSE(SDL_HasEvents(SDL_EVENT_QUIT, SDL_EVENT_MOUSE_WHEEL));
 
@@ -148,7 +138,7 @@ TEST_F(HSV_Selector_Test, the_pointer_is_brought_back_and_the_end_leaves_no_even
             SDL_PushEvent(&closed);
         })
         .motion(square(70, 70));
-    EXPECT_TRUE(selector().click(Mouse_Button::left, square(60, 60), [this] { selector().draw(); }));
+    EXPECT_TRUE(selector_.click(Mouse_Button::left, square(60, 60), [this] { selector_.draw(); }));
     EXPECT_FALSE(SDL_HasEvent(SDL_EVENT_MOUSE_MOTION));
     EXPECT_TRUE(SDL_HasEvent(SDL_EVENT_QUIT));
 }

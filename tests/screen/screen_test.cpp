@@ -13,10 +13,7 @@ constexpr Rectangle box{20, 30, 8, 6};
 
 class Screen_Test : public Window_Test {
 protected:
-    void SetUp() override {
-        Window_Test::SetUp();
-        screen->fill_rect({0, 0, 300, 200}, backdrop);
-    }
+    Screen_Test() { screen->fill_rect({0, 0, 300, 200}, backdrop); }
 };
 
 TEST_F(Screen_Test, fills_lines_and_outlines_cover_exactly_their_pixels) {

@@ -61,22 +61,20 @@ void use_dummy_video() {
     SDL_SetHintWithPriority(SDL_HINT_RENDER_DRIVER, "software", SDL_HINT_OVERRIDE);
 }
 
-void Window_Test::SetUp() {
+Window_Test::Window_Test() {
     use_dummy_video();
-    ASSERT_TRUE(SDL_Init(SDL_INIT_VIDEO)) << SDL_GetError();
-    folder_.emplace();
+    EXPECT_TRUE(SDL_Init(SDL_INIT_VIDEO)) << SDL_GetError();
     debug_monitor = std::make_unique<Debug_Monitor>();
-    ASSERT_TRUE(data_directory().enter(Data_Directory::inside));
+    EXPECT_TRUE(data_directory().enter(Data_Directory::inside));
     screen = std::make_unique<Screen>(Size{1232, 664});
     dialogs = std::make_unique<Dialogs>();
     data_directory().leave();
 }
 
-void Window_Test::TearDown() {
+Window_Test::~Window_Test() {
     dialogs.reset();
     screen.reset();
     debug_monitor.reset();
-    folder_.reset();
     SDL_Quit();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// Tests with a window that nobody sees: the screen, the dialogs and the log are there, nothing else is.
+// Tests with a window that nobody sees: the screen, the dialogs and the log are there, nothing else is. What
+// a fixture holds itself is made after them and gone before.
 
 #include "base/geometry.h"
 #include "color/color.h"
@@ -29,13 +30,13 @@ void use_dummy_video();
 
 class Window_Test : public ::testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    Window_Test();
+    ~Window_Test() override;
 
-    [[nodiscard]] Program_Folder& folder() { return *folder_; }
+    [[nodiscard]] Program_Folder& folder() { return folder_; }
 
 private:
-    std::optional<Program_Folder> folder_;
+    Program_Folder folder_;
 };
 
 } // namespace quadrelle::testing

@@ -65,20 +65,6 @@ TEST_F(Dialogs_Test, ask_takes_only_an_explicit_yes) {
     EXPECT_FALSE(answer([&](Script& user) { user.press({middle.x + half_width - 10, button_y(1)}); }));
 }
 
-TEST_F(Dialogs_Test, debug_monitor_fits_into_the_window) {
-    for (int i = 0; i < 100; ++i) {
-        trace(std::string(500, 'x'));
-    }
-    Script script;
-    script.check([] {
-        EXPECT_EQ(pixel_at({616, 2}), standard_color(Standard_Color::frame));
-        EXPECT_EQ(pixel_at({2, 332}), standard_color(Standard_Color::frame));
-        EXPECT_TRUE(has_picture({100, 30, 1000, 60}));
-    });
-    script.key(key::escape);
-    show_log();
-}
-
 TEST_F(Number_Prompt_Test, return_accepts_what_was_typed) {
     const auto typed = [this](std::string_view text, const std::vector<Keycode>& keys) {
         return answer([&](Script& user) {

@@ -16,17 +16,6 @@ constexpr Color clear_color{10, 20, 30};
 
 } // namespace
 
-TEST_F(Pane_Test, has_its_client_area_below_the_title) {
-    Pane pane({0, 0, 200, 100}, "Pane");
-    EXPECT_EQ(pane.area, (Rectangle{0, 0, 200, 121}));
-    EXPECT_EQ(pane.client_area(), (Rectangle{5, 26, 190, 90}));
-    pane.move(300, 40);
-    EXPECT_EQ(pane.client_area(), (Rectangle{305, 66, 190, 90}));
-    pane.resize(8, 30);
-    EXPECT_EQ(pane.client_area(), (Rectangle{305, 66, -2, -1}));
-    EXPECT_FALSE(pane.contains(305, 66));
-}
-
 TEST_F(Pane_Test, contains_its_left_and_top_edges_only) {
     const Pane pane({0, 0, 200, 100}, "Pane");
     EXPECT_TRUE(pane.contains(5, 26));

@@ -14,20 +14,16 @@ protected:
     // In the window's corner of 6 x 4 pixels.
     Art drawn(const Tile& tile, const Rectangle& area) {
         screen->fill_rect({0, 0, 12, 12}, black);
-        shown_->draw(tile, area);
+        shown_.draw(tile, area);
         Tile picture(6, 4);
         for (int i = 0; i < picture.pixel_count(); ++i) {
             picture.set_pixel_at(i, pixel_at({i % 6, i / 6}));
         }
         return art(picture);
     }
-    void TearDown() override {
-        shown_.reset();
-        Window_Test::TearDown();
-    }
 
 private:
-    std::optional<Shown_Tile> shown_{std::in_place};
+    Shown_Tile shown_;
 };
 
 } // namespace

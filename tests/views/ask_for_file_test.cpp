@@ -6,34 +6,24 @@
 namespace quadrelle::testing {
 namespace {
 
-struct Extension_Case {
-    std::string path;
-    std::string expected;
-};
-
 TEST(File_Dialog_Names, get_the_extension_of_their_kind) {
-    const std::vector<Extension_Case> cases{
-        {"/a/tiles", "/a/tiles.qdl"},
-        {"/a/tiles.qdl", "/a/tiles.qdl"},
-        {"/a/tiles.png", "/a/tiles.qdl"},
-        {"/a/tiles.", "/a/tiles.qdl"},
-        {"/a/a.b.png", "/a/a.b.qdl"},
-        {"/a.b/tiles", "/a.b/tiles.qdl"},
-        {"C:\\a.b\\tiles", "C:\\a.b\\tiles.qdl"},
-        {"/a/.tiles", "/a/.tiles.qdl"},
-        {"/a/tïles.ü", "/a/tïles.qdl"},
-    };
-    for (const Extension_Case& test : cases) {
-        EXPECT_EQ(with_extension(test.path, "qdl"), test.expected);
+    for (const auto& [path, expected] :
+         std::vector<std::pair<std::string, std::string>>{{"/a/tiles", "/a/tiles.qdl"},
+                                                          {"/a/tiles.qdl", "/a/tiles.qdl"},
+                                                          {"/a/tiles.png", "/a/tiles.qdl"},
+                                                          {"/a/tiles.", "/a/tiles.qdl"},
+                                                          {"/a/a.b.png", "/a/a.b.qdl"},
+                                                          {"/a.b/tiles", "/a.b/tiles.qdl"},
+                                                          {"C:\\a.b\\tiles", "C:\\a.b\\tiles.qdl"},
+                                                          {"/a/.tiles", "/a/.tiles.qdl"},
+                                                          {"/a/tïles.ü", "/a/tïles.qdl"}}) {
+        EXPECT_EQ(with_extension(path, "qdl"), expected);
     }
 }
 
 class File_Dialog_Test : public Window_Test {
 protected:
-    void TearDown() override {
-        set_file_chooser({});
-        Window_Test::TearDown();
-    }
+    ~File_Dialog_Test() override { set_file_chooser({}); }
 
     // The path that comes out, if any.
     static std::optional<std::string> choose(File_Dialog_Kind kind, const File_Answer& answer) {

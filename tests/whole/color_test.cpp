@@ -67,26 +67,6 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     EXPECT_EQ(right(), Color(253, 255, 255));
 }
 
-TEST_F(Color_Test, the_column_is_there_for_the_tools_that_use_its_colours) {
-    for (const Tool_Row& tool : tool_table) {
-        toolbox->select(tool.command);
-        // Other panes stand there.
-        if (toolbox->state().is_in_selection_group() || tool.id == Tool::stamp_brush) {
-            continue;
-        }
-        tool_colors->reset();
-        editor->redraw(Present::yes);
-        EXPECT_EQ(has_picture({1040, 210, 100, 100}), tool.uses_tool_colors) << tool.name;
-        EXPECT_EQ(has_picture({1031, 60, 17, 28}), tool.uses_tool_colors || tool.id == Tool::dropper);
-        script()
-            .click({square.x + 127, square.y})
-            .click(red_less)
-            .click(variation(0, 3), Mouse_Button::right);
-        play();
-        EXPECT_EQ(left() != white && right() != black, tool.uses_tool_colors) << tool.name;
-    }
-}
-
 TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     tool_colors->set_color(Mouse_Button::left, {1, 2, 3, 4});
     tool_colors->set_color(Mouse_Button::right, {5, 6, 7});

@@ -323,8 +323,8 @@ private:
         }
         model_.set().scroll_to(first);
     }
+    static Point cell_of(int tile) { return {32 + tile % 16 * 32, 32 + tile / 16 * 32}; }
     void arrange() {
-        const auto cell_of = [](int tile) { return Point{32 + tile % 16 * 32, 32 + tile / 16 * 32}; };
         const int one = below(model_.set().count());
         const int other = below(model_.set().count());
         const bool chooses = one_in(2);
@@ -332,6 +332,15 @@ private:
         script().key(chooses ? key::space : key::escape);
         execute(Command::arrange_select);
         model_.arrange(static_cast<std::size_t>(one), static_cast<std::size_t>(other), chooses);
+    }
+    // The tile on view stays shifted when it is clicked.
+    void choose_in_array() {
+        const int tile = below(model_.set().count());
+        script().press(cell_of(tile));
+        execute(Command::view_tile_array);
+        if (tile != static_cast<int>(model_.set().current)) {
+            model_.go_to(tile);
+        }
     }
     void save() {
         perform(Command::save_as, &Session_Model::end_shifts);
@@ -419,7 +428,7 @@ private:
         [this] { scroll_strip(Command::next_tile_strip, model_.set().first + 46); },
         [this] { scroll_strip(Command::previous_tile_strip, model_.set().first - 46); },
         [this] { scroll_strip(Command::rewind_strip, 0); }, [this] { scroll_strip(Command::forward_strip, 1000); },
-        [this] { arrange(); }, [this] { save(); }, [this] { one_in(2) ? new_set({24, 24}) : new_set({26, 26}); },
+        [this] { arrange(); }, [this] { choose_in_array(); }, [this] { save(); }, [this] { one_in(2) ? new_set({24, 24}) : new_set({26, 26}); },
         [this] { close_set(); }, [this] { show_next_set(); }, [this] { show_next_set(); },
     };
     // clang-format on

@@ -131,27 +131,6 @@ TEST_F(Set_Views_Test, real_size_repeats_the_tile_all_over_the_window) {
     EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
 }
 
-TEST_F(Set_Views_Test, tile_array_selects_the_tile_that_is_clicked) {
-    make(60);
-    script().key(key::tab).check([] {
-        EXPECT_EQ(pixel_at(grid_cell(0)), white);
-        EXPECT_EQ(pixel_at(in_cell(59)), image_pixel(59, 2));
-    });
-    script().press(in_cell(41));
-    canvas().work_area().invert_selection();
-    expect_loop("main").motion({5, 5});
-    play();
-    EXPECT_EQ(tileset().current_index(), 41);
-    EXPECT_FALSE(canvas().work_area().has_selection());
-    EXPECT_EQ(pixel_at(first_pixel), image_pixel(41, 0));
-    EXPECT_EQ(count_in_preview(image_pixel(41, 1)), 4);
-    ASSERT_EQ(history().entries().size(), 2U);
-    EXPECT_EQ(history().entries().back().kind, Command::change_tile);
-    EXPECT_EQ(history().entries().back().tile_index, 41);
-    execute(Command::undo);
-    EXPECT_EQ(tileset().current_index(), 0);
-}
-
 TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
     make(60);
     const std::vector<std::function<void()>> ends{
@@ -178,22 +157,6 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
     }
     EXPECT_FALSE(document().is_modified());
     EXPECT_EQ(history().entries().size(), 1U);
-}
-
-TEST_F(Set_Views_Test, tile_array_shows_the_tile_as_it_is_and_leaves_the_seam_tool_as_it_was) {
-    make(3);
-    execute(Command::horizontal_seam_tool);
-    ASSERT_NE(tile_pixel(2, 0), image_pixel(0, 2));
-    script().check([] { EXPECT_EQ(pixel_at(in_cell(0)), image_pixel(0, 2)); }).key(key::escape);
-    execute(Command::view_tile_array);
-    EXPECT_EQ(canvas().horizontal_seam_shift(), 2);
-    EXPECT_EQ(canvas().vertical_seam_shift(), no_seam_shift);
-    EXPECT_EQ(tile_pixel(0, 0), image_pixel(0, 2));
-
-    script().press(in_cell(2));
-    execute(Command::view_tile_array);
-    EXPECT_EQ(canvas().horizontal_seam_shift(), no_seam_shift);
-    expect_images({0, 1, 2});
 }
 
 TEST_F(Set_Views_Test, preview_follows_every_motion_of_a_stroke) {

@@ -11,18 +11,6 @@ protected:
     }
 };
 
-TEST_F(Stroke_Test, shows_the_pixels_it_paints_in_tile_window_and_title) {
-    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl");
-    play(script().drag({cell(2, 3), cell(6, 3), cell(6, 5)}));
-    EXPECT_EQ(count_of(white), 7);
-    for (const Tile_Point painted : {Tile_Point{2, 3}, {4, 3}, {6, 3}, {6, 4}, {6, 5}}) {
-        EXPECT_EQ(tile_pixel(painted.x, painted.y), white);
-        EXPECT_EQ(pixel_at(cell(painted.x, painted.y)), white);
-    }
-    EXPECT_EQ(pixel_at(cell(7, 5)), black);
-    EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled0.qdl*");
-}
-
 TEST_F(Stroke_Test, begins_on_the_strip_left_of_and_above_the_tile_but_not_beyond) {
     play(script().click({399, 205}).click({405, 191}).click({390, 225}).click({640, 225}).click({525, 440}));
     EXPECT_EQ(tile_pixel(0, 0), white);
