@@ -25,25 +25,21 @@ TEST(File_Names, lead_from_folder_to_folder) {
     EXPECT_EQ(parent_folder("/"), "");
     EXPECT_EQ(joined_path("/", "a"), "/a");
 
-    struct Case {
-        std::string typed;
-        std::string expected;
-    };
-    const std::vector<Case> cases{{"x", "/a/b/x"},
-                                  {"..", "/a"},
-                                  {"../../../..", "/"},
-                                  {"/", "/"},
-                                  {"/c//d/", "/c/d"},
-                                  {"./x/../y z", "/a/b/y z"},
-                                  {"/../x", "/x"},
-                                  {"...", "/a/b/..."},
-                                  {"\xff/ü", "/a/b/\xff/ü"},
-                                  {"../b/./.", "/a/b"},
-                                  {"x\\y", "/a/b/x\\y"},
-                                  {"", "/a/b"},
-                                  {"../.hidden", "/a/.hidden"}};
-    for (const Case& test : cases) {
-        EXPECT_EQ(resolved_path("/a/b", test.typed), test.expected) << test.typed;
+    for (const auto& [typed, expected] :
+         std::vector<std::pair<std::string, std::string>>{{"x", "/a/b/x"},
+                                                          {"..", "/a"},
+                                                          {"../../../..", "/"},
+                                                          {"/", "/"},
+                                                          {"/c//d/", "/c/d"},
+                                                          {"./x/../y z", "/a/b/y z"},
+                                                          {"/../x", "/x"},
+                                                          {"...", "/a/b/..."},
+                                                          {"\xff/ü", "/a/b/\xff/ü"},
+                                                          {"../b/./.", "/a/b"},
+                                                          {"x\\y", "/a/b/x\\y"},
+                                                          {"", "/a/b"},
+                                                          {"../.hidden", "/a/.hidden"}}) {
+        EXPECT_EQ(resolved_path("/a/b", typed), expected) << typed;
     }
 }
 

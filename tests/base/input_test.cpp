@@ -5,31 +5,26 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
+#include <vector>
 
 namespace quadrelle {
 namespace {
 
-struct Modifier_Case {
-    SDL_Keymod held;
-    Modifier expected;
-};
-
 TEST(Key_Chord, has_the_strongest_modifier_of_either_side) {
-    constexpr std::array cases{
-        Modifier_Case{SDL_KMOD_NONE, Modifier::none},
-        Modifier_Case{SDL_KMOD_RSHIFT, Modifier::shift},
-        Modifier_Case{SDL_KMOD_RCTRL, Modifier::control},
-        Modifier_Case{SDL_KMOD_RALT, Modifier::alt},
-        Modifier_Case{SDL_KMOD_LSHIFT | SDL_KMOD_LCTRL | SDL_KMOD_LALT, Modifier::shift},
-        Modifier_Case{SDL_KMOD_LCTRL | SDL_KMOD_RALT, Modifier::control},
-        Modifier_Case{SDL_KMOD_NUM | SDL_KMOD_CAPS | SDL_KMOD_LGUI, Modifier::none},
-        Modifier_Case{SDL_KMOD_NUM | SDL_KMOD_LALT, Modifier::alt},
-    };
-    for (const Modifier_Case& test : cases) {
+    for (const auto& [held, expected] : std::vector<std::pair<SDL_Keymod, Modifier>>{
+             {SDL_KMOD_NONE, Modifier::none},
+             {SDL_KMOD_RSHIFT, Modifier::shift},
+             {SDL_KMOD_RCTRL, Modifier::control},
+             {SDL_KMOD_RALT, Modifier::alt},
+             {SDL_KMOD_LSHIFT | SDL_KMOD_LCTRL | SDL_KMOD_LALT, Modifier::shift},
+             {SDL_KMOD_LCTRL | SDL_KMOD_RALT, Modifier::control},
+             {SDL_KMOD_NUM | SDL_KMOD_CAPS | SDL_KMOD_LGUI, Modifier::none},
+             {SDL_KMOD_NUM | SDL_KMOD_LALT, Modifier::alt}}) {
         SDL_Event event{.type = SDL_EVENT_KEY_DOWN};
         event.key.key = SDLK_A;
-        event.key.mod = test.held;
-        EXPECT_EQ(input_event_of(event).chord, (Key_Chord{'a', test.expected})) << test.held;
+        event.key.mod = held;
+        EXPECT_EQ(input_event_of(event).chord, (Key_Chord{'a', expected})) << held;
     }
 }
 

@@ -9,22 +9,16 @@
 namespace quadrelle {
 
 TEST(hex_color, reads_what_people_write) {
-    struct Row {
-        std::string_view text;
-        Color color;
-    };
-    const std::array rows = {
-        Row{"#61127c", {0x61, 0x12, 0x7c}},
-        Row{"61127C", {0x61, 0x12, 0x7c}},
-        Row{" \t#61127c80\r\n", {0x61, 0x12, 0x7c, 0x80}},
-        Row{"00000000", {0, 0, 0, 0}},
-        Row{"FFFFFFFF", {255, 255, 255}},
-        Row{"#1aF", {0x11, 0xaa, 0xff}},
-        Row{"000", {0, 0, 0}},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(read_hex(row.text).color, row.color) << row.text;
-        EXPECT_EQ(read_hex(row.text).refusal, "") << row.text;
+    for (const auto& [text, color] :
+         std::vector<std::pair<std::string_view, Color>>{{"#61127c", {0x61, 0x12, 0x7c}},
+                                                         {"61127C", {0x61, 0x12, 0x7c}},
+                                                         {" \t#61127c80\r\n", {0x61, 0x12, 0x7c, 0x80}},
+                                                         {"00000000", {0, 0, 0, 0}},
+                                                         {"FFFFFFFF", {255, 255, 255}},
+                                                         {"#1aF", {0x11, 0xaa, 0xff}},
+                                                         {"000", {0, 0, 0}}}) {
+        EXPECT_EQ(read_hex(text).color, color) << text;
+        EXPECT_EQ(read_hex(text).refusal, "") << text;
     }
 }
 

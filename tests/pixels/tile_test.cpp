@@ -62,29 +62,4 @@ TEST(Tile, replaces_only_the_nine_pixels_around) {
     EXPECT_EQ(art(tile), (Art{"zzza", "zbza", "zzza", "aaay"}));
 }
 
-TEST(Tile, stores_pixels_as_alpha_blue_green_red) {
-    const std::array<std::uint8_t, 8> bytes = {4, 3, 2, 1, 8, 7, 6, 5};
-    Tile tile(2, 1);
-    tile.read_pixels(bytes);
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{1, 2, 3, 4}));
-    EXPECT_EQ(tile.get_pixel(1, 0), (Color{5, 6, 7, 8}));
-    std::array<std::uint8_t, 8> written = {};
-    tile.write_pixels(written);
-    EXPECT_EQ(written, bytes);
-    tile.read_pixels(std::span(bytes).first(3));
-    EXPECT_EQ(tile.get_pixel(0, 0), (Color{1, 2, 3, 4}));
-}
-
-TEST(Tile, copies_are_independent_and_swaps_exchange) {
-    Tile first = make_tile({"ab"});
-    Tile second(first);
-    second.set_pixel(0, 0, art_color('z'));
-    first.swap_pixels(second);
-    EXPECT_EQ(art(first), (Art{"zb"}));
-    EXPECT_EQ(art(second), (Art{"ab"}));
-    first.swap_pixels(first);
-    second.copy_to(first);
-    EXPECT_EQ(art(first), (Art{"ab"}));
-}
-
 } // namespace quadrelle::testing

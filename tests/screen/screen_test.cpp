@@ -57,14 +57,5 @@ TEST_F(Screen_Test, text_breaks_its_lines) {
     EXPECT_TRUE(has_picture({100, 20 + 2 * line, 10, line}));
 }
 
-TEST_F(Screen_Test, window_carries_product_and_version_in_its_title) {
-    SDL_Window* window = SDL_GetRenderWindow(screen->renderer());
-    EXPECT_STREQ(SDL_GetWindowTitle(window), "Quadrelle");
-    screen->set_title("tïles.qdl*");
-    EXPECT_STREQ(SDL_GetWindowTitle(window), "Quadrelle 0.90 - tïles.qdl*");
-    EXPECT_EQ(screen->text_rows(), 28);
-    EXPECT_FALSE(screen->renderer_name().empty());
-}
-
 } // namespace
 } // namespace quadrelle::testing

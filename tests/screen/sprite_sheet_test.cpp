@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quadrelle {
@@ -10,22 +12,21 @@ namespace {
 
 constexpr int glyph_height = 2;
 
+constexpr std::array<Rgba_Quad, 6> kinds{{{0, 255, 0, 255},
+                                          {255, 255, 0, 255},
+                                          {0, 0, 255, 255},
+                                          {0, 254, 0, 255},
+                                          {255, 255, 1, 255},
+                                          {1, 0, 255, 255}}};
+
 // 'G' green, 'Y' yellow and 'B' blue markers, 'g', 'y' and 'b' almost, anything else none. One string a row.
 Surface marked(const std::vector<std::string>& rows) {
     Surface sheet(
         Size{static_cast<int>(rows.front().size()), static_cast<int>(rows.size()) * (glyph_height + 1)});
     for (std::size_t row = 0; row < rows.size(); ++row) {
         for (std::size_t x = 0; x < rows[row].size(); ++x) {
-            Rgba_Quad pixel{40, 40, 40, 255};
-            switch (rows[row][x]) {
-            case 'G': pixel = {0, 255, 0, 255}; break;
-            case 'Y': pixel = {255, 255, 0, 255}; break;
-            case 'B': pixel = {0, 0, 255, 255}; break;
-            case 'g': pixel = {0, 254, 0, 255}; break;
-            case 'y': pixel = {255, 255, 1, 255}; break;
-            case 'b': pixel = {1, 0, 255, 255}; break;
-            default: break;
-            }
+            const std::size_t kind = std::string_view("GYBgyb").find(rows[row][x]);
+            const Rgba_Quad pixel = kind < kinds.size() ? kinds.at(kind) : Rgba_Quad{40, 40, 40, 255};
             sheet.set_pixel(static_cast<int>(x), static_cast<int>(row) * (glyph_height + 1), pixel);
         }
     }

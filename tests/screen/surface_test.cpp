@@ -42,27 +42,5 @@ TEST(Surface_Test, loads_the_key_colour_as_transparent_and_all_else_as_opaque) {
     EXPECT_EQ(plain.get_pixel(3, 0), (Rgba_Quad{1, 2, 3, 255}));
 }
 
-TEST(Surface_Test, files_that_are_no_bitmaps_are_fatal) {
-    const Temporary_Folder folder;
-    const std::string path = folder.path("no.bmp");
-    const std::string message = "Could not load SDL surface from %s. " + path;
-    EXPECT_FATAL(const Surface missing(path), message);
-    store(path, {'B', 'M', 1, 2, 3});
-    EXPECT_FATAL(const Surface wrong(path), message);
-}
-
-TEST(Surface_Test, blits_around_its_key) {
-    Surface source(Size{2, 1});
-    source.fill({1, 2, 3, 255});
-    source.set_pixel(0, 0, magenta);
-    source.set_color_key(255, 0, 255);
-    Surface target(Size{4, 1});
-    target.fill({7, 7, 7, 255});
-    source.blit_to(target, {0, 0, 2, 1}, {1, 0, 2, 1});
-    EXPECT_EQ(target.get_pixel(1, 0), (Rgba_Quad{7, 7, 7, 255}));
-    EXPECT_EQ(target.get_pixel(2, 0), (Rgba_Quad{1, 2, 3, 255}));
-    EXPECT_EQ(target.get_pixel(3, 0), (Rgba_Quad{7, 7, 7, 255}));
-}
-
 } // namespace
 } // namespace quadrelle::testing

@@ -6,9 +6,10 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <map>
+#include <iterator>
 #include <set>
 #include <string_view>
+#include <utility>
 
 namespace quadrelle::testing {
 namespace {
@@ -47,44 +48,31 @@ Findings upward_includes(const std::vector<Include>& includes) {
     return findings;
 }
 
-class Circle_Search {
-public:
-    explicit Circle_Search(const std::vector<Include>& includes) {
-        for (const Include& include : includes) {
-            if (unit_of(include.from) != unit_of(include.to)) {
-                targets_[unit_of(include.from)].insert(unit_of(include.to));
-            }
-        }
+// What is left when units that include none of the others, or that none of the others includes, go one after
+// the other.
+std::set<std::string> units_in_circles(const std::vector<Include>& includes) {
+    std::set<std::pair<std::string, std::string>> edges;
+    for (const Include& include : includes) {
+        edges.insert({unit_of(include.from), unit_of(include.to)});
     }
-
-    Findings circles() {
-        for (const auto& [unit, ignored] : targets_) {
-            visit(unit);
+    std::erase_if(edges, [](const auto& edge) { return edge.first == edge.second; });
+    std::set<std::string> left;
+    for (std::size_t before = edges.size() + 1; edges.size() < before;) {
+        before = edges.size();
+        std::set<std::string> including;
+        std::set<std::string> included;
+        for (const auto& [from, to] : edges) {
+            including.insert(from);
+            included.insert(to);
         }
-        return findings_;
+        left.clear();
+        std::ranges::set_intersection(including, included, std::inserter(left, left.begin()));
+        std::erase_if(edges, [&](const auto& edge) {
+            return !left.contains(edge.first) || !left.contains(edge.second);
+        });
     }
-
-private:
-    void visit(const std::string& unit) {
-        const auto start = std::ranges::find(open_, unit);
-        if (start != open_.end()) {
-            std::string finding = "circle: ";
-            std::for_each(start, open_.end(), [&](const std::string& step) { finding += step + " -> "; });
-            findings_.push_back(finding + unit);
-        } else if (visited_.insert(unit).second) {
-            open_.push_back(unit);
-            for (const std::string& target : targets_[unit]) {
-                visit(target);
-            }
-            open_.pop_back();
-        }
-    }
-
-    std::map<std::string, std::set<std::string>> targets_;
-    std::set<std::string> visited_;
-    std::vector<std::string> open_;
-    Findings findings_;
-};
+    return left;
+}
 
 std::vector<Include> read_includes() {
     constexpr std::string_view start = "#include \"";
@@ -108,7 +96,7 @@ TEST(Include_Ladder, sources_include_downwards_only) {
     const std::vector<Include> includes = read_includes();
     EXPECT_FALSE(includes.empty());
     EXPECT_EQ(upward_includes(includes), Findings());
-    EXPECT_EQ(Circle_Search(includes).circles(), Findings());
+    EXPECT_EQ(units_in_circles(includes), std::set<std::string>());
 }
 
 TEST(Include_Ladder, finds_what_breaks_it) {
@@ -116,8 +104,8 @@ TEST(Include_Ladder, finds_what_breaks_it) {
                                {"main.cpp", "app/start_up.h"},
                                {"tools/pens.cpp", "ui/pane.h"}}),
               Findings{"tools/pens.cpp includes ui/pane.h, which stands above it"});
-    EXPECT_EQ(Circle_Search({{"a.cpp", "a.h"}, {"a.h", "b.h"}, {"b.cpp", "c.h"}, {"c.h", "b.h"}}).circles(),
-              Findings{"circle: b -> c -> b"});
+    EXPECT_EQ(units_in_circles({{"a.cpp", "a.h"}, {"a.h", "b.h"}, {"b.cpp", "c.h"}, {"c.h", "b.h"}}),
+              (std::set<std::string>{"b", "c"}));
 }
 
 } // namespace

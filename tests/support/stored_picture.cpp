@@ -31,21 +31,15 @@ Tile read_picture(const std::string& path) {
 }
 
 std::string differences(const Tile& shown, const Tile& stored) {
-    int count = 0;
-    Point first{shown.width(), shown.height()};
-    Point last;
+    std::vector<int> differing;
     for (int i = 0; i < shown.pixel_count(); ++i) {
         if (shown.get_pixel_at(i) != stored.get_pixel_at(i)) {
-            const Point point{i % shown.width(), i / shown.width()};
-            first = {std::min(first.x, point.x), std::min(first.y, point.y)};
-            last = {std::max(last.x, point.x), std::max(last.y, point.y)};
-            ++count;
+            differing.push_back(i);
         }
     }
-    const auto text = [](Point point) {
-        return "(" + std::to_string(point.x) + ", " + std::to_string(point.y) + ")";
-    };
-    return std::to_string(count) + " pixels differ, from " + text(first) + " to " + text(last);
+    return std::to_string(differing.size()) + " pixels differ, the first at " +
+           std::to_string(differing.front() % shown.width()) + ", " +
+           std::to_string(differing.front() / shown.width());
 }
 
 } // namespace

@@ -11,7 +11,6 @@ namespace quadrelle {
 namespace {
 
 constexpr int visible = 51;
-constexpr int page = 46;
 
 Tileset tileset_of(int count) {
     Tileset tileset({1, 1}, count);
@@ -19,33 +18,6 @@ Tileset tileset_of(int count) {
         tileset.add_tile();
     }
     return tileset;
-}
-
-TEST(Tile_Strip, pages_between_the_first_tile_and_the_last_ones) {
-    for (int count = 0; count < 320; ++count) {
-        SCOPED_TRACE(std::to_string(count) + " tiles");
-        const Tileset tileset = tileset_of(count);
-        const int last_first = std::max(count - visible, 0);
-        Tile_Strip strip(tileset);
-        strip.page_back();
-        EXPECT_EQ(strip.first(), 0);
-        for (int expected = 0; expected < last_first; expected = std::min(expected + page, last_first)) {
-            EXPECT_EQ(strip.first(), expected);
-            EXPECT_EQ(strip.is_at_end(), expected + visible >= count - 1);
-            strip.page_forward();
-        }
-        EXPECT_EQ(strip.first(), last_first);
-        strip.page_forward();
-        EXPECT_EQ(strip.first(), last_first);
-        EXPECT_TRUE(strip.is_at_end());
-        EXPECT_EQ(strip.is_at_start(), count <= visible);
-        strip.page_back();
-        EXPECT_EQ(strip.first(), std::max(last_first - page, 0));
-        strip.forward();
-        EXPECT_EQ(strip.first(), last_first);
-        strip.rewind();
-        EXPECT_EQ(strip.first(), 0);
-    }
 }
 
 TEST(Tile_Strip, knows_the_tile_in_a_cell) {

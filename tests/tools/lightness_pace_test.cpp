@@ -18,17 +18,4 @@ TEST(Lightness_Pace, waits_longer_than_its_interval) {
     EXPECT_EQ(lightness_interval({Lightness_Speed::extremely_fast, Size_Compensation::on, {}}, 1), 4);
 }
 
-TEST(Lightness_Pace, gives_each_button_a_direction) {
-    const Lightness_Pace left_lightens;
-    const Lightness_Pace left_darkens{{}, {}, Button_Order::left_darkens};
-    const auto step = [](const Lightness_Pace& pace, Mouse_Button button) {
-        return lightness_step(100, 0, pace, 1, button);
-    };
-    EXPECT_EQ(step(left_lightens, Mouse_Button::left), Pixel_Operation::lighten);
-    EXPECT_EQ(step(left_lightens, Mouse_Button::right), Pixel_Operation::darken);
-    EXPECT_EQ(step(left_darkens, Mouse_Button::left), Pixel_Operation::darken);
-    EXPECT_EQ(step(left_darkens, Mouse_Button::right), Pixel_Operation::lighten);
-    EXPECT_EQ(step(left_lightens, Mouse_Button::none), std::nullopt);
-}
-
 } // namespace quadrelle

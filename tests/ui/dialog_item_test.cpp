@@ -29,18 +29,6 @@ private:
 
 } // namespace
 
-TEST(Cyclic_Int, wraps_around_between_its_bounds) {
-    Cyclic_Int number(8, 1, 8);
-    number.increase();
-    EXPECT_EQ(number.value(), 1);
-    number.decrease();
-    EXPECT_EQ(number.value(), 8);
-    number.set(100);
-    EXPECT_EQ(number.value(), 1);
-    number.set(-100);
-    EXPECT_EQ(number.value(), 8);
-}
-
 TEST(Cyclic_Int, never_takes_the_mark_for_no_value) {
     Cyclic_Int below(0, -5, 5);
     below.decrease();

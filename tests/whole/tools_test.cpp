@@ -120,18 +120,5 @@ TEST_F(Tools_Test, draw_as_their_option_rows_say) {
     }
 }
 
-// The loop goes on by itself while the pointer stays.
-TEST_F(Tools_Test, lightness_pen_goes_on_while_its_button_is_held) {
-    document().tileset().current_tile()->fill(Color(100, 100, 100));
-    execute(Command::lightness_pen);
-    script().press(cell(4, 4)).pause(20).pause(20);
-    script().check([] { EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106)); });
-    script().check([] { EXPECT_EQ(pixel_at(cell(4, 4)), Color(106, 106, 106)); });
-    play(script().release(cell(4, 4)));
-    EXPECT_EQ(tile_pixel(4, 4), Color(106, 106, 106));
-    play(script().press(cell(9, 4), Mouse_Button::right).pause(20).release(cell(9, 4), Mouse_Button::right));
-    EXPECT_LT(tile_pixel(9, 4).r, 100);
-}
-
 } // namespace
 } // namespace quadrelle::testing
