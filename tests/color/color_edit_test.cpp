@@ -51,26 +51,6 @@ TEST(color_edit, keeps_the_hue_through_every_grey) {
     }
 }
 
-TEST(color_edit, stops_or_wraps_at_both_ends_of_every_number) {
-    for (const Color_Channel_Row& row : color_channels) {
-        SCOPED_TRACE(row.name);
-        const bool wraps = row.id == Color_Channel::hue;
-        Color_Edit edit(Color(97, 18, 124, 200));
-        edit.set_number(row.id, row.high + 1000);
-        EXPECT_EQ(edit.number(row.id), row.high);
-        edit.step(row.id, 1);
-        EXPECT_EQ(edit.number(row.id), wraps ? 0 : row.high);
-        edit.set_number(row.id, -1000);
-        EXPECT_EQ(edit.number(row.id), 0);
-        edit.step(row.id, -10);
-        EXPECT_EQ(edit.number(row.id), wraps ? 350 : 0);
-        for (int number = 0; number <= row.high; ++number) {
-            edit.set_number(row.id, number);
-            EXPECT_EQ(edit.number(row.id), number);
-        }
-    }
-}
-
 // Also through numbers that leave nothing to see of it.
 TEST(color_edit, one_component_leaves_the_others) {
     constexpr std::array components{Color_Channel::hue, Color_Channel::saturation, Color_Channel::value};

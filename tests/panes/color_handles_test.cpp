@@ -32,22 +32,19 @@ TEST_F(Color_Handles_Test, channels_step_by_one_and_stop_at_their_bounds) {
             channels.at(static_cast<std::size_t>(row)) = level;
             return Color(channels[0], channels[1], channels[2], channels[3]);
         };
-        struct Case {
-            int before, button, after;
-        };
-        for (const Case& test : {Case{0, 0, 0},
-                                 {1, 0, 0},
-                                 {200, 0, 199},
-                                 {255, 0, 254},
-                                 {0, 1, 128},
-                                 {128, 1, 128},
-                                 {255, 1, 128},
-                                 {0, 2, 1},
-                                 {200, 2, 201},
-                                 {254, 2, 255},
-                                 {255, 2, 255}}) {
-            EXPECT_EQ(after_press(with(test.before), row, test.button), with(test.after))
-                << row << ": " << test.before << ", button " << test.button;
+        for (const auto& [before, column, after] : std::vector<std::array<int, 3>>{{0, 0, 0},
+                                                                                   {1, 0, 0},
+                                                                                   {200, 0, 199},
+                                                                                   {255, 0, 254},
+                                                                                   {0, 1, 128},
+                                                                                   {128, 1, 128},
+                                                                                   {255, 1, 128},
+                                                                                   {0, 2, 1},
+                                                                                   {200, 2, 201},
+                                                                                   {254, 2, 255},
+                                                                                   {255, 2, 255}}) {
+            EXPECT_EQ(after_press(with(before), row, column), with(after))
+                << row << ": " << before << ", button " << column;
         }
     }
 }

@@ -70,20 +70,6 @@ TEST_F(Copy_Panes_Test, a_click_makes_a_previous_copy_current) {
     EXPECT_EQ(editor->copies().current_index(), 3U);
 }
 
-TEST_F(Copy_Panes_Test, stay_inside_the_window_beside_every_tool) {
-    make_copies();
-    for (const Command command : {Command::rectangle_selector, Command::circle_selector,
-                                  Command::brush_selector, Command::wand_selector, Command::work_selection}) {
-        execute(command);
-        const int y = std::min(toolbox->entry_top(), 632 - 361);
-        play(script().click({first_copy.x + 64, first_copy.y - 266 + y}));
-        EXPECT_EQ(editor->copies().current_index(), 2U) << menu_text(command);
-        play(script().click({first_copy.x, first_copy.y - 266 + y}));
-        EXPECT_EQ(editor->copies().current_index(), 0U) << menu_text(command);
-        EXPECT_EQ(pixel_at({1030, 634}), pixel_at({1030, 200}));
-    }
-}
-
 TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
     // Two rows of four: Copy, Cut, Paste, Clone; Clear, Fill, Invert, Deselect.
     const auto press = [&](int column, int row) {

@@ -114,7 +114,6 @@ TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
         play();
         EXPECT_EQ(tile_picture(), before);
     };
-    leave([&] { script().key(key::escape); });
     leave([&] { script().quit(); });
     leave([&] { script().press({layout().dialog.x - 1, layout().dialog.y + 40}); });
     leave([&] { script().press({layout().dialog.right(), layout().dialog.y + 40}, Mouse_Button::right); });

@@ -51,44 +51,39 @@ TEST_F(View_Test, pans_with_control_and_the_right_button) {
     EXPECT_FALSE(document().is_modified());
 }
 
-struct Pan_Case {
-    const char* name;
-    std::function<void(Script&)> before;
-    bool pans;
-};
-
 TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
-    const std::vector<Pan_Case> cases{
-        {"without control", [](Script&) {}, false},
-        {"control", [](Script& s) { s.key(key::right_control, Modifier::control); }, true},
-        {"released", [](Script& s) { s.key(key::left_control, Modifier::control).key_up(key::left_control); },
-         false},
-        {"another key released",
-         [](Script& s) { s.key(key::left_control, Modifier::control).key_up('q', Modifier::control); },
-         false},
-        {"shift and control", [](Script& s) { s.key(key::left_control, Modifier::shift); }, false},
-        {"control and then shift",
-         [](Script& s) { s.key(key::left_control, Modifier::control).key(key::left_shift, Modifier::shift); },
-         true},
-        {"released while a menu was open",
-         [](Script& s) {
-             s.key(key::left_control, Modifier::control)
-                 .press({20, 12})
-                 .key_up(key::left_control)
-                 .key(key::escape)
-                 .motion({500, 300});
-         },
-         false},
-        {"alt", [](Script& s) { s.key(key::left_alt, Modifier::alt); }, false},
-        {"control with an unused key", [](Script& s) { s.key('q', Modifier::control); }, true},
+    struct Row {
+        bool pans;
+        std::vector<Key_Chord> pressed;
+        Keycode released = key::none;
     };
-    for (const Pan_Case& test : cases) {
-        SCOPED_TRACE(test.name);
-        test.before(script());
+    constexpr Key_Chord control{key::left_control, Modifier::control};
+    const std::vector<Row> rows{
+        {false, {}},
+        {true, {{key::right_control, Modifier::control}}},
+        {false, {control}, key::left_control},
+        {false, {control}, 'q'},
+        {false, {{key::left_control, Modifier::shift}}},
+        {true, {control, {key::left_shift, Modifier::shift}}},
+        {false, {{key::left_alt, Modifier::alt}}},
+        {true, {{'q', Modifier::control}}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(&row - rows.data());
+        for (const Key_Chord& chord : row.pressed) {
+            script().key(chord.key, chord.modifier);
+        }
+        if (row.released != key::none) {
+            script().key_up(row.released);
+        }
         script().press({500, 300}, Mouse_Button::right);
-        expect_loop(test.pans ? "pan" : "stroke").release({500, 300}, Mouse_Button::right);
+        expect_loop(row.pans ? "pan" : "stroke").release({500, 300}, Mouse_Button::right);
         play();
     }
+    // The release may come while a menu is open.
+    script().key(key::left_control, Modifier::control).press({20, 12}).key_up(key::left_control);
+    script().key(key::escape).motion({500, 300}).press({500, 300}, Mouse_Button::right);
+    expect_loop("stroke").release({500, 300}, Mouse_Button::right);
     // A pan disarms too, and the left button never pans.
     script().key(key::left_control, Modifier::control).press({500, 300});
     expect_loop("stroke").release({500, 300}).click({500, 300}, Mouse_Button::right);
