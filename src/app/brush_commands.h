@@ -13,7 +13,7 @@ namespace brush_commands {
 Outcome use_as_brush(Editor_Parts& editor);
 Outcome move_to_pad(Editor_Parts& editor);
 Outcome delete_brush(Editor_Parts& editor);
-// 0 to 5.
+// `size_index` goes from 0 to 5.
 Outcome select_size(Editor_Parts& editor, int size_index);
 
 } // namespace brush_commands

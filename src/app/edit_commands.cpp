@@ -1,7 +1,7 @@
 #include "app/edit_commands.h"
 
 #include "app/editor_parts.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
 #include "views/undo_list.h"

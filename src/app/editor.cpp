@@ -5,7 +5,7 @@
 #include "app/key_press.h"
 #include "app/mouse_press.h"
 #include "commands/command_table.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "screen/events.h"
 #include "screen/screen.h"

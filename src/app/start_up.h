@@ -4,7 +4,7 @@
 
 namespace quadrelle {
 
-// From start-up to shut-down; fatal when the start fails. The current folder must hold "data".
+// Runs from start-up to shut-down; fatal when the start fails. The current folder must hold "data".
 void run_application();
 
 // The two ends of it, for tests that drive the editor between them.

@@ -2,7 +2,7 @@
 
 #include "app/editor_parts.h"
 #include "app/tile_commands.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "views/color_editor.h"
 

@@ -2,7 +2,7 @@
 
 #include "app/documents.h"
 #include "canvas/canvas_view.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "screen/events.h"
 #include "tools/options.h"

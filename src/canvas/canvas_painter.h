@@ -50,7 +50,7 @@ struct Canvas_Picture {
     const Cell_Marker* row_marker = nullptr;
 };
 
-// Of the grid lines along a pixel, as translucent as the pixel itself.
+// Returns the colour of the grid lines along a pixel, as translucent as the pixel itself.
 [[nodiscard]] Color grid_color(Color pixel, int intensity);
 
 class Canvas_Painter {

@@ -59,19 +59,20 @@ public:
 
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
-    // False without a tile.
+    // Returns false without a tile.
     bool toggle_seam_shift(Seam seam);
     void undo_seam_shifts();
-    // For work on the tile as it really is, which leaves its size and stays on view.
+    // Does the work on the tile as it really is; the work leaves its size and keeps it on view.
     void with_tile_in_place(const std::function<void()>& work);
-    // In pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small tile.
+    // Return the shift in pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small
+    // tile.
     [[nodiscard]] int horizontal_seam_shift() const { return horizontal_seam_shift_; }
     [[nodiscard]] int vertical_seam_shift() const { return vertical_seam_shift_; }
 
-    // False, with nothing changed, outside of the smallest and the largest size.
+    // Returns false, with nothing changed, outside of the smallest and the largest size.
     bool set_pixel_size(int pixel_size);
     [[nodiscard]] int pixel_size() const { return pixel_size_; }
-    // By one pixel size, about the tile's centre.
+    // Changes the pixel size by one, about the tile's centre.
     bool zoom(Zoom_Step step);
     // A tile larger than the viewport shows its top-left corner.
     void centre();
@@ -79,7 +80,7 @@ public:
     // The tile follows the pointer until a button is released; `redraw` draws and presents the window.
     void pan(const std::function<void()>& redraw);
 
-    // In window pixels.
+    // Both are in window pixels.
     [[nodiscard]] Point origin() const { return origin_; }
     [[nodiscard]] Size magnified_size() const;
     // The cell under a window position, truncated toward zero: the strip one cell wide just left of or above

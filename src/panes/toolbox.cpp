@@ -5,7 +5,7 @@
 #include "base/data_stream.h"
 #include "color/standard_colors.h"
 #include "panes/command_icons.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "screen/screen.h"
 #include "ui/window_layout.h"
 

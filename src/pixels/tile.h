@@ -15,7 +15,7 @@ namespace quadrelle {
 // Width and height may be 0; then there is no pixel to work on.
 class Tile {
 public:
-    // Opaque black. Throws std::length_error for a negative size or more pixels than an int counts.
+    // Makes it opaque black. Throws std::length_error for a negative size or more pixels than an int counts.
     Tile(int width, int height);
     Tile(const Tile&) = default;
     Tile& operator=(const Tile&) = delete;
@@ -24,13 +24,13 @@ public:
     [[nodiscard]] int height() const { return height_; }
     [[nodiscard]] Size size() const { return {width_, height_}; }
     [[nodiscard]] int pixel_count() const { return static_cast<int>(pixels_.size()); }
-    // Row by row from the top, left to right.
+    // The pixels stand row by row from the top, left to right.
     [[nodiscard]] std::span<const Color> pixels() const { return pixels_; }
     [[nodiscard]] bool same_size(const Tile& other) const { return size() == other.size(); }
     // Two tiles with the same version, or one at two times, have the same size and pixels. Never 0. Whoever
     // shows a tile knows by it whether the picture is still right.
     [[nodiscard]] std::uint64_t version() const;
-    // Bytes of the pixels and of a texture for them, as the statistics count them, shown or not.
+    // Returns the bytes of the pixels and of a texture for them, as the statistics count them, shown or not.
     [[nodiscard]] std::size_t memory_size() const;
 
     [[nodiscard]] bool is_outside(int x, int y) const {

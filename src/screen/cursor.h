@@ -9,7 +9,7 @@ enum class Cursor { hidden, shown };
 void set_cursor(Cursor cursor);
 [[nodiscard]] Cursor current_cursor();
 
-// Hides the cursor while it lives. None of it changes what was hidden before.
+// Hides the cursor while it lives; a cursor that was hidden before stays so afterwards.
 class Hidden_Cursor {
 public:
     Hidden_Cursor() : before_(current_cursor()) { set_cursor(Cursor::hidden); }

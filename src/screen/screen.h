@@ -52,7 +52,7 @@ public:
 
     // Text that may hold the line break "\r". Returns the position behind its last character.
     Point draw_text(Font font, Point position, std::string_view text);
-    // Of the widest line.
+    // Returns the width of the widest line.
     [[nodiscard]] int text_width(Font font, std::string_view text) const;
     [[nodiscard]] int text_height(Font font, std::string_view text) const;
     // One line as a picture of its own; null when there is nothing to show.

@@ -33,10 +33,10 @@ public:
     // Loads "pool.bmp" from the current directory; a missing file is fatal.
     explicit Sprite_Sheet(SDL_Renderer* renderer);
 
-    // -1 for a character that the font has no glyph for.
+    // Returns -1 for a character that the font has no glyph for.
     [[nodiscard]] int glyph_index(Font font, char character) const;
     [[nodiscard]] Rectangle glyph_rect(Font font, int glyph) const;
-    // Of one line; characters without a glyph take no room.
+    // Returns the width of one line; characters without a glyph take no room.
     [[nodiscard]] int text_width(Font font, std::string_view text) const;
 
     void draw_sprite(Sprite sprite, const Rectangle& destination) const;

@@ -8,7 +8,7 @@
 
 namespace quadrelle {
 
-// By any number of pixels, to the right and down where positive.
+// Scrolls the tile by any number of pixels, to the right and down where positive.
 void scroll_wrapped(Tile& tile, Tile_Point offset);
 // Moves only the selected pixels of each row, and then of each column, around among themselves. The selection
 // has the tile's size.

@@ -41,7 +41,7 @@ public:
     void set_candidate(const Selection& candidate) { candidate_.emplace(candidate); }
     void drop_candidate() { candidate_.reset(); }
 
-    // Nothing is selected while something floats.
+    // Drops the selection; one that is made later takes the place of what floats in view.
     void float_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
     void drop_paste() { paste_.reset(); }

@@ -8,18 +8,18 @@ namespace quadrelle {
 
 class Chosen_Brush {
 public:
-    // One pixel, the pen's.
+    // Begins with the pen's brush of one pixel.
     Chosen_Brush();
 
     [[nodiscard]] const Brush& brush() const { return brush_; }
-    // Of the built-in brush, also while a stamp takes its place.
+    // Shape and size are those of the built-in brush, also while a stamp takes its place.
     [[nodiscard]] Brush_Shape shape() const { return shape_; }
     [[nodiscard]] int size_index() const { return size_index_; }
 
-    // 0 to 5, one less than the brush's width. Another size or shape than before ends a stamp.
+    // Sizes go from 0 to 5, one less than the brush's width. Another size or shape than before ends a stamp.
     void select_size(int size_index);
     void select_shape(Brush_Shape shape);
-    // The built-in brush comes back.
+    // Brings the built-in brush back.
     void set_owner(Brush_Owner owner);
     // A brush with colours of its own, until a built-in one is chosen.
     void set_stamp(const Brush& stamp);

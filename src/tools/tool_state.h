@@ -15,7 +15,7 @@
 
 namespace quadrelle {
 
-// Of the two mouse buttons. Any button but the left one stands for the right one.
+// The colours of the two mouse buttons. Any button but the left one stands for the right one.
 struct Tool_Colors {
     Color left{255, 255, 255};
     Color right{0, 0, 0};

@@ -46,7 +46,6 @@ public:
     // Writes ids and area to the log.
     void describe() const;
     // Where a content of that width starts; deliberately 8 pixels left of the middle.
-    [[nodiscard]] int centred_x(int width) const { return (area.width - width) / 2 + area.x - 8; }
 
     Rectangle area;
     std::int32_t id;

@@ -25,8 +25,7 @@ public:
     void move(int x, int y);
     void resize(int width, int height);
 
-    // In window pixels.
-    Rectangle area;
+    Rectangle area; // in window pixels
 };
 
 } // namespace quadrelle

@@ -4,7 +4,7 @@
 
 #include "app/start_up.h"
 #include "commands/menu_table.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 
 namespace quadrelle::testing {

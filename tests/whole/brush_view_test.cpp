@@ -2,7 +2,7 @@
 
 #include "tests/whole/program_test.h"
 
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
 #include "ui/dialog_item.h"

@@ -1,7 +1,7 @@
 #include "color/color_data.h"
 #include "color/color_edit.h"
 #include "color/standard_colors.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 

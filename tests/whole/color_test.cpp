@@ -2,7 +2,7 @@
 
 #include "base/data_directory.h"
 #include "color/palette_store.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "tests/whole/program_test.h"
 

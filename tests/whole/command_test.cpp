@@ -1,6 +1,6 @@
 #include "color/palette_store.h"
 #include "commands/command_table.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "tests/whole/program_test.h"
 
 namespace quadrelle::testing {

@@ -1,5 +1,5 @@
 #include "color/standard_colors.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "tests/whole/program_test.h"

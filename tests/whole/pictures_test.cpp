@@ -2,7 +2,7 @@
 // where. QUADRELLE_WRITE_PICTURES=1 writes them anew and compares nothing, so the tests are skipped; look at
 // each picture.
 
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "screen/screen.h"
 #include "tests/support/stored_picture.h"

@@ -1,6 +1,6 @@
 #include "canvas/stroke_table.h"
 #include "commands/command_table.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "selection/picture_formats.h"
 #include "tests/whole/program_test.h"

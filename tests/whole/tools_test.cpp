@@ -2,7 +2,7 @@
 
 #include "commands/command_table.h"
 #include "panes/icon_bar.h"
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 
 namespace quadrelle::testing {

@@ -1,4 +1,4 @@
-#include "panes/tool_colors.h"
+#include "panes/tool_color_panel.h"
 
 #include "ui/window_layout.h"
 
