@@ -11,6 +11,10 @@
 #include "tools/shapes.h"
 #include "ui/window_layout.h"
 
+#include <cstdlib>
+#include <random>
+#include <string>
+
 namespace quadrelle::testing {
 namespace {
 
