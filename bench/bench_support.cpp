@@ -1,6 +1,8 @@
 #include "bench_support.h"
 
+#include "app/documents.h"
 #include "app/editor.h"
+#include "canvas/canvas_view.h"
 
 namespace quadrelle {
 

@@ -2,7 +2,9 @@
 
 #include "bench_support.h"
 
+#include "app/documents.h"
 #include "app/editor.h"
+#include "canvas/canvas_view.h"
 #include "screen/events.h"
 #include "ui/shown_tile.h"
 

@@ -1,6 +1,8 @@
 // How long drawing takes: fills, and what is dragged far beyond the tile.
 
+#include "app/documents.h"
 #include "app/editor.h"
+#include "canvas/canvas_view.h"
 #include "tools/flood_fill.h"
 #include "tools/pens.h"
 #include "tools/shapes.h"

@@ -1,6 +1,7 @@
 #include "app/editor.h"
 
 #include "app/command_handlers.h"
+#include "app/editor_parts.h"
 #include "app/hover.h"
 #include "app/key_press.h"
 #include "app/mouse_press.h"
@@ -25,7 +26,7 @@ constexpr Size first_tile_size{24, 24};
 
 } // namespace
 
-Editor::Editor() : parts_([this](Present present) { redraw(present); }) {
+Editor::Editor() : parts_(std::make_unique<Editor_Parts>([this](Present present) { redraw(present); })) {
     set_backdrop([this] { redraw(Present::no); });
 }
 
@@ -33,21 +34,37 @@ Editor::~Editor() {
     set_backdrop({});
 }
 
+Documents& Editor::documents() {
+    return parts_->documents;
+}
+
+Canvas_View& Editor::canvas() {
+    return parts_->canvas;
+}
+
+const Copy_Buffer& Editor::copies() const {
+    return parts_->desk.copies();
+}
+
+const Window_Panes& Editor::panes() const {
+    return parts_->panes;
+}
+
 void Editor::run() {
     if (!show_first_frame()) {
         return;
     }
-    while (!parts_.is_quit_requested) {
+    while (!parts_->is_quit_requested) {
         handle_one_event();
         redraw(Present::yes);
     }
 }
 
 bool Editor::show_first_frame() {
-    if (!parts_.documents.new_document(first_tile_size)) {
+    if (!parts_->documents.new_document(first_tile_size)) {
         return false;
     }
-    parts_.panes.size_preview();
+    parts_->panes.size_preview();
     tool_colors->reset();
     redraw(Present::yes);
     return true;
@@ -56,8 +73,8 @@ bool Editor::show_first_frame() {
 void Editor::redraw(Present present) {
     // The canvas draws nothing outside its viewport, so the frame around it can be there first.
     screen->clear();
-    parts_.canvas.draw(toolbox->state(), canvas_settings(*options));
-    parts_.panes.draw(parts_.pointer);
+    parts_->canvas.draw(toolbox->state(), canvas_settings(*options));
+    parts_->panes.draw(parts_->pointer);
     if (present == Present::yes) {
         screen->present();
     }
@@ -67,30 +84,30 @@ void Editor::handle_one_event() {
     handle(wait_event("main"));
     // Also when the release came while a dialog or a stroke was running.
     if (take_key_release()) {
-        parts_.is_control_held = false;
+        parts_->is_control_held = false;
     }
     if (take_button_release()) {
-        parts_.panes.release();
+        parts_->panes.release();
     }
-    show_hover(parts_.canvas, parts_.pointer);
-    show_pixel_under(parts_.canvas, parts_.pointer);
+    show_hover(parts_->canvas, parts_->pointer);
+    show_pixel_under(parts_->canvas, parts_->pointer);
 }
 
 void Editor::handle(const Input_Event& event) {
     switch (event.kind) {
     case Input_Kind::quit: static_cast<void>(perform(Command::quit)); break;
-    case Input_Kind::key_press: execute_if_any(press_key(parts_, event.chord)); break;
+    case Input_Kind::key_press: execute_if_any(press_key(*parts_, event.chord)); break;
     case Input_Kind::pointer_motion:
-        parts_.pointer = {event.pointer.x, event.pointer.y, parts_.pointer.button};
+        parts_->pointer = {event.pointer.x, event.pointer.y, parts_->pointer.button};
         break;
     case Input_Kind::button_press:
-        parts_.pointer = event.pointer;
-        execute_if_any(press_mouse(parts_));
+        parts_->pointer = event.pointer;
+        execute_if_any(press_mouse(*parts_));
         break;
-    case Input_Kind::pointer_left: parts_.pointer = pointer_nowhere; break;
+    case Input_Kind::pointer_left: parts_->pointer = pointer_nowhere; break;
     case Input_Kind::wheel:
         if (event.moved.y != 0) {
-            parts_.canvas.zoom(event.moved.y > 0 ? Zoom_Step::in : Zoom_Step::out);
+            parts_->canvas.zoom(event.moved.y > 0 ? Zoom_Step::in : Zoom_Step::out);
         }
         break;
     default: break;
@@ -105,25 +122,25 @@ void Editor::execute_if_any(Command command) {
 
 void Editor::execute(Command command) {
     if (row_of(command).has(Command_Trait::step)) {
-        parts_.recorder.step([&] { return perform(command); });
+        parts_->recorder.step([&] { return perform(command); });
     } else {
         static_cast<void>(perform(command));
     }
 }
 
 Command Editor::perform(Command command) {
-    hide_hover(parts_.canvas);
+    hide_hover(parts_->canvas);
     if (row_of(command).has(Command_Trait::tileset_level)) {
-        parts_.canvas.undo_seam_shifts();
+        parts_->canvas.undo_seam_shifts();
     }
-    const Outcome outcome = carry_out(parts_, command);
+    const Outcome outcome = carry_out(*parts_, command);
     if (outcome == Outcome::unknown) {
         dialogs->message("Note", "Unhandled command " + std::string(row_of(command).name));
     }
     if (outcome == Outcome::done) {
-        parts_.follow_up(command);
+        parts_->follow_up(command);
     }
-    show_hover(parts_.canvas, parts_.pointer);
+    show_hover(parts_->canvas, parts_->pointer);
     return outcome == Outcome::done ? command : Command::none;
 }
 

@@ -1,14 +1,21 @@
 #pragma once
 
-// The program at work: takes events, lets commands be carried out, and draws the whole window.
+// The program at work: takes events, lets commands be carried out, and draws the whole window. Whoever works
+// with a part of it includes that part.
 
-#include "app/editor_parts.h"
-#include "base/input.h"
+#include "app/redraw.h"
 #include "commands/command.h"
 
 #include <memory>
 
 namespace quadrelle {
+
+class Canvas_View;
+class Copy_Buffer;
+class Documents;
+class Window_Panes;
+struct Editor_Parts;
+struct Input_Event;
 
 class Editor {
 public:
@@ -26,10 +33,10 @@ public:
     void execute(Command command);
     void redraw(Present present);
 
-    [[nodiscard]] Documents& documents() { return parts_.documents; }
-    [[nodiscard]] Canvas_View& canvas() { return parts_.canvas; }
-    [[nodiscard]] const Copy_Buffer& copies() const { return parts_.desk.copies(); }
-    [[nodiscard]] const Window_Panes& panes() const { return parts_.panes; }
+    [[nodiscard]] Documents& documents();
+    [[nodiscard]] Canvas_View& canvas();
+    [[nodiscard]] const Copy_Buffer& copies() const;
+    [[nodiscard]] const Window_Panes& panes() const;
 
 private:
     void handle(const Input_Event& event);
@@ -37,7 +44,7 @@ private:
     // Carries the command out. Returns the command to record, or none when it failed or was refused.
     [[nodiscard]] Command perform(Command command);
 
-    Editor_Parts parts_;
+    std::unique_ptr<Editor_Parts> parts_;
 };
 
 // Built at start-up, when everything it works with is there.

@@ -4,6 +4,7 @@
 
 #include "app/documents.h"
 #include "app/recorder.h"
+#include "app/redraw.h"
 #include "app/selection_desk.h"
 #include "app/window_panes.h"
 #include "base/input.h"

@@ -3,6 +3,8 @@
 // The panes that are always on the window: where they stand, what lies under the pointer, and what a click on
 // them does.
 
+#include "app/redraw.h"
+#include "base/input.h"
 #include "panes/copy_panes.h"
 #include "panes/hint_lines.h"
 #include "panes/history_pane.h"
@@ -14,7 +16,6 @@
 #include "panes/tile_strip_picture.h"
 #include "ui/number_info.h"
 
-#include <functional>
 #include <optional>
 
 namespace quadrelle {
@@ -24,11 +25,6 @@ class Documents;
 
 // Where the pointer is while it is not over the window.
 constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
-
-enum class Present { no, yes };
-
-// Draws the whole window.
-using Redraw = std::function<void(Present)>;
 
 class Window_Panes {
 public:

@@ -1,3 +1,4 @@
+#include "app/window_panes.h"
 #include "commands/command_table.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"

@@ -1,6 +1,7 @@
 #include "tests/whole/program_test.h"
 
 #include "app/start_up.h"
+#include "app/window_panes.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
 #include "ui/modal_dialog.h"

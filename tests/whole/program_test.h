@@ -3,7 +3,9 @@
 // Tests of the whole program: everything is started as it is for a user, with a window that nobody sees, and
 // is driven by events.
 
+#include "app/documents.h"
 #include "app/editor.h"
+#include "canvas/canvas_view.h"
 #include "commands/command.h"
 #include "tests/support/tiles.h"
 #include "tests/support/window_test.h"

@@ -2,6 +2,7 @@
 #include "commands/command_table.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
+#include "selection/copy_buffer.h"
 #include "selection/picture_formats.h"
 #include "tests/whole/program_test.h"
 

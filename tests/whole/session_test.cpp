@@ -2,6 +2,7 @@
 
 #include "commands/command_table.h"
 #include "panes/tool_color_panel.h"
+#include "selection/copy_buffer.h"
 #include "tests/whole/program_test.h"
 #include "tests/whole/session_model.h"
 #include "tileset/tileset_file.h"
