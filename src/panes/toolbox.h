@@ -27,12 +27,13 @@ public:
     ~Toolbox();
 
     [[nodiscard]] const Tool_State& state() const { return state_; }
+    // It may be changed at any time: the panes read it anew whenever they are shown.
+    [[nodiscard]] Tool_State& state() { return state_; }
     [[nodiscard]] Command current_command() const { return state_.command; }
     [[nodiscard]] Command previous_command() const { return state_.previous_command; }
     [[nodiscard]] Tool current_tool() const { return state_.tool; }
     [[nodiscard]] const Brush& brush() const { return state_.brush(); }
     [[nodiscard]] const Brush_Pad& brush_pad() const { return state_.brush_pad; }
-    // These may be changed at any time: they are read anew whenever they are shown.
     [[nodiscard]] Tool_Options& options() { return state_.options; }
     [[nodiscard]] Tool_Figures& figures() { return state_.figures; }
 

@@ -51,7 +51,7 @@ void expect_stored_picture(const std::string& name, std::span<const std::uint32_
     Tile shown(screen->size().width, screen->size().height);
     ASSERT_EQ(window.size(), shown.pixels().size());
     shown.map_colours([word = window.begin()](Color) mutable { return Color::from_word(*word++); });
-    const std::string path = (source_folder() / "tests" / "pictures" / (name + ".png")).string();
+    const std::string path = (source_folder() / "docs" / "pictures" / "expected" / (name + ".png")).string();
     if (SDL_getenv("QUADRELLE_WRITE_PICTURES") != nullptr) {
         write_picture(path, shown);
         GTEST_SKIP() << "written anew, and not compared: " << path;

@@ -1,6 +1,6 @@
 #pragma once
 
-// Pictures of the window that are kept in tests/pictures, to compare with.
+// Pictures of the window that are kept in docs/pictures/expected, to compare with.
 
 #include <cstdint>
 #include <span>

@@ -4,8 +4,6 @@
 
 #include "app/start_up.h"
 #include "commands/menu_table.h"
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -68,15 +66,15 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
     ASSERT_EQ(circle.bounds(), (Rectangle{3, 4, 5, 5}));
     ASSERT_FALSE(circle.contains({3, 4}));
     choose_in_edit_menu(Command::use_as_brush);
-    EXPECT_EQ(toolbox->current_tool(), Tool::stamp_brush);
-    ASSERT_EQ(toolbox->brush().size(), (Size{5, 5}));
+    EXPECT_EQ(tools().tool, Tool::stamp_brush);
+    ASSERT_EQ(tools().brush().size(), (Size{5, 5}));
     execute(Command::deselect);
     tile().fill(black);
     const auto brush_pixel = [&](int x, int y) {
         const bool is_set = x >= 0 && y >= 0 && x < 5 && y < 5 && circle.contains({3 + x, 4 + y});
         return is_set ? std::optional(gradient(3 + x, 4 + y)) : std::nullopt;
     };
-    tool_colors->set_color(Mouse_Button::left, red);
+    tools().colors.set(Mouse_Button::left, red);
     play(script().motion(cell(12, 13)));
     EXPECT_EQ(pixel_at(cell(12, 13)), gradient(5, 6)) << "the preview is centred on the pointer";
     EXPECT_EQ(tile_pixel(12, 13), black);
@@ -84,10 +82,10 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
         play(script().click(cell(12, 13), button));
         expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 11); });
     }
-    toolbox->options().stamp_mode = Pen_Mode::offset;
+    tools().options.stamp_mode = Pen_Mode::offset;
     play(script().click(cell(13, 14)));
     expect_painted([&](int x, int y) { return brush_pixel(x - 10, y - 10); });
-    toolbox->options().stamp_mode = Pen_Mode::pattern;
+    tools().options.stamp_mode = Pen_Mode::pattern;
     play(script().click(cell(13, 14)));
     expect_painted([&](int x, int y) {
         const bool is_covered = x >= 11 && x < 16 && y >= 12 && y < 17;
@@ -95,12 +93,12 @@ TEST_F(Brush_Pad_View_Test, a_circle_becomes_a_brush_that_paints_in_three_modes)
     });
     // Filling with it, seen from the seed on.
     execute(Command::flood_fill);
-    toolbox->options().fill_mode = Fill_Mode::stamp;
+    tools().options.fill_mode = Fill_Mode::stamp;
     play(script().click(cell(7, 8)));
     expect_painted([&](int x, int y) { return brush_pixel((x + 3) % 5, (y + 2) % 5); });
     // A key for a size asks for a built-in brush again.
     play(script().key('b').key('3').click(cell(4, 4)));
-    EXPECT_EQ(toolbox->brush().owner(), Brush_Owner::pen);
+    EXPECT_EQ(tools().brush().owner(), Brush_Owner::pen);
     EXPECT_EQ(tile_pixel(4, 4), red);
 }
 
@@ -113,23 +111,23 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     execute(Command::paste);
     choose_in_edit_menu(Command::use_as_brush);
     EXPECT_FALSE(work().paste()) << "changing the tool plots it";
-    ASSERT_EQ(toolbox->brush().size(), (Size{3, 1}));
-    EXPECT_EQ(toolbox->brush().pixel(0, 0), gradient(2, 2));
-    EXPECT_EQ(toolbox->brush().pixel(1, 0), std::nullopt);
-    EXPECT_EQ(toolbox->brush().pixel(2, 0), Color(9, 9, 9, 100));
+    ASSERT_EQ(tools().brush().size(), (Size{3, 1}));
+    EXPECT_EQ(tools().brush().pixel(0, 0), gradient(2, 2));
+    EXPECT_EQ(tools().brush().pixel(1, 0), std::nullopt);
+    EXPECT_EQ(tools().brush().pixel(2, 0), Color(9, 9, 9, 100));
     // A selection takes its transparent pixels along.
     select({3, 2}, {5, 3});
     choose_in_edit_menu(Command::use_as_brush);
-    EXPECT_EQ(toolbox->brush().pixel(0, 0), Color(9, 9, 9, 0));
+    EXPECT_EQ(tools().brush().pixel(0, 0), Color(9, 9, 9, 0));
     select({3, 2}, {4, 3});
     execute(Command::copy);
     execute(Command::paste);
-    toolbox->options().selection_mode = Selection_Mode::persistent;
+    tools().options.selection_mode = Selection_Mode::persistent;
     execute(Command::pen);
     expect_note("Nothing selected to use as brush.", Command::use_as_brush); // it floats on out of sight
     execute(Command::work_selection);
     expect_note("Unable to add a new brush for some reason.", Command::use_as_brush);
-    EXPECT_EQ(toolbox->current_tool(), Tool::selection);
+    EXPECT_EQ(tools().tool, Tool::selection);
 }
 
 TEST_F(Brush_Pad_View_Test, commands_say_why_they_do_nothing) {
@@ -143,43 +141,43 @@ TEST_F(Brush_Pad_View_Test, commands_say_why_they_do_nothing) {
     expect_note("There is no brush selected to delete from the pad.", Command::delete_brush);
     lay_on_pad({0, 0}, {2, 2});
     expect_note(refused, Command::move_to_pad);
-    EXPECT_EQ(toolbox->brush_pad().brushes().size(), 1U);
+    EXPECT_EQ(tools().brush_pad.brushes().size(), 1U);
 }
 
 TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
     paint_gradient();
     lay_on_pad({0, 0}, {4, 4});
     lay_on_pad({10, 10}, {12, 13});
-    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3}));
+    EXPECT_EQ(tools().brush().size(), (Size{2, 3}));
     // The first one lies on the cells 0 to 5, the second one on 6 to 9.
     play(script().motion(board_point(0, 0)));
     EXPECT_EQ(pixel_at(board_point(0, 0)), Color(255, 0, 0));
     EXPECT_EQ(pixel_at(board_point(6, 0)), dark_grey);
     EXPECT_EQ(pixel_at(board_point(3, 4)), gradient(2, 3));
     play(script().click(board_point(0, 0)));
-    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    EXPECT_EQ(tools().brush().size(), (Size{4, 4}));
     play(script().click(board_point(6, 4)).click(board_point(30, 100)));
-    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "free cells choose nothing";
+    EXPECT_EQ(tools().brush().size(), (Size{2, 3})) << "free cells choose nothing";
     // The border counts as the cells beside it, as far as a cell is wide.
     play(script().click({1028 - 2, 58 - 2}));
-    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    EXPECT_EQ(tools().brush().size(), (Size{4, 4}));
     play(script().click(board_point(6, 4)).click({1028 - 3, 60}).click({1028, 40}));
-    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3})) << "the rest of the frame and the title do not";
+    EXPECT_EQ(tools().brush().size(), (Size{2, 3})) << "the rest of the frame and the title do not";
     EXPECT_EQ(pixel_at(board_point(0, 0)), dark_grey);
     // With other tools the pad is not there.
     EXPECT_EQ(pixel_at(board_point(20, 150)), pane_background);
     execute(Command::dropper);
     play(script().click(board_point(0, 0)));
-    EXPECT_EQ(toolbox->brush_pad().current()->id, 2);
+    EXPECT_EQ(tools().brush_pad.current()->id, 2);
     EXPECT_NE(pixel_at(board_point(20, 150)), pane_background);
     // Brushes go one after the other; the pen's is left.
     execute(Command::stamp_brush);
-    EXPECT_EQ(toolbox->brush().size(), (Size{2, 3}));
+    EXPECT_EQ(tools().brush().size(), (Size{2, 3}));
     choose_in_edit_menu(Command::delete_brush);
-    EXPECT_EQ(toolbox->brush().size(), (Size{4, 4}));
+    EXPECT_EQ(tools().brush().size(), (Size{4, 4}));
     choose_in_edit_menu(Command::delete_brush);
-    EXPECT_EQ(toolbox->brush().owner(), Brush_Owner::pen);
-    EXPECT_FALSE(toolbox->brush_pad().has_current());
+    EXPECT_EQ(tools().brush().owner(), Brush_Owner::pen);
+    EXPECT_FALSE(tools().brush_pad.has_current());
 }
 
 TEST_F(Brush_Pad_View_Test, pad_is_kept_until_the_next_start) {
@@ -195,11 +193,11 @@ TEST_F(Brush_Pad_View_Test, pad_is_kept_until_the_next_start) {
     lay_on_pad({3, 3}, {6, 5});
     start_again();
     ASSERT_TRUE(std::filesystem::exists(file));
-    ASSERT_EQ(toolbox->brush_pad().brushes().size(), 1U);
-    EXPECT_FALSE(toolbox->brush_pad().has_current());
+    ASSERT_EQ(tools().brush_pad.brushes().size(), 1U);
+    EXPECT_FALSE(tools().brush_pad.has_current());
     play(script().key('b').click(board_point(2, 2)));
-    ASSERT_EQ(toolbox->brush().size(), (Size{3, 2}));
-    EXPECT_EQ(toolbox->brush().pixel(2, 1), gradient(5, 4));
+    ASSERT_EQ(tools().brush().size(), (Size{3, 2}));
+    EXPECT_EQ(tools().brush().pixel(2, 1), gradient(5, 4));
     std::filesystem::remove(file);
     start_again();
     EXPECT_FALSE(std::filesystem::exists(file)) << "choosing changes nothing on the board";

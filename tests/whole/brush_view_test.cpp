@@ -2,8 +2,6 @@
 
 #include "tests/whole/program_test.h"
 
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 #include "screen/cursor.h"
 #include "ui/dialog_item.h"
 
@@ -28,9 +26,9 @@ protected:
 };
 
 TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
-    tool_colors->set_color(Mouse_Button::left, red);
+    tools().colors.set(Mouse_Button::left, red);
     for (const int size_index : {0, 1, 4, 5}) {
-        toolbox->select_brush_size(size_index);
+        tools().chosen_brush.select_size(size_index);
         // None of these brings a line of the outline through the middle of a cell.
         for (const Point at : {Point{483, 272}, Point{488, 279}, Point{402, 202}}) {
             SCOPED_TRACE(size_index);
@@ -65,7 +63,7 @@ TEST_F(Brush_View_Test, outline_is_precise_blocky_or_off) {
     change(Option::precise_brush);
     change(Option::precise_brush);
     ASSERT_EQ(options->value(Option::precise_brush), 0);
-    toolbox->select_brush_size(3);
+    tools().chosen_brush.select_size(3);
     hover({488, 275});
     EXPECT_NE(corner_of(8, 7), line);
 }

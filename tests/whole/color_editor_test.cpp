@@ -1,7 +1,6 @@
 #include "color/color_data.h"
 #include "color/color_edit.h"
 #include "color/standard_colors.h"
-#include "panes/tool_color_panel.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 
@@ -37,14 +36,14 @@ class Color_Editor_Test : public Program_Test {
 protected:
     void SetUp() override {
         Program_Test::SetUp();
-        tool_colors->set_color(Mouse_Button::left, start);
+        tools().colors.set(Mouse_Button::left, start);
     }
 
     // The left tool colour after the script was played in the dialog.
     Color edited() {
-        tool_colors->set_color(Mouse_Button::left, start);
+        tools().colors.set(Mouse_Button::left, start);
         execute(Command::color_editor);
-        return tool_colors->color(Mouse_Button::left);
+        return tools().colors.of(Mouse_Button::left);
     }
     Script& write(const char* text) { return script().text(text); }
     Script& hold_shift(bool is_held) {
@@ -66,7 +65,7 @@ TEST_F(Color_Editor_Test, gives_the_color_back_only_when_accepted) {
     EXPECT_EQ(after([&] { script().key(key::escape); }), start);
     EXPECT_EQ(after([&] { script().press(cancel); }), start);
     EXPECT_EQ(after([&] { script().quit(); }), start);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::right), Color(0, 0, 0));
+    EXPECT_EQ(tools().colors.of(Mouse_Button::right), Color(0, 0, 0));
     EXPECT_FALSE(document().is_modified());
 }
 

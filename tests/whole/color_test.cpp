@@ -2,8 +2,6 @@
 
 #include "base/data_directory.h"
 #include "color/palette_store.h"
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL_keyboard.h>
@@ -18,8 +16,8 @@ protected:
         Program_Test::TearDown();
     }
 
-    static Color left() { return tool_colors->color(Mouse_Button::left); }
-    static Color right() { return tool_colors->color(Mouse_Button::right); }
+    static Color left() { return tools().colors.of(Mouse_Button::left); }
+    static Color right() { return tools().colors.of(Mouse_Button::right); }
 };
 
 constexpr Point square{1032, 201};
@@ -45,11 +43,11 @@ TEST_F(Color_Test, selector_sets_the_colour_of_the_pressed_button) {
     play();
     EXPECT_EQ(left(), black);
     EXPECT_EQ(right(), Color(255, 0, 0));
-    EXPECT_EQ(tool_colors->active_side(), Mouse_Button::left);
+    EXPECT_EQ(tools().colors.active_side, Mouse_Button::left);
 }
 
 TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
-    tool_colors->set_color(Mouse_Button::right, {10, 20, 30});
+    tools().colors.set(Mouse_Button::right, {10, 20, 30});
     play(script().click(red_less));
     EXPECT_EQ(left(), Color(254, 255, 255));
     play(script().click(right_panel).click(red_less));
@@ -68,15 +66,15 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
 }
 
 TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
-    tool_colors->set_color(Mouse_Button::left, {1, 2, 3, 4});
-    tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
+    tools().colors.set(Mouse_Button::left, {1, 2, 3, 4});
+    tools().colors.set(Mouse_Button::right, {5, 6, 7});
     // Without shift the entry's colour is taken, and nothing stored.
     play(script().click(entry_10, Mouse_Button::right));
     EXPECT_EQ(right(), palette_store->color(0, 10));
     EXPECT_FALSE(palette_store->changed());
     play(script().click(set_button));
     EXPECT_EQ(palette_store->color(0, 10), Color(1, 2, 3, 4));
-    tool_colors->set_color(Mouse_Button::right, {5, 6, 7});
+    tools().colors.set(Mouse_Button::right, {5, 6, 7});
     SDL_SetModState(SDL_KMOD_LSHIFT);
     play(script().click({entry_10.x + 24, entry_10.y}, Mouse_Button::right));
     EXPECT_EQ(palette_store->color(0, 11), Color(5, 6, 7));

@@ -1,6 +1,5 @@
 #include "color/palette_store.h"
 #include "commands/command_table.h"
-#include "panes/tool_color_panel.h"
 #include "tests/whole/program_test.h"
 
 namespace quadrelle::testing {
@@ -30,7 +29,7 @@ protected:
 
 TEST_F(Command_Test, every_one_leaves_the_program_usable) {
     execute_every_command();
-    tool_colors->reset();
+    tools().colors = {};
     execute(Command::pen);
     play(script().click(cell(3, 3)));
     EXPECT_EQ(tile_pixel(3, 3), Color(255, 255, 255));

@@ -1,5 +1,4 @@
 #include "color/standard_colors.h"
-#include "panes/tool_color_panel.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "tests/whole/program_test.h"

@@ -1,9 +1,7 @@
-// Pictures of the whole window, compared to the pixel with those in tests/pictures: what the panes say, and
+// Pictures of the whole window, compared to the pixel with those in docs/pictures/expected: what the panes say, and
 // where. QUADRELLE_WRITE_PICTURES=1 writes them anew and compares nothing, so the tests are skipped; look at
 // each picture.
 
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 #include "screen/screen.h"
 #include "tests/support/stored_picture.h"
 #include "tests/whole/program_test.h"
@@ -77,15 +75,15 @@ public:
             execute(Command::move_to_pad);
         }
         execute(Command::deselect);
-        toolbox->options().stamp_mode = Pen_Mode::offset;
+        tools().options.stamp_mode = Pen_Mode::offset;
         play(script().click({1028 + 3 * 10, 58 + 3 * 2}).motion({1028 + 3 * 22, 58 + 3 * 3}));
         show();
     }
 
     void color_editor() {
         make_set({24, 24}, 1, 0);
-        tool_colors->set_color(Mouse_Button::left, {97, 18, 124, 200});
-        tool_colors->set_color(Mouse_Button::right, {40, 160, 90});
+        tools().colors.set(Mouse_Button::left, {97, 18, 124, 200});
+        tools().colors.set(Mouse_Button::right, {40, 160, 90});
         script().key(key::down).key(key::down).key(key::right, Modifier::shift);
         show_in_loop().key(key::escape);
         execute(Command::color_editor);

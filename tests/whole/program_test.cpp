@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "app/window_panes.h"
+#include "panes/toolbox.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
 #include "ui/modal_dialog.h"
@@ -69,6 +70,10 @@ void Program_Test::execute(Command command) {
     editor->execute(command);
     editor->redraw(Present::yes);
     EXPECT_TRUE(script_->is_played());
+}
+
+Tool_State& Program_Test::tools() {
+    return toolbox->state();
 }
 
 Color Program_Test::tile_pixel(int x, int y) {

@@ -10,6 +10,7 @@
 #include "tests/support/tiles.h"
 #include "tests/support/window_test.h"
 #include "tools/options.h"
+#include "tools/tool_state.h"
 #include "views/ask_for_file.h"
 
 #include <cstdint>
@@ -44,6 +45,8 @@ protected:
     [[nodiscard]] Script& script() { return *script_; }
     [[nodiscard]] Program_Folder& folder() { return *folder_; }
     [[nodiscard]] static Tileset_Document& document() { return editor->documents().current(); }
+    // What the tools work with; the panes read it anew whenever they are drawn.
+    [[nodiscard]] static Tool_State& tools();
     [[nodiscard]] static Color tile_pixel(int x, int y);
     [[nodiscard]] static Tile_Picture tile_picture() {
         return picture_of(*document().tileset().current_tile());

@@ -1,7 +1,5 @@
 #include "canvas/stroke_table.h"
 #include "commands/command_table.h"
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 #include "selection/copy_buffer.h"
 #include "selection/picture_formats.h"
 #include "tests/whole/program_test.h"
@@ -78,7 +76,7 @@ TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
     };
     select_rectangle({0, 0}, {4, 4});
     press(1, 1);
-    EXPECT_EQ(count(tool_colors->color(Mouse_Button::left)), 16);
+    EXPECT_EQ(count(tools().colors.of(Mouse_Button::left)), 16);
     press(0, 0);
     EXPECT_EQ(editor->copies().copies().size(), 1U);
     press(0, 1);
@@ -190,7 +188,7 @@ TEST_F(Clipboard_Test, damaged_and_huge_pictures_get_a_note) {
         editor->execute(Command::paste);
         play();
         EXPECT_FALSE(work().paste());
-        EXPECT_EQ(toolbox->current_tool(), Tool::pen);
+        EXPECT_EQ(tools().tool, Tool::pen);
         // It was told once; from now on the program's own copy is meant.
         execute(Command::paste);
         EXPECT_TRUE(work().paste());

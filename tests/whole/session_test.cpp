@@ -1,10 +1,7 @@
 // Whole sessions of random work, compared with a simple model after every step.
 
 #include "commands/command_table.h"
-#include "panes/tool_color_panel.h"
-#include "selection/copy_buffer.h"
-#include "tests/whole/program_test.h"
-#include "tests/whole/session_model.h"
+#include "tests/whole/session_walk.h"
 #include "tileset/tileset_file.h"
 #include "tools/flood_fill.h"
 #include "tools/line.h"
@@ -19,23 +16,8 @@
 namespace quadrelle::testing {
 namespace {
 
-class Session_Test : public Program_Test {
+class Session_Test : public Session_Walk {
 protected:
-    // Half of 26 is odd; 60 tiles are more than the strip shows.
-    void SetUp() override {
-        Program_Test::SetUp();
-        toolbox->select_brush_size(0);
-        model_.add_set({24, 24}, "untitled0.qdl");
-        shown_sets_.push_back(&document());
-        for (const Size size : {Size{13, 30}, Size{26, 26}, Size{8, 8}}) {
-            new_set(size);
-            for (int i = 1; i < (size.width == 8 ? 60 : 4); ++i) {
-                perform(Command::add_new_tile, &Session_Model::add_tile);
-            }
-        }
-        answer_files(File_Answer_State::chosen, "saved.qdl");
-    }
-
     // Which of the steps it was.
     int do_something() {
         const int choice = below(static_cast<int>(steps_.size()));
@@ -43,68 +25,7 @@ protected:
         return choice;
     }
 
-    void expect_same() {
-        expect_same_tiles(document().tileset());
-        EXPECT_EQ(document().tileset().current_index(), static_cast<int>(model_.set().current));
-        EXPECT_EQ(editor->canvas().tile(), document().tileset().current_tile());
-        EXPECT_EQ(document().strip().first(), model_.set().first);
-        EXPECT_EQ(window_title(),
-                  "Quadrelle 0.90 - " + model_.set().name + (model_.set().is_modified ? "*" : ""));
-        EXPECT_EQ(editor->documents().has_unsaved(),
-                  std::ranges::any_of(model_.sets, &Set_Model::is_modified));
-        EXPECT_EQ(toolbox->current_tool(), model_.tool);
-        const Work_Area& work = editor->canvas().work_area();
-        EXPECT_TRUE(work.selection() == *model_.work.area);
-        EXPECT_FALSE(work.candidate());
-        ASSERT_EQ(work.paste().has_value(), model_.work.paste != nullptr);
-        if (work.paste()) {
-            expect_same_paste(*work.paste(), *model_.work.paste);
-        }
-        ASSERT_EQ(editor->copies().copies().size(), model_.copies.size());
-        for (std::size_t i = 0; i < model_.copies.size(); ++i) {
-            expect_same_paste(editor->copies().copies()[i], *model_.copies[i]);
-        }
-    }
-
-    std::mt19937 random_;
-
 private:
-    int below(int limit) { return std::uniform_int_distribution(0, limit - 1)(random_); }
-    bool one_in(int count) { return below(count) == 0; }
-    Tile_Point some_pixel(int beyond = 0) {
-        return {below(model_.size().width + beyond), below(model_.size().height + beyond)};
-    }
-    Mouse_Button some_button() { return one_in(3) ? Mouse_Button::right : Mouse_Button::left; }
-    Color choose_color() {
-        const Color color{below(3) * 100, below(3) * 100, below(3) * 100, one_in(3) ? below(256) : 255};
-        tool_colors->set_color(Mouse_Button::left, color);
-        return color;
-    }
-
-    static Point window_point(Tile_Point pixel, int part = 5) {
-        const Canvas_View& canvas = editor->canvas();
-        return {canvas.origin().x + pixel.x * canvas.pixel_size() + part,
-                canvas.origin().y + pixel.y * canvas.pixel_size() + part};
-    }
-    void click(Point point, Mouse_Button button = Mouse_Button::left) { play(script().click(point, button)); }
-    void drag(Tile_Point from, Tile_Point to, Mouse_Button button, int part = 5) {
-        script().drag({window_point(from, part), window_point(some_pixel(), part), window_point(to, part)},
-                      button);
-        play();
-    }
-    void select_tool(Tool tool) {
-        editor->execute(row_of(tool).command);
-        model_.select_tool(tool);
-    }
-    void perform(Command command, void (Session_Model::*step)()) {
-        editor->execute(command);
-        (model_.*step)();
-    }
-    void change(Command command, const std::function<void()>& expected, bool is_always_recorded = false) {
-        editor->execute(command);
-        model_.edit(expected, is_always_recorded);
-    }
-
     // A click beside what is selected ends it.
     void mark(const Area& area, bool is_click, Tile_Point from, Mouse_Button button) {
         model_.edit([&] {
@@ -152,7 +73,7 @@ private:
     void pour() {
         select_tool(Tool::wand_selector);
         const auto mode = static_cast<Wand_Mode>(one_in(3) ? 1 + below(2) : 0);
-        toolbox->options().wand_mode = mode;
+        tools().options.wand_mode = mode;
         const Mouse_Button button = some_button();
         const Tile_Point at = some_pixel();
         click(window_point(at), button);
@@ -302,7 +223,7 @@ private:
     void redo() { walk_history(Command::redo, &Session_Model::redo); }
     void choose_mode() {
         model_.mode = static_cast<Selection_Mode>(below(3));
-        toolbox->options().selection_mode = model_.mode;
+        tools().options.selection_mode = model_.mode;
     }
     void go_by(Command command, int step) {
         editor->execute(command);
@@ -356,13 +277,6 @@ private:
         ASSERT_EQ(loaded.outcome, Load_Outcome::loaded);
         expect_same_tiles(*loaded.tileset);
     }
-    void new_set(Size size) {
-        if (model_.sets.size() < 5) {
-            ASSERT_TRUE(editor->documents().new_document(size));
-            model_.add_set(size, "untitled" + std::to_string(next_untitled_++) + ".qdl");
-            shown_sets_.push_back(&document());
-        }
-    }
     // The one with many tiles stays.
     void close_set() {
         if (model_.sets.size() > 1 && model_.set().count() < 40) {
@@ -384,18 +298,6 @@ private:
                 model_.show_set(static_cast<std::size_t>(now));
             }
         }
-    }
-
-    void expect_same_tiles(const Tileset& tileset) {
-        ASSERT_EQ(tileset.count(), model_.set().count());
-        for (int i = 0; i < tileset.count(); ++i) {
-            ASSERT_TRUE(same(tileset.tile_at(i), *model_.set().tiles[static_cast<std::size_t>(i)].picture))
-                << "tile " << i;
-        }
-    }
-    static void expect_same_paste(const Floating_Paste& paste, const Floating_Paste& expected) {
-        EXPECT_EQ(paste.position, expected.position);
-        EXPECT_TRUE(same(paste.picture, expected.picture));
     }
 
     using P = Tile_Point;
@@ -437,9 +339,6 @@ private:
         [this] { close_set(); }, [this] { show_next_set(); }, [this] { show_next_set(); },
     };
     // clang-format on
-    Session_Model model_;
-    int next_untitled_ = 1;
-    std::vector<const Tileset_Document*> shown_sets_;
 };
 
 // QUADRELLE_SEED walks a failed way once more.

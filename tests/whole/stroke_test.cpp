@@ -1,4 +1,3 @@
-#include "panes/tool_color_panel.h"
 #include "tests/whole/program_test.h"
 
 namespace quadrelle::testing {
@@ -29,7 +28,7 @@ TEST_F(Stroke_Test, takes_no_keys_and_wheels_meanwhile) {
     script().press(cell(2, 3)).key('x').key(key::escape).wheel(1).motion(cell(3, 3)).release(cell(3, 3));
     play();
     EXPECT_EQ(editor->canvas().pixel_size(), 10);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+    EXPECT_EQ(tools().colors.of(Mouse_Button::left), white);
     EXPECT_EQ(count_of(white), 2);
 }
 
@@ -43,7 +42,7 @@ TEST_F(Stroke_Test, no_other_button_does_anything_anywhere) {
     }
     play();
     EXPECT_EQ(count_of(white), 0);
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), white);
+    EXPECT_EQ(tools().colors.of(Mouse_Button::left), white);
 
     script().press(cell(2, 2)).press_number(cell(3, 2), 2).release(cell(4, 2), Mouse_Button::none);
     expect_loop("stroke").motion(cell(5, 2)).release(cell(5, 2));

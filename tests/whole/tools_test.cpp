@@ -2,8 +2,6 @@
 
 #include "commands/command_table.h"
 #include "panes/icon_bar.h"
-#include "panes/tool_color_panel.h"
-#include "panes/toolbox.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -13,15 +11,15 @@ class Tools_Test : public Program_Test {};
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
     play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2}));
-    EXPECT_EQ(toolbox->current_command(), Command::rectangle);
-    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
+    EXPECT_EQ(tools().command, Command::rectangle);
+    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_filled);
     play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24}));
-    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_outline);
+    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_outline);
     // The rectangle's rows cover the entry below it; the entries above can be clicked.
     play(script().click({900, 32 + 26 * 4 + 10}));
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    EXPECT_EQ(tools().tool, Tool::dropper);
     play(script().click({796, 40}, Mouse_Button::right));
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    EXPECT_EQ(tools().tool, Tool::dropper);
 }
 
 TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
@@ -30,13 +28,13 @@ TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
     document().tileset().current_tile()->set_pixel(5, 6, red);
     execute(Command::filled_rectangle);
     play(script().key('d').click(tick).click(beside).drag({cell(5, 5), beside}));
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
+    EXPECT_EQ(tools().tool, Tool::dropper);
     play(script().press(cell(5, 6)).quit());
-    EXPECT_EQ(toolbox->current_tool(), Tool::dropper);
-    tool_colors->reset();
+    EXPECT_EQ(tools().tool, Tool::dropper);
+    tools().colors = {};
     play(script().drag({beside, cell(5, 6)}));
-    EXPECT_EQ(tool_colors->color(Mouse_Button::left), red);
-    EXPECT_EQ(toolbox->state().canvas_action(), Canvas_Action::rectangle_filled);
+    EXPECT_EQ(tools().colors.of(Mouse_Button::left), red);
+    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_filled);
 }
 
 // As a user does it: the tool by its key or else its icon, the size of the brush by a digit, the option by
@@ -87,8 +85,8 @@ TEST_F(Tools_Test, draw_as_their_option_rows_say) {
         {Command::stamp_brush,  13, 0, 2, '3', left,  {8, 8}, {10, 8}, 10,  {10, 6}, red},
     };
     // clang-format on
-    tool_colors->set_color(left, red);
-    tool_colors->set_color(right, pure_blue);
+    tools().colors.set(left, red);
+    tools().colors.set(right, pure_blue);
     for (const Tool_Case& test : cases) {
         SCOPED_TRACE(menu_text(test.tool) + ", clicks " + std::to_string(test.clicks));
         Tile& tile = *document().tileset().current_tile();

@@ -1,4 +1,3 @@
-#include "panes/toolbox.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 #include "views/versions_layout.h"
@@ -96,7 +95,7 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     EXPECT_TRUE(document().is_modified());
     EXPECT_EQ(steps(), 4U);
     EXPECT_EQ(document().history().entries().back().kind, Command::paste);
-    EXPECT_EQ(toolbox->current_tool(), Tool::selection);
+    EXPECT_EQ(tools().tool, Tool::selection);
     play(script().key('p'));
     EXPECT_EQ(tile_picture(), kept);
     EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
