@@ -189,17 +189,13 @@ Outcome Selection_Desk::transform(Command command) {
                                 : Outcome::unknown;
 }
 
-// It floats on unless the mode of the tool lets it go.
 void Selection_Desk::plot_paste() {
     Work_Area& work = canvas_.work_area();
     if (!work.paste() || canvas_.tile() == nullptr) {
         return;
     }
     Drawing_Target target = work.target(*canvas_.tile());
-    work.paste()->plot(target);
-    if (toolbox_.state().options.selection_mode == Selection_Mode::standard) {
-        work.drop_paste();
-    }
+    work.plot_paste(target, toolbox_.state().options.selection_mode);
 }
 
 Outcome Selection_Desk::plot() {

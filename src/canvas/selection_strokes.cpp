@@ -109,10 +109,7 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     const bool is_click = segment.from == segment.to;
     if (work.paste() && !work.has_selection()) {
         if (is_click && !is_in_picture(*work.paste(), segment.from)) {
-            work.paste()->plot(target);
-            if (segment.tools.options.selection_mode == Selection_Mode::standard) {
-                work.drop_paste();
-            }
+            work.plot_paste(target, segment.tools.options.selection_mode);
         }
     } else if (is_click && !work.selection().contains(segment.from)) {
         work.deselect();

@@ -40,6 +40,13 @@ void Work_Area::move_paste_to(Tile_Point position) {
     update_paste_area();
 }
 
+void Work_Area::plot_paste(Drawing_Target& target, Selection_Mode mode) {
+    paste_->plot(target);
+    if (mode == Selection_Mode::standard) {
+        drop_paste();
+    }
+}
+
 void Work_Area::lift_selection(Tile& tile) {
     if (paste_) {
         Drawing_Target target(tile);

@@ -5,6 +5,7 @@
 #include "commands/outcome.h"
 #include "selection/floating_paste.h"
 #include "selection/selection.h"
+#include "tools/tool_options.h"
 
 #include <cstddef>
 #include <memory>
@@ -45,6 +46,8 @@ public:
     void float_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
     void drop_paste() { paste_.reset(); }
+    // Draws the paste, which is there, into the target. Unless the mode lets it go, it floats on.
+    void plot_paste(Drawing_Target& target, Selection_Mode mode);
     // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
