@@ -3,7 +3,7 @@
 #include "app/recorder.h"
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
-#include "selection/selection_transforms.h"
+#include "selection/transforms.h"
 
 #include <algorithm>
 #include <vector>

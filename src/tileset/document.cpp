@@ -1,6 +1,6 @@
 #include "tileset/document.h"
 
-#include "tileset/transform_commands.h"
+#include "selection/transforms.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "commands/command_table.h"
 #include "selection/copy_buffer.h"
 #include "selection/floating_paste.h"
-#include "selection/selection_transforms.h"
+#include "selection/transforms.h"
 #include "selection/work_area.h"
 #include "tests/support/tiles.h"
 

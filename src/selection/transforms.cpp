@@ -1,7 +1,9 @@
-#include "selection/selection_transforms.h"
+#include "selection/transforms.h"
 
 #include "selection/scroll.h"
 #include "selection/transform_table.h"
+
+#include <functional>
 
 namespace quadrelle {
 
@@ -61,24 +63,54 @@ void anti_alias(Tile& tile, const Selection& selection) {
     }
 }
 
-} // namespace
+bool is_transform(Command command) {
+    return find_transform(command) != nullptr || command == Command::anti_alias;
+}
 
-Outcome transform_selected(Tile& tile, Selection& selection, Command command) {
-    const Transform_Row* const row = find_transform(command);
-    if (row == nullptr && command != Command::anti_alias) {
+// How the pixels of an area are changed; each command does one of the three.
+struct Area_Transforms {
+    std::function<void()> soften;
+    std::function<void(Tile_Point step)> scroll;
+    std::function<void(const Placement& placement)> place;
+};
+
+Outcome transform_area(Size area, const Area_Transforms& transforms, Command command) {
+    if (!is_transform(command)) {
         return Outcome::unknown;
     }
-    const Rectangle bounds = selection.bounds();
+    const Transform_Row* const row = find_transform(command);
     if (row == nullptr) {
-        anti_alias(tile, selection);
+        transforms.soften();
     } else if (row->placement == nullptr) {
-        scroll_selected(tile, selection, row->step);
-    } else if (row->placement->fits({bounds.width, bounds.height})) {
-        turn(tile, selection, *row->placement);
+        transforms.scroll(row->step);
+    } else if (row->placement->fits(area)) {
+        transforms.place(*row->placement);
     } else {
         return Outcome::refused;
     }
     return Outcome::done;
+}
+
+} // namespace
+
+Outcome transform_tile(Tile* tile, Command command) {
+    if (tile == nullptr) {
+        return is_transform(command) ? Outcome::refused : Outcome::unknown;
+    }
+    return transform_area(tile->size(),
+                          {[tile] { tile->anti_alias(); },
+                           [tile](Tile_Point step) { scroll_wrapped(*tile, step); },
+                           [tile](const Placement& placement) { place(Tile(*tile), *tile, placement); }},
+                          command);
+}
+
+Outcome transform_selected(Tile& tile, Selection& selection, Command command) {
+    const Rectangle bounds = selection.bounds();
+    return transform_area({bounds.width, bounds.height},
+                          {[&] { anti_alias(tile, selection); },
+                           [&](Tile_Point step) { scroll_selected(tile, selection, step); },
+                           [&](const Placement& placement) { turn(tile, selection, placement); }},
+                          command);
 }
 
 } // namespace quadrelle
