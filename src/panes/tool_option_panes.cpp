@@ -16,41 +16,41 @@ namespace {
 constexpr Rectangle row_area =
     below_title({0, 0, window_layout::column_width, window_layout::row_pane_height});
 
-enum class Option_Kind { choice, tick };
-enum class Option_Place { above_figures, below_figures };
+enum class Tool_Option_Kind { choice, tick };
+enum class Tool_Option_Place { above_figures, below_figures };
 
 // A choice is kept as an enum and shown as the number of its text; here one becomes the other.
-struct Option_Access {
+struct Tool_Option_Access {
     int (*value)(const Tool_Options& options);
     void (*choose)(Tool_Options& options, int value);
 };
 
 template <auto field>
-constexpr Option_Access access{[](const Tool_Options& options) { return static_cast<int>(options.*field); },
-                               [](Tool_Options& options, int value) {
-                                   options.*field =
-                                       static_cast<std::remove_reference_t<decltype(options.*field)>>(value);
-                               }};
+constexpr Tool_Option_Access access{
+    [](const Tool_Options& options) { return static_cast<int>(options.*field); },
+    [](Tool_Options& options, int value) {
+        options.*field = static_cast<std::remove_reference_t<decltype(options.*field)>>(value);
+    }};
 
-struct Option_Pane_Row {
+struct Tool_Option_Row {
     Tool tool;
     Tool other_tool; // that shows it too, or none
-    Option_Place place;
-    Option_Kind kind;
+    Tool_Option_Place place;
+    Tool_Option_Kind kind;
     std::string_view label;
     std::string_view text; // the choices, or what stands beside the tick
-    Option_Access option;
+    Tool_Option_Access option;
 };
 
 // A tool's rows stand in this order. The labels of the dropper's tick and of the size compensation are
 // deliberate.
 constexpr auto none = Tool::none;
-constexpr auto above = Option_Place::above_figures;
-constexpr auto below = Option_Place::below_figures;
-constexpr auto choice = Option_Kind::choice;
-constexpr auto tick = Option_Kind::tick;
+constexpr auto above = Tool_Option_Place::above_figures;
+constexpr auto below = Tool_Option_Place::below_figures;
+constexpr auto choice = Tool_Option_Kind::choice;
+constexpr auto tick = Tool_Option_Kind::tick;
 // clang-format off
-constexpr std::array option_table = std::to_array<Option_Pane_Row>({
+constexpr std::array tool_option_table = std::to_array<Tool_Option_Row>({
     {Tool::stamp_brush,   none,               below, choice, "Mode",              "Brush,Pattern,Offset$",                                     access<&Tool_Options::stamp_mode>},
     {Tool::pen,           none,               below, choice, "Mode",              "Brush,Pattern,Offset$",                                     access<&Tool_Options::pen_mode>},
     {Tool::pen,           Tool::colorize_pen, below, choice, "Right button mode", "Color,History,Dropper$",                                    access<&Tool_Options::right_button_mode>},
@@ -69,16 +69,17 @@ constexpr std::array option_table = std::to_array<Option_Pane_Row>({
 });
 // clang-format on
 
-static_assert(sizeof(Tool_Options) == option_table.size() * sizeof(std::int32_t), "each option has its row");
+static_assert(sizeof(Tool_Options) == tool_option_table.size() * sizeof(std::int32_t),
+              "each option has its row");
 
-std::unique_ptr<Dialog_Pane> make_pane(const Option_Pane_Row& row) {
-    if (row.kind == Option_Kind::tick) {
+std::unique_ptr<Dialog_Pane> make_pane(const Tool_Option_Row& row) {
+    if (row.kind == Tool_Option_Kind::tick) {
         return std::make_unique<Tick_Pane>(row_area, row.label, row.text);
     }
     return std::make_unique<Option_Pane>(row_area, row.label, row.text, 0);
 }
 
-bool is_shown_for(Tool tool, const Option_Pane_Row& row) {
+bool is_shown_for(Tool tool, const Tool_Option_Row& row) {
     return row.tool == tool || row.other_tool == tool;
 }
 
@@ -88,7 +89,7 @@ Tool_Option_Panes::Tool_Option_Panes()
     : location_(row_area, "Location"), size_(row_area, "Size"), radius_(row_area, "Radius X, Y"),
       offset_(row_area, "Offset"), length_(row_area, "Length"), degrees_(row_area, "Degrees"),
       dropper_color_({}, "Color", Color()) {
-    std::ranges::transform(option_table, std::back_inserter(options_), make_pane);
+    std::ranges::transform(tool_option_table, std::back_inserter(options_), make_pane);
 }
 
 Tool_Option_Panes::~Tool_Option_Panes() = default;
@@ -96,15 +97,15 @@ Tool_Option_Panes::~Tool_Option_Panes() = default;
 int Tool_Option_Panes::place(Tool tool, Point position) {
     visible_options_.clear();
     visible_figures_.clear();
-    const auto place_options = [&](Option_Place place) {
-        for (std::size_t i = 0; i < option_table.size(); ++i) {
-            if (is_shown_for(tool, option_table.at(i)) && option_table.at(i).place == place) {
+    const auto place_options = [&](Tool_Option_Place place) {
+        for (std::size_t i = 0; i < tool_option_table.size(); ++i) {
+            if (is_shown_for(tool, tool_option_table.at(i)) && tool_option_table.at(i).place == place) {
                 visible_options_.push_back(i);
                 position.y = options_.at(i)->place(position.x, position.y);
             }
         }
     };
-    place_options(Option_Place::above_figures);
+    place_options(Tool_Option_Place::above_figures);
     const std::array<Pane*, 2> all_figures{row_of(tool).shows_location ? &location_ : nullptr,
                                            figures_of(tool)};
     for (Pane* const figures : all_figures) {
@@ -113,7 +114,7 @@ int Tool_Option_Panes::place(Tool tool, Point position) {
             position.y = figures->place(position.x, position.y);
         }
     }
-    place_options(Option_Place::below_figures);
+    place_options(Tool_Option_Place::below_figures);
     return position.y;
 }
 
@@ -148,7 +149,7 @@ void Tool_Option_Panes::draw(const Tool_State& state) {
         figures->draw();
     }
     for (const std::size_t row : visible_options_) {
-        options_.at(row)->show(option_table.at(row).option.value(state.options));
+        options_.at(row)->show(tool_option_table.at(row).option.value(state.options));
         options_.at(row)->draw();
     }
 }
@@ -156,11 +157,11 @@ void Tool_Option_Panes::draw(const Tool_State& state) {
 bool Tool_Option_Panes::click(Point point, Tool_Options& options) {
     return std::ranges::any_of(visible_options_, [&](std::size_t row) {
         Dialog_Pane& pane = *options_.at(row);
-        pane.show(option_table.at(row).option.value(options));
+        pane.show(tool_option_table.at(row).option.value(options));
         if (!pane.click(point)) {
             return false;
         }
-        option_table.at(row).option.choose(options, pane.value());
+        tool_option_table.at(row).option.choose(options, pane.value());
         return true;
     });
 }
