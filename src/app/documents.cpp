@@ -110,7 +110,7 @@ bool Documents::save_document(Save_As save_as) {
 }
 
 bool Documents::confirms_save() const {
-    return options->value(Option::confirm_quick_save) == 0 ||
+    return !options->is_ticked(Option::confirm_quick_save) ||
            dialogs->ask("Save", "Save over existing file?");
 }
 

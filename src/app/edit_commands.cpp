@@ -56,7 +56,7 @@ Outcome paste(Editor_Parts& editor) {
 }
 
 Outcome clone(Editor_Parts& editor) {
-    return editor.desk.clone(static_cast<Clone_Style>(options->value(Option::clone_style)));
+    return editor.desk.clone(options->choice<Clone_Style>(Option::clone_style));
 }
 
 Outcome plot_paste(Editor_Parts& editor) {

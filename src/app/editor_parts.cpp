@@ -24,7 +24,7 @@ void Editor_Parts::show_current_tile() {
 
 void Editor_Parts::follow_up(Command done) {
     const Command_Row& row = row_of(done);
-    if (row.has(Command_Trait::leaves_selection) && options->value(Option::clear_selection) == 1) {
+    if (row.has(Command_Trait::leaves_selection) && options->is_ticked(Option::clear_selection)) {
         canvas.work_area().deselect();
     }
     if (row.category == Command_Category::structure || row.category == Command_Category::tile_switch) {

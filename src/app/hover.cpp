@@ -23,7 +23,7 @@ void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
     canvas.set_hover(is_over ? std::optional(Hover{pointer.point()}) : std::nullopt);
     const Tool_State& tools = toolbox->state();
     const Canvas_Settings settings = canvas_settings(*options);
-    const bool is_replaced = is_over && options->value(Option::hide_or_show_cursor) > 0 &&
+    const bool is_replaced = is_over && options->is_ticked(Option::hide_or_show_cursor) &&
                              (shows_brush_outline(tools, settings) || shows_brush_preview(tools, settings));
     set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);
 }

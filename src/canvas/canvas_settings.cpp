@@ -10,9 +10,9 @@ Canvas_Settings canvas_settings(const Options& values) {
     return {values.value(Option::grid_intensity),
             {std::max(values.value(Option::alpha_grid_width), 1),
              std::max(values.value(Option::alpha_grid_height), 1)},
-            static_cast<Brush_Outline>(values.value(Option::precise_brush)),
-            values.value(Option::blocky_precise_brush) == 1,
-            values.value(Option::show_shadow_brush) == 1};
+            values.choice<Brush_Outline>(Option::precise_brush),
+            values.is_ticked(Option::blocky_precise_brush),
+            values.is_ticked(Option::show_shadow_brush)};
 }
 
 bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {

@@ -52,6 +52,12 @@ public:
     // Runs the dialog and takes what was accepted; true when it was.
     bool edit();
     [[nodiscard]] int value(Option option) const { return values_.at(static_cast<std::size_t>(option)); }
+    [[nodiscard]] bool is_ticked(Option option) const { return value(option) == 1; }
+    // The values of the enum stand for the texts of the option, in their order.
+    template <typename Choice>
+    [[nodiscard]] Choice choice(Option option) const {
+        return static_cast<Choice>(value(option));
+    }
 
 private:
     std::unique_ptr<Option_Source> dialog_;
