@@ -3,9 +3,7 @@
 #include "screen/cursor.h"
 #include "screen/events.h"
 
-#include <SDL3/SDL_timer.h>
-
-#include <cstdint>
+#include <chrono>
 #include <optional>
 
 namespace quadrelle {
@@ -16,7 +14,9 @@ namespace {
 constexpr int tick_milliseconds = 1;
 
 Stroke_Moment now() {
-    return {static_cast<std::int64_t>(SDL_GetTicks()), is_shift_held()};
+    using std::chrono::milliseconds;
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return {std::chrono::duration_cast<milliseconds>(time).count(), is_shift_held()};
 }
 
 void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
