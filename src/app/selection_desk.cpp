@@ -6,7 +6,6 @@
 #include "selection/transforms.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace quadrelle {
 
@@ -35,9 +34,9 @@ Outcome Selection_Desk::change(const std::function<void()>& work) {
         return Outcome::refused;
     }
     const Work_State before = canvas_.work_area().state();
-    const std::vector<Color> pixels(tile->pixels().begin(), tile->pixels().end());
+    const Tile tile_before(*tile);
     work();
-    const bool is_same = canvas_.work_area() == before && std::ranges::equal(pixels, tile->pixels());
+    const bool is_same = canvas_.work_area() == before && tile->same_pixels(tile_before);
     return is_same ? Outcome::refused : Outcome::done;
 }
 

@@ -1,6 +1,5 @@
 #include "canvas/stroke.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace quadrelle {
@@ -54,8 +53,7 @@ Stroke_Outcome Stroke::outcome() const {
     if (has_picked_) {
         return Stroke_Outcome::color_picked;
     }
-    const bool is_same =
-        std::ranges::equal(before_.pixels(), tile_.pixels()) && canvas_.work_area() == before_work_;
+    const bool is_same = tile_.same_pixels(before_) && canvas_.work_area() == before_work_;
     return is_same ? Stroke_Outcome::nothing_changed : Stroke_Outcome::something_changed;
 }
 

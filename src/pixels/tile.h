@@ -27,6 +27,10 @@ public:
     // The pixels stand row by row from the top, left to right.
     [[nodiscard]] std::span<const Color> pixels() const { return pixels_; }
     [[nodiscard]] bool same_size(const Tile& other) const { return size() == other.size(); }
+    // Of the same size too.
+    [[nodiscard]] bool same_pixels(const Tile& other) const {
+        return same_size(other) && pixels_ == other.pixels_;
+    }
     // Two tiles with the same version, or one at two times, have the same size and pixels. Never 0. Whoever
     // shows a tile knows by it whether the picture is still right.
     [[nodiscard]] std::uint64_t version() const;

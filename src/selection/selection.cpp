@@ -49,7 +49,7 @@ void Selection::change(const std::function<void(Tile&)>& change) {
 }
 
 bool Selection::operator==(const Selection& other) const {
-    return std::ranges::equal(mask_.pixels(), other.mask_.pixels()) && size() == other.size();
+    return mask_.same_pixels(other.mask_);
 }
 
 void Selection::count_selected() {

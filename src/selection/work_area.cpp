@@ -3,15 +3,12 @@
 #include "selection/copy_buffer.h"
 #include "selection/transform_table.h"
 
-#include <algorithm>
-
 namespace quadrelle {
 
 namespace {
 
 bool same_paste(const Floating_Paste& paste, const Floating_Paste& other) {
-    return paste.position == other.position && paste.picture.same_size(other.picture) &&
-           std::ranges::equal(paste.picture.pixels(), other.picture.pixels());
+    return paste.position == other.position && paste.picture.same_pixels(other.picture);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "tools/hsv_adjustment.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace quadrelle {
@@ -40,8 +39,8 @@ void adjust_hsv(Drawing_Target& target, const Tile& source, const HSV_Change& ch
 Adjustment_Outcome adjust_hsv(Drawing_Target& target, const HSV_Change& change) {
     const Tile source(target.tile());
     adjust_hsv(target, source, change);
-    return std::ranges::equal(source.pixels(), target.tile().pixels()) ? Adjustment_Outcome::nothing_changed
-                                                                       : Adjustment_Outcome::tile_changed;
+    return target.tile().same_pixels(source) ? Adjustment_Outcome::nothing_changed
+                                             : Adjustment_Outcome::tile_changed;
 }
 
 } // namespace quadrelle
