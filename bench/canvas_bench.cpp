@@ -24,9 +24,14 @@ Canvas_Case canvas_of(const benchmark::State& state) {
     return {static_cast<int>(state.range(0)), static_cast<int>(state.range(1))};
 }
 
+// After one pixel of the tile has changed.
 void frame(benchmark::State& state) {
     show_tile(canvas_of(state));
+    Tile& tile = *editor->canvas().tile();
+    int step = 0;
     for (auto _ : state) {
+        tile.set_pixel_at(step * 37 % tile.pixel_count(), {step % 256, 0, 0});
+        ++step;
         editor->redraw(Present::yes);
     }
 }

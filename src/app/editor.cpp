@@ -56,7 +56,9 @@ void Editor::run() {
     }
     while (!parts_->is_quit_requested) {
         handle_one_event();
-        redraw(Present::yes);
+        if (!can_skip_frame()) {
+            redraw(Present::yes);
+        }
     }
 }
 

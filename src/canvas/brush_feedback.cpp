@@ -65,6 +65,19 @@ void paint_outline(const Brush_Feedback& feedback, int pixel_size, const Pixel_R
 
 } // namespace
 
+// The outline runs along the pixels before the brush and along its last ones.
+Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size) {
+    Rectangle area;
+    for (const std::optional<Point>& corner : {feedback.outline, feedback.preview}) {
+        if (corner) {
+            const Size size = feedback.brush->size();
+            area = bounds_of(area, {corner->x - 1, corner->y - 1, size.width * pixel_size + 1,
+                                    size.height * pixel_size + 1});
+        }
+    }
+    return area;
+}
+
 void paint_brush_feedback(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
     if (feedback.preview) {
         paint_preview(feedback, pixel_size, target);

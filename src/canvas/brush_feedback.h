@@ -20,6 +20,9 @@ struct Brush_Feedback {
     std::optional<Color> color;
 };
 
+// Returns the smallest rectangle around all that it changes; empty when it shows nothing.
+[[nodiscard]] Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size);
+
 // `pixel_size` is the edge of a cell. What lies outside the picture is left out.
 void paint_brush_feedback(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target);
 

@@ -1,13 +1,16 @@
 #include "canvas/canvas_view.h"
 
+#include "base/fatal.h"
 #include "color/standard_colors.h"
 #include "screen/events.h"
+#include "screen/image.h"
 #include "screen/opaque_texture.h"
-#include "screen/renderer.h"
 #include "selection/scroll.h"
 
 #include <algorithm>
+#include <cstring>
 #include <utility>
+#include <vector>
 
 namespace quadrelle {
 
@@ -28,8 +31,9 @@ int seam_shift_of(int extent) {
 
 Canvas_View::Canvas_View(int pixel_size)
     : pixel_size_(std::clamp(pixel_size, smallest_pixel_size, largest_pixel_size)),
-      texture_(std::make_unique<Opaque_Texture>(
-          Size{window_layout::canvas.width, window_layout::canvas.height}, active_renderer())) {}
+      texture_(
+          std::make_unique<Opaque_Texture>(Size{window_layout::canvas.width, window_layout::canvas.height})) {
+}
 
 Canvas_View::~Canvas_View() = default;
 
@@ -215,14 +219,46 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
     return feedback;
 }
 
-void Canvas_View::draw(const Tool_State& tools, const Canvas_Settings& settings) {
-    texture_->update([&](const Pixel_Rows& rows) {
-        painter_.paint(picture(tools, settings), rows);
-        if (hover_ && tile_ != nullptr) {
-            paint_brush_feedback(brush_feedback(*hover_, tools, settings), pixel_size_, rows);
+// Painting a part is painting a smaller viewport that stands elsewhere.
+void Canvas_View::paint(Canvas_Picture picture, Brush_Feedback feedback, const Rectangle& part,
+                        const Pixel_Rows& target) {
+    picture.origin = {picture.origin.x - part.x, picture.origin.y - part.y};
+    painter_.paint(picture, target);
+    for (std::optional<Point>* const corner : {&feedback.outline, &feedback.preview}) {
+        if (*corner) {
+            *corner = Point{(*corner)->x - part.x, (*corner)->y - part.y};
         }
-    });
+    }
+    paint_brush_feedback(feedback, pixel_size_, target);
+}
+
+void Canvas_View::draw(const Tool_State& tools, const Canvas_Settings& settings) {
+    const Canvas_Picture now = picture(tools, settings);
+    const Brush_Feedback feedback =
+        hover_ && tile_ != nullptr ? brush_feedback(*hover_, tools, settings) : Brush_Feedback{};
+    const Rectangle part = shown_.change_to(now, feedback_area(feedback, pixel_size_), texture_->size());
+    if (!part.is_empty()) {
+        texture_->update_part(part, [&](const Pixel_Rows& target) { paint(now, feedback, part, target); });
+    }
+    check_painted(now, feedback);
     texture_->draw_at({window_layout::canvas.x, window_layout::canvas.y});
 }
+
+#ifdef NDEBUG
+void Canvas_View::check_painted(const Canvas_Picture& /*picture*/, const Brush_Feedback& /*feedback*/) {}
+#else
+// Painted from nothing it would look the same.
+void Canvas_View::check_painted(const Canvas_Picture& picture, const Brush_Feedback& feedback) {
+    const Size size = texture_->size();
+    static std::vector<Color> anew(static_cast<std::size_t>(size.width) *
+                                   static_cast<std::size_t>(size.height));
+    paint(picture, feedback, {0, 0, size.width, size.height},
+          {anew.data(), size.width * static_cast<std::ptrdiff_t>(sizeof(Color)), size});
+    const std::vector<Color>& shown = texture_->image().pixels;
+    if (std::memcmp(anew.data(), shown.data(), shown.size() * sizeof(Color)) != 0) {
+        fatal("The canvas is not what it would be if it were painted from nothing");
+    }
+}
+#endif
 
 } // namespace quadrelle

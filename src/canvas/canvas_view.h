@@ -9,6 +9,7 @@
 #include "canvas/canvas_painter.h"
 #include "canvas/canvas_settings.h"
 #include "canvas/edge_pictures.h"
+#include "canvas/shown_canvas.h"
 #include "commands/command.h"
 #include "selection/work_area.h"
 #include "ui/window_layout.h"
@@ -115,6 +116,10 @@ private:
     }
     [[nodiscard]] Canvas_Picture picture(const Tool_State& tools, const Canvas_Settings& settings) const;
     void show_selection(Canvas_Picture& picture, const Tool_State& tools) const;
+    // Writes every pixel of that part of the viewport.
+    void paint(Canvas_Picture picture, Brush_Feedback feedback, const Rectangle& part,
+               const Pixel_Rows& target);
+    void check_painted(const Canvas_Picture& picture, const Brush_Feedback& feedback);
     [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover, const Tool_State& tools,
                                                 const Canvas_Settings& settings) const;
 
@@ -128,6 +133,7 @@ private:
     std::unique_ptr<Tile> history_;
     std::optional<Hover> hover_;
     Canvas_Painter painter_;
+    Shown_Canvas shown_;
     std::unique_ptr<Opaque_Texture> texture_;
 };
 

@@ -18,6 +18,10 @@ struct Pixel_Rows {
     [[nodiscard]] Color* row(int y) const {
         return reinterpret_cast<Color*>(reinterpret_cast<std::byte*>(first) + y * pitch);
     }
+    // The part must lie inside.
+    [[nodiscard]] Pixel_Rows part(const Rectangle& area) const {
+        return {row(area.y) + area.x, pitch, {area.width, area.height}};
+    }
 };
 
 } // namespace quadrelle

@@ -1,7 +1,6 @@
 #include "panes/brush_selector.h"
 
 #include "color/standard_colors.h"
-#include "screen/renderer.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "ui/window_layout.h"
@@ -48,7 +47,7 @@ std::unique_ptr<Texture> make_shape_icons(Brush_Shape chosen) {
         draw_icon(icons, i, built_in_brush(shape, largest_size_index, Color()),
                   shape == chosen ? Icon_State::chosen : Icon_State::plain);
     }
-    return std::make_unique<Texture>(icons, active_renderer());
+    return std::make_unique<Texture>(icons);
 }
 
 std::unique_ptr<Texture> make_size_icons(Brush_Shape shape, int chosen) {
@@ -57,7 +56,7 @@ std::unique_ptr<Texture> make_size_icons(Brush_Shape shape, int chosen) {
         draw_icon(icons, i, built_in_brush(shape, i, Color()),
                   i == chosen ? Icon_State::chosen : Icon_State::plain);
     }
-    return std::make_unique<Texture>(icons, active_renderer());
+    return std::make_unique<Texture>(icons);
 }
 
 // The client area is two pixels less high than the icons, which stand in its middle.

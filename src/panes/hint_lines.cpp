@@ -6,10 +6,8 @@
 #include "ui/window_layout.h"
 #include "ui/wrapped_text.h"
 
-#include <SDL3/SDL_surface.h>
-
+#include <algorithm>
 #include <cstddef>
-#include <cstring>
 
 namespace quadrelle {
 
@@ -25,7 +23,7 @@ constexpr std::size_t most_lines = area.height / line_step;
 
 } // namespace
 
-Hint_Lines::Hint_Lines() : picture_(size), texture_(size, screen->renderer()) {
+Hint_Lines::Hint_Lines() : picture_(size), texture_(size) {
     compose_picture();
 }
 
@@ -48,12 +46,9 @@ void Hint_Lines::compose_picture() {
         screen->sprites().draw_text(position.y == 0 ? title_font : font, line, position, picture_);
         position.y += line_step;
     }
-    const SDL_Surface& pixels = *picture_.handle();
-    texture_.update([&](const Pixel_Rows& rows) {
+    texture_.update([this](const Pixel_Rows& rows) {
         for (int y = 0; y < rows.size.height; ++y) {
-            const auto* const row =
-                static_cast<const std::byte*>(pixels.pixels) + static_cast<std::ptrdiff_t>(y) * pixels.pitch;
-            std::memcpy(rows.row(y), row, static_cast<std::size_t>(rows.size.width) * sizeof(Color));
+            std::copy_n(picture_.row(y), rows.size.width, rows.row(y));
         }
     });
 }

@@ -14,6 +14,10 @@ namespace quadrelle {
 // Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
 [[nodiscard]] Input_Event wait_event(std::string_view loop);
 
+// Whether the next frame can be left out: the pointer's next motion waits already, and the last frame is less
+// than 8 ms old. Asked before each frame that follows an event.
+[[nodiscard]] bool can_skip_frame();
+
 enum class Loop_Step { go_on, end };
 
 // What a loop does while no event comes: each time that many milliseconds have gone by. True when there is
@@ -23,8 +27,9 @@ struct Loop_Tick {
     std::function<bool()> work;
 };
 
-// Draws, waits for one event, answers it, and so on until the answer is `end`. The quit event is an event
-// like the others: a modal loop consumes it.
+// Draws, waits for one event, answers it, and so on until the answer is `end`. Motions that have come
+// meanwhile are all answered, with a frame now and then. The quit event is an event like the others: a modal
+// loop consumes it.
 struct Modal_Loop {
     std::string_view name;
     std::function<void()> draw;

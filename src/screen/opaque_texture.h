@@ -1,27 +1,33 @@
 #pragma once
 
-// The texture that an opaque picture composed in memory reaches the window through.
+// An opaque picture that is composed in memory and shown at its own size.
 
+#include "base/geometry.h"
 #include "color/pixel_rows.h"
-#include "screen/streaming_texture.h"
 
 #include <functional>
+#include <memory>
 
 namespace quadrelle {
 
+struct Image;
+
 class Opaque_Texture {
 public:
-    // Fatal when the renderer cannot make it. Without a renderer nothing is ever drawn.
-    Opaque_Texture(Size size, SDL_Renderer* renderer);
+    // Fatal when there is no memory for it.
+    explicit Opaque_Texture(Size size);
 
     // `paint` writes every pixel; opaque ones only.
     void update(const std::function<void(const Pixel_Rows&)>& paint);
+    // `paint` writes every pixel of the part; the first one that it gets is the part's first one.
+    void update_part(const Rectangle& part, const std::function<void(const Pixel_Rows&)>& paint);
     void draw_at(Point position) const;
 
+    [[nodiscard]] Size size() const;
+    [[nodiscard]] const Image& image() const { return *image_; }
+
 private:
-    Size size_;
-    SDL_Renderer* renderer_;
-    Texture_Handle texture_;
+    std::shared_ptr<Image> image_;
 };
 
 } // namespace quadrelle

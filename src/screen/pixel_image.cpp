@@ -1,7 +1,6 @@
 #include "screen/pixel_image.h"
 
 #include "color/translucency.h"
-#include "screen/renderer.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 
@@ -11,7 +10,7 @@ namespace quadrelle {
 
 Pixel_Image::Pixel_Image(Size size)
     : size_(size), pixels_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)),
-      texture_(size, active_renderer()) {}
+      texture_(size) {}
 
 void Pixel_Image::set_pixel(Point position, Color color) {
     Color& pixel = pixels_.at(index_of(position));

@@ -3,15 +3,16 @@
 #include "base/fatal.h"
 #include "base/version.h"
 #include "color/standard_colors.h"
-#include "screen/float_rectangle.h"
-#include "screen/opaque_texture.h"
-#include "screen/renderer.h"
+#include "screen/image.h"
+#include "screen/raster.h"
 #include "screen/sprite_sheet.h"
 #include "screen/surface.h"
 
 #include <SDL3/SDL.h>
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 namespace quadrelle {
 
@@ -34,89 +35,106 @@ void for_each_line(std::string_view text, Use use) {
     }
 }
 
-constexpr Size frame_block_size{256, 256};
-
-// The software renderer and plain shared-memory presents draw a frame fastest where there is no GPU. The
-// environment has the last word.
-void prefer_fast_presents() {
-    SDL_SetHintWithPriority(SDL_HINT_RENDER_DRIVER, "software", SDL_HINT_DEFAULT);
-    SDL_SetHintWithPriority(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0", SDL_HINT_DEFAULT);
-    // The library's SSE fill stores past the cache, and whatever is drawn over such an area waits for memory:
-    // without it a frame takes two thirds of the time.
-    SDL_SetHintWithPriority(SDL_HINT_CPU_FEATURE_MASK, "-sse", SDL_HINT_DEFAULT);
-}
-
 } // namespace
 
-void Screen::Window_Deleter::operator()(SDL_Window* window) const {
-    SDL_DestroyWindow(window);
-}
-
-void Screen::Renderer_Deleter::operator()(SDL_Renderer* renderer) const {
-    set_active_renderer(nullptr);
-    SDL_DestroyRenderer(renderer);
-}
-
-Screen::Screen(Size size) : size_(size) {
-    prefer_fast_presents();
-    open_window();
-    make_frame_block();
-    sprites_ = std::make_unique<Sprite_Sheet>(renderer_.get());
+Screen::Screen(Size size)
+    : size_(size), window_(size), sprites_(std::make_unique<Sprite_Sheet>()), frame_(size), shown_(size),
+      changes_(size) {
+    set_active_frame(&frame_);
     show_cursor(true);
 }
 
-Screen::~Screen() = default;
-
-void Screen::open_window() {
-    SDL_Window* window = nullptr;
-    SDL_Renderer* renderer = nullptr;
-    if (!SDL_CreateWindowAndRenderer(product_name, size_.width, size_.height, 0, &window, &renderer)) {
-        fatal("Unable to create window or renderer.");
-    }
-    window_.reset(window);
-    renderer_.reset(renderer);
-    set_active_renderer(renderer);
-    SDL_SetRenderDrawBlendMode(renderer, SDL_BLENDMODE_BLEND);
+Screen::~Screen() {
+    set_active_frame(nullptr);
 }
 
-void Screen::make_frame_block() {
-    frame_block_ = std::make_unique<Opaque_Texture>(frame_block_size, renderer_.get());
-    frame_block_->update([](const Pixel_Rows& rows) {
-        for (int y = 0; y < rows.size.height; ++y) {
-            std::fill_n(rows.row(y), rows.size.width, standard_color(Standard_Color::frame));
-        }
-    });
-}
-
-// Copying blocks is faster than filling, as long as the renderer works in memory.
 void Screen::clear() {
-    for (int y = 0; y < size_.height; y += frame_block_size.height) {
-        for (int x = 0; x < size_.width; x += frame_block_size.width) {
-            frame_block_->draw_at({x, y});
-        }
-    }
+    frame_.clear();
+    fill_rect(whole(), standard_color(Standard_Color::frame));
 }
 
 void Screen::present() {
-    SDL_RenderPresent(renderer_.get());
+    paint();
+    window_.show(changes_.rectangles());
+    changes_.clear();
 }
 
-// An opaque colour needs no blending, which the software renderer does pixel by pixel.
-void Screen::set_draw_color(Color color) {
-    SDL_SetRenderDrawBlendMode(renderer_.get(), color.a == 255 ? SDL_BLENDMODE_NONE : SDL_BLENDMODE_BLEND);
-    SDL_SetRenderDrawColor(renderer_.get(), color.r, color.g, color.b, color.a);
+void Screen::paint() {
+    if (frame_.is_empty()) {
+        return;
+    }
+    const Pixel_Rows pixels = window_.pixels();
+    Region to_paint(size_);
+    if (!frame_.is_complete()) {
+        frame_.add_areas(to_paint);
+    } else if (shown_.is_complete() && !window_.take_loss()) {
+        frame_.add_changes_since(shown_, to_paint);
+    } else {
+        to_paint.add(whole());
+    }
+    for (const Rectangle& area : to_paint.rectangles()) {
+        draw_part(pixels, area);
+        changes_.add(area);
+    }
+    check_painted(pixels);
+    frame_.release_images();
+    std::swap(frame_, shown_);
+    frame_.clear();
 }
+
+// From the last call on that hides all before it.
+void Screen::draw_part(const Pixel_Rows& pixels, const Rectangle& area) const {
+    const std::vector<Drawing_Call>& calls = frame_.calls();
+    const auto hides_all = [&area](const Drawing_Call& call) {
+        return call.is_opaque() && call.area.encloses(area);
+    };
+    const auto last = std::find_if(calls.rbegin(), calls.rend(), hides_all);
+    const Clipped_Target target{pixels, area};
+    for (auto call = last == calls.rend() ? calls.begin() : last.base() - 1; call != calls.end(); ++call) {
+        if (!intersection(call->area, area).is_empty()) {
+            draw(*call, target);
+        }
+    }
+}
+
+void Screen::draw(const Drawing_Call& call, const Clipped_Target& target) const {
+    switch (call.kind) {
+    case Call_Kind::fill: fill(target, call.area, call.color); break;
+    case Call_Kind::line:
+        quadrelle::draw_line(target, {call.source.x, call.source.y},
+                             {call.source.x + call.source.width, call.source.y + call.source.height},
+                             call.color);
+        break;
+    case Call_Kind::image: quadrelle::draw_image(target, *call.image, call.source, call.area); break;
+    case Call_Kind::text: sprites_->draw_text(call.font, frame_.text_of(call), call.area, target); break;
+    }
+}
+
+#ifdef NDEBUG
+void Screen::check_painted(const Pixel_Rows& /*painted*/) {}
+#else
+// Drawn from nothing the window would look the same.
+void Screen::check_painted(const Pixel_Rows& painted) {
+    if (!frame_.is_complete()) {
+        return;
+    }
+    static const auto anew = make_image(size_, "No memory to check the window.");
+    draw_part(anew->rows(), whole());
+    for (int y = 0; y < size_.height; ++y) {
+        const std::size_t bytes = static_cast<std::size_t>(size_.width) * sizeof(Color);
+        if (std::memcmp(anew->row(y), painted.row(y), bytes) != 0) {
+            fatal("The window is not what it would be if it were drawn from nothing");
+        }
+    }
+}
+#endif
 
 void Screen::fill_rect(const Rectangle& area, Color color) {
-    const SDL_FRect rect = float_rectangle(area);
-    set_draw_color(color);
-    SDL_RenderFillRect(renderer_.get(), &rect);
+    frame_.add_fill(area, color);
 }
 
 void Screen::draw_line(Point from, Point to, Color color) {
-    set_draw_color(color);
-    SDL_RenderLine(renderer_.get(), static_cast<float>(from.x), static_cast<float>(from.y),
-                   static_cast<float>(to.x), static_cast<float>(to.y));
+    frame_.add_line(from, to, color);
 }
 
 void Screen::draw_outline(const Rectangle& area, Color color) {
@@ -178,7 +196,7 @@ void Screen::draw_sprite(Sprite sprite, Point position) {
 }
 
 void Screen::draw_sprite_sized(Sprite sprite, const Rectangle& destination) {
-    sprites_->draw_sprite(sprite, destination);
+    frame_.add_image(sprites_->image(), sprite_rect(sprite), destination);
 }
 
 void Screen::draw_texture(const Texture& texture, Point position) {
@@ -191,8 +209,9 @@ Point Screen::draw_text(Font font, Point position, std::string_view text) {
     for_each_line(text, [&](std::string_view line) {
         position.x = left;
         position.y += line_height(font);
-        sprites_->draw_text(font, line, position);
-        position.x += sprites_->text_width(font, line);
+        const int width = sprites_->text_width(font, line);
+        frame_.add_text(font, line, {position.x, position.y, width, line_height(font)});
+        position.x += width;
     });
     return position;
 }
@@ -216,7 +235,7 @@ std::unique_ptr<Texture> Screen::make_text_texture(std::string_view text, Text_S
     }
     Surface surface(Size{width, line_height(font)});
     sprites_->draw_text(font, text, {0, 0}, surface);
-    return std::make_unique<Texture>(surface, renderer_.get());
+    return std::make_unique<Texture>(surface);
 }
 
 std::unique_ptr<Texture> Screen::make_header(std::string_view title, Header_Style style) const {
@@ -228,11 +247,11 @@ std::unique_ptr<Texture> Screen::make_header(std::string_view title, Header_Styl
 void Screen::set_title(std::string_view text) {
     std::string title(product_name);
     title.append(" ").append(product_version).append(" - ").append(text);
-    SDL_SetWindowTitle(window_.get(), title.c_str());
+    window_.set_title(title);
 }
 
 void Screen::set_relative_mouse_mode(bool on) {
-    SDL_SetWindowRelativeMouseMode(window_.get(), on);
+    window_.set_relative_mouse_mode(on);
 }
 
 void Screen::show_cursor(bool visible) {
@@ -244,7 +263,7 @@ void Screen::show_cursor(bool visible) {
 }
 
 void Screen::warp_mouse(Point position) {
-    SDL_WarpMouseInWindow(window_.get(), static_cast<float>(position.x), static_cast<float>(position.y));
+    window_.warp_mouse(position);
 }
 
 Pointer_State Screen::read_pointer() const {
@@ -254,8 +273,7 @@ Pointer_State Screen::read_pointer() const {
 }
 
 std::string Screen::renderer_name() const {
-    const char* name = SDL_GetRendererName(renderer_.get());
-    return name == nullptr ? "" : name;
+    return "software";
 }
 
 int Screen::text_rows() const {

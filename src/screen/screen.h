@@ -1,24 +1,27 @@
 #pragma once
 
-// The one window, its renderer, and every drawing call that the interface makes.
+// The one window, and every drawing call that the interface makes. The calls of a frame are written down;
+// when it is presented, only what differs from the frame before is drawn and brought to the window.
 
 #include "base/geometry.h"
 #include "base/input.h"
 #include "color/color.h"
 #include "screen/font_table.h"
+#include "screen/frame.h"
+#include "screen/region.h"
 #include "screen/sprite_table.h"
 #include "screen/texture.h"
+#include "screen/window.h"
 
 #include <memory>
 #include <string>
 #include <string_view>
 
-struct SDL_Window;
-
 namespace quadrelle {
 
-class Opaque_Texture;
 class Sprite_Sheet;
+struct Clipped_Target;
+struct Image;
 
 enum class Text_Style { normal, highlighted };
 enum class Bevel { raised, sunken };
@@ -26,14 +29,18 @@ enum class Header_Style { active, passive };
 
 class Screen {
 public:
-    // The current directory must hold "pool.bmp". Fatal without window, renderer or sheet.
+    // The current directory must hold "pool.bmp". Fatal without window or sheet.
     explicit Screen(Size size);
     ~Screen();
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
 
+    // Begins a frame: the whole window in the frame colour. What is drawn without it lies over the frame
+    // before.
     void clear();
     void present();
+    // Draws what was called for since the last time. `present` does that too.
+    void paint();
     void fill_rect(const Rectangle& area, Color color);
     void draw_line(Point from, Point to, Color color);
     // A one-pixel outline in one colour.
@@ -72,24 +79,24 @@ public:
 
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] const Sprite_Sheet& sprites() const { return *sprites_; }
-    [[nodiscard]] SDL_Renderer* renderer() const { return renderer_.get(); }
+    [[nodiscard]] SDL_Window* window() const { return window_.handle(); }
+    // What the window shows is lost: the next frame is drawn from nothing.
+    void set_lost() { window_.set_lost(); }
+    // The window's pixels as they were painted last.
+    [[nodiscard]] Pixel_Rows pixels() { return window_.pixels(); }
 
 private:
-    struct Window_Deleter {
-        void operator()(SDL_Window* window) const;
-    };
-    struct Renderer_Deleter {
-        void operator()(SDL_Renderer* renderer) const;
-    };
-    void open_window();
-    void make_frame_block();
-    void set_draw_color(Color color);
+    void draw_part(const Pixel_Rows& pixels, const Rectangle& area) const;
+    void draw(const Drawing_Call& call, const Clipped_Target& target) const;
+    void check_painted(const Pixel_Rows& painted);
+    [[nodiscard]] Rectangle whole() const { return {0, 0, size_.width, size_.height}; }
 
     Size size_;
-    std::unique_ptr<SDL_Window, Window_Deleter> window_;
-    std::unique_ptr<SDL_Renderer, Renderer_Deleter> renderer_;
-    std::unique_ptr<Opaque_Texture> frame_block_; // a block of the frame colour
+    Window window_;
     std::unique_ptr<Sprite_Sheet> sprites_;
+    Frame frame_;    // what is still to be painted
+    Frame shown_;    // what was painted before
+    Region changes_; // painted since the window was shown
 };
 
 // Built at start-up before everything that draws, destroyed after it.

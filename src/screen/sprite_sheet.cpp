@@ -1,6 +1,8 @@
 #include "screen/sprite_sheet.h"
 
 #include "color/standard_colors.h"
+#include "screen/image.h"
+#include "screen/raster.h"
 
 namespace quadrelle {
 
@@ -50,8 +52,7 @@ std::vector<Rectangle> scan_glyphs(const Surface& sheet, const Font_Row& font) {
     return glyphs;
 }
 
-Sprite_Sheet::Sprite_Sheet(SDL_Renderer* renderer)
-    : renderer_(renderer), surface_("pool.bmp", default_color_key), texture_(surface_, renderer) {
+Sprite_Sheet::Sprite_Sheet() : surface_("pool.bmp", default_color_key), texture_(surface_) {
     for (const Font_Row& font : font_table) {
         glyphs_.at(static_cast<std::size_t>(font.id)) = scan_glyphs(surface_, font);
     }
@@ -76,11 +77,9 @@ int Sprite_Sheet::text_width(Font font, std::string_view text) const {
     return width;
 }
 
-void Sprite_Sheet::draw_sprite(Sprite sprite, const Rectangle& destination) const {
-    texture_.draw_part(sprite_rect(sprite), destination);
-}
-
-void Sprite_Sheet::draw_text(Font font, std::string_view text, Point position) const {
+void Sprite_Sheet::draw_text(Font font, std::string_view text, const Rectangle& area,
+                             const Clipped_Target& target) const {
+    Point position{area.x, area.y};
     for (const char character : text) {
         const int glyph = glyph_index(font, character);
         if (glyph < 0) {
@@ -88,7 +87,8 @@ void Sprite_Sheet::draw_text(Font font, std::string_view text, Point position) c
         }
         const Rectangle source = glyph_rect(font, glyph);
         if (character != ' ') {
-            texture_.draw_part(source, {position.x, position.y, source.width, source.height});
+            draw_image(target, *texture_.image(), source,
+                       {position.x, position.y, source.width, source.height});
         }
         position.x += source.width;
     }
@@ -126,7 +126,7 @@ std::unique_ptr<Texture> Sprite_Sheet::make_header(Header_Ends ends, int width,
     header.fill_rect({band.x, 1, band.width, band.height - 2}, standard_color(Standard_Color::pane_frame));
     surface_.blit_to(header, end, {band.right(), 0, end.width, end.height});
     draw_text(Font::pane_header, title, title_position, header);
-    return std::make_unique<Texture>(header, renderer_);
+    return std::make_unique<Texture>(header);
 }
 
 } // namespace quadrelle

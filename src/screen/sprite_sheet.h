@@ -15,6 +15,8 @@
 
 namespace quadrelle {
 
+struct Clipped_Target;
+
 // The glyph rectangles of one font in the order of the character codes from 32 on, read from the coloured
 // marker pixels above each glyph row.
 [[nodiscard]] std::vector<Rectangle> scan_glyphs(const Surface& sheet, const Font_Row& font);
@@ -31,7 +33,7 @@ namespace quadrelle {
 class Sprite_Sheet {
 public:
     // Loads "pool.bmp" from the current directory; a missing file is fatal.
-    explicit Sprite_Sheet(SDL_Renderer* renderer);
+    Sprite_Sheet();
 
     // Returns -1 for a character that the font has no glyph for.
     [[nodiscard]] int glyph_index(Font font, char character) const;
@@ -39,15 +41,16 @@ public:
     // Returns the width of one line; characters without a glyph take no room.
     [[nodiscard]] int text_width(Font font, std::string_view text) const;
 
-    void draw_sprite(Sprite sprite, const Rectangle& destination) const;
-    // One line of text, its top-left corner at `position`.
-    void draw_text(Font font, std::string_view text, Point position) const;
+    // One line of text, its top-left corner at that of the area.
+    void draw_text(Font font, std::string_view text, const Rectangle& area,
+                   const Clipped_Target& target) const;
     void draw_text(Font font, std::string_view text, Point position, Surface& target) const;
     // Title bars 21 pixels high: both end sprites and between them a band of `width` that holds the title.
     [[nodiscard]] std::unique_ptr<Texture> make_pane_header(int width, std::string_view title) const;
     [[nodiscard]] std::unique_ptr<Texture> make_passive_pane_header(int width, std::string_view title) const;
 
     [[nodiscard]] const Surface& surface() const { return surface_; }
+    [[nodiscard]] const std::shared_ptr<const Image>& image() const { return texture_.image(); }
 
 private:
     struct Header_Ends {
@@ -57,7 +60,6 @@ private:
     [[nodiscard]] std::unique_ptr<Texture> make_header(Header_Ends ends, int width,
                                                        std::string_view title) const;
 
-    SDL_Renderer* renderer_;
     Surface surface_;
     Texture texture_;
     std::array<std::vector<Rectangle>, font_count> glyphs_;

@@ -103,6 +103,11 @@ std::uint32_t* Surface::pixel(int x, int y) const {
     return reinterpret_cast<std::uint32_t*>(row) + x;
 }
 
+// The words of the surface are those of `Color`.
+const Color* Surface::row(int y) const {
+    return reinterpret_cast<const Color*>(pixel(0, y));
+}
+
 void Surface::set_pixel(int x, int y, Rgba_Quad color) {
     if (contains(x, y)) {
         *pixel(x, y) = to_word(color);

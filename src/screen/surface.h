@@ -49,7 +49,8 @@ public:
     [[nodiscard]] Rgba_Quad get_pixel(int x, int y) const;
 
     [[nodiscard]] Size size() const { return size_; }
-    [[nodiscard]] SDL_Surface* handle() const { return surface_.get(); }
+    // Returns the pixels of one row from the left.
+    [[nodiscard]] const Color* row(int y) const;
 
 private:
     struct Deleter {

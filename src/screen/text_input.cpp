@@ -9,11 +9,11 @@
 namespace quadrelle {
 
 Text_Input::Text_Input() {
-    SDL_StartTextInput(SDL_GetRenderWindow(screen->renderer()));
+    SDL_StartTextInput(screen->window());
 }
 
 Text_Input::~Text_Input() {
-    SDL_StopTextInput(SDL_GetRenderWindow(screen->renderer()));
+    SDL_StopTextInput(screen->window());
 }
 
 std::string clipboard_text() {

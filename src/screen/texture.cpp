@@ -1,35 +1,43 @@
 #include "screen/texture.h"
 
-#include "base/fatal.h"
-#include "screen/float_rectangle.h"
+#include "screen/frame.h"
+#include "screen/image.h"
 #include "screen/surface.h"
 
-#include <SDL3/SDL.h>
+#include <algorithm>
 
 namespace quadrelle {
 
-Texture::Texture(const Surface& surface, SDL_Renderer* renderer)
-    : size_(surface.size()), renderer_(renderer),
-      texture_(SDL_CreateTextureFromSurface(renderer, surface.handle())) {
-    if (!texture_) {
-        fatal("Could not set SDL texture from surface.");
+namespace {
+
+std::shared_ptr<const Image> image_of(const Surface& surface) {
+    const auto image = make_image(surface.size(), "Could not set SDL texture from surface.");
+    const Pixel_Rows target = image->rows();
+    for (int y = 0; y < target.size.height; ++y) {
+        std::copy_n(surface.row(y), target.size.width, target.row(y));
     }
-    SDL_SetTextureScaleMode(texture_.get(), SDL_SCALEMODE_NEAREST);
-    SDL_SetTextureBlendMode(texture_.get(), SDL_BLENDMODE_BLEND);
+    image->is_opaque = std::ranges::all_of(image->pixels, [](Color color) { return color.a == 255; });
+    return image;
+}
+
+} // namespace
+
+Texture::Texture(const Surface& surface) : image_(image_of(surface)) {}
+
+Size Texture::size() const {
+    return image_->size;
 }
 
 void Texture::draw(const Rectangle& destination) const {
-    draw_part({0, 0, size_.width, size_.height}, destination);
+    draw_part({0, 0, size().width, size().height}, destination);
 }
 
 void Texture::draw_at(Point position) const {
-    draw({position.x, position.y, size_.width, size_.height});
+    draw({position.x, position.y, size().width, size().height});
 }
 
 void Texture::draw_part(const Rectangle& source, const Rectangle& destination) const {
-    const SDL_FRect from = float_rectangle(source);
-    const SDL_FRect to = float_rectangle(destination);
-    SDL_RenderTexture(renderer_, texture_.get(), &from, &to);
+    active_frame()->add_image(image_, source, destination);
 }
 
 } // namespace quadrelle

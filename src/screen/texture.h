@@ -1,30 +1,31 @@
 #pragma once
 
-// A still image on the renderer's side, made once from a surface.
+// A still image, made once from a surface.
 
 #include "base/geometry.h"
-#include "screen/streaming_texture.h"
+
+#include <memory>
 
 namespace quadrelle {
 
 class Surface;
+struct Image;
 
 class Texture {
 public:
-    // Fatal when the renderer cannot make it.
-    Texture(const Surface& surface, SDL_Renderer* renderer);
+    // Fatal when there is no memory for it.
+    explicit Texture(const Surface& surface);
 
     void draw(const Rectangle& destination) const;
     void draw_at(Point position) const;
     // The part `source` of the image, stretched over `destination` without smoothing.
     void draw_part(const Rectangle& source, const Rectangle& destination) const;
 
-    [[nodiscard]] Size size() const { return size_; }
+    [[nodiscard]] Size size() const;
+    [[nodiscard]] const std::shared_ptr<const Image>& image() const { return image_; }
 
 private:
-    Size size_;
-    SDL_Renderer* renderer_;
-    Texture_Handle texture_;
+    std::shared_ptr<const Image> image_;
 };
 
 } // namespace quadrelle

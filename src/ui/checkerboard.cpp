@@ -31,7 +31,7 @@ std::unique_ptr<Texture> make_checkerboard(Size size) {
             surface.set_pixel(x, y, to_rgba(checkerboard_color(x, y, {square, square})));
         }
     }
-    return std::make_unique<Texture>(surface, screen->renderer());
+    return std::make_unique<Texture>(surface);
 }
 
 } // namespace quadrelle

@@ -1,7 +1,6 @@
 #include "ui/shown_tile.h"
 
 #include "pixels/tile.h"
-#include "screen/renderer.h"
 
 namespace quadrelle {
 
@@ -21,7 +20,7 @@ void Shown_Tile::update_texture(const Tile& tile) {
     if (texture_ && texture_->size() == tile.size()) {
         texture_->upload(tile.pixels());
     } else {
-        texture_.emplace(tile.pixels(), tile.size(), active_renderer());
+        texture_.emplace(tile.pixels(), tile.size());
     }
 }
 

@@ -58,7 +58,7 @@ Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
       ok_({}, Button_Type::ok),
       cancel_({}, Button_Type::cancel), seen_{std::min(picture.width(), view_size.width),
                                               std::min(picture.height(), view_size.height)},
-      view_(seen_, screen->renderer()) {
+      view_(seen_) {
     frame_.set_size({dialog_size.width, dialog_size.height - dialog_title_height});
     const Rectangle& box = frame_.area();
     view_area_ = {box.x + view_margin, box.y + dialog_title_height + view_margin, view_size.width,

@@ -55,9 +55,7 @@ int step_of_wheel(const Movement& moved) {
 
 class Real_Size {
 public:
-    explicit Real_Size(const Tile* tile) : tile_(tile), picture_(screen->size(), screen->renderer()) {
-        compose();
-    }
+    explicit Real_Size(const Tile* tile) : tile_(tile), picture_(screen->size()) { compose(); }
 
     void run() {
         run_modal(

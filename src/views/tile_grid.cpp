@@ -51,7 +51,7 @@ Tile_Grid::Tile_Grid(std::string_view title, const Tileset& tileset, Size cells,
       cell_(cell), area_{grid_position.x, grid_position.y, cells.width * cell.width,
                          cells.height * cell.height},
       text_(text_area_below(area_), title),
-      picture_(std::make_unique<Opaque_Texture>(Size{area_.width, area_.height}, screen->renderer())) {}
+      picture_(std::make_unique<Opaque_Texture>(Size{area_.width, area_.height})) {}
 
 Tile_Grid::~Tile_Grid() = default;
 

@@ -1,9 +1,13 @@
 #include "screen/screen.h"
 
+#include "color/standard_colors.h"
 #include "screen/sprite_sheet.h"
+#include "screen/streaming_texture.h"
 #include "tests/support/window_test.h"
 
-#include <SDL3/SDL.h>
+#include <algorithm>
+#include <array>
+#include <vector>
 
 namespace quadrelle::testing {
 namespace {
@@ -55,6 +59,63 @@ TEST_F(Screen_Test, text_breaks_its_lines) {
     EXPECT_TRUE(has_picture({100, 20, 30, line}));
     EXPECT_FALSE(has_picture({100, 20 + line, 30, line}));
     EXPECT_TRUE(has_picture({100, 20 + 2 * line, 10, line}));
+}
+
+void draw_frame_with(const Rectangle& area, Color color) {
+    screen->clear();
+    screen->fill_rect({0, 0, 300, 200}, backdrop);
+    screen->fill_rect(area, color);
+    screen->present();
+}
+
+TEST_F(Screen_Test, draws_what_has_changed_and_all_that_was_lost) {
+    constexpr Color dirt(1, 2, 3);
+    constexpr Point far_away{900, 500};
+    const Color ground = standard_color(Standard_Color::frame);
+    draw_frame_with(box, {255, 0, 0});
+    screen->pixels().row(far_away.y)[far_away.x] = dirt;
+    EXPECT_EQ(pixel_at(far_away), dirt) << "nothing is drawn there again";
+    screen->set_lost();
+    draw_frame_with({100, 100, 3, 3}, {255, 0, 0});
+    EXPECT_EQ(pixel_at({box.x, box.y}), backdrop);
+    EXPECT_EQ(pixel_at({100, 100}), Color(255, 0, 0));
+    EXPECT_EQ(pixel_at(far_away), ground);
+}
+
+TEST_F(Screen_Test, an_image_shows_as_it_was_when_it_was_drawn) {
+    std::vector<Color> pixels(4, Color(255, 0, 0));
+    Streaming_Texture texture(pixels, {2, 2});
+    texture.draw_part({0, 0, 2, 2}, {10, 10, 2, 2});
+    pixels.assign(4, Color(0, 255, 0));
+    texture.upload(pixels);
+    texture.draw_part({0, 0, 2, 2}, {20, 10, 4, 4});
+    EXPECT_EQ(pixel_at({11, 11}), Color(255, 0, 0));
+    EXPECT_EQ(pixel_at({23, 13}), Color(0, 255, 0));
+}
+
+// Squares of 16 pixels, so what is added and a little around it.
+TEST(Region, becomes_rectangles_that_share_no_pixel) {
+    constexpr Size window{100, 70};
+    Region region(window);
+    EXPECT_TRUE(region.rectangles().empty());
+    const std::array<Rectangle, 5> areas{
+        {{-5, -5, 7, 7}, {40, 3, 1, 60}, {42, 20, 50, 1}, {95, 65, 50, 50}, {200, 0, 10, 10}}};
+    for (const Rectangle& area : areas) {
+        region.add(area);
+    }
+    const std::vector<Rectangle> found = region.rectangles();
+    for (int y = 0; y < window.height; ++y) {
+        for (int x = 0; x < window.width; ++x) {
+            const auto holds_pixel = [=](const Rectangle& area) { return area.contains({x, y}); };
+            const auto is_near = [=](const Rectangle& area) {
+                const Rectangle square{x / 16 * 16, y / 16 * 16, 16, 16};
+                return !intersection(intersection(area, square), {0, 0, window.width, window.height})
+                            .is_empty();
+            };
+            EXPECT_EQ(std::ranges::count_if(found, holds_pixel), std::ranges::any_of(areas, is_near) ? 1 : 0)
+                << x << ", " << y;
+        }
+    }
 }
 
 } // namespace

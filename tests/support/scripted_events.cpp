@@ -54,6 +54,15 @@ bool has_events() {
            SDL_HasEvents(SDL_EVENT_USER, SDL_EVENT_LAST);
 }
 
+SDL_Event motion_event(Point from, Point to) {
+    SDL_Event event = event_of(SDL_EVENT_MOUSE_MOTION);
+    event.motion.x = static_cast<float>(to.x);
+    event.motion.y = static_cast<float>(to.y);
+    event.motion.xrel = static_cast<float>(to.x - from.x);
+    event.motion.yrel = static_cast<float>(to.y - from.y);
+    return event;
+}
+
 } // namespace
 
 Script::Script() {
@@ -110,13 +119,21 @@ Script& Script::release(Point position, Mouse_Button button) {
 }
 
 Script& Script::motion(Point position) {
-    SDL_Event event = event_of(SDL_EVENT_MOUSE_MOTION);
-    event.motion.x = static_cast<float>(position.x);
-    event.motion.y = static_cast<float>(position.y);
-    event.motion.xrel = static_cast<float>(position.x - pointer_.x);
-    event.motion.yrel = static_cast<float>(position.y - pointer_.y);
-    pointer_ = position;
+    const SDL_Event event = motion_event(std::exchange(pointer_, position), position);
     return add_event(event);
+}
+
+Script& Script::motions_at_once(const std::vector<Point>& positions) {
+    std::vector<SDL_Event> events;
+    for (const Point position : positions) {
+        events.push_back(motion_event(std::exchange(pointer_, position), position));
+    }
+    steps_.push_back({true, [events](std::string_view) {
+                          for (SDL_Event event : events) {
+                              SDL_PushEvent(&event);
+                          }
+                      }});
+    return *this;
 }
 
 Script& Script::click(Point position, Mouse_Button button) {

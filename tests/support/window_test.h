@@ -19,12 +19,10 @@
 
 namespace quadrelle::testing {
 
-// What the renderer holds at that point now.
+// What is drawn at that point now.
 [[nodiscard]] Color pixel_at(Point point);
 // Whether a rectangle holds more than one colour.
 [[nodiscard]] bool has_picture(const Rectangle& area);
-// The window's picture as a bitmap file, for looking at.
-void save_picture(const std::string& path);
 // The program is to take no real window system, whatever the environment says.
 void use_dummy_video();
 

@@ -168,7 +168,7 @@ TEST_F(Color_Editor_Test, copies_and_pastes) {
 }
 
 TEST_F(Color_Editor_Test, takes_text_only_while_it_is_open) {
-    SDL_Window* const window = SDL_GetRenderWindow(screen->renderer());
+    SDL_Window* const window = screen->window();
     script().check([window] { EXPECT_TRUE(SDL_TextInputActive(window)); }).quit();
     edited();
     EXPECT_FALSE(SDL_TextInputActive(window));

@@ -1,6 +1,6 @@
-// Pictures of the whole window, compared to the pixel with those in docs/pictures/expected: what the panes say, and
-// where. QUADRELLE_WRITE_PICTURES=1 writes them anew and compares nothing, so the tests are skipped; look at
-// each picture.
+// Pictures of the whole window, compared to the pixel with those in docs/pictures/expected: what the panes
+// say, and where. QUADRELLE_WRITE_PICTURES=1 writes them anew and compares nothing, so the tests are skipped;
+// look at each picture.
 
 #include "screen/screen.h"
 #include "tests/support/stored_picture.h"

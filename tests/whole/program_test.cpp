@@ -9,6 +9,8 @@
 
 #include <SDL3/SDL.h>
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -81,7 +83,7 @@ Color Program_Test::tile_pixel(int x, int y) {
 }
 
 std::string Program_Test::window_title() {
-    return SDL_GetWindowTitle(SDL_GetRenderWindow(screen->renderer()));
+    return SDL_GetWindowTitle(screen->window());
 }
 
 int Program_Test::count_in_preview(Color color) {
@@ -149,14 +151,12 @@ void Program_Test::answer_files(File_Answer_State state, const std::string& path
 }
 
 Program_Test::Picture Program_Test::window_picture() {
-    using Handle = std::unique_ptr<SDL_Surface, void (*)(SDL_Surface*)>;
-    const Handle read(SDL_RenderReadPixels(screen->renderer(), nullptr), SDL_DestroySurface);
-    const Handle surface(SDL_ConvertSurface(read.get(), SDL_PIXELFORMAT_ARGB8888), SDL_DestroySurface);
+    screen->paint();
     Picture picture;
-    for (int y = 0; y < surface->h; ++y) {
-        const auto* row = reinterpret_cast<const std::uint32_t*>(
-            static_cast<const std::byte*>(surface->pixels) + y * surface->pitch);
-        picture.insert(picture.end(), row, row + surface->w);
+    const Pixel_Rows pixels = screen->pixels();
+    for (int y = 0; y < pixels.size.height; ++y) {
+        std::transform(pixels.row(y), pixels.row(y) + pixels.size.width, std::back_inserter(picture),
+                       [](Color color) { return color.word(); });
     }
     return picture;
 }

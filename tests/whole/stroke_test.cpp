@@ -24,6 +24,19 @@ TEST_F(Stroke_Test, ends_with_the_window_close_and_the_program_goes_on) {
     EXPECT_TRUE(document().is_modified());
 }
 
+TEST_F(Stroke_Test, keeps_every_point_of_motions_that_come_at_once) {
+    std::vector<Point> points;
+    for (int i = 0; i < 60; ++i) {
+        points.push_back(cell(i * 7 % 24, i * 5 % 11));
+    }
+    play(script().drag(points));
+    const Tile_Picture one_by_one = tile_picture();
+    editor->execute(Command::undo);
+    ASSERT_EQ(count_of(white), 0);
+    play(script().press(points.front()).motions_at_once(points).release(points.back()));
+    EXPECT_EQ(tile_picture(), one_by_one);
+}
+
 TEST_F(Stroke_Test, takes_no_keys_and_wheels_meanwhile) {
     script().press(cell(2, 3)).key('x').key(key::escape).wheel(1).motion(cell(3, 3)).release(cell(3, 3));
     play();
