@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quadrelle::bench {
@@ -32,6 +33,17 @@ void frame(benchmark::State& state) {
     for (auto _ : state) {
         tile.set_pixel_at(step * 37 % tile.pixel_count(), {step % 256, 0, 0});
         ++step;
+        editor->redraw(Present::yes);
+    }
+}
+
+// After a key that changes the tool: the tool list, its options, the icons and the hint are others.
+void tool_change(benchmark::State& state) {
+    show_tile({24, 21});
+    bool is_pen = false;
+    for (auto _ : state) {
+        is_pen = !is_pen;
+        editor->execute(is_pen ? Command::pen : Command::work_selection);
         editor->redraw(Present::yes);
     }
 }
@@ -140,6 +152,34 @@ void stroke_press(benchmark::State& state) {
     }
 }
 
+// Motions that all wait at once, each one drawn, until the window shows the last one.
+void stroke_burst(benchmark::State& state) {
+    show_tile({64, 8});
+    for (auto _ : state) {
+        Clock::time_point started;
+        bool has_begun = false;
+        set_wait_watcher([&](std::string_view loop) {
+            if (loop != "stroke" || SDL_HasEvents(SDL_EVENT_MOUSE_MOTION, SDL_EVENT_MOUSE_BUTTON_UP)) {
+                return;
+            }
+            if (std::exchange(has_begun, true)) {
+                state.SetIterationTime(seconds_since(started));
+                push(button_event(SDL_EVENT_MOUSE_BUTTON_UP, 400, 300));
+                return;
+            }
+            for (int step = 0; step < state.range(0); ++step) {
+                push(motion_event(step));
+            }
+            started = Clock::now();
+        });
+        push(button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, 400, 300));
+        while (!has_begun) {
+            editor->handle_one_event();
+        }
+        set_wait_watcher({});
+    }
+}
+
 // From one tile of a large set to the next, the window drawn again with the whole strip in it.
 void next_tile(benchmark::State& state) {
     show_tile({static_cast<int>(state.range(0)), 8});
@@ -186,6 +226,8 @@ BENCHMARK(stroke_motion)
     ->UseManualTime()
     ->Iterations(10)
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(stroke_burst)->Arg(1000)->UseManualTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(tool_change)->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);

@@ -1,6 +1,7 @@
 #include "canvas/shown_canvas.h"
 
-#include <algorithm>
+#include "pixels/changed_area.h"
+
 #include <utility>
 
 namespace quadrelle {
@@ -9,30 +10,13 @@ Rectangle Shown_Canvas::Cells::change_to(const Tile& tile) {
     if (version == tile.version()) {
         return {};
     }
-    const std::span<const Color> now = tile.pixels();
-    Rectangle changed;
-    if (size != tile.size()) {
-        size = tile.size();
-        pixels.assign(now.begin(), now.end());
-        changed = {0, 0, size.width, size.height};
-    }
-    for (int y = 0; y < size.height; ++y) {
-        const auto start = static_cast<std::ptrdiff_t>(y) * size.width;
-        const auto shown = pixels.begin() + start;
-        const auto row = now.begin() + start;
-        const auto first = std::mismatch(shown, shown + size.width, row).first;
-        if (first != shown + size.width) {
-            const auto back =
-                std::mismatch(std::reverse_iterator(shown + size.width), std::reverse_iterator(first),
-                              std::reverse_iterator(row + size.width));
-            const auto from = static_cast<int>(first - shown);
-            const auto to = static_cast<int>(back.first.base() - shown);
-            changed = bounds_of(changed, {from, y, to - from, 1});
-            std::copy_n(row + from, to - from, first);
-        }
-    }
     version = tile.version();
-    return changed;
+    if (size == tile.size()) {
+        return update_copy(tile.pixels(), size, pixels);
+    }
+    size = tile.size();
+    pixels.assign(tile.pixels().begin(), tile.pixels().end());
+    return {0, 0, size.width, size.height};
 }
 
 Shown_Canvas::Look Shown_Canvas::look_of(const Canvas_Picture& picture) {

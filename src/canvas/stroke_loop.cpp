@@ -44,16 +44,20 @@ Stroke_Outcome apply_tool(Canvas_View& canvas, const Stroke_Tools& tools, Pointe
     if (row == nullptr) {
         return Stroke_Outcome::nothing_changed;
     }
+    // After the first frame: the window system takes longer to hide the cursor for the first time.
     std::optional<Hidden_Cursor> hidden_cursor;
-    if (!row->keeps_cursor) {
-        hidden_cursor.emplace();
-    }
+    const auto draw = [&] {
+        redraw();
+        if (!row->keeps_cursor && !hidden_cursor) {
+            hidden_cursor.emplace();
+        }
+    };
     Stroke stroke(canvas, *row, pointer, tools);
     Loop_Tick tick;
     if (row->is_due != nullptr) {
         tick = {tick_milliseconds, [&stroke] { return stroke.stay(now()); }};
     }
-    run_stroke(stroke, tick, redraw);
+    run_stroke(stroke, tick, draw);
     return stroke.outcome();
 }
 

@@ -1,5 +1,6 @@
 #include "screen/streaming_texture.h"
 
+#include "pixels/changed_area.h"
 #include "screen/frame.h"
 #include "screen/image.h"
 
@@ -7,15 +8,26 @@
 
 namespace quadrelle {
 
-Streaming_Texture::Streaming_Texture(std::span<const Color> pixels, Size size)
-    : image_(make_image(size, "Could not set SDL texture from pixel data.")) {
-    upload(pixels);
+namespace {
+
+bool are_opaque(std::span<const Color> pixels) {
+    return std::ranges::all_of(pixels, [](Color color) { return color.a == 255; });
 }
 
-void Streaming_Texture::upload(std::span<const Color> pixels) {
-    begin_change(image_, {0, 0, size().width, size().height});
+} // namespace
+
+Streaming_Texture::Streaming_Texture(std::span<const Color> pixels, Size size)
+    : image_(make_image(size, "Could not set SDL texture from pixel data.")) {
     std::ranges::copy(pixels.first(image_->pixels.size()), image_->pixels.begin());
-    image_->is_opaque = std::ranges::all_of(pixels, [](Color color) { return color.a == 255; });
+    image_->is_opaque = are_opaque(image_->pixels);
+}
+
+// Only what is different counts as changed.
+void Streaming_Texture::upload(std::span<const Color> pixels) {
+    begin_change(image_, {});
+    const Rectangle changed = update_copy(pixels.first(image_->pixels.size()), size(), image_->pixels);
+    image_->changed = bounds_of(image_->changed, changed);
+    image_->is_opaque = are_opaque(image_->pixels);
 }
 
 void Streaming_Texture::draw_part(const Rectangle& source, const Rectangle& destination) const {
