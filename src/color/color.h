@@ -5,6 +5,7 @@
 #include "color/bounded_value.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 
 namespace quadrelle {
@@ -26,8 +27,10 @@ struct Color {
     [[nodiscard]] static constexpr Color from_word(std::uint32_t word);
     [[nodiscard]] constexpr std::uint32_t word() const;
 
-    // Compares all four channels; `same_rgb` ignores alpha.
-    constexpr bool operator==(const Color&) const = default;
+    // Compares all four channels, as one word; `same_rgb` ignores alpha.
+    constexpr bool operator==(const Color& other) const {
+        return std::bit_cast<std::uint32_t>(*this) == std::bit_cast<std::uint32_t>(other);
+    }
     [[nodiscard]] constexpr bool same_rgb(Color other) const {
         return r == other.r && g == other.g && b == other.b;
     }
