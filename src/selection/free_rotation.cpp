@@ -1,38 +1,17 @@
 #include "selection/free_rotation.h"
 
+#include "pixels/enlarged_picture.h"
+
 #include <cmath>
 #include <cstdlib>
 #include <numbers>
+#include <span>
 
 namespace quadrelle {
 
 namespace {
 
 constexpr Color transparent{0, 0, 0, 0};
-
-// The picture is sampled as if it had been doubled so often by the scale-twice rule, which keeps its edges.
-constexpr int doublings = 3;
-
-// Black is not what a transparent pixel shows, although that may be black as well.
-bool looks_same(Color pixel, Color other) {
-    return pixel == other || (pixel.a == 0 && other.a == 0);
-}
-
-Color doubled_pixel(const Tile& picture, int x, int y, int level) {
-    if (level == 0) {
-        return picture.get_pixel_clamped(x, y);
-    }
-    const int column = x >> 1;
-    const int row = y >> 1;
-    const auto near = [&](int dx, int dy) {
-        return doubled_pixel(picture, column + dx, row + dy, level - 1);
-    };
-    const Color side = near(x % 2 == 0 ? -1 : 1, 0);
-    const Color other = near(0, y % 2 == 0 ? -1 : 1);
-    const bool is_corner = looks_same(side, other) && !looks_same(side, near(x % 2 == 0 ? 1 : -1, 0)) &&
-                           !looks_same(other, near(0, y % 2 == 0 ? 1 : -1));
-    return is_corner ? side : near(0, 0);
-}
 
 struct Direction {
     double cosine = 1;
@@ -56,17 +35,26 @@ int normalized(int degrees) {
     return ((degrees % 360) + 360) % 360;
 }
 
-// Both in pixels from the top left corner.
-Color sampled(const Tile& picture, double x, double y, bool is_exact) {
-    const int column = static_cast<int>(std::floor(x));
-    const int row = static_cast<int>(std::floor(y));
-    if (picture.is_outside(column, row)) {
-        return transparent;
-    }
-    constexpr int scale = 1 << doublings;
-    return is_exact
-               ? picture.get_pixel(column, row)
-               : doubled_pixel(picture, static_cast<int>(x * scale), static_cast<int>(y * scale), doublings);
+// `sample(x, y)` gives the colour there, in pixels from the top left corner.
+template <typename Sample>
+Tile turned_by(const Tile& picture, Direction direction, Size size, Sample sample) {
+    const Size from = picture.size();
+    Tile result(size.width, size.height);
+    result.change_pixels([&](std::span<Color> pixels) {
+        auto pixel = pixels.begin();
+        for (int y = 0; y < size.height; ++y) {
+            for (int x = 0; x < size.width; ++x, ++pixel) {
+                const double right = x + 0.5 - size.width / 2.0;
+                const double down = y + 0.5 - size.height / 2.0;
+                const double from_x = direction.cosine * right + direction.sine * down + from.width / 2.0;
+                const double from_y = direction.cosine * down - direction.sine * right + from.height / 2.0;
+                const bool is_inside =
+                    from_x >= 0 && from_y >= 0 && from_x < from.width && from_y < from.height;
+                *pixel = is_inside ? sample(from_x, from_y) : transparent;
+            }
+        }
+    });
+    return result;
 }
 
 } // namespace
@@ -74,17 +62,16 @@ Color sampled(const Tile& picture, double x, double y, bool is_exact) {
 Tile turned(const Tile& picture, int degrees, Size size) {
     const int angle = normalized(degrees);
     const Direction direction = direction_of(angle);
-    Tile result(size.width, size.height);
-    for (int y = 0; y < size.height; ++y) {
-        for (int x = 0; x < size.width; ++x) {
-            const double right = x + 0.5 - size.width / 2.0;
-            const double down = y + 0.5 - size.height / 2.0;
-            const double from_x = direction.cosine * right + direction.sine * down + picture.width() / 2.0;
-            const double from_y = direction.cosine * down - direction.sine * right + picture.height() / 2.0;
-            result.set_pixel(x, y, sampled(picture, from_x, from_y, angle % 90 == 0));
-        }
+    if (angle % 90 == 0) {
+        return turned_by(picture, direction, size, [&picture](double x, double y) {
+            return picture.get_pixel(static_cast<int>(x), static_cast<int>(y));
+        });
     }
-    return result;
+    const Enlarged_Picture enlarged(picture);
+    return turned_by(picture, direction, size, [&enlarged](double x, double y) {
+        constexpr int scale = Enlarged_Picture::scale;
+        return enlarged.pixel(static_cast<int>(x * scale), static_cast<int>(y * scale));
+    });
 }
 
 namespace {
