@@ -18,15 +18,13 @@ if(test_sources)
     if(TARGET compose_sheet)
         add_dependencies(quadrelle_tests compose_sheet)
     endif()
-    # Two properties, because gtest_discover_tests keeps only the first entry of a list.
     gtest_discover_tests(quadrelle_tests
         DISCOVERY_MODE PRE_TEST
         DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY ${CMAKE_SOURCE_DIR}
         PROPERTIES
             TIMEOUT 60
-            ENVIRONMENT SDL_VIDEO_DRIVER=dummy
-            ENVIRONMENT_MODIFICATION SDL_RENDER_DRIVER=set:software)
+            ENVIRONMENT SDL_VIDEO_DRIVER=dummy)
 endif()
 
 # Whole sessions on an X server of their own with a real pointer; files named common* are parts of the others.

@@ -56,9 +56,7 @@ void Editor::run() {
     }
     while (!parts_->is_quit_requested) {
         handle_one_event();
-        if (!can_skip_frame()) {
-            redraw(Present::yes);
-        }
+        draw_next_frame([this] { redraw(Present::yes); });
     }
 }
 

@@ -13,7 +13,7 @@ namespace quadrelle {
     return standard_color(is_light ? Standard_Color::checker_light : Standard_Color::checker_dark);
 }
 
-// Returns what shows when the colour is laid over the background, as the renderer blends.
+// Returns what shows when the colour is laid over the background, as the screen blends.
 [[nodiscard]] constexpr Color blended_over(Color color, Color background) {
     if (color.a == 255) {
         return color;

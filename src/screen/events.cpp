@@ -1,7 +1,5 @@
 #include "screen/events.h"
 
-#include "screen/screen.h"
-
 #include <SDL3/SDL.h>
 
 #include <utility>
@@ -27,24 +25,9 @@ void tell_watcher(std::string_view loop) {
 bool key_was_released = false;
 bool button_was_released = false;
 
-// A part of the window may have been uncovered, or its pixels are others.
-void tell_of_loss() {
-    if (screen) {
-        screen->set_lost();
-    }
-}
-
-bool can_lose_pixels(const SDL_Event& event) {
-    return event.type >= SDL_EVENT_WINDOW_FIRST && event.type <= SDL_EVENT_WINDOW_LAST &&
-           event.type != SDL_EVENT_WINDOW_MOUSE_ENTER && event.type != SDL_EVENT_WINDOW_MOUSE_LEAVE;
-}
-
 void note(const SDL_Event& event) {
     key_was_released = key_was_released || event.type == SDL_EVENT_KEY_UP;
     button_was_released = button_was_released || event.type == SDL_EVENT_MOUSE_BUTTON_UP;
-    if (can_lose_pixels(event)) {
-        tell_of_loss();
-    }
 }
 
 } // namespace
@@ -88,17 +71,23 @@ Input_Event wait_event_ticking(const Modal_Loop& loop) {
 
 } // namespace
 
-bool can_skip_frame() {
-    constexpr Uint64 longest_without = SDL_MS_TO_NS(8);
-    static Uint64 last_frame = 0;
-    const Uint64 now = SDL_GetTicksNS();
+namespace {
+
+bool does_motion_wait() {
     SDL_Event next{};
-    const bool has_next = SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_EVENT_FIRST, SDL_EVENT_LAST) > 0;
-    if (has_next && next.type == SDL_EVENT_MOUSE_MOTION && now - last_frame < longest_without) {
-        return true;
+    return SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_EVENT_FIRST, SDL_EVENT_LAST) > 0 &&
+           next.type == SDL_EVENT_MOUSE_MOTION;
+}
+
+} // namespace
+
+void draw_next_frame(const std::function<void()>& draw) {
+    constexpr Uint64 longest_pause = SDL_MS_TO_NS(8);
+    static Uint64 last_frame = 0;
+    if (!does_motion_wait() || SDL_GetTicksNS() - last_frame >= longest_pause) {
+        draw();
+        last_frame = SDL_GetTicksNS();
     }
-    last_frame = now;
-    return false;
 }
 
 void run_modal(const Modal_Loop& loop) {
@@ -106,8 +95,8 @@ void run_modal(const Modal_Loop& loop) {
     loop.draw();
     while (step == Loop_Step::go_on) {
         step = loop.handle(loop.tick.work ? wait_event_ticking(loop) : wait_event(loop.name));
-        if (step == Loop_Step::go_on && !can_skip_frame()) {
-            loop.draw();
+        if (step == Loop_Step::go_on) {
+            draw_next_frame(loop.draw);
         }
     }
 }
@@ -140,7 +129,6 @@ void discard_events() {
     SDL_PumpEvents();
     key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
     button_was_released = button_was_released || SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP);
-    tell_of_loss();
     SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_QUIT - 1);
     SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);
 }

@@ -14,9 +14,9 @@ namespace quadrelle {
 // Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
 [[nodiscard]] Input_Event wait_event(std::string_view loop);
 
-// Whether the next frame can be left out: the pointer's next motion waits already, and the last frame is less
-// than 8 ms old. Asked before each frame that follows an event.
-[[nodiscard]] bool can_skip_frame();
+// Draws the frame that follows an event. It is left out while the pointer's next motion waits already, for 8
+// ms at most.
+void draw_next_frame(const std::function<void()>& draw);
 
 enum class Loop_Step { go_on, end };
 

@@ -32,10 +32,6 @@ Rectangle changed_area(const Drawing_Call& call, const Drawing_Call& before) {
 
 } // namespace
 
-bool Drawing_Call::is_opaque() const {
-    return kind == Call_Kind::fill ? color.a == 255 : kind == Call_Kind::image && image->is_opaque;
-}
-
 Frame* active_frame() {
     return the_frame;
 }
@@ -55,13 +51,13 @@ void Frame::add(Drawing_Call call) {
         return;
     }
     if (calls_.empty()) {
-        is_complete_ = call.is_opaque() && call.area.encloses(window_);
+        is_complete_ = call.is_opaque && call.area.encloses(window_);
     }
     calls_.push_back(std::move(call));
 }
 
 void Frame::add_fill(const Rectangle& area, Color color) {
-    add({.kind = Call_Kind::fill, .color = color, .area = area});
+    add({.kind = Call_Kind::fill, .color = color, .area = area, .is_opaque = color.a == 255});
 }
 
 void Frame::add_line(Point from, Point to, Color color) {
@@ -75,7 +71,11 @@ void Frame::add_line(Point from, Point to, Color color) {
 
 void Frame::add_image(std::shared_ptr<const Image> image, const Rectangle& source,
                       const Rectangle& destination) {
+    if (source.is_empty()) {
+        return;
+    }
     Drawing_Call call{.kind = Call_Kind::image, .area = destination, .source = source};
+    call.is_opaque = image->is_opaque;
     image->is_drawn = true;
     call.image_id = image->id;
     call.image_version = image->version;

@@ -24,16 +24,14 @@ struct Drawing_Call {
     Font font = Font::regular; // of a text
     Color color = {};          // of a fill or a line
     Rectangle area = {};       // all that it may change, in window pixels
-    Rectangle source = {};     // the part of an image; the ends of a line as corner and extent
+    Rectangle source = {};     // the part of an image; of a line its start, and the way to its end
     std::uint32_t text_start = 0;
     std::uint32_t text_length = 0;
     std::uint64_t image_id = 0;
     std::uint64_t image_version = 0;
     // Held until the frame is painted.
     std::shared_ptr<const Image> image = {};
-
-    // Nothing that was drawn before shows in its area.
-    [[nodiscard]] bool is_opaque() const;
+    bool is_opaque = false; // nothing that was drawn before shows in its area
 };
 
 class Frame {

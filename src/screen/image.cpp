@@ -2,6 +2,7 @@
 
 #include "base/fatal.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -21,21 +22,27 @@ Pixel_Rows Image::rows() {
 }
 
 std::shared_ptr<Image> make_image(Size size, const char* failure) {
+    Image image;
+    image.size = size;
     try {
-        auto image = std::make_shared<Image>();
-        image->size = size;
-        image->pixels.resize(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
-        image->id = next_id();
-        return image;
+        image.pixels.resize(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height));
+        image.id = next_id();
+        return std::make_shared<Image>(std::move(image));
     } catch (const std::bad_alloc&) {
         fatal(failure);
     }
 }
 
+bool are_opaque(std::span<const Color> pixels) {
+    return std::ranges::all_of(pixels, [](Color color) { return color.a == 255; });
+}
+
 void begin_change(std::shared_ptr<Image>& image, const Rectangle& area) {
     if (image.use_count() > 1) {
-        image = std::make_shared<Image>(*image);
-        image->id = next_id();
+        const auto copy = make_image(image->size, "Could not set SDL texture from pixel data.");
+        copy->pixels = image->pixels;
+        copy->is_opaque = image->is_opaque;
+        image = copy;
     }
     if (std::exchange(image->is_drawn, false)) {
         ++image->version;

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace quadrelle {
@@ -31,6 +32,8 @@ struct Image {
 
 // Fatal with that message when there is no memory for it.
 [[nodiscard]] std::shared_ptr<Image> make_image(Size size, const char* failure);
+
+[[nodiscard]] bool are_opaque(std::span<const Color> pixels);
 
 // Makes the image one that may be changed: a copy takes its place while a frame that is not painted yet shows
 // it. Then counts the change of `area`.

@@ -19,7 +19,7 @@ public:
 
     // `paint` writes every pixel; opaque ones only.
     void update(const std::function<void(const Pixel_Rows&)>& paint);
-    // `paint` writes every pixel of the part; the first one that it gets is the part's first one.
+    // `paint` gets the rows of the part alone and writes every pixel of them.
     void update_part(const Rectangle& part, const std::function<void(const Pixel_Rows&)>& paint);
     void draw_at(Point position) const;
 

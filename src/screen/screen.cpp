@@ -64,16 +64,17 @@ void Screen::paint() {
         return;
     }
     const Pixel_Rows pixels = window_.pixels();
+    const bool is_lost = window_.take_loss();
     Region to_paint(size_);
-    if (!frame_.is_complete()) {
-        frame_.add_areas(to_paint);
-    } else if (shown_.is_complete() && !window_.take_loss()) {
+    if (is_lost || (frame_.is_complete() && !shown_.is_complete())) {
+        to_paint.add(whole());
+    } else if (frame_.is_complete()) {
         frame_.add_changes_since(shown_, to_paint);
     } else {
-        to_paint.add(whole());
+        frame_.add_areas(to_paint);
     }
     for (const Rectangle& area : to_paint.rectangles()) {
-        draw_part(pixels, area);
+        paint_part(pixels, area);
         changes_.add(area);
     }
     check_painted(pixels);
@@ -83,10 +84,10 @@ void Screen::paint() {
 }
 
 // From the last call on that hides all before it.
-void Screen::draw_part(const Pixel_Rows& pixels, const Rectangle& area) const {
+void Screen::paint_part(const Pixel_Rows& pixels, const Rectangle& area) const {
     const std::vector<Drawing_Call>& calls = frame_.calls();
     const auto hides_all = [&area](const Drawing_Call& call) {
-        return call.is_opaque() && call.area.encloses(area);
+        return call.is_opaque && call.area.encloses(area);
     };
     const auto last = std::find_if(calls.rbegin(), calls.rend(), hides_all);
     const Clipped_Target target{pixels, area};
@@ -119,7 +120,7 @@ void Screen::check_painted(const Pixel_Rows& painted) {
         return;
     }
     static const auto anew = make_image(size_, "No memory to check the window.");
-    draw_part(anew->rows(), whole());
+    paint_part(anew->rows(), whole());
     for (int y = 0; y < size_.height; ++y) {
         const std::size_t bytes = static_cast<std::size_t>(size_.width) * sizeof(Color);
         if (std::memcmp(anew->row(y), painted.row(y), bytes) != 0) {

@@ -21,7 +21,6 @@ namespace quadrelle {
 
 class Sprite_Sheet;
 struct Clipped_Target;
-struct Image;
 
 enum class Text_Style { normal, highlighted };
 enum class Bevel { raised, sunken };
@@ -80,13 +79,11 @@ public:
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] const Sprite_Sheet& sprites() const { return *sprites_; }
     [[nodiscard]] SDL_Window* window() const { return window_.handle(); }
-    // What the window shows is lost: the next frame is drawn from nothing.
-    void set_lost() { window_.set_lost(); }
     // The window's pixels as they were painted last.
     [[nodiscard]] Pixel_Rows pixels() { return window_.pixels(); }
 
 private:
-    void draw_part(const Pixel_Rows& pixels, const Rectangle& area) const;
+    void paint_part(const Pixel_Rows& pixels, const Rectangle& area) const;
     void draw(const Drawing_Call& call, const Clipped_Target& target) const;
     void check_painted(const Pixel_Rows& painted);
     [[nodiscard]] Rectangle whole() const { return {0, 0, size_.width, size_.height}; }

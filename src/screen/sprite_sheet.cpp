@@ -1,8 +1,11 @@
 #include "screen/sprite_sheet.h"
 
+#include "base/fatal.h"
 #include "color/standard_colors.h"
 #include "screen/image.h"
 #include "screen/raster.h"
+
+#include <algorithm>
 
 namespace quadrelle {
 
@@ -56,6 +59,19 @@ Sprite_Sheet::Sprite_Sheet() : surface_("pool.bmp", default_color_key), texture_
     for (const Font_Row& font : font_table) {
         glyphs_.at(static_cast<std::size_t>(font.id)) = scan_glyphs(surface_, font);
     }
+    if (!holds_all()) {
+        fatal("Could not load SDL surface from %s.", "pool.bmp");
+    }
+}
+
+// A sheet of another version or a damaged one may end too early.
+bool Sprite_Sheet::holds_all() const {
+    const Rectangle sheet{0, 0, surface_.size().width, surface_.size().height};
+    const auto lies_inside = [&sheet](const Rectangle& part) { return sheet.encloses(part); };
+    return std::ranges::all_of(sprite_table,
+                               [&](const Sprite_Row& row) { return lies_inside(sprite_rect(row.id)); }) &&
+           std::ranges::all_of(glyphs_,
+                               [&](const auto& glyphs) { return std::ranges::all_of(glyphs, lies_inside); });
 }
 
 int Sprite_Sheet::glyph_index(Font font, char character) const {

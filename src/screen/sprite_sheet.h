@@ -32,7 +32,7 @@ struct Clipped_Target;
 
 class Sprite_Sheet {
 public:
-    // Loads "pool.bmp" from the current directory; a missing file is fatal.
+    // Loads "pool.bmp" from the current directory; a missing file, or a picture too small for it, is fatal.
     Sprite_Sheet();
 
     // Returns -1 for a character that the font has no glyph for.
@@ -53,6 +53,7 @@ public:
     [[nodiscard]] const std::shared_ptr<const Image>& image() const { return texture_.image(); }
 
 private:
+    [[nodiscard]] bool holds_all() const;
     struct Header_Ends {
         Sprite start;
         Sprite end;

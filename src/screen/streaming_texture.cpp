@@ -8,14 +8,6 @@
 
 namespace quadrelle {
 
-namespace {
-
-bool are_opaque(std::span<const Color> pixels) {
-    return std::ranges::all_of(pixels, [](Color color) { return color.a == 255; });
-}
-
-} // namespace
-
 Streaming_Texture::Streaming_Texture(std::span<const Color> pixels, Size size)
     : image_(make_image(size, "Could not set SDL texture from pixel data.")) {
     std::ranges::copy(pixels.first(image_->pixels.size()), image_->pixels.begin());

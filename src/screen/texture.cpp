@@ -16,7 +16,7 @@ std::shared_ptr<const Image> image_of(const Surface& surface) {
     for (int y = 0; y < target.size.height; ++y) {
         std::copy_n(surface.row(y), target.size.width, target.row(y));
     }
-    image->is_opaque = std::ranges::all_of(image->pixels, [](Color color) { return color.a == 255; });
+    image->is_opaque = are_opaque(image->pixels);
     return image;
 }
 

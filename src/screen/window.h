@@ -21,12 +21,15 @@ class Window {
 public:
     // Fatal when the system gives none, or no memory to show it from.
     explicit Window(Size size);
+    ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
 
     // They stay as they are from frame to frame, unless they are lost.
     [[nodiscard]] Pixel_Rows pixels();
-    // Whether the pixels, or what the system shows of them, were lost since the last call.
-    [[nodiscard]] bool take_loss() { return std::exchange(is_lost_, false); }
-    void set_lost() { is_lost_ = true; }
+    // Whether the pixels, or what the system shows of them, were lost since the last call. Then all of the
+    // window is shown next, what lies around the pixels in the frame colour.
+    [[nodiscard]] bool take_loss();
     // Brings these parts of the pixels to the screen.
     void show(std::span<const Rectangle> areas);
 
@@ -44,7 +47,8 @@ private:
     std::unique_ptr<SDL_Window, Deleter> window_;
     SDL_Surface* surface_ = nullptr; // of the window
     std::vector<Color> own_pixels_;  // where those of the surface have another size or layout
-    bool is_lost_ = true;
+    bool is_lost_ = true;            // set as soon as the system tells, before anybody asks for the event
+    bool shows_all_ = false;
 };
 
 } // namespace quadrelle

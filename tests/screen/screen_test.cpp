@@ -5,6 +5,8 @@
 #include "screen/streaming_texture.h"
 #include "tests/support/window_test.h"
 
+#include <SDL3/SDL.h>
+
 #include <algorithm>
 #include <array>
 #include <vector>
@@ -75,7 +77,9 @@ TEST_F(Screen_Test, draws_what_has_changed_and_all_that_was_lost) {
     draw_frame_with(box, {255, 0, 0});
     screen->pixels().row(far_away.y)[far_away.x] = dirt;
     EXPECT_EQ(pixel_at(far_away), dirt) << "nothing is drawn there again";
-    screen->set_lost();
+    SDL_Event uncovered{};
+    uncovered.type = SDL_EVENT_WINDOW_EXPOSED;
+    SDL_PushEvent(&uncovered);
     draw_frame_with({100, 100, 3, 3}, {255, 0, 0});
     EXPECT_EQ(pixel_at({box.x, box.y}), backdrop);
     EXPECT_EQ(pixel_at({100, 100}), Color(255, 0, 0));

@@ -48,6 +48,11 @@ TEST_F(Start_Up_Process, ends_without_the_data_folder) {
 TEST_F(Start_Up_Process, ends_without_a_usable_sheet) {
     put("data/pool.bmp", "BM, but nothing else");
     expect_fatal("Could not load SDL surface from %s. pool.bmp");
+    // A picture of one pixel holds no sprite.
+    put("data/pool.bmp",
+        "BM" + std::string("\x3a\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0", 28) +
+            std::string(24, '\0') + "abc" + '\0');
+    expect_fatal("Could not load SDL surface from %s. pool.bmp");
     std::filesystem::remove(native(path("data/pool.bmp")));
     expect_fatal("Could not load SDL surface from %s. pool.bmp");
 }
