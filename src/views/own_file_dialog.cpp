@@ -64,7 +64,7 @@ private:
     void draw() const;
     Loop_Step handle(const Input_Event& event);
     void handle_key(const Input_Event& event);
-    bool handle_list_key(Keycode pressed);
+    void handle_list_key(Keycode pressed);
     void type(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
     Loop_Step press_list(Point point);
@@ -150,31 +150,29 @@ void Own_Chooser::handle_key(const Input_Event& event) {
     note_.clear();
     if (pressed == key::tab) {
         focus_ = focus_ == Part::list ? Part::name : Part::list;
-    } else if (!handle_list_key(pressed) && focus_ == Part::name) {
-        name_.handle(event);
+        return;
+    }
+    // Up and down lead into the list from everywhere.
+    switch (pressed) {
+    case key::up: move_to(-1); break;
+    case key::down: move_to(1); break;
+    case key::page_up: move_to(-list_.page()); break;
+    case key::page_down: move_to(list_.page()); break;
+    default:
+        if (focus_ == Part::list) {
+            handle_list_key(pressed);
+        } else {
+            name_.handle(event);
+        }
     }
 }
 
-// Up and down lead into the list from everywhere.
-bool Own_Chooser::handle_list_key(Keycode pressed) {
-    const bool is_in_list = focus_ == Part::list;
+void Own_Chooser::handle_list_key(Keycode pressed) {
     switch (pressed) {
-    case key::up: move_to(-1); return true;
-    case key::down: move_to(1); return true;
-    case key::page_up: move_to(-list_.page()); return true;
-    case key::page_down: move_to(list_.page()); return true;
-    case key::home:
-    case key::end:
-        if (is_in_list) {
-            move_to(pressed == key::home ? -all_rows : all_rows);
-        }
-        return is_in_list;
-    case key::backspace:
-        if (is_in_list) {
-            enter(resolved_path(listing_.folder(), ".."));
-        }
-        return is_in_list;
-    default: return false;
+    case key::home: move_to(-all_rows); break;
+    case key::end: move_to(all_rows); break;
+    case key::backspace: enter(resolved_path(listing_.folder(), "..")); break;
+    default: break;
     }
 }
 
