@@ -126,6 +126,9 @@ TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
         expect_message("Note", load_failed).key(key::enter);
         execute(Command::load);
     }
+    answer_files(File_Answer_State::cancelled);
+    execute(Command::load);
+    EXPECT_EQ(document().history().entries().size(), 1U);
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(window_title(), product + "untitled0.qdl");
 }
@@ -165,6 +168,7 @@ TEST_F(Documents_Test, new_takes_the_size_that_is_typed) {
 TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     const New_Dialog_Layout layout;
     play(script().drag({cell(2, 2), cell(3, 2), cell(3, 3), cell(2, 3)}));
+    execute(Command::add_new_tile);
     script().press(layout.item(11)).type("12").key(key::enter).press(layout.item(21)).type("12");
     script().key(key::enter).press(layout.item(30)).key(key::enter);
     document().clear_modified();
@@ -173,8 +177,12 @@ TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     EXPECT_EQ(document().tileset().tile_size(), (Size{12, 12}));
     EXPECT_EQ(tile_pixel(1, 1), white);
     EXPECT_EQ(tile_pixel(2, 1), black);
+    EXPECT_EQ(document().tileset().tile_at(1).size(), (Size{12, 12}));
     EXPECT_TRUE(document().is_modified());
     EXPECT_EQ(editor->canvas().magnified_size(), (Size{120, 120}));
+    // What was before is of another size.
+    execute(Command::undo);
+    EXPECT_EQ(tile_pixel(1, 1), white);
 }
 
 TEST_F(Documents_Test, thousand_and_first_new_does_nothing) {

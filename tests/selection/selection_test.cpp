@@ -104,12 +104,13 @@ TEST(Floating_Paste, honours_alpha) {
     EXPECT_EQ(laid_over({9, 9, 9, 0}, red), red);
     EXPECT_EQ(laid_over({0, 0, 200, 128}, {0, 0, 0, 0}), Color(0, 0, 200, 128));
     EXPECT_EQ(laid_over({0, 0, 200, 51}, red), Color(160, 0, 40));
+    EXPECT_EQ(laid_over({0, 0, 200, 254}, red), Color(1, 0, 199));
     // Two halves over each other let a quarter through, and the upper one counts twice as much.
     EXPECT_EQ(laid_over({0, 0, 240, 128}, {240, 0, 0, 128}), Color(80, 0, 160, 192));
 }
 
 TEST(Copy_Buffer, clones_in_four_places) {
-    const Floating_Paste copy{make_tile({"abcd", "efgh", "ijkl"}), {-2, 9}};
+    const Floating_Paste copy{make_tile({"ab d", "efgh", "ijkl"}), {-2, 9}};
     struct Row {
         Clone_Style style;
         Size tile;
@@ -126,9 +127,56 @@ TEST(Copy_Buffer, clones_in_four_places) {
     const Floating_Paste resized = cloned(copy, Clone_Style::resized, {9, 2});
     EXPECT_EQ(resized.picture.size(), (Size{9, 2}));
     EXPECT_EQ(resized.position, Tile_Point{});
+    EXPECT_EQ(resized.picture.alpha_at(5, 0), 0);
+    EXPECT_EQ(resized.picture.alpha_at(5, 1), 255);
 }
 
-// Which of them carries its selection with it is seen by painting the selected pixels first.
+TEST(Copy_Buffer, what_lies_beside_a_tile_comes_into_its_middle) {
+    const Tile picture(4, 3);
+    for (const Tile_Point seen : {Tile_Point{-3, 0}, {8, 0}, {0, -2}, {0, 8}}) {
+        EXPECT_EQ(in_view({picture, seen}, {9, 9}).position, seen);
+    }
+    for (const Tile_Point beside : {Tile_Point{-4, 0}, {9, 0}, {0, -3}, {0, 9}}) {
+        EXPECT_EQ(in_view({picture, beside}, {9, 9}).position, (Tile_Point{2, 3}));
+    }
+}
+
+// What floats is turned as what is selected.
+TEST(Selection_Transforms, take_what_is_selected_where_their_names_say) {
+    const std::vector<std::pair<Command, Art>> rows{
+        {Command::rotate, {"gda", "heb", "ifc"}},      {Command::rotate_back, {"cfi", "beh", "adg"}},
+        {Command::mirror, {"cba", "fed", "ihg"}},      {Command::flip, {"ghi", "def", "abc"}},
+        {Command::scroll_left, {"bca", "efd", "hig"}}, {Command::scroll_right, {"cab", "fde", "igh"}},
+        {Command::scroll_up, {"def", "ghi", "abc"}},   {Command::scroll_down, {"ghi", "abc", "def"}},
+    };
+    for (const auto& [command, after] : rows) {
+        SCOPED_TRACE(menu_text(command));
+        Tile tile = make_tile({"xabc", "ydef", "zghi"});
+        Selection selection = selected({".###", ".###", ".###"});
+        EXPECT_EQ(transform_selected(tile, selection, command), Outcome::done);
+        EXPECT_EQ(art(tile), (Art{"x" + after[0], "y" + after[1], "z" + after[2]}));
+        Work_Area work;
+        work.resize({4, 4});
+        work.float_paste({make_tile({"abc", "def", "ghi"}), {}});
+        if (work.transform_paste(command) == Outcome::done) {
+            EXPECT_EQ(art(work.paste()->picture), after);
+        }
+    }
+}
+
+TEST(Selection_Transforms, soften_what_is_selected_and_nothing_else) {
+    const Tile before = make_tile({"abcd", "efgh"});
+    Tile soft(before);
+    soft.anti_alias();
+    Tile tile(before);
+    Selection selection = selected({".##.", "#..."});
+    EXPECT_EQ(transform_selected(tile, selection, Command::anti_alias), Outcome::done);
+    for (int i = 0; i < tile.pixel_count(); ++i) {
+        const bool is_soft = selection.contains({i % 4, i / 4});
+        EXPECT_EQ(tile.get_pixel_at(i), (is_soft ? soft : before).get_pixel_at(i)) << i;
+    }
+}
+
 TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
     Random random(11);
     for (int run = 0; run < 60; ++run) {

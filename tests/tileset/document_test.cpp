@@ -39,6 +39,17 @@ TEST(Tileset_Document, answers_tile_commands_up_to_their_limits) {
     }
 }
 
+TEST(Tileset_Document, without_tiles_refuses_all_but_adding) {
+    Tileset_Document document = document_of(0);
+    document.tileset().resize_all({5, 6});
+    for (const Command command : {Command::next_tile, Command::previous_tile, Command::delete_tile}) {
+        EXPECT_EQ(document.handle_command(command), Command::skip_command);
+        EXPECT_EQ(document.tileset().current_index(), 0);
+    }
+    EXPECT_EQ(document.handle_command(Command::insert_new_tile), Command::insert_new_tile);
+    EXPECT_EQ(document.tileset().current_tile()->size(), (Size{5, 6}));
+}
+
 // Not only of square tiles, but these cannot be turned.
 TEST(Tileset_Document, transforms_the_current_tile_only) {
     struct Row {

@@ -124,6 +124,11 @@ TEST(Brush_Pad, places_are_the_first_that_fit_row_by_row) {
     EXPECT_EQ(pad.current()->id, 1);
     EXPECT_FALSE(pad.click({4, 0})) << "a free cell between the strokes";
     EXPECT_EQ(pad.current()->id, 1);
+    // What is moved becomes current, also when another one was chosen meanwhile.
+    ASSERT_TRUE(pad.make_temporary(corner, corner));
+    ASSERT_TRUE(pad.click({0, 2}));
+    ASSERT_TRUE(pad.move_to_pad());
+    EXPECT_EQ(pad.current()->id, 6);
 }
 
 // Random brushes come and go; the same pad comes out of the file at any time.

@@ -2,6 +2,7 @@
 
 #include "screen/screen.h"
 #include "tests/support/window_test.h"
+#include "ui/shown_text.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -38,6 +39,8 @@ TEST_F(Wrapped_Text_Test, loses_nothing_and_fits_at_every_width) {
 
 TEST_F(Wrapped_Text_Test, shows_that_lines_are_left_out) {
     const int width = screen->text_width(font, "wide enough");
+    EXPECT_EQ(fitted_text(font, "wide enough", width, Left_Out::middle), "wide enough");
+    EXPECT_NE(fitted_text(font, "wide enough", width - 1, Left_Out::middle), "wide enough");
     EXPECT_EQ(first_lines(font, {"one", "two"}, 2, width), (Lines{"one", "two"}));
     EXPECT_EQ(first_lines(font, {"one", "two"}, 1, width), Lines{"one..."});
     const Lines cut = first_lines(font, {"wide enough", "two"}, 1, width);

@@ -194,7 +194,11 @@ TEST_F(Color_Editor_Test, lists_the_named_colors_and_takes_one) {
     }
     script().click(data_tab).click(more(Color_Channel::blue)).press(ok);
     EXPECT_EQ(edited(), Color(196, 2, 53));
-    script().key(key::tab).click(named(3)).key(key::escape);
+    const auto is_marked = [](int row) {
+        return pixel_at({named(row).x, named(row).y + 10}) == standard_color(Standard_Color::list_active);
+    };
+    script().key(key::tab).click(named(3)).check([&] { EXPECT_TRUE(is_marked(3) && !is_marked(4)); });
+    script().key(key::escape);
     EXPECT_EQ(edited(), start);
 }
 

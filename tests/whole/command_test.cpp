@@ -65,6 +65,16 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
     }
 }
 
+TEST_F(Command_Test, undo_list_goes_at_any_key_or_click_and_they_do_nothing_else) {
+    play(script().click(cell(1, 1)));
+    script().motion({5, 5}).key('z', Modifier::control);
+    execute(Command::view_undo_history);
+    script().motion({6, 6}).press(cell(5, 5));
+    execute(Command::view_undo_history);
+    EXPECT_EQ(tile_pixel(1, 1), white);
+    EXPECT_EQ(tile_pixel(5, 5), black);
+}
+
 TEST_F(Command_Test, quit_asks_and_only_a_yes_ends_the_program) {
     script().quit();
     expect_question("Quit", "Quit Quadrelle?").key(key::escape);

@@ -98,6 +98,11 @@ TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
     EXPECT_TRUE(work.selection() == before);
     execute(Command::undo);
     EXPECT_EQ(tile_pixel(10, 5), red);
+    // And so is what floats.
+    execute(Command::copy);
+    execute(Command::paste);
+    execute(Command::mirror);
+    EXPECT_EQ(work.paste()->picture.get_pixel(5, 1), red);
 }
 
 } // namespace

@@ -139,6 +139,9 @@ TEST_F(Clipboard_Test, what_is_copied_is_there_for_others_in_every_format) {
     // The program does not take its own.
     execute(Command::paste);
     EXPECT_EQ(editor->copies().copies().size(), 1U);
+    select_rectangle({3, 3}, {4, 4});
+    execute(Command::copy);
+    EXPECT_EQ(on_clipboard(picture_formats.front()).size(), (Size{1, 1}));
 }
 
 TEST_F(Clipboard_Test, pictures_of_others_are_pasted_once_and_then_are_copies_like_any) {
