@@ -1,4 +1,5 @@
-// How long a motion takes that turns or moves a whole picture, without the frame that shows it.
+// How long a motion takes that turns or moves a whole picture, without the frame that shows it, and a step of
+// the history that holds a large one.
 
 #include "bench_support.h"
 
@@ -6,10 +7,12 @@
 #include "canvas/canvas_view.h"
 #include "canvas/stroke.h"
 #include "panes/toolbox.h"
+#include "tileset/undo_history.h"
 
 #include <benchmark/benchmark.h>
 
 #include <random>
+#include <utility>
 
 namespace quadrelle::bench {
 
@@ -67,10 +70,39 @@ void rotate_motion(benchmark::State& state, Painted paint) {
     move_around(state, Canvas_Action::free_rotate);
 }
 
+void float_large_paste(int edge) {
+    show_tile({255, 3});
+    Tile picture(edge, edge);
+    for (int i = 0; i < picture.pixel_count(); ++i) {
+        picture.set_pixel_at(i, {i * 7 % 256, i * 31 % 256, i * 3 % 256, i % 5 == 0 ? 128 : 255});
+    }
+    editor->canvas().work_area().float_paste({std::move(picture), {-edge / 2, -edge / 2}});
+}
+
+void paste_motion(benchmark::State& state) {
+    float_large_paste(static_cast<int>(state.range(0)));
+    move_around(state, Canvas_Action::work_selection);
+    editor->canvas().work_area().drop_paste();
+}
+
+// With a state in the history that is forgotten for it.
+void paste_step(benchmark::State& state) {
+    float_large_paste(static_cast<int>(state.range(0)));
+    for (int i = 0; i < Undo_History::default_capacity; ++i) {
+        editor->execute(Command::change_tile);
+    }
+    for (auto _ : state) {
+        editor->execute(Command::change_tile);
+    }
+    editor->canvas().work_area().drop_paste();
+}
+
 BENCHMARK_CAPTURE(rotate_motion, many_colored, many_colored)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(rotate_motion, disc, disc)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(rotate_motion, dithered, dithered)->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(rotate_motion, two_colored, two_colored)->Unit(benchmark::kMicrosecond);
+BENCHMARK(paste_motion)->Arg(4096)->Unit(benchmark::kMicrosecond);
+BENCHMARK(paste_step)->Arg(4096)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

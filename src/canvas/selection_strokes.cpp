@@ -16,7 +16,7 @@ Selection_Change change_by(Mouse_Button button) {
 }
 
 bool is_in_picture(const Floating_Paste& paste, Tile_Point pixel) {
-    return !paste.picture.is_outside(pixel.x - paste.position.x, pixel.y - paste.position.y);
+    return !paste.picture->is_outside(pixel.x - paste.position.x, pixel.y - paste.position.y);
 }
 
 constexpr int shift_step = 15; // degrees
@@ -126,7 +126,7 @@ Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment) {
         }
         work.lift_selection(target.tile());
     }
-    const Size size = work.paste() ? work.paste()->picture.size() : target.size();
+    const Size size = work.paste() ? work.paste()->picture->size() : target.size();
     const Tile_Point corner = work.paste() ? work.paste()->position : Tile_Point{};
     int& degrees = found.figures.degrees;
     degrees = turn_between(segment.from, segment.to, {2 * corner.x + size.width, 2 * corner.y + size.height});

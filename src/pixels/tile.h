@@ -18,6 +18,8 @@ public:
     // Makes it opaque black. Throws std::length_error for a negative size or more pixels than an int counts.
     Tile(int width, int height);
     Tile(const Tile&) = default;
+    // Nothing may be done any more with a tile that was moved from.
+    Tile(Tile&&) = default;
     Tile& operator=(const Tile&) = delete;
 
     [[nodiscard]] int width() const { return width_; }

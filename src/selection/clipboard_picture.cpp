@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace quadrelle {
 
@@ -15,9 +16,9 @@ namespace {
 
 // Other programs may ask long after the copy, so it is kept, and written only when they do.
 struct Offer {
-    explicit Offer(const Tile& copied) : picture(copied) {}
+    explicit Offer(Shared_Picture copied) : picture(std::move(copied)) {}
 
-    Tile picture;
+    Shared_Picture picture;
     std::array<std::vector<std::uint8_t>, picture_formats.size()> encoded;
 };
 
@@ -74,9 +75,9 @@ Clipboard_Picture decoded(const Picture_Format& format, Picture_Bytes bytes) {
 
 } // namespace
 
-void System_Clipboard::offer(const Tile& picture) {
+void System_Clipboard::offer(const Shared_Picture& picture) {
     taken_.reset();
-    if (picture.pixel_count() == 0) {
+    if (picture->pixel_count() == 0) {
         return;
     }
     std::array<const char*, picture_formats.size()> media_types{};

@@ -3,7 +3,7 @@
 // The system's clipboard as far as it holds pictures: what this program copied is offered to others, and what
 // others copied can be taken. SDL's video must be there.
 
-#include "pixels/tile.h"
+#include "pixels/shared_picture.h"
 #include "selection/picture_formats.h"
 
 #include <cstddef>
@@ -17,7 +17,7 @@ using Clipboard_Picture = Decoded_Picture;
 class System_Clipboard {
 public:
     // The picture takes the place of whatever was there.
-    void offer(const Tile& picture);
+    void offer(const Shared_Picture& picture);
     // Returns what another program has put there since the last offer or the last time that something was
     // taken.
     [[nodiscard]] Clipboard_Picture take();

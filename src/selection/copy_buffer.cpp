@@ -1,5 +1,7 @@
 #include "selection/copy_buffer.h"
 
+#include <utility>
+
 namespace quadrelle {
 
 namespace {
@@ -32,22 +34,22 @@ Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile) 
     switch (style) {
     case Clone_Style::centred:
         return {copy.picture,
-                {centred_start(copy.picture.width(), tile.width),
-                 centred_start(copy.picture.height(), tile.height)}};
+                {centred_start(copy.picture->width(), tile.width),
+                 centred_start(copy.picture->height(), tile.height)}};
     case Clone_Style::top_left: return {copy.picture, {0, 0}};
     case Clone_Style::resized: {
-        Floating_Paste paste{Tile(tile.width, tile.height), {0, 0}};
-        copy.picture.resample_into(paste.picture);
+        Tile picture(tile.width, tile.height);
+        copy.picture->resample_into(picture);
         // Which makes every pixel opaque.
         for (int y = 0; y < tile.height; ++y) {
             for (int x = 0; x < tile.width; ++x) {
-                Color pixel = paste.picture.get_pixel(x, y);
-                pixel.a = copy.picture.alpha_at(x * copy.picture.width() / tile.width,
-                                                y * copy.picture.height() / tile.height);
-                paste.picture.set_pixel(x, y, pixel);
+                Color pixel = picture.get_pixel(x, y);
+                pixel.a = copy.picture->alpha_at(x * copy.picture->width() / tile.width,
+                                                 y * copy.picture->height() / tile.height);
+                picture.set_pixel(x, y, pixel);
             }
         }
-        return paste;
+        return {std::move(picture), {0, 0}};
     }
     case Clone_Style::original_location: break;
     }
@@ -56,8 +58,8 @@ Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile) 
 
 Floating_Paste in_view(const Floating_Paste& paste, Size tile) {
     const bool is_beside = paste.position.x >= tile.width || paste.position.y >= tile.height ||
-                           paste.position.x + paste.picture.width() <= 0 ||
-                           paste.position.y + paste.picture.height() <= 0;
+                           paste.position.x + paste.picture->width() <= 0 ||
+                           paste.position.y + paste.picture->height() <= 0;
     return is_beside ? cloned(paste, Clone_Style::centred, tile) : paste;
 }
 

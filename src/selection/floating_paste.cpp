@@ -1,5 +1,7 @@
 #include "selection/floating_paste.h"
 
+#include <utility>
+
 namespace quadrelle {
 
 namespace {
@@ -8,6 +10,12 @@ namespace {
 int mixed(int above, int above_weight, int below, int below_weight) {
     const int weight = above_weight + below_weight;
     return (above * above_weight + below * below_weight + weight / 2) / weight;
+}
+
+// In pixels of the tile.
+Rectangle part_inside(const Floating_Paste& paste, Size tile) {
+    return intersection({paste.position.x, paste.position.y, paste.picture->width(), paste.picture->height()},
+                        {0, 0, tile.width, tile.height});
 }
 
 } // namespace
@@ -29,22 +37,19 @@ Color laid_over(Color color, Color below) {
 std::optional<Color> Floating_Paste::pixel_over(Tile_Point tile_pixel) const {
     const int x = tile_pixel.x - position.x;
     const int y = tile_pixel.y - position.y;
-    if (picture.is_outside(x, y) || picture.alpha_at(x, y) == 0) {
+    if (picture->is_outside(x, y) || picture->alpha_at(x, y) == 0) {
         return std::nullopt;
     }
-    return picture.get_pixel(x, y);
-}
-
-bool Floating_Paste::covers(Tile_Point tile_pixel) const {
-    return pixel_over(tile_pixel).has_value();
+    return picture->get_pixel(x, y);
 }
 
 Selection Floating_Paste::area(Size tile) const {
+    const Rectangle part = part_inside(*this, tile);
     Selection selection(tile);
     selection.change([&](Tile& mask) {
-        for (int y = 0; y < tile.height; ++y) {
-            for (int x = 0; x < tile.width; ++x) {
-                if (covers({x, y})) {
+        for (int y = part.y; y < part.bottom(); ++y) {
+            for (int x = part.x; x < part.right(); ++x) {
+                if (picture->alpha_at(x - position.x, y - position.y) != 0) {
                     mask.set_pixel(x, y, Selection::selected_color);
                 }
             }
@@ -54,11 +59,12 @@ Selection Floating_Paste::area(Size tile) const {
 }
 
 void Floating_Paste::plot(Drawing_Target& target) const {
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            const Tile_Point pixel{position.x + x, position.y + y};
-            if (picture.alpha_at(x, y) != 0 && target.contains(pixel)) {
-                target.plot(pixel, laid_over(picture.get_pixel(x, y), target.get(pixel)));
+    const Rectangle part = part_inside(*this, target.size());
+    for (int y = part.y; y < part.bottom(); ++y) {
+        for (int x = part.x; x < part.right(); ++x) {
+            const Color pixel = picture->get_pixel(x - position.x, y - position.y);
+            if (pixel.a != 0) {
+                target.plot({x, y}, laid_over(pixel, target.get({x, y})));
             }
         }
     }
@@ -66,17 +72,17 @@ void Floating_Paste::plot(Drawing_Target& target) const {
 
 Floating_Paste lifted(const Tile& tile, const Selection& selection) {
     const Rectangle bounds = selection.bounds();
-    Floating_Paste paste{Tile(bounds.width, bounds.height), {bounds.x, bounds.y}};
-    paste.picture.fill(Selection::unselected_color);
+    Tile picture(bounds.width, bounds.height);
+    picture.fill(Selection::unselected_color);
     for (int y = 0; y < bounds.height; ++y) {
         for (int x = 0; x < bounds.width; ++x) {
             const Tile_Point pixel{bounds.x + x, bounds.y + y};
             if (selection.contains(pixel)) {
-                paste.picture.set_pixel(x, y, tile.get_pixel(pixel.x, pixel.y));
+                picture.set_pixel(x, y, tile.get_pixel(pixel.x, pixel.y));
             }
         }
     }
-    return paste;
+    return {std::move(picture), {bounds.x, bounds.y}};
 }
 
 void clear_selected(Tile& tile, const Selection& selection) {

@@ -3,7 +3,7 @@
 // A picture that floats over a tile until it is plotted. It may hang over the tile's edges.
 
 #include "base/geometry.h"
-#include "pixels/tile.h"
+#include "pixels/shared_picture.h"
 #include "selection/selection.h"
 #include "tools/drawing_target.h"
 
@@ -15,12 +15,11 @@ namespace quadrelle {
 [[nodiscard]] Color laid_over(Color color, Color below);
 
 struct Floating_Paste {
-    Tile picture;        // transparent where it leaves what is below
-    Tile_Point position; // of its top left corner in the tile
+    Shared_Picture picture; // transparent where it leaves what is below
+    Tile_Point position;    // of its top left corner in the tile
 
     // Returns none outside the picture; what is there counts as transparent.
     [[nodiscard]] std::optional<Color> pixel_over(Tile_Point tile_pixel) const;
-    [[nodiscard]] bool covers(Tile_Point tile_pixel) const;
     // Returns where it lies in the tile, cut to it.
     [[nodiscard]] Selection area(Size tile) const;
     void plot(Drawing_Target& target) const;

@@ -86,8 +86,8 @@ int grown(double extent, int before) {
 
 Floating_Paste turned(const Floating_Paste& paste, int degrees) {
     const Direction direction = direction_of(normalized(degrees));
-    const int width = paste.picture.width();
-    const int height = paste.picture.height();
+    const int width = paste.picture->width();
+    const int height = paste.picture->height();
     const double cosine = std::abs(direction.cosine);
     const double sine = std::abs(direction.sine);
     const Size size{grown(width * cosine + height * sine, width),

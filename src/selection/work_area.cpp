@@ -3,6 +3,8 @@
 #include "selection/copy_buffer.h"
 #include "selection/transform_table.h"
 
+#include <utility>
+
 namespace quadrelle {
 
 namespace {
@@ -14,21 +16,21 @@ bool same_paste(const Floating_Paste& paste, const Floating_Paste& other) {
 } // namespace
 
 std::size_t Work_State::memory_size() const {
-    return (selection ? selection->mask().memory_size() : 0) + (paste ? paste->picture.memory_size() : 0);
+    return (selection ? selection->mask().memory_size() : 0) + (paste ? paste->picture->memory_size() : 0);
 }
 
 void Work_Area::resize(Size tile) {
     candidate_.reset();
     selection_.emplace(tile);
     if (paste_) {
-        paste_.emplace(in_view(*paste_, tile));
+        paste_ = in_view(*paste_, tile);
     }
     update_paste_area();
 }
 
 void Work_Area::float_paste(const Floating_Paste& paste) {
     deselect();
-    paste_.emplace(paste);
+    paste_ = paste;
     update_paste_area();
 }
 
@@ -65,13 +67,13 @@ Outcome Work_Area::transform_paste(Command command) {
     if (row == nullptr || row->placement == nullptr) {
         return Outcome::unknown;
     }
-    const Size before = paste_->picture.size();
+    const Size before = paste_->picture->size();
     const Size size = row->placement->size_after(before);
-    Floating_Paste after{Tile(size.width, size.height), paste_->position};
-    place(paste_->picture, after.picture, *row->placement);
-    after.position.x += (before.width - size.width) / 2;
-    after.position.y += (before.height - size.height) / 2;
-    float_paste(after);
+    Tile after(size.width, size.height);
+    place(paste_->picture, after, *row->placement);
+    float_paste({std::move(after),
+                 {paste_->position.x + (before.width - size.width) / 2,
+                  paste_->position.y + (before.height - size.height) / 2}});
     return Outcome::done;
 }
 
@@ -98,7 +100,7 @@ void Work_Area::restore(const Work_State& state) {
     }
     paste_.reset();
     if (state.paste) {
-        paste_.emplace(*state.paste);
+        paste_ = *state.paste;
     }
     update_paste_area();
 }

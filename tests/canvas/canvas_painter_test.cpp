@@ -140,11 +140,12 @@ TEST_F(Selection_Picture, only_what_is_not_selected_is_dimmed) {
 
 // Translucent, hanging over, and plotted: what was shown is what comes out.
 TEST_F(Selection_Picture, a_paste_shows_as_it_will_be_when_plotted) {
-    Floating_Paste paste{Tile(3, 3), {2, -1}};
+    Tile floating(3, 3);
     for (int i = 0; i < 9; ++i) {
-        paste.picture.set_pixel_at(i, {20 * i, 255 - 20 * i, 99, i == 4 ? 0 : 31 * i});
+        floating.set_pixel_at(i, {20 * i, 255 - 20 * i, 99, i == 4 ? 0 : 31 * i});
     }
     tile.set_pixel(3, 1, {0, 0, 200, 128});
+    const Floating_Paste paste{floating, {2, -1}};
     picture.paste = &paste;
     const std::vector<Color> shown = composed(picture, {16, 16});
     Tile plotted(tile);

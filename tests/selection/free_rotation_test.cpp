@@ -63,12 +63,12 @@ TEST(Rotation, a_paste_grows_so_that_nothing_is_lost_and_its_middle_stays) {
     const Floating_Paste paste{random_tile({9, 4}, random), {5, -2}};
     for (int degrees = 0; degrees < 360; degrees += 5) {
         const Floating_Paste result = turned(paste, degrees);
-        EXPECT_EQ(2 * result.position.x + result.picture.width(), 2 * 5 + 9) << degrees;
-        EXPECT_EQ(2 * result.position.y + result.picture.height(), 2 * -2 + 4) << degrees;
+        EXPECT_EQ(2 * result.position.x + result.picture->width(), 2 * 5 + 9) << degrees;
+        EXPECT_EQ(2 * result.position.y + result.picture->height(), 2 * -2 + 4) << degrees;
     }
     const Floating_Paste upright = turned(paste, 90);
     // Odd across even has no common middle: there is a transparent line more.
-    EXPECT_EQ(upright.picture.size(), (Size{5, 10}));
+    EXPECT_EQ(upright.picture->size(), (Size{5, 10}));
     EXPECT_EQ(picture_of(turned(paste, 0).picture), picture_of(paste.picture));
 }
 

@@ -125,10 +125,10 @@ TEST(Copy_Buffer, clones_in_four_places) {
         EXPECT_EQ(art(clone.picture), art(copy.picture));
     }
     const Floating_Paste resized = cloned(copy, Clone_Style::resized, {9, 2});
-    EXPECT_EQ(resized.picture.size(), (Size{9, 2}));
+    EXPECT_EQ(resized.picture->size(), (Size{9, 2}));
     EXPECT_EQ(resized.position, Tile_Point{});
-    EXPECT_EQ(resized.picture.alpha_at(5, 0), 0);
-    EXPECT_EQ(resized.picture.alpha_at(5, 1), 255);
+    EXPECT_EQ(resized.picture->alpha_at(5, 0), 0);
+    EXPECT_EQ(resized.picture->alpha_at(5, 1), 255);
 }
 
 TEST(Copy_Buffer, what_lies_beside_a_tile_comes_into_its_middle) {
@@ -199,6 +199,20 @@ TEST(Selection_Transforms, lose_no_pixel_and_carry_the_selection_along) {
             }
         }
     }
+}
+
+// However large it is, and however many steps of the history keep it.
+TEST(Work_Area, moves_and_keeps_what_floats_without_a_copy) {
+    Work_Area work;
+    work.resize({4, 4});
+    work.float_paste({make_tile({"ab", "cd"}), {1, 1}});
+    const Tile& picture = work.paste()->picture;
+    work.move_paste_to({2, 0});
+    const Work_State state = work.state();
+    work.drop_paste();
+    work.restore(state);
+    const Tile& restored = work.paste()->picture;
+    EXPECT_EQ(&restored, &picture);
 }
 
 TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {

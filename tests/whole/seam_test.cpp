@@ -102,7 +102,7 @@ TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
     execute(Command::copy);
     execute(Command::paste);
     execute(Command::mirror);
-    EXPECT_EQ(work.paste()->picture.get_pixel(5, 1), red);
+    EXPECT_EQ(work.paste()->picture->get_pixel(5, 1), red);
 }
 
 } // namespace

@@ -60,7 +60,7 @@ TEST_F(Copy_Panes_Test, a_click_makes_a_previous_copy_current) {
     play(script().click(next(first_copy, 3)));
     EXPECT_EQ(editor->copies().current_index(), 3U);
     execute(Command::paste);
-    EXPECT_EQ(work().paste()->picture.size(), (Size{2, 1}));
+    EXPECT_EQ(work().paste()->picture->size(), (Size{2, 1}));
     // Nothing was copied there, and the panes show beside no other tool.
     execute(Command::rectangle_selector);
     play(script().click(next(first_copy, 4)));
@@ -153,13 +153,13 @@ TEST_F(Clipboard_Test, pictures_of_others_are_pasted_once_and_then_are_copies_li
             const Other_Program other(format.media_type, format.encode(picture({10, 4}, {9, 8, 7, 60})));
             execute(Command::paste);
             EXPECT_EQ(work().paste()->position, (Tile_Point{7, 10}));
-            EXPECT_EQ(work().paste()->picture.get_pixel(9, 3), Color(9, 8, 7, 60));
+            EXPECT_EQ(work().paste()->picture->get_pixel(9, 3), Color(9, 8, 7, 60));
             execute(Command::paste);
             EXPECT_EQ(editor->copies().copies().size(), copies + 1);
         }
         // Nothing there: the current copy.
         execute(Command::paste);
-        EXPECT_EQ(work().paste()->picture.size(), (Size{10, 4}));
+        EXPECT_EQ(work().paste()->picture->size(), (Size{10, 4}));
         execute(Command::deselect);
     }
 }
@@ -169,7 +169,7 @@ TEST_F(Clipboard_Test, of_a_picture_larger_than_the_tile_nothing_is_lost) {
     const Other_Program other("image/bmp", encode_bitmap(large));
     execute(Command::paste);
     EXPECT_EQ(work().paste()->position, Tile_Point{});
-    EXPECT_EQ(work().paste()->picture.size(), large.size());
+    EXPECT_EQ(work().paste()->picture->size(), large.size());
     drag({20, 20}, {5, 5});
     EXPECT_EQ(count(red), 0);
     execute(Command::plot_paste);

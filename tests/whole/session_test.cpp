@@ -162,7 +162,7 @@ private:
     // Also where its picture is transparent.
     bool is_in_paste(Tile_Point at) const {
         const Floating_Paste& paste = *model_.work.paste;
-        return !paste.picture.is_outside(at.x - paste.position.x, at.y - paste.position.y);
+        return !paste.picture->is_outside(at.x - paste.position.x, at.y - paste.position.y);
     }
     void nudge(Keycode pressed, Tile_Point step) {
         if (model_.shows_paste()) {
