@@ -200,6 +200,17 @@ void next_tile(benchmark::State& state) {
     }
 }
 
+// One more set beside so many: its tab is shown.
+void new_set(benchmark::State& state) {
+    Documents documents([] {});
+    for (std::int64_t i = 0; i < state.range(0); ++i) {
+        documents.new_document({24, 24});
+    }
+    for (auto _ : state) {
+        documents.new_document({24, 24});
+    }
+}
+
 // With the texture of the picture in the History pane, and what goes for the oldest step that falls off.
 void undo_step(benchmark::State& state) {
     const int edge = static_cast<int>(state.range(0));
@@ -230,6 +241,8 @@ BENCHMARK(stroke_burst)->Arg(1000)->UseManualTime()->Unit(benchmark::kMicrosecon
 BENCHMARK(tool_change)->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
+// The names of untitled sets come to an end.
+BENCHMARK(new_set)->Arg(256)->Iterations(100)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "ui/window_layout.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quadrelle {
 
@@ -19,41 +20,51 @@ constexpr int arrow_gap = 1;
 constexpr Rectangle left_arrow{row.x - arrow_gap - arrow.width, row.y + 3, arrow.width, arrow.height};
 constexpr Rectangle right_arrow{row.right() + arrow_gap, row.y + 3, arrow.width, arrow.height};
 
+std::unique_ptr<Texture> make_label(const std::string& title, bool is_current) {
+    // The end of a long path says more than its start.
+    return screen->make_header(fitted_text(Font::pane_header, title, longest_title, Left_Out::start),
+                               is_current ? Header_Style::active : Header_Style::passive);
+}
+
 } // namespace
 
 Document_Tabs::Document_Tabs() = default;
 Document_Tabs::~Document_Tabs() = default;
 
+// Scrolled no further than the current one needs, so that a tab stays where it was clicked; room at the end
+// is used. However many documents are open, labels are made only for the tabs that have room.
 void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t current) {
     tabs_.clear();
     document_count_ = static_cast<int>(titles.size());
+    int room = row.width;
+    const auto add = [&](std::size_t place, std::size_t document) {
+        auto label = make_label(titles[document], document == current);
+        const int width = label->size().width;
+        if (width > room) {
+            return false;
+        }
+        room -= width;
+        tabs_.insert(tabs_.begin() + static_cast<std::ptrdiff_t>(place),
+                     {static_cast<int>(document), {0, row.y, width, row.height}, std::move(label)});
+        return true;
+    };
+    std::size_t first = current;
+    std::size_t end = current + 1;
+    add(0, current);
+    while (first > first_shown_ && add(0, first - 1)) {
+        --first;
+    }
+    while (end < titles.size() && add(tabs_.size(), end)) {
+        ++end;
+    }
+    while (end == titles.size() && first > 0 && add(0, first - 1)) {
+        --first;
+    }
+    first_shown_ = first;
     int x = row.x;
-    for (std::size_t i = 0; i < titles.size(); ++i) {
-        const Header_Style style = i == current ? Header_Style::active : Header_Style::passive;
-        // The end of a long path says more than its start.
-        const std::string title = fitted_text(Font::pane_header, titles[i], longest_title, Left_Out::start);
-        auto label = screen->make_header(title, style);
-        const Rectangle area{x, row.y, label->size().width, row.height};
-        x = area.right();
-        tabs_.push_back({static_cast<int>(i), area, std::move(label)});
-    }
-    scroll_to(current);
-    const int shift = tabs_[first_shown_].area.x - row.x;
-    tabs_.erase(tabs_.begin(), tabs_.begin() + static_cast<std::ptrdiff_t>(first_shown_));
     for (Tab& tab : tabs_) {
-        tab.area.x -= shift;
-    }
-    std::erase_if(tabs_, [](const Tab& tab) { return tab.area.right() > row.right(); });
-}
-
-// No further than the current one needs, so that a tab stays where it was clicked; room at the end is used.
-void Document_Tabs::scroll_to(std::size_t current) {
-    first_shown_ = std::min(first_shown_, current);
-    while (first_shown_ < current && tabs_[current].area.right() - tabs_[first_shown_].area.x > row.width) {
-        ++first_shown_;
-    }
-    while (first_shown_ > 0 && tabs_.back().area.right() - tabs_[first_shown_ - 1].area.x <= row.width) {
-        --first_shown_;
+        tab.area.x = x;
+        x = tab.area.right();
     }
 }
 

@@ -32,7 +32,6 @@ private:
         Rectangle area;
         std::unique_ptr<Texture> label;
     };
-    void scroll_to(std::size_t current);
     [[nodiscard]] bool hides_first() const;
     [[nodiscard]] bool hides_last() const;
 
