@@ -4,6 +4,8 @@
 #include "canvas/canvas_view.h"
 #include "commands/command_table.h"
 #include "panes/toolbox.h"
+#include "selection/transform_table.h"
+#include "selection/transforms.h"
 
 #include <utility>
 
@@ -15,6 +17,18 @@ namespace {
 bool is_edit(Command kind) {
     return row_of(kind).category == Command_Category::pixels ||
            row_of(kind).category == Command_Category::selection;
+}
+
+// The command that turned, mirrored or scrolled the whole tile between two states, or none: it may have been
+// only what was selected, or floated.
+Command transform_between(const Undo_Entry& before, const Undo_Entry& after) {
+    const bool is_of_tile = before.tile_index == after.tile_index && before.work.selection == nullptr;
+    if (!is_of_tile || find_transform(after.kind) == nullptr) {
+        return Command::none;
+    }
+    Tile transformed(before.snapshot->tile);
+    static_cast<void>(transform_tile(&transformed, after.kind));
+    return transformed.same_pixels(after.snapshot->tile) ? after.kind : Command::none;
 }
 
 } // namespace
@@ -44,11 +58,18 @@ void Recorder::record(Command kind) {
 }
 
 bool Recorder::undo() {
-    return restore(documents_.current().history().undo());
+    Undo_History& history = documents_.current().history();
+    const Undo_Entry* const left = history.current();
+    const Undo_Entry* const entry = history.undo();
+    const Command transform = entry == nullptr ? Command::none : transform_between(*entry, *left);
+    return restore(entry, transform == Command::none ? transform : row_of(transform).inverse);
 }
 
 bool Recorder::redo() {
-    return restore(documents_.current().history().redo());
+    Undo_History& history = documents_.current().history();
+    const Undo_Entry* const left = history.current();
+    const Undo_Entry* const entry = history.redo();
+    return restore(entry, entry == nullptr ? Command::none : transform_between(*left, *entry));
 }
 
 // The current state, when the history stands on another tile, on nothing, or on another work area: adding
@@ -76,7 +97,7 @@ bool Recorder::stands_on_merged_step() {
     return last != nullptr && last->work.paste && last->work.paste == merged_.lock();
 }
 
-bool Recorder::restore(const Undo_Entry* entry) {
+bool Recorder::restore(const Undo_Entry* entry, Command transform) {
     if (entry == nullptr) {
         return false;
     }
@@ -87,6 +108,7 @@ bool Recorder::restore(const Undo_Entry* entry) {
     canvas_.with_tile_in_place([&] {
         entry->snapshot->tile.copy_to(*tileset.current_tile());
         canvas_.work_area().restore(entry->work);
+        canvas_.transform_history(transform);
     });
     if (entry->tool != toolbox_.current_tool()) {
         toolbox_.select(row_of(entry->tool).command);

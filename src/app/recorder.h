@@ -41,7 +41,8 @@ public:
 private:
     [[nodiscard]] std::optional<Undo_Entry> missing_floor();
     [[nodiscard]] bool stands_on_merged_step();
-    bool restore(const Undo_Entry* entry);
+    // `transform` leads from the tile that is left to this one, if the whole of it was transformed.
+    bool restore(const Undo_Entry* entry, Command transform);
 
     Documents& documents_;
     Canvas_View& canvas_;

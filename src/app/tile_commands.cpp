@@ -47,7 +47,14 @@ Outcome adjust_all_tiles(Editor_Parts& editor, const HSV_Change& change) {
 
 Outcome transform(Editor_Parts& editor, Command command) {
     const Outcome outcome = editor.desk.transform(command);
-    return outcome == Outcome::unknown ? tileset_commands::leave_to_document(editor, command) : outcome;
+    if (outcome != Outcome::unknown) {
+        return outcome;
+    }
+    const Outcome of_tile = tileset_commands::leave_to_document(editor, command);
+    if (of_tile == Outcome::done) {
+        editor.canvas.transform_history(command);
+    }
+    return of_tile;
 }
 
 // Turned about the middle of the shifted tile, it could not be shifted back; what is selected or floats can.

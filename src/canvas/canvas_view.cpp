@@ -6,6 +6,8 @@
 #include "screen/image.h"
 #include "screen/opaque_texture.h"
 #include "selection/scroll.h"
+#include "selection/transform_table.h"
+#include "selection/transforms.h"
 
 #include <algorithm>
 #include <cstring>
@@ -51,6 +53,12 @@ void Canvas_View::set_tile(Tile* tile) {
 
 void Canvas_View::save_history() {
     history_ = tile_ == nullptr ? nullptr : std::make_unique<Tile>(*tile_);
+}
+
+void Canvas_View::transform_history(Command command) {
+    if (find_transform(command) != nullptr) {
+        static_cast<void>(transform_tile(history_.get(), command));
+    }
 }
 
 bool Canvas_View::shows_paste(const Tool_State& tools) const {

@@ -57,6 +57,9 @@ public:
     // called.
     void save_history();
     [[nodiscard]] const Tile* history() const { return history_.get(); }
+    // To be called when that command turned, mirrored or scrolled the whole tile, so that each pixel is
+    // remembered where it is now. Nothing happens for every other command.
+    void transform_history(Command command);
 
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.

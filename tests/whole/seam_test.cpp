@@ -75,15 +75,25 @@ TEST_F(Seam_Test, is_undone_before_commands_on_the_set) {
     }
 }
 
-TEST_F(Seam_Test, what_the_history_pen_draws_is_shifted_along) {
+// Softening moves no pixel, and what is selected is turned within the tile.
+TEST_F(Seam_Test, what_the_history_pen_draws_goes_with_the_whole_tile) {
     Tile& tile = show(distinct_tile({8, 8}));
     canvas().save_history();
-    shift_both_ways();
-    EXPECT_TRUE(same(tile, *canvas().history()));
-    execute(Command::horizontal_seam_tool);
-    EXPECT_TRUE(same(tile, *canvas().history()));
-    execute(Command::mirror);
-    EXPECT_FALSE(same(tile, *canvas().history()));
+    for (const Command command :
+         {Command::horizontal_seam_tool, Command::vertical_seam_tool, Command::rotate, Command::mirror,
+          Command::scroll_up, Command::horizontal_seam_tool, Command::flip, Command::scroll_right,
+          Command::rotate_back, Command::undo, Command::vertical_seam_tool, Command::undo, Command::undo,
+          Command::redo, Command::undo, Command::undo}) {
+        SCOPED_TRACE(static_cast<int>(command));
+        execute(command);
+        EXPECT_TRUE(same(tile, *canvas().history()));
+    }
+    canvas().work_area().select(selected_rectangle({8, 8}, {1, 1}, {4, 4}), Selection_Change::add);
+    for (const Command command : {Command::rotate, Command::undo, Command::deselect, Command::anti_alias}) {
+        const Tile before(*canvas().history());
+        execute(command);
+        EXPECT_TRUE(same(before, *canvas().history())) << static_cast<int>(command);
+    }
 }
 
 // Across the edge that the shift brought into the middle.

@@ -44,6 +44,16 @@ inline Picture moved(const Tile& before, const Source& source) {
     });
 }
 
+// Back again.
+inline Picture moved_back(const Tile& after, const Source& source) {
+    return changed(after, [&](Tile& tile) {
+        for (int i = 0; i < tile.pixel_count(); ++i) {
+            const Tile_Point from = source({i % tile.width(), i / tile.width()});
+            tile.set_pixel(from.x, from.y, after.get_pixel_at(i));
+        }
+    });
+}
+
 inline Picture scrolled(const Tile& before, int dx, int dy) {
     return moved(before, [&](Tile_Point to) {
         return Tile_Point{(to.x - dx + before.width()) % before.width(),
@@ -84,6 +94,7 @@ struct State {
     Work work;
     Tool tool = Tool::pen;
     int nudge = 0;
+    Source transform = {}; // of the whole tile from the state before, if that is what was done
 };
 
 struct Set_Model {
@@ -122,6 +133,7 @@ public:
         if (set().current != 0) {
             set().show(0);
         }
+        look();
         if (!work.area || size() != work.area->size()) {
             deselect();
             work.paste =
@@ -249,20 +261,20 @@ public:
 
     void undo() {
         if (set().position > 0) {
-            --set().position;
-            restore();
+            restore(set().position - 1, set().states[set().position].transform, moved_back);
         }
     }
     void redo() {
         if (set().position + 1 < set().states.size()) {
-            ++set().position;
-            restore();
+            const std::size_t next = set().position + 1;
+            restore(next, set().states[next].transform, moved);
         }
     }
     void go_to(int index) {
         end_shifts();
         if (index >= 0 && index < set().count() && index != static_cast<int>(set().current)) {
             set().show(static_cast<std::size_t>(index));
+            look();
             deselect();
             push(state());
         }
@@ -277,10 +289,12 @@ public:
         end_shifts();
         const Set_Model::Numbered gone = set().tile();
         set().tiles.erase(set().tiles.begin() + static_cast<std::ptrdiff_t>(set().current));
-        if (set().tiles.empty()) {
+        const bool is_last = set().tiles.empty();
+        if (is_last) {
             set().tiles.push_back(blank(gone.picture->size()));
         }
         set().show(std::min(set().current, set().tiles.size() - 1));
+        look(is_last ? history : picture());
         deselect();
         const auto is_gone = [&](const State& state) { return state.tile == gone.number; };
         auto& states = set().states;
@@ -300,7 +314,9 @@ public:
         if (chooses && set().current != other) {
             set().show(other);
         }
+        look();
         if (one != other) {
+            history = picture();
             start_history();
             set().is_modified = true;
         }
@@ -318,9 +334,11 @@ public:
         const auto change = [&] {
             end_shifts();
             picture() = moved(*picture(), source);
+            history = moved(*history, source);
             shift_to(shift);
         };
         edit(change, true);
+        set().states[set().position].transform = source;
     }
 
     std::vector<Set_Model> sets;
@@ -329,8 +347,15 @@ public:
     Tool tool = Tool::pen;
     Selection_Mode mode = Selection_Mode::standard;
     std::deque<Paste> copies; // the first one is the current one
+    Picture history;          // what the pen's history mode draws
 
 private:
+    // Another tile is in view, or this one is another since it was seen last.
+    void look() { look(picture()); }
+    void look(const Picture& remembered) {
+        history = seen_ == set().tile().number ? history : remembered;
+        seen_ = set().tile().number;
+    }
     [[nodiscard]] Set_Model::Numbered blank(Size size) {
         return {next_number_++, std::make_shared<Tile>(size.width, size.height)};
     }
@@ -344,6 +369,7 @@ private:
         end_shifts();
         set().tiles.insert(set().tiles.begin() + static_cast<std::ptrdiff_t>(index), blank(size()));
         set().show(index);
+        look();
         set().is_modified = true;
     }
     // All that is on view goes with a shift.
@@ -352,6 +378,7 @@ private:
         shift_ = shift;
         if (step != Tile_Point{}) {
             picture() = scrolled(*picture(), step.x, step.y);
+            history = scrolled(*history, step.x, step.y);
             work = work.scrolled(step.x, step.y);
         }
     }
@@ -373,23 +400,28 @@ private:
         set().position = states.size() - 1;
         set().is_modified = true;
     }
-    void restore() {
-        const State& state = set().states[set().position];
+    void restore(std::size_t position, const Source& transform,
+                 Picture (*transformed)(const Tile&, const Source&)) {
+        set().position = position;
+        const State& state = set().states[position];
         const Tile_Point shift = state.tile == set().tile().number ? shift_ : Tile_Point{};
         end_shifts();
         if (state.tile != set().tile().number) {
             const auto tile = std::ranges::find(set().tiles, state.tile, &Set_Model::Numbered::number);
             set().show(static_cast<std::size_t>(tile - set().tiles.begin()));
         }
+        look();
         picture() = state.picture;
         work = state.work;
         tool = state.tool;
+        history = transform ? transformed(*history, transform) : history;
         shift_to(shift);
         set().is_modified = true;
     }
 
     int next_number_ = 0;
     int last_nudge_ = 0;
+    int seen_ = -1;
     Tile_Point shift_;
 };
 

@@ -211,7 +211,7 @@ private:
         }
         editor->execute(command);
         if (!turns || size.width == size.height) {
-            model_.transform([&](Tile_Point to) { return source(to, size); });
+            model_.transform([source, size](Tile_Point to) { return source(to, size); });
         }
     }
     void walk_history(Command command, void (Session_Model::*step)()) {

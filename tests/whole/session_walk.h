@@ -36,6 +36,7 @@ protected:
         expect_same_tiles(document().tileset());
         EXPECT_EQ(document().tileset().current_index(), static_cast<int>(model_.set().current));
         EXPECT_EQ(editor->canvas().tile(), document().tileset().current_tile());
+        EXPECT_TRUE(same(*editor->canvas().history(), *model_.history));
         EXPECT_EQ(document().strip().first(), model_.set().first);
         EXPECT_EQ(window_title(),
                   "Quadrelle 0.90 - " + model_.set().name + (model_.set().is_modified ? "*" : ""));
