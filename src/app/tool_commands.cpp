@@ -8,15 +8,6 @@
 
 namespace quadrelle::tool_commands {
 
-namespace {
-
-Shape_Type& type_of(Tool shape) {
-    Tool_Options& options = toolbox->options();
-    return shape == Tool::ellipse ? options.ellipse_type : options.rectangle_type;
-}
-
-} // namespace
-
 Outcome select(Editor_Parts& editor, Command of_tool) {
     return select_tool(editor, tool_of(of_tool));
 }
@@ -32,15 +23,8 @@ Outcome select_tool(Editor_Parts& editor, Tool tool) {
     return Outcome::done;
 }
 
-Outcome select_plain(Editor_Parts& editor, Tool shape) {
-    if (type_of(shape) == Shape_Type::filled) {
-        type_of(shape) = Shape_Type::outline;
-    }
-    return select_tool(editor, shape);
-}
-
 Outcome select_filled(Editor_Parts& editor, Tool shape) {
-    type_of(shape) = Shape_Type::filled;
+    toolbox->state().shape_type_of(shape) = Shape_Type::filled;
     return select_tool(editor, shape);
 }
 

@@ -14,8 +14,7 @@ namespace tool_commands {
 
 Outcome select(Editor_Parts& editor, Command of_tool);
 Outcome select_tool(Editor_Parts& editor, Tool tool);
-// Rectangles and ellipses. The plain one leaves the filled type, but not the one with an outline too.
-Outcome select_plain(Editor_Parts& editor, Tool shape);
+// Of rectangles and ellipses.
 Outcome select_filled(Editor_Parts& editor, Tool shape);
 
 Outcome swap_colors(Editor_Parts& editor);

@@ -23,6 +23,15 @@ int fitting_repeat(int tile_extent, int repeat) {
     return tile_extent * repeat > 191 ? 192 / tile_extent : repeat;
 }
 
+// The filled icon of a shape sets its type by its command. The plain one stands for both types that have an
+// outline: it leaves the filled type only.
+void leave_filled_type(Command icon) {
+    if (icon == Command::rectangle || icon == Command::circle) {
+        Shape_Type& type = toolbox->state().shape_type_of(tool_of(icon));
+        type = type == Shape_Type::filled ? Shape_Type::outline : type;
+    }
+}
+
 } // namespace
 
 Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw)
@@ -215,6 +224,7 @@ Command Window_Panes::click_buttons(const Pointer_State& pointer) {
         return Command::change_tile;
     }
     static_cast<void>(navigation_.click(point));
+    leave_filled_type(icon_bar_.command_at(point));
     return command_at(point);
 }
 

@@ -77,6 +77,10 @@ struct Tool_State {
     [[nodiscard]] Canvas_Action canvas_action() const;
     // Of the tool in use, for rectangles and ellipses.
     [[nodiscard]] Shape_Type shape_type() const;
+    // Of rectangles, or of ellipses.
+    [[nodiscard]] Shape_Type& shape_type_of(Tool shape) {
+        return shape == Tool::ellipse ? options.ellipse_type : options.rectangle_type;
+    }
     // How the brush is laid by the pen, or by the stamp brush.
     [[nodiscard]] Pen_Mode pen_mode() const;
     // Also for the stamp brush, which has no brush rows.

@@ -197,6 +197,7 @@ private:
         const Tile_Point from = some_pixel(3);
         const Tile_Point to = some_pixel(3);
         const Color color = choose_color();
+        tools().options.rectangle_type = Shape_Type::outline;
         editor->execute(tool);
         model_.select_tool(tool == Command::filled_rectangle ? Tool::rectangle : tool_of(tool));
         play(script().drag({window_point(from), window_point(to)}));

@@ -8,13 +8,36 @@ namespace {
 
 class Tools_Test : public Program_Test {};
 
+// Of a shape only its icons set the type.
 TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
     // The icons stand below each other from the top of the bar, with gaps between the groups.
-    play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24 * 2}));
-    EXPECT_EQ(tools().command, Command::rectangle);
-    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_filled);
-    play(script().click({796, 40 + 24 * 7 + 2 * 7 + 24}));
-    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_outline);
+    constexpr Point icon{796, 40 + 24 * 7 + 2 * 7 + 24};
+    constexpr Point filled_icon{icon.x, icon.y + 24};
+    constexpr Point entry{900, 32 + 26 * 7 + 10};
+    constexpr Point more{816 + 34, 32 + 26 * 8 + 4 + 33};
+    constexpr Canvas_Action outline = Canvas_Action::rectangle_outline;
+    constexpr Canvas_Action filled = Canvas_Action::rectangle_filled;
+    constexpr Canvas_Action both = Canvas_Action::rectangle_filled_outline;
+    for (const auto& [point, action] : {std::pair(filled_icon, filled),
+                                        {entry, filled},
+                                        {icon, outline},
+                                        {entry, outline},
+                                        {filled_icon, filled},
+                                        {more, both},
+                                        {entry, both},
+                                        {icon, both},
+                                        {filled_icon, filled}}) {
+        play(script().click(point));
+        EXPECT_EQ(tools().command, Command::rectangle);
+        EXPECT_EQ(tools().canvas_action(), action);
+        if (point == entry) {
+            execute(Command::free_rotate);
+            play(script().click(entry));
+            EXPECT_EQ(tools().canvas_action(), action);
+        }
+    }
+    execute(Command::rectangle);
+    EXPECT_EQ(tools().canvas_action(), filled);
     // The rectangle's rows cover the entry below it; the entries above can be clicked.
     play(script().click({900, 32 + 26 * 4 + 10}));
     EXPECT_EQ(tools().tool, Tool::dropper);
