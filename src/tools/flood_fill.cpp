@@ -15,6 +15,11 @@ std::size_t index_of(Tile_Point position, int width) {
            static_cast<std::size_t>(position.y) * static_cast<std::size_t>(width);
 }
 
+// What a fully transparent pixel would look like is hidden; only some tools leave something there.
+bool is_one_color(Color color, Color other) {
+    return color == other || (color.a == 0 && other.a == 0);
+}
+
 std::array<Tile_Point, 4> neighbours(Tile_Point position) {
     const auto [x, y] = position;
     return {{{x - 1, y}, {x, y - 1}, {x + 1, y}, {x, y + 1}}};
@@ -33,7 +38,7 @@ Flood_Area::Flood_Area(const Drawing_Target& target, Tile_Point seed, Flood_Boun
     const Color color = target.get(seed);
     for (int y = 0; y < size_.height; ++y) {
         for (int x = 0; x < size_.width; ++x) {
-            if (target.get({x, y}) == color && is_within_bounds({x, y})) {
+            if (is_one_color(target.get({x, y}), color) && is_within_bounds({x, y})) {
                 cells_[index_of({x, y}, size_.width)] = open;
             }
         }

@@ -23,7 +23,7 @@ class Flood_Area {
 public:
     // Finds the area of the seed's colour around it, through the four sides of pixels; it is empty when the
     // seed is outside the tile or the bounds. Pixels that differ only in alpha differ: an opaque black line
-    // holds where all around it is transparent black.
+    // holds where all around it is transparent black. Of two that are fully transparent nothing else counts.
     Flood_Area(const Drawing_Target& target, Tile_Point seed, Flood_Bounds bounds);
 
     // Calls visit(Tile_Point) row by row.

@@ -54,6 +54,20 @@ TEST(Flood_Fill, tells_transparent_black_from_opaque_black) {
     EXPECT_EQ(filled({"   ", "...", "   "}, {2, 1}), (Art{"   ", "zzz", "   "}));
 }
 
+// As the smudge brush and the lightness pen leave them.
+TEST(Flood_Fill, takes_all_transparent_pixels_for_one_colour) {
+    Tile tile = make_tile({" . ", "   ", " . "});
+    tile.set_pixel(1, 1, {90, 80, 70, 0});
+    tile.set_pixel(2, 1, {90, 80, 70, 1});
+    for (const Tile_Point seed : {Tile_Point{0, 0}, {1, 1}}) {
+        Tile filled(tile);
+        Drawing_Target target(filled);
+        flood_fill(target, seed, art_color('z'));
+        EXPECT_EQ(art_color('z'), filled.get_pixel(1, 1));
+        EXPECT_EQ(std::ranges::count(filled.pixels(), art_color('z')), 4);
+    }
+}
+
 TEST(Flood_Fill, does_not_leak_through_what_is_not_selected) {
     const Art selection{"## ##", "## ##"};
     const auto fill_at = [&](Tile_Point seed, Flood_Bounds bounds) {
