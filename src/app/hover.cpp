@@ -19,12 +19,10 @@ bool is_over_tile(const Canvas_View& canvas, Point point) {
 } // namespace
 
 void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
-    const bool is_over = is_over_tile(canvas, pointer.point());
-    canvas.set_hover(is_over ? std::optional(Hover{pointer.point()}) : std::nullopt);
-    const Tool_State& tools = toolbox->state();
-    const Canvas_Settings settings = canvas_settings(*options);
-    const bool is_replaced = is_over && options->is_ticked(Option::hide_or_show_cursor) &&
-                             (shows_brush_outline(tools, settings) || shows_brush_preview(tools, settings));
+    const Point point = pointer.point();
+    canvas.set_hover(is_over_tile(canvas, point) ? std::optional(Hover{point}) : std::nullopt);
+    const bool is_replaced = options->is_ticked(Option::hide_or_show_cursor) &&
+                             canvas.shows_brush(toolbox->state(), canvas_settings(*options));
     set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);
 }
 

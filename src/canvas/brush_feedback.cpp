@@ -3,6 +3,7 @@
 #include "color/translucency.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace quadrelle {
 
@@ -17,19 +18,28 @@ void change_pixels(const Rectangle& area, const Pixel_Rows& target, Change chang
     }
 }
 
-bool is_set(const Brush& brush, int x, int y) {
-    return x >= 0 && y >= 0 && x < brush.size().width && y < brush.size().height && brush.pixel(x, y);
+// None outside of the brush too.
+std::optional<Color> pixel_of(const Brush_Feedback& feedback, int x, int y) {
+    const Size size = feedback.brush->size();
+    const bool is_inside = x >= 0 && y >= 0 && x < size.width && y < size.height;
+    return is_inside ? feedback.brush->wallpaper_pixel(std::int64_t{feedback.wallpaper.x} + x,
+                                                       std::int64_t{feedback.wallpaper.y} + y)
+                     : std::nullopt;
+}
+
+bool is_set(const Brush_Feedback& feedback, int x, int y) {
+    return pixel_of(feedback, x, y).has_value();
 }
 
 void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
-    const Brush& brush = *feedback.brush;
-    for (int y = 0; y < brush.size().height; ++y) {
-        for (int x = 0; x < brush.size().width; ++x) {
-            if (const std::optional<Color> own = brush.pixel(x, y)) {
+    for (int y = 0; y < feedback.brush->size().height; ++y) {
+        for (int x = 0; x < feedback.brush->size().width; ++x) {
+            if (const std::optional<Color> own = pixel_of(feedback, x, y)) {
                 const Color color = feedback.color.value_or(*own);
-                change_pixels({feedback.preview->x + x * pixel_size, feedback.preview->y + y * pixel_size,
-                               pixel_size, pixel_size},
-                              target, [color](Color& pixel) { pixel = blended_over(color, pixel); });
+                const Rectangle cell{feedback.preview->x + x * pixel_size,
+                                     feedback.preview->y + y * pixel_size, pixel_size, pixel_size};
+                change_pixels(intersection(cell, feedback.tile), target,
+                              [color](Color& pixel) { pixel = blended_over(color, pixel); });
             }
         }
     }
@@ -47,33 +57,48 @@ void paint_outline(const Brush_Feedback& feedback, int pixel_size, const Pixel_R
     for (int y = 0; y <= brush.size().height; ++y) {
         for (int x = 0; x <= brush.size().width; ++x) {
             const Point cell{feedback.outline->x + x * pixel_size, feedback.outline->y + y * pixel_size};
-            const bool here = is_set(brush, x, y);
-            const bool is_left_edge = here != is_set(brush, x - 1, y);
-            const bool is_top_edge = here != is_set(brush, x, y - 1);
+            const bool here = is_set(feedback, x, y);
+            const bool is_left_edge = here != is_set(feedback, x - 1, y);
+            const bool is_top_edge = here != is_set(feedback, x, y - 1);
             if (is_left_edge) {
                 change_pixels({cell.x - 1, cell.y, 1, pixel_size - 1}, target, contrast);
             }
             if (is_top_edge) {
                 change_pixels({cell.x, cell.y - 1, pixel_size - 1, 1}, target, contrast);
             }
-            if (is_left_edge || is_top_edge || here != is_set(brush, x - 1, y - 1)) {
+            if (is_left_edge || is_top_edge || here != is_set(feedback, x - 1, y - 1)) {
                 change_pixels({cell.x - 1, cell.y - 1, 1, 1}, target, contrast);
             }
         }
     }
 }
 
+Rectangle cells_of(const Brush& brush, Point corner, int pixel_size) {
+    return {corner.x, corner.y, brush.size().width * pixel_size, brush.size().height * pixel_size};
+}
+
 } // namespace
+
+Brush_Feedback seen_from(Point start, Brush_Feedback feedback) {
+    for (std::optional<Point>* const corner : {&feedback.outline, &feedback.preview}) {
+        if (*corner) {
+            *corner = Point{(*corner)->x - start.x, (*corner)->y - start.y};
+        }
+    }
+    feedback.tile.x -= start.x;
+    feedback.tile.y -= start.y;
+    return feedback;
+}
 
 // The outline runs along the pixels before the brush and along its last ones.
 Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size) {
     Rectangle area;
-    for (const std::optional<Point>& corner : {feedback.outline, feedback.preview}) {
-        if (corner) {
-            const Size size = feedback.brush->size();
-            area = bounds_of(area, {corner->x - 1, corner->y - 1, size.width * pixel_size + 1,
-                                    size.height * pixel_size + 1});
-        }
+    if (feedback.preview) {
+        area = intersection(cells_of(*feedback.brush, *feedback.preview, pixel_size), feedback.tile);
+    }
+    if (feedback.outline) {
+        const Rectangle cells = cells_of(*feedback.brush, *feedback.outline, pixel_size);
+        area = bounds_of(area, {cells.x - 1, cells.y - 1, cells.width + 1, cells.height + 1});
     }
     return area;
 }

@@ -14,11 +14,18 @@ namespace quadrelle {
 // Corners of the brush's top left cell in pixels of the picture; none shows nothing. Borrows the brush.
 struct Brush_Feedback {
     const Brush* brush = nullptr;
-    std::optional<Point> outline;
-    std::optional<Point> preview;
+    std::optional<Point> outline = {};
+    std::optional<Point> preview = {};
     // Instead of the brush's own colours.
-    std::optional<Color> color;
+    std::optional<Color> color = {};
+    // The tile in pixels of the picture: beside it nothing is previewed.
+    Rectangle tile = {};
+    // What lies there is cut out of a wallpaper of brushes, and this pixel of it comes to lie on the corner.
+    Tile_Point wallpaper = {};
 };
+
+// Returns the same for a picture that begins there.
+[[nodiscard]] Brush_Feedback seen_from(Point start, Brush_Feedback feedback);
 
 // Returns the smallest rectangle around all that it changes; empty when it shows nothing.
 [[nodiscard]] Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size);

@@ -206,15 +206,21 @@ Tile_Point Canvas_View::tool_point(Point position, const Tool_State& tools,
     return tile_point({position.x - offset.x, position.y - offset.y});
 }
 
-// The preview lies on the pixels that would be painted; so does a blocky outline, any other follows the
-// pointer.
+// The preview lies on the pixels that would be painted; so does an outline that is blocky or of a brush with
+// fixed places. Any other follows the pointer.
 Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State& tools,
                                            const Canvas_Settings& settings) const {
     const Brush& brush = tools.brush();
+    const Size tile = magnified_size();
+    const Point start{origin_.x - window_layout::canvas.x, origin_.y - window_layout::canvas.y};
     const Tile_Point corner = tools.brush_corner(tool_point(hover.position, tools, settings));
-    const Point cell{origin_.x - window_layout::canvas.x + corner.x * pixel_size_,
-                     origin_.y - window_layout::canvas.y + corner.y * pixel_size_};
-    Brush_Feedback feedback{&brush, {}, {}, tools.brush_color(hover.button)};
+    const Point cell{start.x + corner.x * pixel_size_, start.y + corner.y * pixel_size_};
+    Brush_Feedback feedback{.brush = &brush,
+                            .color = tools.brush_color(hover.button),
+                            .tile = {start.x, start.y, tile.width, tile.height}};
+    if (tools.pen_mode() == Pen_Mode::pattern) {
+        feedback.wallpaper = corner;
+    }
     if (shows_brush_preview(tools, settings, hover.button)) {
         feedback.preview = cell;
     }
@@ -222,22 +228,23 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
         const Point centred_on_pointer{
             hover.position.x - window_layout::canvas.x - brush.size().width * pixel_size_ / 2,
             hover.position.y - window_layout::canvas.y - brush.size().height * pixel_size_ / 2};
-        feedback.outline = settings.is_outline_blocky ? cell : centred_on_pointer;
+        const bool is_on_cells = settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush;
+        feedback.outline = is_on_cells ? cell : centred_on_pointer;
     }
     return feedback;
 }
 
+bool Canvas_View::shows_brush(const Tool_State& tools, const Canvas_Settings& settings) const {
+    return hover_ && tile_ != nullptr &&
+           !feedback_area(brush_feedback(*hover_, tools, settings), pixel_size_).is_empty();
+}
+
 // Painting a part is painting a smaller viewport that stands elsewhere.
-void Canvas_View::paint(Canvas_Picture picture, Brush_Feedback feedback, const Rectangle& part,
+void Canvas_View::paint(Canvas_Picture picture, const Brush_Feedback& feedback, const Rectangle& part,
                         const Pixel_Rows& target) {
     picture.origin = {picture.origin.x - part.x, picture.origin.y - part.y};
     painter_.paint(picture, target);
-    for (std::optional<Point>* const corner : {&feedback.outline, &feedback.preview}) {
-        if (*corner) {
-            *corner = Point{(*corner)->x - part.x, (*corner)->y - part.y};
-        }
-    }
-    paint_brush_feedback(feedback, pixel_size_, target);
+    paint_brush_feedback(seen_from({part.x, part.y}, feedback), pixel_size_, target);
 }
 
 void Canvas_View::draw(const Tool_State& tools, const Canvas_Settings& settings) {

@@ -107,6 +107,8 @@ public:
 
     // Where the brush shows, if its tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
+    // Returns whether anything of it shows there.
+    [[nodiscard]] bool shows_brush(const Tool_State& tools, const Canvas_Settings& settings) const;
 
     void draw(const Tool_State& tools, const Canvas_Settings& settings);
 
@@ -120,7 +122,7 @@ private:
     [[nodiscard]] Canvas_Picture picture(const Tool_State& tools, const Canvas_Settings& settings) const;
     void show_selection(Canvas_Picture& picture, const Tool_State& tools) const;
     // Writes every pixel of that part of the viewport.
-    void paint(Canvas_Picture picture, Brush_Feedback feedback, const Rectangle& part,
+    void paint(Canvas_Picture picture, const Brush_Feedback& feedback, const Rectangle& part,
                const Pixel_Rows& target);
     void check_painted(const Canvas_Picture& picture, const Brush_Feedback& feedback);
     [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover, const Tool_State& tools,

@@ -15,7 +15,7 @@ std::size_t index_of(Tile_Point position, int width) {
            static_cast<std::size_t>(position.y) * static_cast<std::size_t>(width);
 }
 
-// What a fully transparent pixel would look like is hidden; only some tools leave something there.
+// A fully transparent pixel hides its red, green and blue, which the smudge brush and others may leave there.
 bool is_one_color(Color color, Color other) {
     return color == other || (color.a == 0 && other.a == 0);
 }

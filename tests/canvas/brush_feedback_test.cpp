@@ -14,6 +14,7 @@ constexpr Color grey(128, 128, 128);
 std::vector<std::string> painted(Brush_Feedback feedback, const Brush& brush, int pixel_size, Size size) {
     std::vector<Color> pixels(static_cast<std::size_t>(size.width * size.height), grey);
     feedback.brush = &brush;
+    feedback.tile = {0, 0, size.width, size.height};
     paint_brush_feedback(feedback, pixel_size,
                          {pixels.data(), static_cast<std::ptrdiff_t>(sizeof(Color)) * size.width, size});
     std::vector<std::string> rows;
@@ -34,25 +35,25 @@ TEST(Brush_Feedback, outline_runs_around_the_set_pixels_and_covers_none_of_them)
         "...####...", "...#..#...", "...#..#...", "####..####", "#........#",
         "#........#", "####..####", "...#..#...", "...#..#...", "...####...",
     };
-    EXPECT_EQ(painted({nullptr, Point{1, 1}, {}, {}}, plus, 3, {10, 10}), expected);
+    EXPECT_EQ(painted({.outline = Point{1, 1}}, plus, 3, {10, 10}), expected);
     // Where two set pixels meet in a corner the line crosses itself, once.
     const Brush diagonal = built_in_brush(Brush_Shape::falling_diagonal, 2, grey);
-    EXPECT_EQ(painted({nullptr, Point{1, 1}, {}, {}}, diagonal, 3, {10, 10})[3], "#######...");
+    EXPECT_EQ(painted({.outline = Point{1, 1}}, diagonal, 3, {10, 10})[3], "#######...");
 }
 
 TEST(Brush_Feedback, preview_fills_the_cells_that_would_be_painted) {
     const Brush ring = built_in_brush(Brush_Shape::ring, 2, Color(0, 0, 200));
     const std::vector<std::string> expected{"..oo..", "..oo..", "oo..oo", "oo..oo", "..oo..", "..oo.."};
-    EXPECT_EQ(painted({nullptr, {}, Point{0, 0}, Color(200, 0, 0)}, ring, 2, {6, 6}), expected);
-    EXPECT_EQ(painted({nullptr, {}, Point{0, 0}, {}}, ring, 2, {6, 6})[0], "..##..") << "its own colour";
+    EXPECT_EQ(painted({.preview = Point{0, 0}, .color = Color(200, 0, 0)}, ring, 2, {6, 6}), expected);
+    EXPECT_EQ(painted({.preview = Point{0, 0}}, ring, 2, {6, 6})[0], "..##..") << "its own colour";
 }
 
 TEST(Brush_Feedback, is_cut_to_the_picture) {
     const Brush square = built_in_brush(Brush_Shape::square, 5, Color(0, 0, 200));
     for (const Point corner : {Point{-100, 2}, Point{-5, -5}, Point{7, 7}, Point{2, 100}}) {
-        static_cast<void>(painted({nullptr, corner, corner, {}}, square, 4, {8, 8}));
+        static_cast<void>(painted({.outline = corner, .preview = corner}, square, 4, {8, 8}));
     }
-    EXPECT_EQ(painted({nullptr, Point{-3, -3}, {}, {}}, square, 1, {4, 4})[1], "..#.");
+    EXPECT_EQ(painted({.outline = Point{-3, -3}}, square, 1, {4, 4})[1], "..#.");
 }
 
 } // namespace

@@ -20,6 +20,24 @@ protected:
     void hover(Point position) { play(script().motion(position)); }
     // In the middle of a cell.
     static Color shown(int column, int row) { return pixel_at(cell(column, row)); }
+    static Tile_Picture reds_shown() {
+        Tile_Picture reds;
+        for (int i = 0; i < 24 * 24; ++i) {
+            reds.push_back(shown(i % 24, i / 24) == red ? red : black);
+        }
+        return reds;
+    }
+    // A line runs left of each red pixel that has none to its left.
+    static bool is_outlined(const Tile_Picture& reds) {
+        for (std::size_t i = 1; i < reds.size(); ++i) {
+            const Point middle = cell(static_cast<int>(i % 24), static_cast<int>(i / 24));
+            if (i % 24 != 0 && reds[i] == red && reds[i - 1] != red &&
+                pixel_at({middle.x - 6, middle.y}) != white) {
+                return false;
+            }
+        }
+        return true;
+    }
     static Color corner_of(int column, int row) {
         return pixel_at({cell(column, row).x - 6, cell(column, row).y - 6});
     }
@@ -27,21 +45,28 @@ protected:
 
 TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
     tools().colors.set(Mouse_Button::left, red);
-    for (const int size_index : {0, 1, 4, 5}) {
-        tools().chosen_brush.select_size(size_index);
-        // None of these brings a line of the outline through the middle of a cell.
-        for (const Point at : {Point{483, 272}, Point{488, 279}, Point{402, 202}}) {
-            SCOPED_TRACE(size_index);
-            document().tileset().current_tile()->fill(Color(0, 0, 0));
-            hover(at);
-            Tile_Picture previewed;
-            for (int i = 0; i < 24 * 24; ++i) {
-                previewed.push_back(shown(i % 24, i / 24) == red ? red : black);
-            }
-            EXPECT_GT(std::ranges::count(previewed, red), 0);
-            play(script().click(at).motion(beside_the_canvas));
-            EXPECT_EQ(tile_picture(), previewed);
+    tools().chosen_brush.select_shape(Brush_Shape::falling_diagonal);
+    constexpr std::array sizes{0, 1, 4, 5};
+    // None of these brings a line of the outline through the middle of a cell.
+    constexpr std::array places{Point{483, 272}, Point{488, 279}, Point{402, 202}};
+    for (std::size_t i = 0; i < 3 * sizes.size() * places.size(); ++i) {
+        SCOPED_TRACE(i);
+        const Point at = places.at(i % 3);
+        const auto mode = static_cast<Pen_Mode>(i / 12);
+        tools().options.pen_mode = mode;
+        tools().chosen_brush.select_size(sizes.at(i / 3 % 4));
+        document().tileset().current_tile()->fill(Color(0, 0, 0));
+        hover(at);
+        const Tile_Picture previewed = reds_shown();
+        EXPECT_GT(std::ranges::count(previewed, red), 0);
+        EXPECT_TRUE(mode == Pen_Mode::brush || tools().brush().size() == Size{1, 1} ||
+                    is_outlined(previewed));
+        for (int beside = 0; beside < 24; ++beside) {
+            EXPECT_NE(shown(-1, beside), red);
+            EXPECT_NE(shown(beside, -1), red);
         }
+        play(script().click(at).motion(beside_the_canvas));
+        EXPECT_EQ(tile_picture(), previewed);
     }
 }
 
@@ -77,7 +102,9 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
     change(Option::hide_or_show_cursor);
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::hidden);
     EXPECT_EQ(cursor_at(beside_the_canvas), Cursor::shown);
-    EXPECT_EQ(cursor_at({270, 70}), Cursor::hidden);
+    EXPECT_EQ(cursor_at({270, 70}), Cursor::shown) << "beside the tile nothing is previewed";
+    tools().chosen_brush.select_size(1);
+    EXPECT_EQ(cursor_at({270, 70}), Cursor::hidden) << "the outline is there";
     play(script().key('d'));
     EXPECT_EQ(current_cursor(), Cursor::shown);
     play(script().key('p'));
@@ -90,6 +117,7 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
     EXPECT_EQ(in_dialog, Cursor::shown);
     EXPECT_EQ(current_cursor(), Cursor::hidden);
     change(Option::show_shadow_brush);
+    tools().chosen_brush.select_size(0);
     EXPECT_EQ(cursor_at(cell(3, 3)), Cursor::shown) << "nothing of the brush shows";
 }
 
