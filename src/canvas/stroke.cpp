@@ -88,7 +88,7 @@ void Stroke::draw_path(const Stroke_Moment& moment) {
 void Stroke::draw(Tile_Point to, Segment_Start start, const Stroke_Moment& moment) {
     Drawing_Target target = canvas_.work_area().target(tile_);
     const Stroke_Findings found = row_.draw_segment(target, segment(start_, to, start, moment));
-    has_picked_ = found.picked.has_value();
+    has_picked_ = has_picked_ || found.picked.has_value();
     tools_.take(found);
 }
 

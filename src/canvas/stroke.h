@@ -59,7 +59,7 @@ private:
     // Where the pointer went since the last time that something was drawn.
     std::vector<Tile_Point> path_;
     Segment_Start next_ = Segment_Start::included;
-    bool has_picked_ = false; // with the last segment
+    bool has_picked_ = false; // wherever the pointer went since
     Tile before_;
     Work_State before_work_;
 };

@@ -50,14 +50,16 @@ TEST_F(Tools_Test, dropper_returns_to_the_tool_before_when_a_pick_ends_it) {
     constexpr Point beside{300, 100};
     document().tileset().current_tile()->set_pixel(5, 6, red);
     execute(Command::filled_rectangle);
-    play(script().key('d').click(tick).click(beside).drag({cell(5, 5), beside}));
+    play(script().key('d').click(tick).click(beside).drag({beside, {310, 100}}));
     EXPECT_EQ(tools().tool, Tool::dropper);
     play(script().press(cell(5, 6)).quit());
     EXPECT_EQ(tools().tool, Tool::dropper);
-    tools().colors = {};
-    play(script().drag({beside, cell(5, 6)}));
-    EXPECT_EQ(tools().colors.of(Mouse_Button::left), red);
-    EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_filled);
+    for (const std::vector<Point>& path : {std::vector{beside, cell(5, 6)}, {cell(5, 6), beside}}) {
+        tools().colors = {};
+        play(script().key('d').drag(path));
+        EXPECT_EQ(tools().colors.of(Mouse_Button::left), red);
+        EXPECT_EQ(tools().canvas_action(), Canvas_Action::rectangle_filled);
+    }
 }
 
 // As a user does it: the tool by its key or else its icon, the size of the brush by a digit, the option by
