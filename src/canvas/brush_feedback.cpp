@@ -73,6 +73,19 @@ void paint_outline(const Brush_Feedback& feedback, int pixel_size, const Pixel_R
     }
 }
 
+// Half of a cell, so that crosses on neighbouring corners could be told apart.
+Rectangle cross_area(Point corner, int pixel_size) {
+    const int arm = std::max(pixel_size / 2, 2);
+    return {corner.x - 1 - arm, corner.y - 1 - arm, 2 * arm + 1, 2 * arm + 1};
+}
+
+void paint_cross(const Rectangle& area, const Pixel_Rows& target) {
+    const int arm = area.width / 2;
+    change_pixels({area.x, area.y + arm, area.width, 1}, target, contrast);
+    change_pixels({area.x + arm, area.y, 1, arm}, target, contrast);
+    change_pixels({area.x + arm, area.y + arm + 1, 1, arm}, target, contrast);
+}
+
 Rectangle cells_of(const Brush& brush, Point corner, int pixel_size) {
     return {corner.x, corner.y, brush.size().width * pixel_size, brush.size().height * pixel_size};
 }
@@ -80,7 +93,8 @@ Rectangle cells_of(const Brush& brush, Point corner, int pixel_size) {
 } // namespace
 
 Brush_Feedback seen_from(Point start, Brush_Feedback feedback) {
-    for (std::optional<Point>* const corner : {&feedback.outline, &feedback.preview}) {
+    for (std::optional<Point>* const corner :
+         {&feedback.outline, &feedback.preview, &feedback.taken_corner}) {
         if (*corner) {
             *corner = Point{(*corner)->x - start.x, (*corner)->y - start.y};
         }
@@ -100,7 +114,7 @@ Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size) {
         const Rectangle cells = cells_of(*feedback.brush, *feedback.outline, pixel_size);
         area = bounds_of(area, {cells.x - 1, cells.y - 1, cells.width + 1, cells.height + 1});
     }
-    return area;
+    return feedback.taken_corner ? bounds_of(area, cross_area(*feedback.taken_corner, pixel_size)) : area;
 }
 
 void paint_brush_feedback(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
@@ -109,6 +123,9 @@ void paint_brush_feedback(const Brush_Feedback& feedback, int pixel_size, const 
     }
     if (feedback.outline) {
         paint_outline(feedback, pixel_size, target);
+    }
+    if (feedback.taken_corner) {
+        paint_cross(cross_area(*feedback.taken_corner, pixel_size), target);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-// Shows on the canvas where the brush is about to paint: its outline and its pixels. Knows no tool.
+// Shows on the canvas where a press acts: what the brush is about to paint and its outline, or the corner of
+// cells that is taken. Knows no tool.
 
 #include "base/geometry.h"
 #include "color/color.h"
@@ -22,6 +23,8 @@ struct Brush_Feedback {
     Rectangle tile = {};
     // What lies there is cut out of a wallpaper of brushes, and this pixel of it comes to lie on the corner.
     Tile_Point wallpaper = {};
+    // Marked by a cross of the lines that meet there.
+    std::optional<Point> taken_corner = {};
 };
 
 // Returns the same for a picture that begins there.

@@ -1,6 +1,7 @@
 #include "canvas/canvas_view.h"
 
 #include "base/fatal.h"
+#include "canvas/stroke_table.h"
 #include "color/standard_colors.h"
 #include "screen/events.h"
 #include "screen/image.h"
@@ -169,7 +170,7 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
     Canvas_Picture picture;
     picture.tile = tile_;
     picture.pixel_size = pixel_size_;
-    picture.origin = {origin_.x - window_layout::canvas.x, origin_.y - window_layout::canvas.y};
+    picture.origin = in_viewport({0, 0});
     picture.grid_intensity = settings.grid_intensity;
     picture.checker = settings.checker;
     picture.surround = standard_color(Standard_Color::dark_frame);
@@ -206,15 +207,19 @@ Tile_Point Canvas_View::tool_point(Point position, const Tool_State& tools,
     return tile_point({position.x - offset.x, position.y - offset.y});
 }
 
+Point Canvas_View::in_viewport(Tile_Point corner) const {
+    return {origin_.x - window_layout::canvas.x + corner.x * pixel_size_,
+            origin_.y - window_layout::canvas.y + corner.y * pixel_size_};
+}
+
 // The preview lies on the pixels that would be painted; so does an outline that is blocky or of a brush with
 // fixed places. Any other follows the pointer.
 Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State& tools,
                                            const Canvas_Settings& settings) const {
     const Brush& brush = tools.brush();
     const Size tile = magnified_size();
-    const Point start{origin_.x - window_layout::canvas.x, origin_.y - window_layout::canvas.y};
+    const Point start = in_viewport({0, 0});
     const Tile_Point corner = tools.brush_corner(tool_point(hover.position, tools, settings));
-    const Point cell{start.x + corner.x * pixel_size_, start.y + corner.y * pixel_size_};
     Brush_Feedback feedback{.brush = &brush,
                             .color = tools.brush_color(hover.button),
                             .tile = {start.x, start.y, tile.width, tile.height}};
@@ -222,20 +227,24 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
         feedback.wallpaper = corner;
     }
     if (shows_brush_preview(tools, settings, hover.button)) {
-        feedback.preview = cell;
+        feedback.preview = in_viewport(corner);
     }
     if (shows_brush_outline(tools, settings)) {
         const Point centred_on_pointer{
             hover.position.x - window_layout::canvas.x - brush.size().width * pixel_size_ / 2,
             hover.position.y - window_layout::canvas.y - brush.size().height * pixel_size_ / 2};
         const bool is_on_cells = settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush;
-        feedback.outline = is_on_cells ? cell : centred_on_pointer;
+        feedback.outline = is_on_cells ? in_viewport(corner) : centred_on_pointer;
+    }
+    const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
+    if (stroke != nullptr && stroke->snaps_to_corners) {
+        feedback.taken_corner = in_viewport(corner_point(hover.position));
     }
     return feedback;
 }
 
 bool Canvas_View::shows_brush(const Tool_State& tools, const Canvas_Settings& settings) const {
-    return hover_ && tile_ != nullptr &&
+    return hover_ && tile_ != nullptr && tools.uses_brush() &&
            !feedback_area(brush_feedback(*hover_, tools, settings), pixel_size_).is_empty();
 }
 

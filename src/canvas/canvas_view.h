@@ -105,7 +105,7 @@ public:
         return {nearest_column(position.x), nearest_row(position.y)};
     }
 
-    // Where the brush shows, if its tool has one; nowhere for none.
+    // Where the brush, or the corner that is taken, shows, if the tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
     // Returns whether anything of it shows there.
     [[nodiscard]] bool shows_brush(const Tool_State& tools, const Canvas_Settings& settings) const;
@@ -125,6 +125,8 @@ private:
     void paint(Canvas_Picture picture, const Brush_Feedback& feedback, const Rectangle& part,
                const Pixel_Rows& target);
     void check_painted(const Canvas_Picture& picture, const Brush_Feedback& feedback);
+    // Where the corner of a cell lies, in pixels of the viewport.
+    [[nodiscard]] Point in_viewport(Tile_Point corner) const;
     [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover, const Tool_State& tools,
                                                 const Canvas_Settings& settings) const;
 

@@ -21,7 +21,7 @@ void Stroke::move_to(const Pointer_State& pointer, const Stroke_Moment& moment) 
     canvas_.set_hover(Hover{pointer_.point(), button_});
     end_ = point_of(pointer_);
     Stroke_Findings found{tools_.state.figures};
-    found.figures.location = end_;
+    found.figures.location = canvas_.tile_point(pointer_.point());
     tools_.take(found);
     if (!row_.draws_while_moving) {
         return;

@@ -43,6 +43,11 @@ TEST_F(Stroke_On_Board, figures_follow_and_shift_turns_in_steps) {
     board.is_shift_held = true;
     board.drag({{20, 12}, {20, 15}});
     EXPECT_EQ(board.tools.figures.degrees, 15);
+    for (const Tool_Row& tool : tool_table) {
+        board.tools.select(tool.command);
+        board.drag({{20, 12}, {7, 15}});
+        EXPECT_TRUE(!tool.shows_location || board.tools.figures.location == Tile_Point({7, 15})) << tool.name;
+    }
 }
 
 // Grey, on which the lightness pen of one pixel draws; how often it touched each pixel of a row or column.

@@ -59,8 +59,9 @@ TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
         hover(at);
         const Tile_Picture previewed = reds_shown();
         EXPECT_GT(std::ranges::count(previewed, red), 0);
-        EXPECT_TRUE(mode == Pen_Mode::brush || tools().brush().size() == Size{1, 1} ||
-                    is_outlined(previewed));
+        if (mode != Pen_Mode::brush && sizes.at(i / 3 % 4) > 0) {
+            EXPECT_TRUE(is_outlined(previewed));
+        }
         for (int beside = 0; beside < 24; ++beside) {
             EXPECT_NE(shown(-1, beside), red);
             EXPECT_NE(shown(beside, -1), red);
@@ -68,6 +69,26 @@ TEST_F(Brush_View_Test, preview_lies_where_a_press_paints) {
         play(script().click(at).motion(beside_the_canvas));
         EXPECT_EQ(tile_picture(), previewed);
     }
+}
+
+// Where the lines around four cells meet.
+TEST_F(Brush_View_Test, corner_that_the_rectangle_selector_takes_is_marked) {
+    static constexpr Point crossing{400 + 8 * 10 - 1, 200 + 7 * 10 - 1};
+    const auto mark_at = [this](Point pointer) {
+        hover(pointer);
+        return std::vector{pixel_at(crossing), pixel_at({crossing.x - 5, crossing.y}),
+                           pixel_at({crossing.x, crossing.y + 5})};
+    };
+    execute(Command::rectangle_selector);
+    for (const Point pointer : {Point{483, 272}, Point{475, 265}, Point{484, 274}}) {
+        EXPECT_EQ(mark_at(pointer), std::vector(3, white));
+        play(script().drag({pointer, cell(9, 8)}));
+        EXPECT_EQ(editor->canvas().work_area().selection().bounds(), (Rectangle{8, 7, 2, 2}));
+        execute(Command::deselect);
+    }
+    EXPECT_NE(mark_at({486, 272}), std::vector(3, white));
+    execute(Command::circle_selector);
+    EXPECT_NE(mark_at({483, 272}), std::vector(3, white));
 }
 
 TEST_F(Brush_View_Test, outline_is_precise_blocky_or_off) {

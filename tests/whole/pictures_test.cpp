@@ -48,7 +48,7 @@ public:
         execute(Command::rectangle_selector);
         script().drag({cell(2, 3), cell(15, 17)});
         script().drag({cell(10, 8), cell(19, 12)}, Mouse_Button::right);
-        script().press({48, 12}).motion({60, 25 + 25 * 9 + 12});
+        script().motion({48, 12}).press({48, 12}).motion({60, 25 + 25 * 9 + 12});
         show_in_loop().key(key::escape).motion({1220, 650});
         play();
     }
