@@ -1,6 +1,7 @@
 #include "app/mouse_press.h"
 
 #include "app/editor_parts.h"
+#include "app/hover.h"
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
 #include "panes/toolbox.h"
@@ -41,7 +42,10 @@ void draw_on_canvas(Editor_Parts& editor) {
 Command press_mouse(Editor_Parts& editor) {
     const Mouse_Button button = editor.pointer.button;
     if (editor.is_control_held && button == Mouse_Button::right) {
-        editor.canvas.pan([&editor] { editor.redraw(Present::yes); });
+        editor.canvas.pan(editor.pointer, [&editor] {
+            show_hover(editor.canvas, editor.pointer);
+            editor.redraw(Present::yes);
+        });
         editor.is_control_held = false;
         return Command::none;
     }

@@ -151,12 +151,13 @@ void Canvas_View::scroll_origin(int dx, int dy) {
     origin_.y += dy;
 }
 
-void Canvas_View::pan(const std::function<void()>& redraw) {
+void Canvas_View::pan(Pointer_State& pointer, const std::function<void()>& redraw) {
     const Point start = origin_;
     bool has_moved = false;
     float dx = 0;
     float dy = 0;
     follow_pointer("pan", redraw, [&](const Input_Event& motion) {
+        pointer = {motion.pointer.x, motion.pointer.y, pointer.button};
         // The first motion only tells where the pointer was.
         if (std::exchange(has_moved, true)) {
             dx += motion.moved.x;

@@ -81,8 +81,9 @@ public:
     // A tile larger than the viewport shows its top-left corner.
     void centre();
     void scroll_origin(int dx, int dy);
-    // The tile follows the pointer until a button is released; `redraw` draws and presents the window.
-    void pan(const std::function<void()>& redraw);
+    // The tile follows the pointer, and `pointer` too, until a button is released; `redraw` draws and
+    // presents the window.
+    void pan(Pointer_State& pointer, const std::function<void()>& redraw);
 
     // Both are in window pixels.
     [[nodiscard]] Point origin() const { return origin_; }

@@ -1,3 +1,4 @@
+#include "app/window_panes.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL_events.h>
@@ -49,6 +50,26 @@ TEST_F(View_Test, pans_with_control_and_the_right_button) {
     play();
     EXPECT_EQ(canvas().origin(), (Point{centre_of_24.x - 97, centre_of_24.y - 4}));
     EXPECT_FALSE(document().is_modified());
+}
+
+// During a pan and after it; the first motion moves no tile.
+TEST_F(View_Test, brush_and_hint_go_with_the_pointer_that_pans) {
+    const auto expect_shown = [this](Point pointer) {
+        script().check([pointer] {
+            EXPECT_EQ(pixel_at(pointer), white);
+            const Tile_Point pixel = canvas().tile_point(pointer);
+            EXPECT_EQ(editor->panes().hint_lines().lines().at(0),
+                      "Pixel " + std::to_string(pixel.x) + ", " + std::to_string(pixel.y));
+        });
+    };
+    script().key(key::left_control, Modifier::control).press({500, 300}, Mouse_Button::right);
+    for (const Point pointer : {Point{515, 318}, Point{585, 325}, Point{602, 250}}) {
+        script().motion(pointer);
+        expect_shown(pointer);
+    }
+    script().release({602, 250}, Mouse_Button::right);
+    expect_shown({602, 250});
+    play(script().key_up(key::left_control));
 }
 
 TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
