@@ -210,11 +210,12 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
     return documents_.click_tab(point);
 }
 
-// The tools of the list are taken with either button, all else with the left one.
+// The tools of the list and the buttons of the navigation take either button, all else the left one.
 Command Window_Panes::click_buttons(const Pointer_State& pointer) {
     const Point point = pointer.point();
+    const Command step = navigation_.click(point);
     if (pointer.button != Mouse_Button::left) {
-        return toolbox->command_at(point);
+        return step == Command::none ? toolbox->command_at(point) : step;
     }
     Tileset_Document& document = documents_.current();
     const int tile = tile_at(document.strip(), point);
@@ -223,7 +224,6 @@ Command Window_Panes::click_buttons(const Pointer_State& pointer) {
         size_preview();
         return Command::change_tile;
     }
-    static_cast<void>(navigation_.click(point));
     leave_filled_type(icon_bar_.command_at(point));
     return command_at(point);
 }

@@ -41,16 +41,18 @@ TEST_F(Tile_Strip_Test, navigation_buttons_step_and_scroll_up_to_the_ends) {
         {36 + 174, {0, 149}, {0, 149}},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(std::to_string(row.button_x) + " at " + std::to_string(row.before.current));
-        // There by way of the tiles at the strip's ends.
-        for (const int tile : {199, row.before.first}) {
-            tileset().select(tile);
-            strip().show_current();
+        for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
+            SCOPED_TRACE(std::to_string(row.button_x) + " at " + std::to_string(row.before.current));
+            // There by way of the tiles at the strip's ends.
+            for (const int tile : {199, row.before.first}) {
+                tileset().select(tile);
+                strip().show_current();
+            }
+            tileset().select(row.before.current);
+            ASSERT_EQ(strip().first(), row.before.first);
+            play(script().click({row.button_x, button_y}, button));
+            EXPECT_EQ((Place{tileset().current_index(), strip().first()}), row.after);
         }
-        tileset().select(row.before.current);
-        ASSERT_EQ(strip().first(), row.before.first);
-        play(script().click({row.button_x, button_y}));
-        EXPECT_EQ((Place{tileset().current_index(), strip().first()}), row.after);
     }
 }
 
