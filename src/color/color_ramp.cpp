@@ -81,7 +81,7 @@ Color with_shifted_hue(const HSV_Color& own, Distance distance) {
         hsv.saturation += (1.0 - own.saturation.value()) * shadow_gain * distance.shadow;
         hsv.saturation -= own.saturation.value() * light_loss * distance.light;
     }
-    return hsv.to_rgb();
+    return hsv.nearest_rgb();
 }
 
 int own_place(Ramp_Kind kind, Color color, const HSV_Color& hsv) {
@@ -97,8 +97,8 @@ int own_place(Ramp_Kind kind, Color color, const HSV_Color& hsv) {
 Color color_at(Ramp_Kind kind, Color color, HSV_Color hsv, int own, int place) {
     switch (kind) {
     case Ramp_Kind::lightness: return shaded(color, distance_from(own, place));
-    case Ramp_Kind::saturation: hsv.saturation = static_cast<double>(place) / last; return hsv.to_rgb();
-    case Ramp_Kind::hue: hsv.hue = wrapped(hsv.hue + (place - own) * hue_step); return hsv.to_rgb();
+    case Ramp_Kind::saturation: hsv.saturation = static_cast<double>(place) / last; return hsv.nearest_rgb();
+    case Ramp_Kind::hue: hsv.hue = wrapped(hsv.hue + (place - own) * hue_step); return hsv.nearest_rgb();
     case Ramp_Kind::cool_to_warm: break;
     }
     return with_shifted_hue(hsv, distance_from(own, place));

@@ -19,7 +19,7 @@ struct Color_Ramp {
 enum class Ramp_Kind {
     lightness,   // through shades to tints, never quite black or white
     saturation,  // from grey on
-    hue,         // once around the wheel; clicking along it leaves it as it is
+    hue,         // once around the wheel
     cool_to_warm // darker ones turn to blue, lighter ones to yellow
 };
 constexpr int ramp_kind_count = 4;

@@ -4,6 +4,7 @@
 #include "screen/screen.h"
 #include "ui/swatch.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -19,11 +20,25 @@ constexpr int label_height = 14;
 constexpr int row_step = 31;
 constexpr int label_y = -3; // the letters begin five pixels below their position
 
+// Its own place first: greys and black may stand at several.
+std::optional<int> place_of(Color color, const Color_Ramp& ramp) {
+    if (ramp.colors.at(static_cast<std::size_t>(ramp.own)) == color) {
+        return ramp.own;
+    }
+    const auto* const found = std::ranges::find(ramp.colors, color);
+    return found == ramp.colors.end() ? std::nullopt
+                                      : std::optional(static_cast<int>(found - ramp.colors.begin()));
+}
+
 } // namespace
 
 Color_Variations::Color_Variations(const Rectangle& below_title)
     : Pane(below_title, "Variations"),
       image_({ramp_size * cell_edge, (ramp_kind_count - 1) * row_step + cell_edge}) {
+    for (int row = 0; row < ramp_kind_count; ++row) {
+        ramps_.at(static_cast<std::size_t>(row)) =
+            make_ramp(static_cast<Ramp_Kind>(row), color_, last_with_hue_);
+    }
     paint_ramps();
 }
 
@@ -40,6 +55,14 @@ void Color_Variations::set_color(Color color) {
     if (!color.is_grey()) {
         last_with_hue_ = color;
     }
+    for (int row = 0; row < ramp_kind_count; ++row) {
+        Color_Ramp& ramp = ramps_.at(static_cast<std::size_t>(row));
+        if (const std::optional<int> place = place_of(color, ramp)) {
+            ramp.own = *place;
+        } else {
+            ramp = make_ramp(static_cast<Ramp_Kind>(row), color_, last_with_hue_);
+        }
+    }
     paint_ramps();
 }
 
@@ -47,10 +70,8 @@ void Color_Variations::paint_ramps() {
     image_.fill_rect({0, 0, image_.size().width, image_.size().height},
                      standard_color(Standard_Color::pane_background));
     for (int row = 0; row < ramp_kind_count; ++row) {
-        Color_Ramp& ramp = ramps_.at(static_cast<std::size_t>(row));
-        ramp = make_ramp(static_cast<Ramp_Kind>(row), color_, last_with_hue_);
         Rectangle swatch{0, row * row_step, cell_edge, cell_edge};
-        for (const Color color : ramp.colors) {
+        for (const Color color : ramps_.at(static_cast<std::size_t>(row)).colors) {
             image_.fill_checkers(swatch);
             image_.fill_rect(swatch, color);
             swatch.x += cell_edge;

@@ -54,6 +54,15 @@ TEST(Color_Ramp, hues_go_once_around_and_stay_when_one_is_taken) {
     }
 }
 
+// Half around and half around again.
+TEST(Color_Ramp, hues_are_rounded_so_that_the_opposite_of_the_opposite_is_the_same) {
+    const auto opposite = [](Color color) {
+        const Color_Ramp ramp = make_ramp(Ramp_Kind::hue, color, {255, 0, 0});
+        return ramp.colors.at(static_cast<std::size_t>((ramp.own + ramp_size / 2) % ramp_size));
+    };
+    for_many_colors([&](Color color) { EXPECT_EQ(opposite(opposite(color)), color); });
+}
+
 TEST(Color_Ramp, a_grey_takes_the_hue_of_the_reference) {
     const Color_Ramp ramp = make_ramp(Ramp_Kind::saturation, {90, 90, 90}, {0, 255, 0});
     EXPECT_EQ(ramp.own, 0);
@@ -64,6 +73,31 @@ TEST(Color_Ramp, a_grey_takes_the_hue_of_the_reference) {
 }
 
 class Variations_Test : public Window_Test {};
+
+TEST_F(Variations_Test, clicks_along_a_ramp_lead_back_to_the_colour_they_began_with) {
+    Color_Variations pane({1026, 478, 202, 133});
+    for (const Color start : {Color(200, 30, 90), Color(97, 18, 124, 90), Color(3, 2, 1), Color(9, 9, 9)}) {
+        for (int row = 0; row < 4; ++row) {
+            SCOPED_TRACE(start.r * 10 + row);
+            const auto click = [&](int column) {
+                const Rectangle client = pane.client_area();
+                return *pane.click({client.x + column * 16, client.y + 14 + row * 31});
+            };
+            pane.set_color({1, 2, 3});
+            pane.set_color(start);
+            int own = 0;
+            while (click(own) != start) {
+                ++own;
+            }
+            Color last;
+            for (int step = 1; step <= 12; ++step) {
+                last = click((own + step) % 12);
+                pane.set_color(last);
+            }
+            EXPECT_EQ(last, start);
+        }
+    }
+}
 
 TEST_F(Variations_Test, every_cell_gives_the_colour_it_shows_and_the_own_one_is_marked) {
     Color_Variations pane({1026, 478, 202, 133});
