@@ -99,7 +99,7 @@ bool Dialog_Container::run() {
                 [this](const Input_Event& event) {
                     return event.kind == Input_Kind::button_press ? press(event.pointer) : Loop_Step::go_on;
                 },
-                Dialog_Keys::enter_or_y, [this] { return accept(); }});
+                [this] { return accept(); }});
     // Escape deliberately is no Cancel: the items stay as they are.
     if (result_.kind == Dialog_Event_Kind::cancel) {
         rows_.revert();

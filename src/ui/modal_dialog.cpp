@@ -12,6 +12,8 @@ namespace {
 struct Shown {
     Draw_Function window;
     std::vector<Draw_Function> dialogs; // the latest one on top
+    // The y that accepted one is not to be typed into the one below.
+    bool has_taken_letter = false;
 };
 
 Shown& shown() {
@@ -29,7 +31,7 @@ public:
 
 bool accepts(Dialog_Keys keys, Keycode pressed) {
     const bool is_enter = pressed == key::enter || pressed == key::keypad_enter;
-    return (is_enter && keys != Dialog_Keys::none) || (pressed == 'y' && keys == Dialog_Keys::enter_or_y);
+    return is_enter || (pressed == 'y' && keys == Dialog_Keys::enter_or_y);
 }
 
 Loop_Step answer(const Modal_Dialog& dialog, const Input_Event& event) {
@@ -37,7 +39,14 @@ Loop_Step answer(const Modal_Dialog& dialog, const Input_Event& event) {
     if (event.kind == Input_Kind::quit || pressed == key::escape) {
         return Loop_Step::end;
     }
-    return accepts(dialog.keys, pressed) ? dialog.accept() : dialog.handle(event);
+    if (event.kind == Input_Kind::typed_text && shown().has_taken_letter) {
+        return Loop_Step::go_on;
+    }
+    const bool is_accepted = accepts(dialog.keys, pressed);
+    if (event.kind == Input_Kind::key_press) {
+        shown().has_taken_letter = is_accepted && pressed == 'y';
+    }
+    return is_accepted ? dialog.accept() : dialog.handle(event);
 }
 
 } // namespace

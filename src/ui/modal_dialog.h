@@ -16,16 +16,16 @@ void set_backdrop(Draw_Function draw);
 // Draws and presents the backdrop and every open dialog.
 void show_backdrop();
 
-// Which keys accept a dialog; the keypad has an Enter too.
-enum class Dialog_Keys { none, enter, enter_or_y };
+// Which keys accept a dialog; the keypad has an Enter too. Where names are typed, y is a letter.
+enum class Dialog_Keys { enter, enter_or_y };
 
 // Escape and the window's close button give up every dialog.
 struct Modal_Dialog {
     std::string_view name;
     Draw_Function draw;
     std::function<Loop_Step(const Input_Event&)> handle; // what neither accepts nor gives up
-    Dialog_Keys keys = Dialog_Keys::none;
-    std::function<Loop_Step()> accept = {}; // needed with such keys
+    std::function<Loop_Step()> accept;
+    Dialog_Keys keys = Dialog_Keys::enter_or_y;
 };
 // Returns when an event has ended it.
 void run_dialog(const Modal_Dialog& dialog);

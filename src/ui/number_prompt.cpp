@@ -77,8 +77,7 @@ std::string Number_Prompt::hint() const {
 
 std::optional<int> Number_Prompt::run() {
     run_dialog({"number prompt", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
-                [this] { return accept(); }});
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
     return result_;
 }
 

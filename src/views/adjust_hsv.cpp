@@ -101,8 +101,7 @@ Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
 
 std::optional<HSV_Adjustment> Adjust_HSV::run() {
     run_dialog({"dialog \"Adjust HSV\"", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
-                [this] { return accept(); }});
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
     source_.copy_to(target_.tile());
     return is_accepted_ ? std::optional(adjustment_) : std::nullopt;
 }

@@ -25,7 +25,7 @@ bool Arrangement::run() {
     hovered_ = -1;
     has_swapped_ = false;
     run_dialog({title, [this] { draw(); }, [this](const Input_Event& event) { return handle(event); },
-                Dialog_Keys::enter_or_y, [] { return Loop_Step::end; }});
+                [] { return Loop_Step::end; }});
     return has_swapped_;
 }
 

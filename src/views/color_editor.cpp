@@ -62,7 +62,7 @@ Color_Editor::Color_Editor(Color color) : edit_(color), data_(edit_, content), d
 Color_Choice Color_Editor::run() {
     const Text_Input text_input;
     run_dialog({"dialog \"Color editor\"", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
+                [this](const Input_Event& event) { return handle(event); },
                 [this] { return accept(Color_Request::none); }});
     return choice_;
 }

@@ -71,8 +71,7 @@ Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
 
 bool Export_Dialog::run() {
     run_dialog({"dialog \"Export as .bmp\"", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter_or_y,
-                [this] { return accept(); }});
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
     return is_accepted_;
 }
 

@@ -112,8 +112,8 @@ File_Answer Own_Chooser::run() {
     }
     const Text_Input typing;
     run_dialog({"file chooser", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }, Dialog_Keys::enter,
-                [this] { return accept(); }});
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); },
+                Dialog_Keys::enter});
     return answer_;
 }
 

@@ -18,8 +18,9 @@ public:
     }
 
     std::optional<int> run() {
-        run_dialog(
-            {"tile array", [this] { draw(); }, [this](const Input_Event& event) { return handle(event); }});
+        run_dialog({"tile array", [this] { draw(); },
+                    [this](const Input_Event& event) { return handle(event); },
+                    [] { return Loop_Step::end; }});
         return clicked_;
     }
 

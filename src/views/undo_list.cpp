@@ -69,7 +69,8 @@ void show_undo_list(const Undo_History& history) {
                     const bool dismisses =
                         event.kind == Input_Kind::key_press || event.kind == Input_Kind::button_press;
                     return dismisses ? Loop_Step::end : Loop_Step::go_on;
-                }});
+                },
+                [] { return Loop_Step::end; }});
 }
 
 } // namespace quadrelle

@@ -39,6 +39,7 @@ private:
     [[nodiscard]] Loop_Step handle(const Input_Event& event);
     void handle_key(Keycode pressed);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
+    [[nodiscard]] Loop_Step accept();
     void preview(int slot);
 
     Tile_Versions& versions_;
@@ -66,7 +67,7 @@ Versions_Dialog::Versions_Dialog(Tile_Versions& versions, const Tile& current)
 
 std::optional<int> Versions_Dialog::run() {
     run_dialog({"dialog \"Versions\"", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); }});
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
     return takes_ ? selected_ : std::nullopt;
 }
 
@@ -135,6 +136,11 @@ Loop_Step Versions_Dialog::press(const Pointer_State& pointer) {
     }
     takes_ = take_button_.area.contains(point);
     return takes_ || !layout_.dialog.contains(point) ? Loop_Step::end : Loop_Step::go_on;
+}
+
+Loop_Step Versions_Dialog::accept() {
+    takes_ = true;
+    return Loop_Step::end;
 }
 
 void Versions_Dialog::preview(int slot) {

@@ -85,7 +85,7 @@ TEST_F(Adjust_HSV_Test, takes_typed_numbers_the_wheel_and_keys) {
     execute(Command::adjust_hsv);
     EXPECT_EQ(picture(), changed(before, {-92, -1, 10}));
     script().drag({{1000, hue_y}, {0, 0}}).click({less_x, hue_y}).drag({{1000, value_y}, {2000, 0}});
-    script().click({more_x, value_y}).key(key::enter);
+    script().click({more_x, value_y}).key('y');
     execute(Command::adjust_hsv);
     EXPECT_EQ(picture(), changed(changed(before, {-92, -1, 10}), {-180, 0, 100}));
 }

@@ -61,6 +61,7 @@ TEST_F(Color_Editor_Test, gives_the_color_back_only_when_accepted) {
     const Color changed(98, 18, 124);
     EXPECT_EQ(after([&] { script().key(key::enter); }), changed);
     EXPECT_EQ(after([&] { script().key(key::keypad_enter); }), changed);
+    EXPECT_EQ(after([&] { script().key('y'); }), changed);
     EXPECT_EQ(after([&] { script().press(ok); }), changed);
     EXPECT_EQ(after([&] { script().key(key::escape); }), start);
     EXPECT_EQ(after([&] { script().press(cancel); }), start);
@@ -102,6 +103,9 @@ TEST_F(Color_Editor_Test, steps_drags_and_types_every_number) {
         expect(wraps ? row.high : 0);
         script().click(at(number_x, row.id)).type("7").key(key::escape);
         expect(before);
+        // What accepts the number is not typed in the field.
+        script().click(at(number_x, row.id)).type("7y").text("y");
+        expect(7);
         script().motion(at(number_x, row.id)).wheel(1).wheel(1).wheel(-1);
         script().click(at(number_x, row.id)).type("50").key(key::enter).wheel(1).wheel(1).wheel(-1);
         hold_shift(true).wheel(1).click(more(row.id));
@@ -133,7 +137,7 @@ TEST_F(Color_Editor_Test, takes_typed_text_and_refuses_wrong_one) {
     script().key(key::enter);
     EXPECT_EQ(edited(), Color(0x12, 0x34, 0x56, 0x78));
 
-    // On the way to five digits there were three that stand for a colour. A y is a letter like others.
+    // On the way to five digits there were three that stand for a colour. Nothing accepts what is none.
     for (const char* wrong : {"611", "27", "y"}) {
         write(wrong);
     }

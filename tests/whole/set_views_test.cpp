@@ -136,6 +136,7 @@ TEST_F(Set_Views_Test, tile_array_closes_without_a_choice) {
     const std::vector<std::function<void()>> ends{
         [this] { script().key(key::escape); },
         [this] { script().key(key::tab); },
+        [this] { script().key(key::keypad_enter); },
         [this] { script().press(off_grid); },
         [this] { script().press(in_cell(60)); },
         [this] { script().press(in_cell(0)); },

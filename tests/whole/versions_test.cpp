@@ -60,7 +60,7 @@ TEST_F(Versions_Test, previews_a_slot_while_its_key_or_a_button_on_it_is_held) {
     script().motion({0, 0}).check([&] { EXPECT_EQ(in_big_view(), black); });
     script().release({0, 0}, Mouse_Button::right).check([&] { EXPECT_EQ(in_big_view(), white); });
     // Other keys select nothing, show nothing and leave the dialog open.
-    script().key('5').key('0').key(key::enter).check([&] { EXPECT_EQ(in_big_view(), white); });
+    script().key('5').key('0').key('x').check([&] { EXPECT_EQ(in_big_view(), white); });
     in_dialog().key(key::escape);
     in_main();
     play();
@@ -99,6 +99,19 @@ TEST_F(Versions_Test, stores_the_tile_and_takes_it_back_as_one_step) {
     play(script().key('p'));
     EXPECT_EQ(tile_picture(), kept);
     EXPECT_EQ(document().history().entries().back().kind, Command::plot_paste);
+}
+
+TEST_F(Versions_Test, keys_take_the_selected_one) {
+    paint_probe();
+    const Tile_Picture kept = tile_picture();
+    store_in('4');
+    for (const Keycode pressed : {key::enter, key::keypad_enter, Keycode{'y'}}) {
+        play(script().key('v').key(pressed));
+        EXPECT_FALSE(editor->canvas().work_area().paste());
+        play(script().key('v').key('4').key_up('4').key(pressed));
+        EXPECT_EQ(floating(), kept);
+        execute(Command::undo);
+    }
 }
 
 TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
