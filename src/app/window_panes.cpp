@@ -65,7 +65,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
 
 void Window_Panes::draw_panes() {
     const Tileset_Document& document = documents_.current();
-    preview_.draw(canvas_.tile());
+    preview_.draw(canvas_.shown_tile(toolbox->state()));
     magnification_.set_value(canvas_.pixel_size());
     magnification_.draw();
     palette_.draw();

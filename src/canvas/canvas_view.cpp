@@ -66,6 +66,24 @@ bool Canvas_View::shows_paste(const Tool_State& tools) const {
     return work_area_.paste() && !work_area_.has_selection() && tools.shows_floating_paste();
 }
 
+const Tile* Canvas_View::shown_tile(const Tool_State& tools) {
+    if (tile_ == nullptr || !shows_paste(tools)) {
+        with_paste_.reset();
+        return tile_;
+    }
+    const Floating_Paste& paste = *work_area_.paste();
+    const bool is_known = with_paste_ && with_paste_->tile == tile_->version() &&
+                          with_paste_->paste == paste.picture->version() &&
+                          with_paste_->position == paste.position;
+    if (!is_known) {
+        with_paste_.emplace(
+            Tile_With_Paste{*tile_, tile_->version(), paste.picture->version(), paste.position});
+        Drawing_Target target(with_paste_->picture);
+        paste.plot(target);
+    }
+    return &with_paste_->picture;
+}
+
 Size Canvas_View::magnified_size() const {
     return tile_ == nullptr ? Size{} : Size{tile_->width() * pixel_size_, tile_->height() * pixel_size_};
 }

@@ -14,6 +14,7 @@
 #include "selection/work_area.h"
 #include "ui/window_layout.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -52,6 +53,9 @@ public:
     [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
     // Something floats, the tool in use shows it, and no selection takes its place.
     [[nodiscard]] bool shows_paste(const Tool_State& tools) const;
+    // Returns the tile as the canvas shows it, with what floats in view; null without a tile. To be used
+    // before anything changes.
+    [[nodiscard]] const Tile* shown_tile(const Tool_State& tools);
 
     // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
     // called.
@@ -114,6 +118,14 @@ public:
     void draw(const Tool_State& tools, const Canvas_Settings& settings);
 
 private:
+    // The tile with what floats over it, and what that was made of.
+    struct Tile_With_Paste {
+        Tile picture;
+        std::uint64_t tile = 0;
+        std::uint64_t paste = 0;
+        Tile_Point position;
+    };
+
     void undo_seam_shift(Seam seam);
     // The pixels of the tile and all that belongs to them, right or down, or back where negative.
     void shift_pixels(Seam seam, int shift);
@@ -138,6 +150,7 @@ private:
     int vertical_seam_shift_ = no_seam_shift;
     mutable Edge_Pictures edges_;
     Work_Area work_area_;
+    std::optional<Tile_With_Paste> with_paste_;
     std::unique_ptr<Tile> history_;
     std::optional<Hover> hover_;
     Canvas_Painter painter_;

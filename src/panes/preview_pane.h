@@ -1,6 +1,6 @@
 #pragma once
 
-// The current tile in real size, repeated, as a pattern that it may be used for.
+// A tile in real size, repeated, as a pattern that it may be used for.
 
 #include "ui/pane.h"
 #include "ui/shown_tile.h"

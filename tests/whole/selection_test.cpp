@@ -38,6 +38,22 @@ protected:
     }
 };
 
+// The preview repeats it four times; a selection takes the place of what floats.
+TEST_F(Selection_Test, preview_shows_what_floats_where_the_canvas_does) {
+    Tile picture(3, 2);
+    picture.fill(red);
+    work().float_paste({picture, {22, 4}});
+    execute(Command::work_selection);
+    EXPECT_EQ(count_in_preview(red), 4 * 4);
+    play(script().key(key::left, Modifier::shift));
+    EXPECT_EQ(count_in_preview(red), 4 * 6);
+    work().select(selected_rectangle({24, 24}, {0, 0}, {4, 4}), Selection_Change::add);
+    editor->redraw(Present::yes);
+    EXPECT_EQ(count_in_preview(red), 0);
+    execute(Command::deselect);
+    EXPECT_EQ(count_in_preview(red), 4 * 6);
+}
+
 // The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
 class Copy_Panes_Test : public Selection_Test {
 protected:
