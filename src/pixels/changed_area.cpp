@@ -33,6 +33,9 @@ Span changed_part(std::span<const Color> row, std::span<const Color> copy) {
 Rectangle update_copy(std::span<const Color> pixels, Size size, std::span<Color> copy) {
     const auto width = static_cast<std::size_t>(size.width);
     Rectangle changed;
+    if (pixels.empty()) {
+        return changed;
+    }
     for (int y = 0; y < size.height; ++y) {
         const std::size_t start = static_cast<std::size_t>(y) * width;
         const std::span<const Color> from = pixels.subspan(start, width);
