@@ -180,13 +180,19 @@ void stroke_burst(benchmark::State& state) {
     }
 }
 
-// From one tile of a large set to the next, the window drawn again with the whole strip in it.
-void next_tile(benchmark::State& state) {
-    show_tile({static_cast<int>(state.range(0)), 8});
+// Of as many tiles as there can be; returns it.
+Tileset& show_full_set(int tile_edge) {
+    show_tile({tile_edge, 8});
     Tileset& tileset = editor->documents().current().tileset();
     const Tile first(*tileset.current_tile());
     while (tileset.insert_copy_after(first)) {}
     tileset.select(0);
+    return tileset;
+}
+
+// From one tile to the next, the window drawn again with the whole strip in it.
+void next_tile(benchmark::State& state) {
+    Tileset& tileset = show_full_set(static_cast<int>(state.range(0)));
     for (auto _ : state) {
         if (tileset.is_last()) {
             state.PauseTiming();
@@ -196,6 +202,15 @@ void next_tile(benchmark::State& state) {
             state.ResumeTiming();
         }
         editor->execute(Command::next_tile);
+        editor->redraw(Present::yes);
+    }
+}
+
+// A command that changes all pixels of the current tile, with the frame after it.
+void change_tile(benchmark::State& state) {
+    show_full_set(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        editor->execute(Command::mirror);
         editor->redraw(Present::yes);
     }
 }
@@ -240,7 +255,8 @@ BENCHMARK(stroke_motion)
 BENCHMARK(stroke_burst)->Arg(1000)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(tool_change)->Unit(benchmark::kMicrosecond);
 BENCHMARK(stroke_press)->Args({24, 21})->UseManualTime()->Unit(benchmark::kMicrosecond);
-BENCHMARK(next_tile)->Arg(24)->Arg(64)->Unit(benchmark::kMicrosecond);
+BENCHMARK(next_tile)->Arg(24)->Arg(64)->Arg(255)->Unit(benchmark::kMicrosecond);
+BENCHMARK(change_tile)->Arg(24)->Arg(64)->Arg(255)->Unit(benchmark::kMicrosecond);
 // The names of untitled sets come to an end.
 BENCHMARK(new_set)->Arg(256)->Iterations(100)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);

@@ -38,8 +38,9 @@ void History_Pane::draw_entries(const Undo_History& history) {
     Point cell{client_area().x, client_area().y};
     for (int i = std::max(count - shown_entries, 0); i < count; ++i) {
         // While newer entries come, each one keeps its texture.
-        Shown_Tile& thumbnail = thumbnails_.at(static_cast<std::size_t>(i % shown_entries));
-        thumbnail.draw(picture_of(history.entries()[static_cast<std::size_t>(i)]),
+        const auto index = static_cast<std::size_t>(i);
+        Shown_Tile& thumbnail = thumbnails_.at((history.forgotten() + index) % shown_entries);
+        thumbnail.draw(picture_of(history.entries()[index]),
                        {cell.x, cell.y, thumbnail_edge, thumbnail_edge});
         if (i == history.position()) {
             screen->draw_sprite(Sprite::tile_indicator, cell);

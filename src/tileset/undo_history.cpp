@@ -19,6 +19,7 @@ void Undo_History::add(Undo_Entry entry) {
     entries_.push_back(std::move(entry));
     if (count() > capacity_) {
         entries_.erase(entries_.begin());
+        ++forgotten_;
     }
     position_ = count() - 1;
 }

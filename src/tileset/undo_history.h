@@ -56,6 +56,8 @@ public:
 
     // The oldest entry comes first.
     [[nodiscard]] std::span<const Undo_Entry> entries() const { return entries_; }
+    // Returns how many entries before the oldest one were forgotten for newer ones.
+    [[nodiscard]] std::size_t forgotten() const { return forgotten_; }
     // Returns the index of the entry that matches what is on screen; -1 without entries.
     [[nodiscard]] int position() const { return position_; }
     // Returns that entry; null without entries.
@@ -70,6 +72,7 @@ private:
 
     int capacity_;
     int position_ = -1;
+    std::size_t forgotten_ = 0;
     std::vector<Undo_Entry> entries_;
 };
 
