@@ -127,7 +127,7 @@ constexpr std::array<Handler_Row, command_count> handlers{{
     {Command::arrange_select,        tileset_commands::arrange_select},
     {Command::add_new_tile,          tileset_commands::leave_to_document},
     {Command::insert_new_tile,       tileset_commands::leave_to_document},
-    {Command::delete_tile,           tileset_commands::leave_to_document},
+    {Command::delete_tile,           tileset_commands::delete_tile},
     {Command::statistics,            tileset_commands::statistics},
     {Command::view_tile_array,       tileset_commands::view_tile_array},
     {Command::anti_alias,            tile_commands::transform},

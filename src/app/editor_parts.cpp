@@ -22,10 +22,16 @@ void Editor_Parts::show_current_tile() {
     }
 }
 
+void Editor_Parts::leave_selection() {
+    if (options->is_ticked(Option::clear_selection)) {
+        canvas.work_area().deselect();
+    }
+}
+
 void Editor_Parts::follow_up(Command done) {
     const Command_Row& row = row_of(done);
-    if (row.has(Command_Trait::leaves_selection) && options->is_ticked(Option::clear_selection)) {
-        canvas.work_area().deselect();
+    if (row.has(Command_Trait::leaves_selection)) {
+        leave_selection();
     }
     if (row.category == Command_Category::structure || row.category == Command_Category::tile_switch) {
         show_current_tile();

@@ -13,10 +13,9 @@ namespace quadrelle {
 
 namespace {
 
-// A tile from another one, or none, is where the next state comes from.
+// After another tile came into view, that is where the next state comes from.
 bool is_edit(Command kind) {
-    return row_of(kind).category == Command_Category::pixels ||
-           row_of(kind).category == Command_Category::selection;
+    return row_of(kind).category != Command_Category::tile_switch;
 }
 
 // The command that turned, mirrored or scrolled the whole tile between two states, or none: it may have been

@@ -14,6 +14,26 @@ Outcome leave_to_document(Editor_Parts& editor, Command command) {
     return outcome_of(editor.documents.current().handle_command(command));
 }
 
+// The last tile is not taken away but made black: a step that can be undone.
+Outcome delete_tile(Editor_Parts& editor) {
+    const Tileset& tileset = editor.documents.current().tileset();
+    if (tileset.count() > 1) {
+        return leave_to_document(editor, Command::delete_tile);
+    }
+    const Tile before(*tileset.current_tile());
+    Outcome outcome = Outcome::refused;
+    editor.recorder.step([&] {
+        leave_to_document(editor, Command::delete_tile);
+        if (tileset.current_tile()->same_pixels(before)) {
+            return Command::none;
+        }
+        editor.leave_selection();
+        outcome = Outcome::done;
+        return Command::delete_tile;
+    });
+    return outcome;
+}
+
 Outcome arrange_select(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     const int before = document.tileset().current_index();

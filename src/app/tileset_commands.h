@@ -12,6 +12,7 @@ namespace tileset_commands {
 
 // Which the document carries out by itself.
 Outcome leave_to_document(Editor_Parts& editor, Command command);
+Outcome delete_tile(Editor_Parts& editor);
 Outcome arrange_select(Editor_Parts& editor);
 Outcome view_tile_array(Editor_Parts& editor);
 Outcome statistics(Editor_Parts& editor);

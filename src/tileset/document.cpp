@@ -62,14 +62,15 @@ bool Tileset_Document::insert_tile() {
     return true;
 }
 
-// The last tile left stays, blank: that is a change too.
+// The last tile left stays, black, and so does what the history knows of it.
 bool Tileset_Document::delete_tile() {
     if (!tileset_.has_tiles()) {
         return false;
     }
     const int index = tileset_.current_index();
-    tileset_.delete_current();
-    history_.tile_deleted(index, tileset_);
+    if (tileset_.delete_current()) {
+        history_.tile_deleted(index, tileset_);
+    }
     return true;
 }
 

@@ -133,6 +133,21 @@ TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
     EXPECT_EQ(window_title(), product + "untitled0.qdl");
 }
 
+TEST_F(Documents_Test, the_last_tile_is_made_black_as_a_step) {
+    draw_pixel(2, 3);
+    draw_pixel(4, 5);
+    const Tile_Picture drawn = tile_picture();
+    execute(Command::delete_tile);
+    EXPECT_EQ(tile_picture(), Tile_Picture(24 * 24, black));
+    // There is nothing left to make black.
+    execute(Command::delete_tile);
+    play(script().key('z', Modifier::control));
+    EXPECT_EQ(tile_picture(), drawn);
+    play(script().key('z', Modifier::control));
+    EXPECT_EQ(tile_pixel(4, 5), black);
+    EXPECT_EQ(tile_pixel(2, 3), white);
+}
+
 // The dialog is built anew each time it is shown; this one has the same layout.
 struct New_Dialog_Layout {
     Dialog_Container dialog{"New tileset"};

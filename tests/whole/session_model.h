@@ -284,17 +284,24 @@ public:
         deselect();
     }
     void insert_tile() { insert(set().current); }
-    // The states of a deleted tile go, and with the last one before it all others.
+    // The last one left is made black instead.
     void delete_tile() {
         end_shifts();
+        if (set().count() > 1) {
+            take_tile_away();
+        } else if (!same(*picture(), *blank(size()).picture)) {
+            edit([this] {
+                picture() = blank(size()).picture;
+                deselect();
+            });
+        }
+    }
+    // The states of that tile go, and with the last one before it all others.
+    void take_tile_away() {
         const Set_Model::Numbered gone = set().tile();
         set().tiles.erase(set().tiles.begin() + static_cast<std::ptrdiff_t>(set().current));
-        const bool is_last = set().tiles.empty();
-        if (is_last) {
-            set().tiles.push_back(blank(gone.picture->size()));
-        }
         set().show(std::min(set().current, set().tiles.size() - 1));
-        look(is_last ? history : picture());
+        look(picture());
         deselect();
         const auto is_gone = [&](const State& state) { return state.tile == gone.number; };
         auto& states = set().states;
