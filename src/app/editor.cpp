@@ -130,6 +130,7 @@ void Editor::execute(Command command) {
 
 Command Editor::perform(Command command) {
     hide_hover(parts_->canvas);
+    parts_->panes.hint_lines().end_report();
     if (row_of(command).has(Command_Trait::tileset_level)) {
         parts_->canvas.undo_seam_shifts();
     }

@@ -43,6 +43,8 @@ public:
     // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
     Outcome copy();
     Outcome cut();
+    // Makes a picture that the user loses the current copy, without offering it to other programs.
+    void keep(const Tile& picture) { copies_.add({picture, {0, 0}}); }
     // Makes a picture that another program put on the clipboard the current copy. The canvas shows a tile.
     Picture_Fault take_clipboard();
     // Float the current copy; refused without one. What is selected is copied before it is cloned.

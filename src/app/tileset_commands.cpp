@@ -14,12 +14,20 @@ Outcome leave_to_document(Editor_Parts& editor, Command command) {
     return outcome_of(editor.documents.current().handle_command(command));
 }
 
-// The last tile is not taken away but made black: a step that can be undone.
-Outcome delete_tile(Editor_Parts& editor) {
-    const Tileset& tileset = editor.documents.current().tileset();
-    if (tileset.count() > 1) {
-        return leave_to_document(editor, Command::delete_tile);
+namespace {
+
+// No step of the history brings a tile back. One that is as when it was added has no picture to lose.
+void keep_picture(Editor_Parts& editor, const Tile& tile) {
+    if (!tile.same_pixels(Tile(tile.width(), tile.height()))) {
+        editor.desk.keep(tile);
+        editor.panes.hint_lines().report(
+            Command::delete_tile, "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.");
     }
+}
+
+// That is a step, which can be undone.
+Outcome make_tile_black(Editor_Parts& editor) {
+    const Tileset& tileset = editor.documents.current().tileset();
     const Tile before(*tileset.current_tile());
     Outcome outcome = Outcome::refused;
     editor.recorder.step([&] {
@@ -28,10 +36,24 @@ Outcome delete_tile(Editor_Parts& editor) {
             return Command::none;
         }
         editor.leave_selection();
+        editor.panes.hint_lines().report(Command::delete_tile,
+                                         "The last tile stays, black: Undo (^z) brings its picture back.");
         outcome = Outcome::done;
         return Command::delete_tile;
     });
     return outcome;
+}
+
+} // namespace
+
+// The last tile is not taken away but made black.
+Outcome delete_tile(Editor_Parts& editor) {
+    const Tileset& tileset = editor.documents.current().tileset();
+    if (tileset.count() == 1) {
+        return make_tile_black(editor);
+    }
+    keep_picture(editor, *tileset.current_tile());
+    return leave_to_document(editor, Command::delete_tile);
 }
 
 Outcome arrange_select(Editor_Parts& editor) {

@@ -59,7 +59,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
         copy_panes_.place(toolbox->entry_top());
         copy_panes_.draw(copies_);
     }
-    hint_lines_.set_hint(hint_of(pointed(pointer.point())));
+    hint_lines_.set_hint(hint_of(pointed(pointer.point())), pointer.point());
     hint_lines_.draw();
 }
 

@@ -44,6 +44,7 @@ public:
 
     [[nodiscard]] Palette_Area& palette() { return palette_; }
     [[nodiscard]] const Preview_Pane& preview() const { return preview_; }
+    [[nodiscard]] Hint_Lines& hint_lines() { return hint_lines_; }
     [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
 
 private:

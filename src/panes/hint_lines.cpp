@@ -1,5 +1,6 @@
 #include "panes/hint_lines.h"
 
+#include "commands/command_table.h"
 #include "screen/screen.h"
 #include "ui/window_layout.h"
 #include "ui/wrapped_text.h"
@@ -19,7 +20,21 @@ constexpr std::size_t most_lines = area.height / line_step;
 
 } // namespace
 
-void Hint_Lines::set_hint(const Hint& hint) {
+void Hint_Lines::report(Command command, std::string_view what_it_did) {
+    report_ = {{menu_text(command), std::string(what_it_did)}, {}};
+}
+
+void Hint_Lines::set_hint(const Hint& hint, Point pointer) {
+    if (report_ && report_->pointer.value_or(pointer) != pointer) {
+        end_report();
+    }
+    if (report_) {
+        report_->pointer = pointer;
+    }
+    show(report_ ? report_->hint : hint);
+}
+
+void Hint_Lines::show(const Hint& hint) {
     if (hint == hint_) {
         return;
     }

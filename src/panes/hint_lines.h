@@ -1,25 +1,43 @@
 #pragma once
 
-// The lines under the canvas that say what is under the pointer.
+// The lines under the canvas that say what is under the pointer, or what a command did.
 
+#include "base/geometry.h"
+#include "commands/command.h"
 #include "panes/hint.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quadrelle {
 
 class Hint_Lines {
 public:
-    // Brings the hint into lines that fit; what has no room is cut off with "...".
-    void set_hint(const Hint& hint);
+    // Tells what a command did in the place of the hint, until the pointer moves or `end_report`. It should
+    // be no longer than a line.
+    void report(Command command, std::string_view what_it_did);
+    void end_report() { report_.reset(); }
+
+    // Takes the hint for what is under the pointer there.
+    void set_hint(const Hint& hint, Point pointer);
     void draw() const;
 
     // Returns the lines from the top, as they are drawn; the first one is the title.
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }
 
 private:
-    Hint hint_;
+    struct Report {
+        Hint hint;
+        std::optional<Point> pointer; // when it was shown first
+    };
+
+    // Brings the hint into lines that fit; what has no room is cut off with "...".
+    void show(const Hint& hint);
+
+    std::optional<Report> report_;
+    Hint hint_; // in the lines
     std::vector<std::string> lines_;
 };
 

@@ -236,12 +236,7 @@ public:
             fill(testing::clear);
         }
     }
-    void copy() {
-        copies.push_front(has_selection() ? lifted_area() : shows_paste() ? work.paste : whole_tile());
-        if (copies.size() > Copy_Buffer::capacity) {
-            copies.pop_back();
-        }
-    }
+    void copy() { add_copy(has_selection() ? lifted_area() : shows_paste() ? work.paste : whole_tile()); }
     void floats(const Floating_Paste& paste) {
         deselect();
         settle();
@@ -299,6 +294,9 @@ public:
     // The states of that tile go, and with the last one before it all others.
     void take_tile_away() {
         const Set_Model::Numbered gone = set().tile();
+        if (!same(*gone.picture, *blank(size()).picture)) {
+            add_copy(whole_tile());
+        }
         set().tiles.erase(set().tiles.begin() + static_cast<std::ptrdiff_t>(set().current));
         set().show(std::min(set().current, set().tiles.size() - 1));
         look(picture());
@@ -371,6 +369,12 @@ private:
     }
     [[nodiscard]] Paste whole_tile() {
         return std::make_shared<Floating_Paste>(Floating_Paste{*picture(), {}});
+    }
+    void add_copy(const Paste& copy) {
+        copies.push_front(copy);
+        if (copies.size() > Copy_Buffer::capacity) {
+            copies.pop_back();
+        }
     }
     void insert(std::size_t index) {
         end_shifts();
