@@ -85,17 +85,17 @@ bool Documents::load_document() {
     return true;
 }
 
-bool Documents::save_document(Save_As save_as) {
-    Tileset_Document& document = current();
-    if (save_as == Save_As::yes || !document.is_named()) {
-        std::string path;
-        if (!choose_file(File_Dialog_Kind::save_tileset, path)) {
-            return false;
-        }
-        document.set_file(path);
-    } else if (!document.is_modified() || !confirms_save()) {
-        return false;
+std::optional<std::string> Documents::ask_where_to_save(Save_As save_as) const {
+    if (save_as == Save_As::no && current().is_named()) {
+        return confirms_save() ? std::optional(current().file_name()) : std::nullopt;
     }
+    std::string path;
+    return choose_file(File_Dialog_Kind::save_tileset, path) ? std::optional(path) : std::nullopt;
+}
+
+bool Documents::save_document(const std::string& path) {
+    Tileset_Document& document = current();
+    document.set_file(path);
     const bool is_saved = save_tileset(document.tileset(), document.file_name()) >= 0;
     if (is_saved) {
         document.clear_modified();

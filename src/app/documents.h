@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,7 @@ public:
 
     // Between the first `new_document` and the end there is always one.
     [[nodiscard]] Tileset_Document& current() { return *documents_.at(current_); }
+    [[nodiscard]] const Tileset_Document& current() const { return *documents_.at(current_); }
     [[nodiscard]] bool has_unsaved() const;
     [[nodiscard]] int count() const { return static_cast<int>(documents_.size()); }
 
@@ -32,9 +34,13 @@ public:
     void show_tile(int index);
     // Resamples the tiles of the current document.
     void resize_current(Size tile_size);
-    // These ask for a name where one is needed and tell the user what failed. True when it was done.
+    // Asks for a file and tells the user what failed. True when it was done.
     bool load_document();
-    bool save_document(Save_As save_as);
+    // Returns the file to save the current document to, after asking for a name where one is needed, or
+    // whether it may be replaced; none when the user gave it up.
+    [[nodiscard]] std::optional<std::string> ask_where_to_save(Save_As save_as) const;
+    // The document belongs to that file from now on. Tells the user what failed. True when it was done.
+    bool save_document(const std::string& path);
     // Asks first when there is something to lose. There is always a document afterwards.
     bool close_document();
 

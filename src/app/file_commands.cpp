@@ -6,15 +6,23 @@
 #include "views/new_tileset_dialog.h"
 #include "views/quit_question.h"
 
+#include <optional>
+#include <string>
+
 namespace quadrelle::file_commands {
 
 namespace {
 
-// Saving is not a command of the whole set, but writes its tiles.
+// Saving is not a command of the whole set, but writes its tiles. Until the user has answered, nothing
+// changes.
 Outcome save_document(Editor_Parts& editor, Save_As save_as) {
+    const std::optional<std::string> path = editor.documents.ask_where_to_save(save_as);
+    if (!path) {
+        return Outcome::refused;
+    }
     editor.canvas.undo_seam_shifts();
     editor.desk.settle_before_leaving();
-    return editor.documents.save_document(save_as) ? Outcome::done : Outcome::refused;
+    return editor.documents.save_document(*path) ? Outcome::done : Outcome::refused;
 }
 
 } // namespace
@@ -46,6 +54,10 @@ Outcome load(Editor_Parts& editor) {
 }
 
 Outcome save(Editor_Parts& editor) {
+    const Tileset_Document& document = editor.documents.current();
+    if (document.is_named() && !document.is_modified() && !editor.desk.has_to_settle()) {
+        return Outcome::refused;
+    }
     return save_document(editor, Save_As::no);
 }
 

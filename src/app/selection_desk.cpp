@@ -216,10 +216,26 @@ void Selection_Desk::settle() {
     }
 }
 
+bool Selection_Desk::settles_before_leaving() const {
+    return toolbox_.state().options.selection_mode != Selection_Mode::fixed && is_to_settle();
+}
+
 void Selection_Desk::settle_before_leaving() {
-    if (toolbox_.state().options.selection_mode != Selection_Mode::fixed && is_to_settle()) {
+    if (settles_before_leaving()) {
         recorder_.step([this] { return plot() == Outcome::done ? Command::plot_paste : Command::none; });
     }
+}
+
+// What goes on floating may be a part of the tile already.
+bool Selection_Desk::has_to_settle() const {
+    if (!settles_before_leaving() || canvas_.tile() == nullptr) {
+        return false;
+    }
+    Tile settled(*canvas_.tile());
+    Drawing_Target target(settled);
+    canvas_.work_area().paste()->plot(target);
+    return toolbox_.state().options.selection_mode == Selection_Mode::standard ||
+           !settled.same_pixels(*canvas_.tile());
 }
 
 } // namespace quadrelle

@@ -67,6 +67,8 @@ public:
     // Settles what floats, as a step of its own, before another tool is taken or the tile is saved. What is
     // fixed floats on.
     void settle_before_leaving();
+    // Returns whether that would change something.
+    [[nodiscard]] bool has_to_settle() const;
 
 private:
     Outcome change(const std::function<void()>& work);
@@ -75,6 +77,7 @@ private:
     [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
     void plot_paste();
     [[nodiscard]] bool is_to_settle() const;
+    [[nodiscard]] bool settles_before_leaving() const;
     void settle();
 
     Canvas_View& canvas_;

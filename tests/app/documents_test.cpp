@@ -103,6 +103,36 @@ TEST_F(Documents_Test, save_over_a_file_asks_where_the_option_says_so) {
     EXPECT_FALSE(document().is_modified());
 }
 
+TEST_F(Documents_Test, save_that_is_given_up_leaves_what_floats_and_the_seams) {
+    const std::string path = save_as("tiles.qdl");
+    set_option(Option::confirm_quick_save, 1);
+    draw_pixel(1, 1);
+    execute(Command::copy);
+    execute(Command::paste);
+    execute(Command::horizontal_seam_tool);
+    const Tile_Picture shifted = tile_picture();
+    const std::size_t steps = document().history().entries().size();
+    const auto expect_as_before = [&] {
+        EXPECT_TRUE(editor->canvas().work_area().paste());
+        EXPECT_EQ(editor->canvas().horizontal_seam_shift(), 12);
+        EXPECT_EQ(tile_picture(), shifted);
+        EXPECT_EQ(document().history().entries().size(), steps);
+    };
+    answer_files(File_Answer_State::cancelled);
+    execute(Command::save_as);
+    expect_as_before();
+    // Also where nothing changed but what is to become a part of the tile.
+    document().clear_modified();
+    expect_question("Save", "Save over existing file?").key(key::escape);
+    execute(Command::save);
+    expect_as_before();
+    script().key(key::enter);
+    execute(Command::save);
+    EXPECT_FALSE(editor->canvas().work_area().paste());
+    EXPECT_EQ(editor->canvas().horizontal_seam_shift(), no_seam_shift);
+    EXPECT_EQ(stored(path).at(11 + (1 * 24 + 1) * 4 + 1), 255);
+}
+
 TEST_F(Documents_Test, load_opens_the_same_tiles_as_another_document) {
     execute(Command::add_new_tile);
     draw_pixel(5, 6);

@@ -270,6 +270,12 @@ private:
         }
     }
     void save() {
+        if (one_in(3)) {
+            answer_files(File_Answer_State::cancelled);
+            editor->execute(Command::save_as);
+            return;
+        }
+        answer_files(File_Answer_State::chosen, "saved.qdl");
         perform(Command::save_as, &Session_Model::end_shifts);
         model_.settle_to_leave();
         model_.set().name = "saved.qdl";

@@ -29,7 +29,6 @@ protected:
                 perform(Command::add_new_tile, &Session_Model::add_tile);
             }
         }
-        answer_files(File_Answer_State::chosen, "saved.qdl");
     }
 
     void expect_same() {
