@@ -18,7 +18,8 @@ constexpr Size default_tile_size{24, 24};
 
 } // namespace
 
-Documents::Documents(std::function<void()> current_changed) : current_changed_(std::move(current_changed)) {}
+Documents::Documents(std::function<void()> leaving, std::function<void()> current_changed)
+    : leaving_(std::move(leaving)), current_changed_(std::move(current_changed)) {}
 
 Documents::~Documents() = default;
 
@@ -41,6 +42,9 @@ bool Documents::new_document(Size tile_size) {
 }
 
 void Documents::add(std::unique_ptr<Tileset_Document> document) {
+    if (count() > 0) {
+        leaving_();
+    }
     documents_.push_back(std::move(document));
     make_current(documents_.size() - 1);
 }
@@ -55,6 +59,11 @@ void Documents::make_current(std::size_t index) {
     current_changed_();
 }
 
+void Documents::go_to_tile(int index) {
+    leaving_();
+    current().tileset().select(index);
+}
+
 void Documents::show_tile(int index) {
     current().tileset().select(index);
     current_changed_();
@@ -62,6 +71,7 @@ void Documents::show_tile(int index) {
 }
 
 void Documents::resize_current(Size tile_size) {
+    leaving_();
     current().tileset().resize_all(tile_size);
     current().history().clear();
     current().strip().show_current();
@@ -127,6 +137,7 @@ bool Documents::close_document() {
         make_current(0);
         return true;
     }
+    leaving_();
     documents_.erase(documents_.begin() + static_cast<std::ptrdiff_t>(current_));
     make_current(std::min(current_, documents_.size() - 1));
     return true;
@@ -157,6 +168,7 @@ bool Documents::click_tab(Point point) {
     if (tab < 0 || static_cast<std::size_t>(tab) == current_) {
         return false;
     }
+    leaving_();
     make_current(static_cast<std::size_t>(tab));
     return true;
 }

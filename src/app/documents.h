@@ -18,8 +18,9 @@ enum class Save_As { no, yes };
 
 class Documents {
 public:
-    // `current_changed` is called whenever another document, tile or set of tiles becomes current.
-    explicit Documents(std::function<void()> current_changed);
+    // `leaving` is called before the user leaves the current tile, `current_changed` whenever another
+    // document, tile or set of tiles became current.
+    Documents(std::function<void()> leaving, std::function<void()> current_changed);
     ~Documents();
 
     // Between the first `new_document` and the end there is always one.
@@ -30,6 +31,8 @@ public:
 
     // An untitled tileset of one tile. False, with nothing done, after 1000 of them.
     bool new_document(Size tile_size);
+    // The user goes to another tile of the current document, which is the command "Change tile".
+    void go_to_tile(int index);
     // Makes another tile of the current document the current one, and shows it in the strip.
     void show_tile(int index);
     // Resamples the tiles of the current document.
@@ -58,6 +61,7 @@ private:
     void refresh_titles();
     [[nodiscard]] bool confirms_save() const;
 
+    std::function<void()> leaving_;
     std::function<void()> current_changed_;
     std::vector<std::unique_ptr<Tileset_Document>> documents_;
     std::size_t current_ = 0;

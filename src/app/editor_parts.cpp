@@ -8,8 +8,9 @@ namespace quadrelle {
 
 Editor_Parts::Editor_Parts(const Redraw& redraw_window)
     : redraw(redraw_window), canvas(options->value(Option::editor_pixel_size)),
-      documents([this] { show_current_tile(); }), recorder(documents, canvas, *toolbox),
-      desk(canvas, recorder, *toolbox), panes(canvas, documents, desk.copies(), redraw_window) {}
+      documents([this] { leave_tile(); }, [this] { show_current_tile(); }),
+      recorder(documents, canvas, *toolbox), desk(canvas, recorder, *toolbox),
+      panes(canvas, documents, desk.copies(), redraw_window) {}
 
 void Editor_Parts::show_current_tile() {
     Tileset& tileset = documents.current().tileset();
@@ -20,6 +21,12 @@ void Editor_Parts::show_current_tile() {
         canvas.centre();
         panes.size_preview();
     }
+}
+
+// Put right first: of what hangs over the edge of the shifted tile nothing is to be lost.
+void Editor_Parts::leave_tile() {
+    canvas.undo_seam_shifts();
+    desk.drop_lifted();
 }
 
 void Editor_Parts::leave_selection() {

@@ -20,6 +20,8 @@ struct Editor_Parts {
 
     // To be called after another tile, or a set of another size, became the current one.
     void show_current_tile();
+    // What was lifted off the current tile drops into it, before another one comes into view.
+    void leave_tile();
     // Another tile comes into view: nothing is selected on it, where the options say so.
     void leave_selection();
     // Brings into view what a command did that was carried out.

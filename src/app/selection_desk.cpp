@@ -142,10 +142,10 @@ Outcome Selection_Desk::clone(Clone_Style style) {
     return Outcome::done;
 }
 
-void Selection_Desk::float_picture(const Floating_Paste& picture) {
+void Selection_Desk::float_picture(const Floating_Paste& picture, Paste_Source source) {
     canvas_.work_area().deselect();
     settle();
-    canvas_.work_area().float_paste(picture);
+    canvas_.work_area().float_paste(picture, source);
     if (toolbox_.current_tool() != Tool::selection) {
         toolbox_.select(Command::work_selection);
     }
@@ -157,8 +157,9 @@ bool Selection_Desk::float_wand_area(Tile_Point pressed) {
         !canvas_.work_area().selection().contains(pressed)) {
         return false;
     }
-    static_cast<void>(mode == Wand_Mode::quick_cut ? cut() : copy());
-    float_picture(*copies_.current());
+    const bool is_cut = mode == Wand_Mode::quick_cut;
+    static_cast<void>(is_cut ? cut() : copy());
+    float_picture(*copies_.current(), is_cut ? Paste_Source::tile : Paste_Source::copy);
     return true;
 }
 
@@ -236,6 +237,18 @@ bool Selection_Desk::has_to_settle() const {
     canvas_.work_area().paste()->plot(target);
     return toolbox_.state().options.selection_mode == Selection_Mode::standard ||
            !settled.same_pixels(*canvas_.tile());
+}
+
+// Wherever a selection lies.
+void Selection_Desk::drop_lifted() {
+    if (!canvas_.work_area().has_lifted()) {
+        return;
+    }
+    recorder_.step([this] {
+        Drawing_Target target(*canvas_.tile());
+        canvas_.work_area().plot_paste(target, toolbox_.state().options.selection_mode);
+        return Command::plot_paste;
+    });
 }
 
 } // namespace quadrelle

@@ -9,7 +9,7 @@
 #include "commands/outcome.h"
 #include "selection/clipboard_picture.h"
 #include "selection/copy_buffer.h"
-#include "selection/floating_paste.h"
+#include "selection/work_area.h"
 
 #include <functional>
 #include <optional>
@@ -53,7 +53,7 @@ public:
 
     // Floats the picture in place of the selection and of what floated, which settles. Takes the tool that
     // moves it.
-    void float_picture(const Floating_Paste& picture);
+    void float_picture(const Floating_Paste& picture, Paste_Source source = Paste_Source::copy);
     // Floats what was selected where the wand was pressed, as its quick modes say. Returns false when nothing
     // was selected there, or the wand only selects.
     [[nodiscard]] bool float_wand_area(Tile_Point pressed);
@@ -69,6 +69,9 @@ public:
     void settle_before_leaving();
     // Returns whether that would change something.
     [[nodiscard]] bool has_to_settle() const;
+    // Plots what was lifted off the tile, as a step of its own, before another tile comes into view. Copies
+    // float on there.
+    void drop_lifted();
 
 private:
     Outcome change(const std::function<void()>& work);

@@ -16,6 +16,14 @@ Outcome leave_to_document(Editor_Parts& editor, Command command) {
 
 namespace {
 
+bool leads_to_another_tile(const Tileset& tileset, Command command) {
+    switch (command) {
+    case Command::next_tile: return !tileset.is_last();
+    case Command::previous_tile: return tileset.current_index() > 0;
+    default: return !tileset.is_full();
+    }
+}
+
 // No step of the history brings a tile back. One that is as when it was added has no picture to lose.
 void keep_picture(Editor_Parts& editor, const Tile& tile) {
     if (!tile.same_pixels(Tile(tile.width(), tile.height()))) {
@@ -46,8 +54,17 @@ Outcome make_tile_black(Editor_Parts& editor) {
 
 } // namespace
 
+Outcome show_another_tile(Editor_Parts& editor, Command command) {
+    if (!leads_to_another_tile(editor.documents.current().tileset(), command)) {
+        return Outcome::refused;
+    }
+    editor.leave_tile();
+    return leave_to_document(editor, command);
+}
+
 // The last tile is not taken away but made black.
 Outcome delete_tile(Editor_Parts& editor) {
+    editor.leave_tile();
     const Tileset& tileset = editor.documents.current().tileset();
     if (tileset.count() == 1) {
         return make_tile_black(editor);
@@ -59,7 +76,7 @@ Outcome delete_tile(Editor_Parts& editor) {
 Outcome arrange_select(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     const int before = document.tileset().current_index();
-    const bool has_swapped = Arrangement(document.tileset()).run();
+    const bool has_swapped = Arrangement(document.tileset()).run([&editor] { editor.leave_tile(); });
     editor.show_current_tile();
     if (document.tileset().current_index() != before) {
         document.strip().show_current();
@@ -83,7 +100,7 @@ Outcome view_tile_array(Editor_Parts& editor) {
     const std::optional<int> clicked = show_tile_array(tileset);
     if (clicked && *clicked != tileset.current_index()) {
         editor.recorder.step([&] {
-            tileset.select(*clicked);
+            editor.documents.go_to_tile(*clicked);
             editor.follow_up(Command::change_tile);
             return Command::change_tile;
         });

@@ -220,7 +220,7 @@ Command Window_Panes::click_buttons(const Pointer_State& pointer) {
     Tileset_Document& document = documents_.current();
     const int tile = tile_at(document.strip(), point);
     if (tile >= 0 && tile != document.tileset().current_index()) {
-        document.tileset().select(tile);
+        documents_.go_to_tile(tile);
         size_preview();
         return Command::change_tile;
     }

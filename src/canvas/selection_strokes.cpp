@@ -134,7 +134,7 @@ Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment) {
         degrees = (degrees + shift_step / 2) / shift_step * shift_step % 360;
     }
     if (work.paste()) {
-        work.float_paste(turned(*work.paste(), degrees));
+        work.change_paste(turned(*work.paste(), degrees));
     } else {
         turned(target.tile(), degrees, size).copy_to(target.tile());
     }

@@ -28,8 +28,13 @@ void Work_Area::resize(Size tile) {
     update_paste_area();
 }
 
-void Work_Area::float_paste(const Floating_Paste& paste) {
+void Work_Area::float_paste(const Floating_Paste& paste, Paste_Source source) {
     deselect();
+    paste_source_ = source;
+    change_paste(paste);
+}
+
+void Work_Area::change_paste(const Floating_Paste& paste) {
     paste_ = paste;
     update_paste_area();
 }
@@ -39,8 +44,14 @@ void Work_Area::move_paste_to(Tile_Point position) {
     update_paste_area();
 }
 
+void Work_Area::drop_paste() {
+    paste_.reset();
+    paste_source_ = Paste_Source::copy;
+}
+
 void Work_Area::plot_paste(Drawing_Target& target, Selection_Mode mode) {
     paste_->plot(target);
+    paste_source_ = Paste_Source::copy;
     if (mode == Selection_Mode::standard) {
         drop_paste();
     }
@@ -53,7 +64,7 @@ void Work_Area::lift_selection(Tile& tile) {
     }
     const Floating_Paste paste = lifted(tile, *selection_);
     clear_selected(tile, *selection_);
-    float_paste(paste);
+    float_paste(paste, Paste_Source::tile);
 }
 
 void Work_Area::update_paste_area() {
@@ -71,9 +82,9 @@ Outcome Work_Area::transform_paste(Command command) {
     const Size size = row->placement->size_after(before);
     Tile after(size.width, size.height);
     place(paste_->picture, after, *row->placement);
-    float_paste({std::move(after),
-                 {paste_->position.x + (before.width - size.width) / 2,
-                  paste_->position.y + (before.height - size.height) / 2}});
+    change_paste({std::move(after),
+                  {paste_->position.x + (before.width - size.width) / 2,
+                   paste_->position.y + (before.height - size.height) / 2}});
     return Outcome::done;
 }
 
@@ -88,6 +99,7 @@ Work_State Work_Area::state() const {
     }
     if (paste_) {
         state.paste = std::make_shared<const Floating_Paste>(*paste_);
+        state.paste_source = paste_source_;
     }
     return state;
 }
@@ -98,11 +110,11 @@ void Work_Area::restore(const Work_State& state) {
     if (state.selection && state.selection->size() == selection_->size()) {
         selection_->combine(*state.selection, Selection_Change::add);
     }
-    paste_.reset();
+    drop_paste();
     if (state.paste) {
-        paste_ = *state.paste;
+        change_paste(*state.paste);
+        paste_source_ = state.paste_source;
     }
-    update_paste_area();
 }
 
 bool Work_Area::operator==(const Work_State& state) const {
@@ -110,7 +122,7 @@ bool Work_Area::operator==(const Work_State& state) const {
                                 (!has_selection() || *selection_ == *state.selection);
     const bool same_floating =
         paste_.has_value() == (state.paste != nullptr) && (!paste_ || same_paste(*paste_, *state.paste));
-    return same_selection && same_floating;
+    return same_selection && same_floating && paste_source_ == state.paste_source;
 }
 
 } // namespace quadrelle

@@ -13,10 +13,15 @@
 
 namespace quadrelle {
 
+// Where what floats is from: a copy can be pasted once more, but what was lifted off the tile is nowhere else
+// until it is plotted.
+enum class Paste_Source { copy, tile };
+
 // What a step of the history keeps of the work area; null for nothing selected, and nothing floating.
 struct Work_State {
     std::shared_ptr<const Selection> selection;
     std::shared_ptr<const Floating_Paste> paste;
+    Paste_Source paste_source = Paste_Source::copy;
 
     [[nodiscard]] std::size_t memory_size() const;
 };
@@ -43,11 +48,16 @@ public:
     void drop_candidate() { candidate_.reset(); }
 
     // Drops the selection; one that is made later takes the place of what floats in view.
-    void float_paste(const Floating_Paste& paste);
+    void float_paste(const Floating_Paste& paste, Paste_Source source = Paste_Source::copy);
+    // The paste is there, and looks like that or lies there from now on.
+    void change_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
-    void drop_paste() { paste_.reset(); }
-    // Draws the paste, which is there, into the target. Unless the mode lets it go, it floats on.
+    void drop_paste();
+    // Draws the paste, which is there, into the target. Unless the mode lets it go, it floats on, as a copy
+    // of what is in the tile now.
     void plot_paste(Drawing_Target& target, Selection_Mode mode);
+    // Returns whether something floats that was lifted off the tile and is not plotted yet.
+    [[nodiscard]] bool has_lifted() const { return paste_source_ == Paste_Source::tile; }
     // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
@@ -70,6 +80,7 @@ private:
     std::optional<Selection> selection_; // always there; replaced for another size
     std::optional<Selection> candidate_;
     std::optional<Floating_Paste> paste_;
+    Paste_Source paste_source_ = Paste_Source::copy; // also without a paste
     std::optional<Selection> paste_area_;
 };
 

@@ -18,7 +18,8 @@ Arrangement::Arrangement(Tileset& tileset) : tileset_(tileset), grid_(title, til
 Arrangement::Arrangement(Tileset& tileset, Size cells, Size cell)
     : tileset_(tileset), grid_(title, tileset, cells, cell) {}
 
-bool Arrangement::run() {
+bool Arrangement::run(const std::function<void()>& before_change) {
+    before_change_ = before_change;
     start_ = tileset_.current_index();
     primary_ = start_;
     secondary_ = 0;
@@ -75,11 +76,16 @@ Loop_Step Arrangement::handle_key(const Input_Event& event) {
 
 void Arrangement::select_primary() {
     if (primary_ != start_) {
+        before_change_();
         tileset_.select(primary_);
     }
 }
 
 void Arrangement::swap() {
+    if (primary_ == secondary_) {
+        return;
+    }
+    before_change_();
     if (tileset_.swap_tiles(primary_, secondary_)) {
         std::swap(primary_, secondary_);
         has_swapped_ = true;

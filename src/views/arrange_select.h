@@ -7,6 +7,7 @@
 #include "screen/events.h"
 #include "views/tile_grid.h"
 
+#include <functional>
 #include <string>
 
 namespace quadrelle {
@@ -19,8 +20,9 @@ public:
     explicit Arrangement(Tileset& tileset);
     Arrangement(Tileset& tileset, Size cells, Size cell);
 
-    // Waits until it is closed. Returns true when any swap was made, even one that was taken back.
-    bool run();
+    // Waits until it is closed. `before_change` is called before a swap, and before another tile becomes the
+    // current one. Returns true when any swap was made, even one that was taken back.
+    bool run(const std::function<void()>& before_change);
 
 private:
     void draw();
@@ -34,6 +36,7 @@ private:
 
     Tileset& tileset_;
     Tile_Grid grid_;
+    std::function<void()> before_change_;
     int start_ = 0;
     int primary_ = 0;
     int secondary_ = 0;

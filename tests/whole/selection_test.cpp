@@ -54,6 +54,44 @@ TEST_F(Selection_Test, preview_shows_what_floats_where_the_canvas_does) {
     EXPECT_EQ(count_in_preview(red), 4 * 6);
 }
 
+// As a step of that tile; where no other one comes, it floats on.
+TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_comes) {
+    constexpr Point second_in_strip{4 + 24 + 12, 648};
+    constexpr Point second_in_grid{16 + 32 + 16, 32};
+    constexpr Point first_tab{270, 53};
+    const std::vector<std::function<void()>> ways{
+        [this] { execute(Command::next_tile); },
+        [this] { execute(Command::insert_new_tile); },
+        [&] { play(script().click(second_in_strip)); },
+        [&] { play(script().click(first_tab)); },
+        [&] { play(script().key(key::tab).press(second_in_grid)); },
+        [&] {
+            script().press(second_in_grid).key(key::space);
+            execute(Command::arrange_select);
+        },
+    };
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        SCOPED_TRACE(i);
+        make_set({24, 24}, 2, [](int, Point pixel) { return pixel == Point{3, 3} ? red : black; });
+        const Tileset_Document& set = document();
+        select_rectangle({2, 2}, {5, 5});
+        execute(Command::work_selection);
+        drag({3, 3}, {10, 10});
+        execute(Command::previous_tile);
+        ASSERT_TRUE(work().paste());
+        EXPECT_EQ(tile_pixel(10, 10), black);
+        const std::size_t steps = set.history().entries().size();
+        ways[i]();
+        EXPECT_FALSE(work().paste());
+        const Undo_Entry& drop = set.history().entries()[steps];
+        EXPECT_EQ(drop.kind, Command::plot_paste);
+        EXPECT_EQ(drop.snapshot->tile.get_pixel(10, 10), red);
+        const int tile = drop.tile_index;
+        EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(10, 10), red);
+        EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(3, 3), clear);
+    }
+}
+
 // The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
 class Copy_Panes_Test : public Selection_Test {
 protected:

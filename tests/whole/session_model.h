@@ -70,11 +70,12 @@ inline Area area_of(Size size, const std::function<void(Drawing_Target&)>& draw)
 struct Work {
     Area area;
     Paste paste;
+    bool is_lifted = false; // off the tile, and not plotted yet
 
     [[nodiscard]] Work scrolled(int dx, int dy) const {
         const auto mask = std::make_shared<Selection>(*area);
         mask->change([&](Tile& tile) { tile.copy_from(*testing::scrolled(Tile(tile), dx, dy)); });
-        return {mask, moved_paste(dx, dy)};
+        return {mask, moved_paste(dx, dy), is_lifted};
     }
     [[nodiscard]] Paste moved_paste(int dx, int dy) const {
         return paste ? std::make_shared<Floating_Paste>(
@@ -84,7 +85,8 @@ struct Work {
     bool operator==(const Work& other) const {
         const bool has_same_paste = paste && other.paste && paste->position == other.paste->position &&
                                     same(paste->picture, other.paste->picture);
-        return *area == *other.area && ((!paste && !other.paste) || has_same_paste);
+        return *area == *other.area && ((!paste && !other.paste) || has_same_paste) &&
+               is_lifted == other.is_lifted;
     }
 };
 
@@ -128,7 +130,7 @@ public:
         start_history();
     }
     void show_set(std::size_t index) {
-        end_shifts();
+        leave();
         shown = index;
         if (set().current != 0) {
             set().show(0);
@@ -141,7 +143,7 @@ public:
         }
     }
     void close_set() {
-        end_shifts();
+        leave();
         sets.erase(sets.begin() + static_cast<std::ptrdiff_t>(shown));
         show_set(std::min(shown, sets.size() - 1));
         deselect();
@@ -218,8 +220,24 @@ public:
         if (work.paste) {
             draw([this](Drawing_Target& target) { work.paste->plot(target); });
         }
+        work.is_lifted = false;
         if (mode == Selection_Mode::standard) {
-            work.paste.reset();
+            drop_paste();
+        }
+    }
+    void drop_paste() {
+        work.paste.reset();
+        work.is_lifted = false;
+    }
+    // What was lifted drops wherever a selection lies; copies float on.
+    void leave() {
+        end_shifts();
+        if (work.is_lifted) {
+            edit([this] {
+                const Area area = std::exchange(work.area, std::make_shared<Selection>(size()));
+                plot();
+                work.area = area;
+            });
         }
     }
     void fill(Color color) {
@@ -231,7 +249,7 @@ public:
     }
     void clear() {
         if (shows_paste()) {
-            work.paste.reset();
+            drop_paste();
         } else {
             fill(testing::clear);
         }
@@ -242,6 +260,7 @@ public:
         settle();
         tool = Tool::selection;
         work.paste = std::make_shared<Floating_Paste>(paste);
+        work.is_lifted = false;
     }
     // What floated before is plotted wherever it is.
     void lift() {
@@ -250,6 +269,7 @@ public:
         plot();
         work.area = area;
         work.paste = lifted_area();
+        work.is_lifted = true;
         fill(testing::clear);
         deselect();
     }
@@ -268,6 +288,7 @@ public:
     void go_to(int index) {
         end_shifts();
         if (index >= 0 && index < set().count() && index != static_cast<int>(set().current)) {
+            leave();
             set().show(static_cast<std::size_t>(index));
             look();
             deselect();
@@ -281,7 +302,7 @@ public:
     void insert_tile() { insert(set().current); }
     // The last one left is made black instead.
     void delete_tile() {
-        end_shifts();
+        leave();
         if (set().count() > 1) {
             take_tile_away();
         } else if (!same(*picture(), *blank(size()).picture)) {
@@ -315,6 +336,9 @@ public:
     // Both change places, and the second place is chosen when asked for.
     void arrange(std::size_t one, std::size_t other, bool chooses) {
         end_shifts();
+        if (one != other || (chooses && set().current != other)) {
+            leave();
+        }
         std::swap(set().tiles[one], set().tiles[other]);
         if (chooses && set().current != other) {
             set().show(other);
@@ -377,7 +401,7 @@ private:
         }
     }
     void insert(std::size_t index) {
-        end_shifts();
+        leave();
         set().tiles.insert(set().tiles.begin() + static_cast<std::ptrdiff_t>(index), blank(size()));
         set().show(index);
         look();

@@ -94,6 +94,7 @@ private:
                 model_.clear();
             }
             model_.floats(*model_.copies[0]);
+            model_.work.is_lifted = mode == Wand_Mode::quick_cut;
         };
         model_.edit(float_area, true);
     }
@@ -176,7 +177,7 @@ private:
                 model_.deselect();
             } else {
                 model_.settle();
-                model_.work.paste.reset();
+                model_.drop_paste();
             }
         });
     }
