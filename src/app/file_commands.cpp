@@ -49,6 +49,7 @@ Outcome load(Editor_Parts& editor) {
     if (!editor.documents.load_document()) {
         return Outcome::refused;
     }
+    editor.leave_selection();
     editor.recorder.record(Command::change_tile);
     return Outcome::done;
 }

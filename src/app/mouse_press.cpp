@@ -37,6 +37,14 @@ void draw_on_canvas(Editor_Parts& editor) {
     }
 }
 
+Command press_beside_canvas(Editor_Parts& editor) {
+    if (editor.documents.click_tab(editor.pointer.point())) {
+        editor.leave_selection();
+        return Command::none;
+    }
+    return editor.panes.click(editor.pointer);
+}
+
 } // namespace
 
 Command press_mouse(Editor_Parts& editor) {
@@ -53,7 +61,7 @@ Command press_mouse(Editor_Parts& editor) {
         return Command::none;
     }
     if (!window_layout::canvas.contains(editor.pointer.point())) {
-        return editor.panes.click(editor.pointer);
+        return press_beside_canvas(editor);
     }
     if (editor.canvas.tile() != nullptr) {
         draw_on_canvas(editor);

@@ -80,6 +80,7 @@ Outcome arrange_select(Editor_Parts& editor) {
     editor.show_current_tile();
     if (document.tileset().current_index() != before) {
         document.strip().show_current();
+        editor.leave_selection();
     }
     if (has_swapped) {
         // Another picture came into view, though maybe in the same tile.

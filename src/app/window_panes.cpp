@@ -184,7 +184,7 @@ Command Window_Panes::click(Pointer_State& pointer) {
     return chosen;
 }
 
-// What a pane does by itself: options, brushes, colours, copies and tabs are chosen.
+// What a pane does by itself: options, brushes, colours and copies are chosen.
 bool Window_Panes::take_click(const Pointer_State& pointer) {
     const Point point = pointer.point();
     if (toolbox->click(pointer, [this] { redraw_(Present::yes); })) {
@@ -207,7 +207,7 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
         copies_.choose(*copy);
         return true;
     }
-    return documents_.click_tab(point);
+    return false;
 }
 
 // The tools of the list and the buttons of the navigation take either button, all else the left one.

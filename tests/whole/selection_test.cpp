@@ -92,6 +92,33 @@ TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_co
     }
 }
 
+TEST_F(Selection_Test, stays_for_the_tile_of_another_set_or_not_as_the_option_says) {
+    answer_files(File_Answer_State::chosen, folder().path("set.qdl"));
+    execute(Command::save_as);
+    const std::vector<std::function<void()>> ways{
+        [this] { execute(Command::load); },
+        [this] {
+            play(script().click({270, 53}));
+        },
+        [this] {
+            script().press({16 + 32 + 16, 32}).key(key::space);
+            execute(Command::arrange_select);
+        },
+    };
+    for (const bool clears : {false, true}) {
+        set_option(Option::clear_selection, clears ? 1 : 0);
+        for (std::size_t i = 0; i < ways.size(); ++i) {
+            SCOPED_TRACE(i);
+            make_set({24, 24}, 2, [](int, Point) { return red; });
+            select_rectangle({2, 2}, {5, 5});
+            const Tile* const before = &tile();
+            ways[i]();
+            EXPECT_NE(&tile(), before);
+            EXPECT_EQ(work().has_selection(), !clears);
+        }
+    }
+}
+
 // The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
 class Copy_Panes_Test : public Selection_Test {
 protected:

@@ -342,6 +342,7 @@ public:
         std::swap(set().tiles[one], set().tiles[other]);
         if (chooses && set().current != other) {
             set().show(other);
+            deselect();
         }
         look();
         if (one != other) {

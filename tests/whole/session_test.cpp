@@ -304,6 +304,7 @@ private:
             const auto now = std::ranges::find(shown_sets_, &document()) - shown_sets_.begin();
             if (static_cast<std::size_t>(now) != model_.shown) {
                 model_.show_set(static_cast<std::size_t>(now));
+                model_.deselect();
             }
         }
     }
