@@ -3,6 +3,7 @@
 #include "app/document_export.h"
 #include "app/editor_parts.h"
 #include "tools/options.h"
+#include "views/history_questions.h"
 #include "views/new_tileset_dialog.h"
 #include "views/quit_question.h"
 
@@ -33,6 +34,9 @@ Outcome make_new(Editor_Parts& editor) {
         return Outcome::refused;
     }
     if (choice->keep_and_resize) {
+        if (!confirm_resize(editor.documents.current(), choice->size)) {
+            return Outcome::refused;
+        }
         editor.documents.resize_current(choice->size);
         editor.documents.mark_changed();
     } else if (editor.documents.new_document(choice->size)) {

@@ -5,6 +5,7 @@
 #include "tools/hsv_adjustment.h"
 #include "ui/dialogs.h"
 #include "views/adjust_hsv.h"
+#include "views/history_questions.h"
 #include "views/versions_dialog.h"
 
 #include <optional>
@@ -26,21 +27,31 @@ Outcome adjust_current_tile(Editor_Parts& editor, const HSV_Change& change) {
     return outcome;
 }
 
+int count_changed(const Tileset& tileset, const HSV_Change& change) {
+    int count = 0;
+    for (int i = 0; i < tileset.count(); ++i) {
+        Tile tile(tileset.tile_at(i));
+        Drawing_Target target(tile);
+        count += quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::tile_changed ? 1 : 0;
+    }
+    return count;
+}
+
 // One step of the history holds one tile, so that this cannot be one: the history starts anew.
 Outcome adjust_all_tiles(Editor_Parts& editor, const HSV_Change& change) {
     Tileset_Document& document = editor.documents.current();
-    Outcome outcome = Outcome::refused;
-    for (int i = 0; i < document.tileset().count(); ++i) {
-        Drawing_Target target(document.tileset().tile_at(i));
-        if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::tile_changed) {
-            outcome = Outcome::done;
-        }
+    Tileset& tileset = document.tileset();
+    const int changed = count_changed(tileset, change);
+    if (changed == 0 || !confirm_change_of(changed)) {
+        return Outcome::refused;
     }
-    if (outcome == Outcome::done) {
-        editor.canvas.with_tile_in_place([&] { document.history().reset(document.tileset()); });
-        editor.documents.mark_changed();
+    for (int i = 0; i < tileset.count(); ++i) {
+        Drawing_Target target(tileset.tile_at(i));
+        quadrelle::adjust_hsv(target, change);
     }
-    return outcome;
+    editor.canvas.with_tile_in_place([&] { document.history().reset(tileset); });
+    editor.documents.mark_changed();
+    return Outcome::done;
 }
 
 } // namespace

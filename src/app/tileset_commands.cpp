@@ -26,7 +26,7 @@ bool leads_to_another_tile(const Tileset& tileset, Command command) {
 
 // No step of the history brings a tile back. One that is as when it was added has no picture to lose.
 void keep_picture(Editor_Parts& editor, const Tile& tile) {
-    if (!tile.same_pixels(Tile(tile.width(), tile.height()))) {
+    if (!tile.is_as_new()) {
         editor.desk.keep(tile);
         editor.panes.hint_lines().report(
             Command::delete_tile, "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.");

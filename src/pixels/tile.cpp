@@ -31,6 +31,10 @@ std::uint64_t Tile::version() const {
     return version_;
 }
 
+bool Tile::is_as_new() const {
+    return std::ranges::all_of(pixels_, [](Color pixel) { return pixel == Color(); });
+}
+
 std::size_t Tile::memory_size() const {
     const std::size_t pixel_bytes = pixels_.size() * bytes_per_pixel;
     const std::size_t texture_bytes = 32 + pixel_bytes;

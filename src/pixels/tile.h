@@ -33,6 +33,8 @@ public:
     [[nodiscard]] bool same_pixels(const Tile& other) const {
         return same_size(other) && pixels_ == other.pixels_;
     }
+    // Every pixel is opaque black.
+    [[nodiscard]] bool is_as_new() const;
     // Two tiles with the same version, or one at two times, have the same size and pixels. Never 0. Whoever
     // shows a tile knows by it whether the picture is still right.
     [[nodiscard]] std::uint64_t version() const;

@@ -64,6 +64,8 @@ public:
     [[nodiscard]] const Undo_Entry* current() const {
         return position_ < 0 ? nullptr : &entries_[static_cast<std::size_t>(position_)];
     }
+    // Returns whether there is a step to undo, or to redo.
+    [[nodiscard]] bool has_steps() const { return count() > 1; }
     // Returns the memory in units of 1024 bytes, rounded down.
     [[nodiscard]] int size_kb() const;
 

@@ -241,7 +241,7 @@ TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     play(script().drag({cell(2, 2), cell(3, 2), cell(3, 3), cell(2, 3)}));
     execute(Command::add_new_tile);
     script().press(layout.item(11)).type("12").key(key::enter).press(layout.item(21)).type("12");
-    script().key(key::enter).press(layout.item(30)).key(key::enter);
+    script().key(key::enter).press(layout.item(30)).key(key::enter).key('y');
     document().clear_modified();
     execute(Command::new_tileset);
     EXPECT_EQ(documents().count(), 1);
@@ -254,6 +254,39 @@ TEST_F(Documents_Test, keep_and_resize_scales_the_current_tiles) {
     // What was before is of another size.
     execute(Command::undo);
     EXPECT_EQ(tile_pixel(1, 1), white);
+}
+
+TEST_F(Documents_Test, keep_and_resize_asks_where_there_is_something_to_lose) {
+    const auto resize_to = [this](const char* width) -> Script& {
+        const New_Dialog_Layout layout;
+        script().press(layout.item(11)).type(width).key(key::enter);
+        return script().press(layout.item(30)).key(key::enter);
+    };
+    resize_to("20");
+    execute(Command::new_tileset);
+    resize_to("24");
+    execute(Command::new_tileset);
+    const std::string title = "Keep and resize";
+    const std::string scaling =
+        "Resize 2 tiles from 24 x 24 to 12 x 24 pixels?\rScaling makes new colors and "
+        "loses transparency.";
+    execute(Command::add_new_tile);
+    document().tileset().current_tile()->set_pixel(2, 2, {200, 0, 0, 40});
+    resize_to("12");
+    expect_question(title, scaling + "\rThis can't be undone.").key(key::escape);
+    execute(Command::new_tileset);
+    draw_pixel(5, 5);
+    const Tile_Picture before = tile_picture();
+    const std::size_t steps = document().history().entries().size();
+    resize_to("12");
+    expect_question(title, scaling + "\rThe undo history of the set is lost.").key(key::escape);
+    execute(Command::new_tileset);
+    resize_to("24");
+    expect_question(title, "The tiles have that size already. Go on?\rThe undo history of the set is lost.");
+    script().key(key::escape);
+    execute(Command::new_tileset);
+    EXPECT_EQ(tile_picture(), before);
+    EXPECT_EQ(document().history().entries().size(), steps);
 }
 
 TEST_F(Documents_Test, thousand_and_first_new_does_nothing) {

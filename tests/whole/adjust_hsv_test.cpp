@@ -90,7 +90,7 @@ TEST_F(Adjust_HSV_Test, takes_typed_numbers_the_wheel_and_keys) {
     EXPECT_EQ(picture(), changed(changed(before, {-92, -1, 10}), {-180, 0, 100}));
 }
 
-TEST_F(Adjust_HSV_Test, changes_all_tiles_and_starts_the_history_anew) {
+TEST_F(Adjust_HSV_Test, changes_all_tiles_after_a_question_and_starts_the_history_anew) {
     execute(Command::add_new_tile);
     paint_at_random();
     execute(Command::add_new_tile);
@@ -110,10 +110,20 @@ TEST_F(Adjust_HSV_Test, changes_all_tiles_and_starts_the_history_anew) {
     EXPECT_EQ(picture(2), changed(before[2], {.hue = 1}));
     EXPECT_EQ(steps(), 2U);
 
-    script().click({more_x, hue_y}).press(all_tiles).key(key::enter);
-    execute(Command::adjust_hsv);
+    document().tileset().tile_at(1).fill(black);
+    const auto adjust_all = [&](Keycode answer) {
+        script().click({more_x, hue_y}).press(all_tiles).key(key::enter);
+        expect_question("Adjust HSV", "Change 2 tiles of the set?\rThis can't be undone: the undo history of "
+                                      "the set is lost.");
+        script().key(answer);
+        execute(Command::adjust_hsv);
+    };
+    adjust_all(key::escape);
+    EXPECT_EQ(picture(0), before[0]);
+    EXPECT_EQ(steps(), 2U);
+    adjust_all(key::enter);
     EXPECT_EQ(picture(0), changed(before[0], {.hue = 1}));
-    EXPECT_EQ(picture(1), changed(before[1], {.hue = 1}));
+    EXPECT_EQ(picture(1), Tile_Picture(24 * 24, black));
     EXPECT_EQ(picture(2), changed(changed(before[2], {.hue = 1}), {.hue = 1}));
     EXPECT_EQ(steps(), 1U);
     const Tile_Picture after = picture(2);
