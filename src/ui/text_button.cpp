@@ -22,6 +22,13 @@ void draw_button(const Rectangle& area, Font label_font, std::string_view label,
     draw_label(area, label_font, label, drop);
 }
 
+// What lies behind all buttons shines through.
+void draw_veil(const Rectangle& area) {
+    Color veil = standard_color(Standard_Color::pane_background);
+    veil.a = 180;
+    screen->fill_rect(area, veil);
+}
+
 void Text_Button::draw(Button_Look look) const {
     const int drop = (area_.height - line_height(font)) / 2;
     if (look == Button_Look::plain) {

@@ -16,6 +16,9 @@ enum class Button_Look { plain, chosen };
 // Draws a raised button with its label in the middle of its width and `drop` pixels below its top.
 void draw_button(const Rectangle& area, Font font, std::string_view label, int drop);
 
+// Makes a button that is drawn there look as if it could not be used.
+void draw_veil(const Rectangle& area);
+
 // A button of a dialog that lays out itself.
 class Text_Button {
 public:

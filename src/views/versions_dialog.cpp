@@ -9,6 +9,7 @@
 #include "ui/modal_dialog.h"
 #include "ui/shown_tile.h"
 #include "ui/swatch.h"
+#include "ui/text_button.h"
 #include "views/versions_layout.h"
 
 #include <array>
@@ -19,6 +20,13 @@
 namespace quadrelle {
 
 namespace {
+
+void draw_button(const Button_Dialog_Item& button, bool is_usable) {
+    button.draw();
+    if (!is_usable) {
+        draw_veil(button.area);
+    }
+}
 
 void draw_label(int slot, const Rectangle& area) {
     const std::string text = std::to_string(slot + 1);
@@ -41,6 +49,9 @@ private:
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer);
     [[nodiscard]] Loop_Step accept();
     void preview(int slot);
+    [[nodiscard]] bool can_store() const { return selected_.has_value(); }
+    // An empty version is no picture.
+    [[nodiscard]] bool can_take() const { return selected_ && versions_.is_stored(*selected_); }
 
     Tile_Versions& versions_;
     const Tile& current_;
@@ -81,8 +92,8 @@ void Versions_Dialog::draw() {
     for (int slot = 0; slot < Tile_Versions::slot_count; ++slot) {
         draw_slot(slot);
     }
-    store_button_.draw();
-    take_button_.draw();
+    draw_button(store_button_, can_store());
+    draw_button(take_button_, can_take());
 }
 
 void Versions_Dialog::draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const {
@@ -131,15 +142,15 @@ Loop_Step Versions_Dialog::press(const Pointer_State& pointer) {
     }
     if (const std::optional<int> slot = layout_.slot_at(point)) {
         preview(*slot);
-    } else if (selected_ && store_button_.area.contains(point)) {
+    } else if (can_store() && store_button_.area.contains(point)) {
         versions_.store(*selected_, current_);
     }
-    takes_ = take_button_.area.contains(point);
+    takes_ = can_take() && take_button_.area.contains(point);
     return takes_ || !layout_.dialog.contains(point) ? Loop_Step::end : Loop_Step::go_on;
 }
 
 Loop_Step Versions_Dialog::accept() {
-    takes_ = true;
+    takes_ = can_take();
     return Loop_Step::end;
 }
 

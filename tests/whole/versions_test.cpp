@@ -106,7 +106,8 @@ TEST_F(Versions_Test, keys_take_the_selected_one) {
     const Tile_Picture kept = tile_picture();
     store_in('4');
     for (const Keycode pressed : {key::enter, key::keypad_enter, Keycode{'y'}}) {
-        play(script().key('v').key(pressed));
+        // Nothing is chosen, and then an empty one.
+        play(script().key('v').key(pressed).key('v').key('1').key_up('1').key(pressed));
         EXPECT_FALSE(editor->canvas().work_area().paste());
         play(script().key('v').key('4').key_up('4').key(pressed));
         EXPECT_EQ(floating(), kept);
@@ -114,7 +115,7 @@ TEST_F(Versions_Test, keys_take_the_selected_one) {
     }
 }
 
-TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
+TEST_F(Versions_Test, changes_nothing_when_left) {
     paint_probe();
     document().clear_modified();
     const Tile_Picture before = tile_picture();
@@ -135,12 +136,34 @@ TEST_F(Versions_Test, changes_nothing_when_left_or_where_nothing_is_selected) {
         script().press_number({0, 0}, 2).click(middle_of(layout().big_view));
         in_dialog().key(key::escape);
     });
-    script().key('v').press(take_button());
-    in_main();
-    play();
-    EXPECT_EQ(tile_picture(), before);
     EXPECT_FALSE(document().is_modified());
     EXPECT_EQ(steps(), 2U);
+}
+
+TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used_and_take_no_click_then) {
+    const auto look = [](const Rectangle& area) {
+        std::vector<Color> pixels;
+        for (int x = area.x; x < area.right(); ++x) {
+            pixels.push_back(pixel_at({x, area.y + area.height / 2}));
+        }
+        return pixels;
+    };
+    std::vector<Color> unusable_store;
+    std::vector<Color> unusable_take;
+    script().key('v').press(take_button()).check([&] {
+        unusable_store = look(layout().store_button);
+        unusable_take = look(layout().take_button);
+    });
+    // That version is empty.
+    in_dialog().key('2').key_up('2').press(take_button()).check([&] {
+        EXPECT_NE(look(layout().store_button), unusable_store);
+        EXPECT_EQ(look(layout().take_button), unusable_take);
+    });
+    in_dialog().click(store_button()).check([&] { EXPECT_NE(look(layout().take_button), unusable_take); });
+    in_dialog().press(take_button());
+    in_main();
+    play();
+    EXPECT_TRUE(editor->canvas().work_area().paste());
 }
 
 TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
