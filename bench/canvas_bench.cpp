@@ -217,7 +217,7 @@ void change_tile(benchmark::State& state) {
 
 // One more set beside so many: its tab is shown.
 void new_set(benchmark::State& state) {
-    Documents documents([] {});
+    Documents documents([] {}, [] {});
     for (std::int64_t i = 0; i < state.range(0); ++i) {
         documents.new_document({24, 24});
     }
