@@ -47,6 +47,11 @@ Tileset random_tileset(Size size, int count) {
     return tileset;
 }
 
+// It is written in two blocks.
+Tileset large_tileset() {
+    return random_tileset({255, 255}, 5);
+}
+
 } // namespace
 
 TEST(Tileset_File, has_exactly_these_bytes) {
@@ -140,8 +145,9 @@ TEST(Tileset_File, enormous_counts_take_neither_time_nor_memory) {
 }
 
 TEST(Tileset_File, a_failure_at_any_operation_leaves_the_old_file) {
-    const auto save = [](const std::string& path) { return save_tileset(small_tileset(), path) == 27; };
-    EXPECT_EQ(failures_of(save), 6) << "a header, two tiles, flushing, closing and replacing";
+    const Tileset tileset = large_tileset();
+    const auto save = [&](const std::string& path) { return save_tileset(tileset, path) > 0; };
+    EXPECT_EQ(failures_of(save), 5) << "two blocks, flushing, closing and replacing";
 }
 
 #ifndef _WIN32
@@ -164,10 +170,11 @@ void become_an_ordinary_user() {
 
 TEST(Tileset_File, a_kill_at_any_operation_leaves_the_old_file) {
     const Old_File old;
-    for (int operation = 0; operation < 7; ++operation) {
+    const Tileset tileset = large_tileset();
+    for (int operation = 0; operation < 6; ++operation) {
         const Fault fault(operation, Fault::Kind::kill);
-        EXPECT_EXIT(leave_with_outcome(save_tileset(small_tileset(), old.path)),
-                    ::testing::KilledBySignal(SIGTERM), "");
+        EXPECT_EXIT(leave_with_outcome(save_tileset(tileset, old.path)), ::testing::KilledBySignal(SIGTERM),
+                    "");
         EXPECT_EQ(stored(old.path), old.bytes) << operation;
     }
 }
