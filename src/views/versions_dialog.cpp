@@ -145,10 +145,13 @@ Loop_Step Versions_Dialog::press(const Pointer_State& pointer) {
     } else if (can_store() && store_button_.area.contains(point)) {
         versions_.store(*selected_, current_);
     }
-    takes_ = can_take() && take_button_.area.contains(point);
-    return takes_ || !layout_.dialog.contains(point) ? Loop_Step::end : Loop_Step::go_on;
+    if (take_button_.area.contains(point)) {
+        return accept();
+    }
+    return layout_.dialog.contains(point) ? Loop_Step::go_on : Loop_Step::end;
 }
 
+// Without a picture to take the dialog closes too.
 Loop_Step Versions_Dialog::accept() {
     takes_ = can_take();
     return Loop_Step::end;

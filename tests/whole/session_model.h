@@ -320,7 +320,7 @@ public:
         }
         set().tiles.erase(set().tiles.begin() + static_cast<std::ptrdiff_t>(set().current));
         set().show(std::min(set().current, set().tiles.size() - 1));
-        look(picture());
+        look();
         deselect();
         const auto is_gone = [&](const State& state) { return state.tile == gone.number; };
         auto& states = set().states;
@@ -381,9 +381,8 @@ public:
 
 private:
     // Another tile is in view, or this one is another since it was seen last.
-    void look() { look(picture()); }
-    void look(const Picture& remembered) {
-        history = seen_ == set().tile().number ? history : remembered;
+    void look() {
+        history = seen_ == set().tile().number ? history : picture();
         seen_ = set().tile().number;
     }
     [[nodiscard]] Set_Model::Numbered blank(Size size) {

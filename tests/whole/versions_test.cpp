@@ -140,7 +140,7 @@ TEST_F(Versions_Test, changes_nothing_when_left) {
     EXPECT_EQ(steps(), 2U);
 }
 
-TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used_and_take_no_click_then) {
+TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used) {
     const auto look = [](const Rectangle& area) {
         std::vector<Color> pixels;
         for (int x = area.x; x < area.right(); ++x) {
@@ -150,12 +150,12 @@ TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used_and_take_no_click_th
     };
     std::vector<Color> unusable_store;
     std::vector<Color> unusable_take;
-    script().key('v').press(take_button()).check([&] {
+    script().key('v').check([&] {
         unusable_store = look(layout().store_button);
         unusable_take = look(layout().take_button);
     });
     // That version is empty.
-    in_dialog().key('2').key_up('2').press(take_button()).check([&] {
+    in_dialog().key('2').key_up('2').check([&] {
         EXPECT_NE(look(layout().store_button), unusable_store);
         EXPECT_EQ(look(layout().take_button), unusable_take);
     });
@@ -164,6 +164,15 @@ TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used_and_take_no_click_th
     in_main();
     play();
     EXPECT_TRUE(editor->canvas().work_area().paste());
+}
+
+TEST_F(Versions_Test, a_press_on_copy_closes_also_where_there_is_nothing_to_take) {
+    script().key('v').press(take_button());
+    in_main();
+    script().key('v').key('2').key_up('2').press(take_button());
+    in_main();
+    play();
+    EXPECT_FALSE(editor->canvas().work_area().paste());
 }
 
 TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
