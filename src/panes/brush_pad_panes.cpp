@@ -47,7 +47,7 @@ int Brush_Pad_Panes::move_selected(Point position) {
 }
 
 std::optional<Tile_Point> Brush_Pad_Panes::cell_at(Point point) const {
-    if (!board_pane_.area.contains(point)) {
+    if (!board_pane_.contains(point)) {
         return std::nullopt;
     }
     const Rectangle client = board_pane_.client_area();

@@ -19,9 +19,10 @@ public:
     int move_selected(Point position);
     // Draws both; the frame of the brush under the pointer is red.
     void draw(const Brush_Pad& pad, Point pointer);
-    // Returns the board's cell at `point`, or none outside of its pane. The border belongs to the cells
-    // beside it.
+    // Returns the board's cell at `point`, or none beside the board.
     [[nodiscard]] std::optional<Tile_Point> cell_at(Point point) const;
+    // Returns whether the pane of the board, with its title and border, is at `point`.
+    [[nodiscard]] bool has_board_at(Point point) const { return board_pane_.area.contains(point); }
 
 private:
     void update_pictures(const Brush_Pad& pad, std::uint8_t hovered);

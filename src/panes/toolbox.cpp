@@ -100,12 +100,9 @@ void Toolbox::select(Command command) {
     }
 }
 
-bool Toolbox::has_brush_pad_at(Point point) const {
-    return state_.tool == Tool::stamp_brush && brush_pad_panes_.cell_at(point).has_value();
-}
-
 bool Toolbox::click_brush_pad(Point point) {
-    return has_brush_pad_at(point) && state_.choose_from_pad(*brush_pad_panes_.cell_at(point));
+    const std::optional<Tile_Point> cell = brush_pad_panes_.cell_at(point);
+    return state_.tool == Tool::stamp_brush && cell && state_.choose_from_pad(*cell);
 }
 
 int Toolbox::entry_top() const {
@@ -130,7 +127,7 @@ void Toolbox::draw(Point pointer) {
 }
 
 std::optional<Place> Toolbox::place_at(Point point) const {
-    if (has_brush_pad_at(point)) {
+    if (state_.tool == Tool::stamp_brush && brush_pad_panes_.has_board_at(point)) {
         return Place::brush_pad;
     }
     return tool_colors->place_at(point, color_panes_of(state_.tool));

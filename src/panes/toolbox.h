@@ -62,7 +62,6 @@ public:
 
 private:
     void lay_out();
-    [[nodiscard]] bool has_brush_pad_at(Point point) const;
     [[nodiscard]] bool click_brush_pad(Point point);
     [[nodiscard]] Rectangle entry_area(std::size_t index) const;
 
