@@ -17,15 +17,13 @@ int end_cell(int start, int pixel_size, int extent, int count) {
     return start >= extent ? 0 : std::min(count, (extent - start + pixel_size - 1) / pixel_size);
 }
 
-// As much of the picture as fits the area; where its own pixels are transparent nothing is changed.
-void draw_marker(const Cell_Marker& marker, const Rectangle& area, Point offset, const Pixel_Rows& target) {
-    const int right =
-        std::min(area.x + std::min(marker.size.width - offset.x, area.width), target.size.width);
-    const int bottom =
-        std::min(area.y + std::min(marker.size.height - offset.y, area.height), target.size.height);
-    for (int y = std::max(area.y, 0); y < bottom; ++y) {
-        for (int x = std::max(area.x, 0); x < right; ++x) {
-            const int i = (y - area.y + offset.y) * marker.size.width + x - area.x + offset.x;
+// Where its own pixels are transparent nothing is changed.
+void draw_marker(const Cell_Marker& marker, Point corner, const Pixel_Rows& target) {
+    const int right = std::min(corner.x + marker.size.width, target.size.width);
+    const int bottom = std::min(corner.y + marker.size.height, target.size.height);
+    for (int y = std::max(corner.y, 0); y < bottom; ++y) {
+        for (int x = std::max(corner.x, 0); x < right; ++x) {
+            const int i = (y - corner.y) * marker.size.width + x - corner.x;
             const Color color = marker.pixels[static_cast<std::size_t>(i)];
             if (color.a != 0) {
                 target.row(y)[x] = color;
@@ -37,9 +35,9 @@ void draw_marker(const Cell_Marker& marker, const Rectangle& area, Point offset,
 // Over the pixels that are not selected.
 constexpr Color dimming(104, 112, 128, 112);
 
-// The second of two cells goes on with the line where the first one stopped, so that it reads as dashed.
-int dash_offset(int counter, int pixel_size, int length) {
-    return counter % 2 == 0 ? 0 : std::max(0, std::min(pixel_size, length - pixel_size));
+// Of the cell in that column or row, in checker squares of that width or height.
+const Cell_Marker& marker_of(const std::array<Cell_Marker, 2>& markers, int cell, int checker) {
+    return markers[static_cast<std::size_t>(cell % checker % 2)];
 }
 
 } // namespace
@@ -91,31 +89,28 @@ void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selectio
         return;
     }
     const Selection& selection = *outline.selection;
-    const Cell_Marker& horizontal = outline.edges->horizontal;
-    const Cell_Marker& vertical = outline.edges->vertical;
     const int edge = picture.pixel_size;
     for (int row = rows.first; row < rows.end; ++row) {
         const int y = picture.origin.y + row * edge;
-        const Point down{0, dash_offset(row % picture.checker.height, edge, vertical.size.height)};
+        const Cell_Marker& vertical = marker_of(outline.edges->vertical, row, picture.checker.height);
         for (int column = columns.first; column < columns.end; ++column) {
             if (!selection.contains({column, row})) {
                 continue;
             }
             const int x = picture.origin.x + column * edge;
-            const Point along{dash_offset(column % picture.checker.width, edge, horizontal.size.width), 0};
+            const Cell_Marker& horizontal =
+                marker_of(outline.edges->horizontal, column, picture.checker.width);
             if (!selection.contains({column, row - 1})) {
-                draw_marker(horizontal, {x, y, edge, edge}, along, target);
+                draw_marker(horizontal, {x, y}, target);
             }
             if (!selection.contains({column, row + 1})) {
-                const int thickness = horizontal.size.height;
-                draw_marker(horizontal, {x, y + edge - thickness, edge, thickness}, along, target);
+                draw_marker(horizontal, {x, y + edge - horizontal.size.height}, target);
             }
             if (!selection.contains({column - 1, row})) {
-                draw_marker(vertical, {x, y, edge, edge}, down, target);
+                draw_marker(vertical, {x, y}, target);
             }
             if (!selection.contains({column + 1, row})) {
-                const int thickness = vertical.size.width;
-                draw_marker(vertical, {x + edge - thickness, y, thickness, edge}, down, target);
+                draw_marker(vertical, {x + edge - vertical.size.width, y}, target);
             }
         }
     }
@@ -129,14 +124,14 @@ Color Canvas_Painter::pixel_shown(const Floating_Paste& paste, Tile_Point pixel,
 void Canvas_Painter::paint_markers(const Canvas_Picture& picture, Range columns, Range rows,
                                    const Pixel_Rows& target) {
     const auto cell = [&picture](int column, int row) {
-        return Rectangle{picture.origin.x + column * picture.pixel_size,
-                         picture.origin.y + row * picture.pixel_size, picture.pixel_size, picture.pixel_size};
+        return Point{picture.origin.x + column * picture.pixel_size,
+                     picture.origin.y + row * picture.pixel_size};
     };
     for (int row = rows.first; picture.column_marker != nullptr && row < rows.end; ++row) {
-        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), {}, target);
+        draw_marker(*picture.column_marker, cell(picture.tile->width() / 2, row), target);
     }
     for (int column = columns.first; picture.row_marker != nullptr && column < columns.end; ++column) {
-        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), {}, target);
+        draw_marker(*picture.row_marker, cell(column, picture.tile->height() / 2), target);
     }
 }
 

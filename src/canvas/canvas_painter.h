@@ -10,20 +10,23 @@
 #include "selection/floating_paste.h"
 #include "selection/selection.h"
 
+#include <array>
+#include <cstddef>
 #include <vector>
 
 namespace quadrelle {
 
-// Drawn over a cell from its top-left corner on and cut to the cell; pixels with alpha 0 are left out.
+// Drawn over a cell, along which it is as long as the cell; pixels with alpha 0 are left out.
 struct Cell_Marker {
     Size size;
     std::vector<Color> pixels; // row by row
 };
 
-// The pictures along the sides of cells.
+// The pictures along the sides of cells: the first one in cells of even place within their checker square,
+// the second one in those of odd place.
 struct Cell_Edges {
-    Cell_Marker horizontal;
-    Cell_Marker vertical;
+    std::array<Cell_Marker, 2> horizontal;
+    std::array<Cell_Marker, 2> vertical;
 };
 
 // Around the selected cells runs a line.

@@ -195,10 +195,10 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
     picture.surround = standard_color(Standard_Color::dark_frame);
     const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);
     if (horizontal_seam_shift_ != no_seam_shift && seam != nullptr) {
-        picture.column_marker = &seam->vertical;
+        picture.column_marker = &seam->vertical.front();
     }
     if (vertical_seam_shift_ != no_seam_shift && seam != nullptr) {
-        picture.row_marker = &seam->horizontal;
+        picture.row_marker = &seam->horizontal.front();
     }
     show_selection(picture, tools);
     return picture;

@@ -29,38 +29,55 @@ constexpr std::array<Family_Row, static_cast<std::size_t>(Edge_Family::count)> f
 
 static_assert(rows_follow_their_ids(family_table));
 
-Cell_Marker marker_of(Sprite sprite) {
+// In the pixels of a sprite, each of which holds three dashes along its edge.
+constexpr int dash = 11;
+
+enum class Variant { plain, moved_on };
+
+// Moved on by a dash, a sprite goes on where the plain one of the cell before it stopped, so that the line
+// reads as dashed.
+int source_place(int place, int length, int sprite_length, Variant variant) {
+    const int source = (2 * place + 1) * sprite_length / (2 * length);
+    return variant == Variant::plain ? source : (source + dash) % (2 * dash);
+}
+
+// As thick as the sprite, which lies or stands.
+Cell_Marker stretched(Sprite sprite, int length, Variant variant) {
     const Rectangle area = sprite_rect(sprite);
-    Cell_Marker marker{{area.width, area.height}, {}};
-    for (int y = area.y; y < area.bottom(); ++y) {
-        for (int x = area.x; x < area.right(); ++x) {
-            const Rgba_Quad pixel = screen->sprites().surface().get_pixel(x, y);
+    const bool lies = area.width > area.height;
+    const Size size = lies ? Size{length, area.height} : Size{area.width, length};
+    Cell_Marker marker{size, {}};
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            const Point place = lies ? Point{source_place(x, length, area.width, variant), y}
+                                     : Point{x, source_place(y, length, area.height, variant)};
+            const Rgba_Quad pixel = screen->sprites().surface().get_pixel(area.x + place.x, area.y + place.y);
             marker.pixels.emplace_back(pixel.r, pixel.g, pixel.b, pixel.a);
         }
     }
     return marker;
 }
 
-} // namespace
-
-void Edge_Pictures::load() {
-    for (const Family_Row& row : family_table) {
-        families_.at(static_cast<std::size_t>(row.id)) = {
-            {marker_of(row.narrow_horizontal), marker_of(row.narrow_vertical)},
-            {marker_of(row.broad_horizontal), marker_of(row.broad_vertical)}};
-    }
-    is_loaded_ = true;
+Cell_Edges edges_of(Sprite horizontal, Sprite vertical, int length) {
+    return {{stretched(horizontal, length, Variant::plain), stretched(horizontal, length, Variant::moved_on)},
+            {stretched(vertical, length, Variant::plain), stretched(vertical, length, Variant::moved_on)}};
 }
+
+} // namespace
 
 const Cell_Edges* Edge_Pictures::of(Edge_Family family, int pixel_size) {
     if (screen == nullptr) {
         return nullptr;
     }
-    if (!is_loaded_) {
-        load();
+    const auto index = static_cast<std::size_t>(family);
+    Stretched& kept = families_.at(index);
+    if (kept.pixel_size != pixel_size) {
+        const Family_Row& row = family_table.at(index);
+        const bool is_broad = pixel_size >= smallest_cell_with_broad_lines;
+        kept = {pixel_size, edges_of(is_broad ? row.broad_horizontal : row.narrow_horizontal,
+                                     is_broad ? row.broad_vertical : row.narrow_vertical, pixel_size)};
     }
-    const Widths& widths = families_.at(static_cast<std::size_t>(family));
-    return pixel_size < smallest_cell_with_broad_lines ? &widths.narrow : &widths.broad;
+    return &kept.edges;
 }
 
 } // namespace quadrelle

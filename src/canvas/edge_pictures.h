@@ -1,6 +1,6 @@
 #pragma once
 
-// The pictures that run along the edges of cells on the canvas, read from the sheet when first needed.
+// The pictures that run along the edges of cells on the canvas: sprites, stretched to the length of a cell.
 
 #include "canvas/canvas_painter.h"
 #include "screen/sprite_table.h"
@@ -19,14 +19,12 @@ public:
     [[nodiscard]] const Cell_Edges* of(Edge_Family family, int pixel_size);
 
 private:
-    struct Widths {
-        Cell_Edges narrow;
-        Cell_Edges broad;
+    struct Stretched {
+        int pixel_size = 0;
+        Cell_Edges edges;
     };
-    void load();
-
-    bool is_loaded_ = false;
-    std::array<Widths, static_cast<std::size_t>(Edge_Family::count)> families_;
+    // As they were asked for last.
+    std::array<Stretched, static_cast<std::size_t>(Edge_Family::count)> families_;
 };
 
 } // namespace quadrelle

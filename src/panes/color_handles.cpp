@@ -46,7 +46,6 @@ constexpr int row_count = static_cast<int>(handle_rows.size());
 constexpr int buttons_in_row = static_cast<int>(step_row.size());
 constexpr int first_hsl_row = 4;
 constexpr int row_step = 17;
-constexpr int button_drop = 1;
 static_assert(window_layout::handles.height == window_layout::pane_height(row_count * row_step + 2));
 
 // A slider is 130 pixels wide: the row's icon, and a track of which each column is one step.
@@ -86,7 +85,7 @@ Color_Handles::Color_Handles(Point position, std::function<void(Color)> hand_on)
 void Color_Handles::layout() {
     Pane::layout();
     const int left = client_area().x + 1;
-    int top = client_area().y + 1 + button_drop;
+    int top = client_area().y + 1;
     auto button = step_buttons_.begin();
     for (const auto& icon : icons_) {
         // Not `set_position`, which lowers a button to the text of a dialog's row.
@@ -103,8 +102,7 @@ void Color_Handles::layout() {
 
 Rectangle Color_Handles::track(int row) const {
     const Rectangle client = client_area();
-    return {client.x + 1 + track_left, client.y + 1 + button_drop + row * row_step, track_size.width,
-            track_size.height};
+    return {client.x + 1 + track_left, client.y + 1 + row * row_step, track_size.width, track_size.height};
 }
 
 void Color_Handles::set_color(Color color) {
@@ -179,7 +177,7 @@ bool Color_Handles::click(Point point, const std::function<void()>& redraw) {
     }
     for (int row = 0; row < row_count; ++row) {
         const Rectangle bar = track(row);
-        if (Rectangle{bar.x, bar.y - button_drop, bar.width, row_step}.contains(point)) {
+        if (Rectangle{bar.x, bar.y, bar.width, row_step}.contains(point)) {
             drag(row, point, redraw);
             return true;
         }

@@ -137,9 +137,8 @@ std::unique_ptr<Texture> Sprite_Sheet::make_header(Header_Ends ends, int width,
     const Rectangle band{start.width, 0, width, start.height};
     Surface header(Size{start.width + width + end.width, start.height});
     surface_.blit_to(header, start, {0, 0, start.width, start.height});
-    // Light along its top and bottom only: the end sprites go on from there.
     header.fill_rect(band, header_outline);
-    header.fill_rect({band.x, 1, band.width, band.height - 2}, standard_color(Standard_Color::pane_frame));
+    header.fill_rect(band.inset(1), standard_color(Standard_Color::pane_frame));
     surface_.blit_to(header, end, {band.right(), 0, end.width, end.height});
     draw_text(Font::pane_header, title, title_position, header);
     return std::make_unique<Texture>(header);

@@ -79,8 +79,10 @@ TEST(Canvas_Painter, grid_contrasts_with_the_pixel_and_vanishes_at_intensity_0) 
     EXPECT_EQ(grid_color(Color(12, 200, 90), 0), Color(12, 200, 90));
 }
 
-// Lines of one pixel without gaps, longer than two cells.
-const Cell_Edges edges{{{8, 1}, std::vector<Color>(8, across)}, {{1, 8}, std::vector<Color>(8, down)}};
+// Lines of one pixel without gaps.
+const Cell_Marker lying{{4, 1}, std::vector<Color>(4, across)};
+const Cell_Marker standing{{1, 4}, std::vector<Color>(4, down)};
+const Cell_Edges edges{{lying, lying}, {standing, standing}};
 
 class Selection_Picture : public ::testing::Test {
 protected:

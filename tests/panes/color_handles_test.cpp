@@ -23,6 +23,16 @@ protected:
     Color_Handles handles_{position, [this](Color color) { handed_on_.push_back(color); }};
 };
 
+TEST_F(Color_Handles_Test, rows_begin_a_pixel_below_the_client_area_s_top_17_pixels_apart) {
+    for (int row = 0; row < 6; ++row) {
+        const int top = handles_.client_area().y + 1 + 17 * row;
+        for (const auto& [y, is_hit] :
+             {std::pair{top - 1, false}, {top, true}, {top + 14, true}, {top + 15, false}}) {
+            EXPECT_EQ(handles_.click({button(row, 0).x, y}, [] {}), is_hit) << row << ", " << y;
+        }
+    }
+}
+
 constexpr Color mixed{40, 130, 250, 77};
 
 TEST_F(Color_Handles_Test, channels_step_by_one_and_stop_at_their_bounds) {
