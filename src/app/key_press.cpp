@@ -7,16 +7,19 @@ namespace quadrelle {
 
 namespace {
 
-// Shift and an arrow moves what floats by one pixel.
+constexpr int shift_pixels = 8;
+
+// An arrow moves what floats by a pixel, with Shift by more. Where nothing floats it is the key of a command.
 bool nudge(Selection_Desk& desk, Key_Chord chord) {
-    if (chord.modifier != Modifier::shift) {
+    if (chord.modifier != Modifier::none && chord.modifier != Modifier::shift) {
         return false;
     }
+    const int pixels = chord.modifier == Modifier::shift ? shift_pixels : 1;
     switch (chord.key) {
-    case key::left: return desk.nudge(-1, 0);
-    case key::right: return desk.nudge(1, 0);
-    case key::up: return desk.nudge(0, -1);
-    case key::down: return desk.nudge(0, 1);
+    case key::left: return desk.nudge(-pixels, 0);
+    case key::right: return desk.nudge(pixels, 0);
+    case key::up: return desk.nudge(0, -pixels);
+    case key::down: return desk.nudge(0, pixels);
     default: return false;
     }
 }

@@ -18,10 +18,15 @@ bool is_edit(Command kind) {
     return row_of(kind).category != Command_Category::tile_switch;
 }
 
+bool has_same_paste(const Work_State& one, const Work_State& other) {
+    return one.paste == other.paste || (one.paste && other.paste && *one.paste == *other.paste);
+}
+
 // The command that turned, mirrored or scrolled the whole tile between two states, or none: it may have been
 // only what was selected, or floated.
 Command transform_between(const Undo_Entry& before, const Undo_Entry& after) {
-    const bool is_of_tile = before.tile_index == after.tile_index && before.work.selection == nullptr;
+    const bool is_of_tile = before.tile_index == after.tile_index && before.work.selection == nullptr &&
+                            has_same_paste(before.work, after.work);
     if (!is_of_tile || find_transform(after.kind) == nullptr) {
         return Command::none;
     }

@@ -4,6 +4,7 @@
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
 #include "selection/transforms.h"
+#include "tools/hsv_adjustment.h"
 
 #include <algorithm>
 
@@ -59,11 +60,34 @@ Outcome Selection_Desk::invert() {
 }
 
 Outcome Selection_Desk::fill(Color color) {
-    return change([&] { fill_selected(color); });
+    return change([&] { shows_paste() ? fill_paste(color) : fill_selected(color); });
 }
 
 Outcome Selection_Desk::clear() {
     return change([this] { clear_selected(); });
+}
+
+Outcome Selection_Desk::adjust_hsv(const HSV_Change& hsv) {
+    return change([&] {
+        if (shows_paste()) {
+            canvas_.work_area().recolor_paste([&hsv](Tile& picture) {
+                Drawing_Target target(picture);
+                quadrelle::adjust_hsv(target, hsv);
+            });
+        } else {
+            Drawing_Target target = canvas_.work_area().target(*canvas_.tile());
+            quadrelle::adjust_hsv(target, hsv);
+        }
+    });
+}
+
+// Where it is made transparent nothing is left to float.
+void Selection_Desk::fill_paste(Color color) {
+    if (color.a == 0) {
+        canvas_.work_area().drop_paste();
+    } else {
+        canvas_.work_area().recolor_paste([color](Tile& picture) { fill_opaque(picture, color); });
+    }
 }
 
 void Selection_Desk::fill_selected(Color color) {
@@ -183,7 +207,9 @@ Outcome Selection_Desk::transform(Command command) {
         return Outcome::unknown;
     }
     if (shows_paste()) {
-        return work.transform_paste(command);
+        Outcome outcome = Outcome::unknown;
+        const Outcome changed = change([&] { outcome = work.transform_paste(command); });
+        return outcome == Outcome::unknown ? outcome : changed;
     }
     return work.has_selection() ? transform_selected(*canvas_.tile(), work.mutable_selection(), command)
                                 : Outcome::unknown;

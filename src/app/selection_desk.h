@@ -17,6 +17,7 @@
 namespace quadrelle {
 
 class Canvas_View;
+struct HSV_Change;
 class Recorder;
 class Toolbox;
 
@@ -33,12 +34,13 @@ public:
     // Returns whether something floats in view or is selected.
     [[nodiscard]] bool has_something() const;
 
-    // These four are refused where they change nothing. To deselect gives up the selection, or else what
-    // floats, which settles.
+    // These are refused where they change nothing. To deselect gives up the selection, or else what floats,
+    // which settles. The others change what floats in view, or what is selected, or else the whole tile.
     Outcome deselect();
     Outcome invert();
     Outcome fill(Color color);
     Outcome clear();
+    Outcome adjust_hsv(const HSV_Change& change);
 
     // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
     Outcome copy();
@@ -60,7 +62,8 @@ public:
     // Moves what floats by that many pixels; nudges that follow each other are one step. Returns false when
     // nothing floats in view.
     bool nudge(int dx, int dy);
-    // Turns or mirrors what floats, or also scrolls and softens what is selected. All else is unknown.
+    // Turns, mirrors, scrolls or softens what floats, which is moved instead of scrolled, or what is
+    // selected. All else is unknown.
     Outcome transform(Command command);
     // Draws what floats into the tile. Refused when that changed nothing.
     Outcome plot();
@@ -76,6 +79,7 @@ public:
 private:
     Outcome change(const std::function<void()>& work);
     void fill_selected(Color color);
+    void fill_paste(Color color);
     void clear_selected();
     [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
     void plot_paste();

@@ -14,17 +14,31 @@ namespace quadrelle::tile_commands {
 
 namespace {
 
-Outcome adjust_current_tile(Editor_Parts& editor, const HSV_Change& change) {
+Outcome adjust_current(Editor_Parts& editor, const HSV_Change& change) {
     Outcome outcome = Outcome::refused;
     editor.recorder.step([&] {
-        Drawing_Target target = editor.canvas.work_area().target(*editor.canvas.tile());
-        if (quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::nothing_changed) {
-            return Command::none;
-        }
-        outcome = Outcome::done;
-        return Command::adjust_hsv;
+        outcome = editor.desk.adjust_hsv(change);
+        return outcome == Outcome::done ? Command::adjust_hsv : Command::none;
     });
     return outcome;
+}
+
+// While the dialog is open, the changed picture floats there.
+std::optional<HSV_Adjustment> ask_for_paste(Work_Area& work) {
+    const Work_State before = work.state();
+    Tile picture(work.paste()->picture);
+    const std::optional<HSV_Adjustment> wanted =
+        ask_hsv_adjustment(Drawing_Target(picture), All_Tiles_Choice::hidden, [&] {
+            work.change_paste({picture, work.paste()->position});
+        });
+    work.restore(before);
+    return wanted;
+}
+
+std::optional<HSV_Adjustment> ask_for_tile(Editor_Parts& editor) {
+    const bool has_others = editor.documents.current().tileset().count() > 1;
+    return ask_hsv_adjustment(editor.canvas.work_area().target(*editor.canvas.tile()),
+                              has_others ? All_Tiles_Choice::shown : All_Tiles_Choice::hidden);
 }
 
 int count_changed(const Tileset& tileset, const HSV_Change& change) {
@@ -83,15 +97,13 @@ Outcome adjust_hsv(Editor_Parts& editor) {
         dialogs->message("Note", "There is no tile to adjust.");
         return Outcome::refused;
     }
-    const bool has_others = editor.documents.current().tileset().count() > 1;
     const std::optional<HSV_Adjustment> wanted =
-        ask_hsv_adjustment(editor.canvas.work_area().target(*editor.canvas.tile()),
-                           has_others ? All_Tiles_Choice::shown : All_Tiles_Choice::hidden);
+        editor.desk.shows_paste() ? ask_for_paste(editor.canvas.work_area()) : ask_for_tile(editor);
     if (!wanted) {
         return Outcome::refused;
     }
     return wanted->tiles == Adjusted_Tiles::all ? adjust_all_tiles(editor, wanted->change)
-                                                : adjust_current_tile(editor, wanted->change);
+                                                : adjust_current(editor, wanted->change);
 }
 
 Outcome shift_to_seam(Editor_Parts& editor, Seam seam) {

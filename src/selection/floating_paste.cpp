@@ -1,5 +1,6 @@
 #include "selection/floating_paste.h"
 
+#include <array>
 #include <utility>
 
 namespace quadrelle {
@@ -68,6 +69,48 @@ void Floating_Paste::plot(Drawing_Target& target) const {
             }
         }
     }
+}
+
+namespace {
+
+// Of the pixels around it that are not transparent; its own colour where there are none.
+Color color_nearby(const Tile& picture, int x, int y) {
+    int count = 0;
+    std::array<int, 3> sums{};
+    for (int near_y = y - 1; near_y <= y + 1; ++near_y) {
+        for (int near_x = x - 1; near_x <= x + 1; ++near_x) {
+            const Color pixel = picture.get_pixel(near_x, near_y);
+            if (pixel.a != 0) {
+                ++count;
+                sums = {sums[0] + pixel.r, sums[1] + pixel.g, sums[2] + pixel.b};
+            }
+        }
+    }
+    return count == 0 ? picture.get_pixel(x, y) : Color(sums[0] / count, sums[1] / count, sums[2] / count, 0);
+}
+
+} // namespace
+
+void fill_opaque(Tile& picture, Color color) {
+    picture.map_colours([color](Color pixel) { return pixel.a == 0 ? pixel : color; });
+}
+
+// Softening looks no further than at the neighbours of a pixel, so that those are all that need a colour.
+Tile softened(const Tile& picture) {
+    Tile result(picture);
+    for (int i = 0; i < picture.pixel_count(); ++i) {
+        if (picture.get_pixel_at(i).a == 0) {
+            result.set_pixel_at(i, color_nearby(picture, i % picture.width(), i / picture.width()));
+        }
+    }
+    result.anti_alias();
+    for (int i = 0; i < picture.pixel_count(); ++i) {
+        const Color before = picture.get_pixel_at(i);
+        Color pixel = result.get_pixel_at(i);
+        pixel.a = before.a;
+        result.set_pixel_at(i, before.a == 0 ? before : pixel);
+    }
+    return result;
 }
 
 Floating_Paste lifted(const Tile& tile, const Selection& selection) {

@@ -23,6 +23,11 @@ struct Floating_Paste {
     // Returns where it lies in the tile, cut to it.
     [[nodiscard]] Selection area(Size tile) const;
     void plot(Drawing_Target& target) const;
+
+    // Looks the same, and lies in the same place.
+    [[nodiscard]] bool operator==(const Floating_Paste& other) const {
+        return position == other.position && picture.same_pixels(other.picture);
+    }
 };
 
 // Returns a copy of the selected pixels, in place. The selection is not empty.
@@ -30,5 +35,11 @@ struct Floating_Paste {
 
 // Makes the selected pixels transparent.
 void clear_selected(Tile& tile, const Selection& selection);
+
+// Every pixel that is not transparent takes the colour.
+void fill_opaque(Tile& picture, Color color);
+// Returns the picture softened as a tile is, with its own alpha: its edges do not fade into what is not
+// there.
+[[nodiscard]] Tile softened(const Tile& picture);
 
 } // namespace quadrelle

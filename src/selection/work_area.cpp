@@ -7,14 +7,6 @@
 
 namespace quadrelle {
 
-namespace {
-
-bool same_paste(const Floating_Paste& paste, const Floating_Paste& other) {
-    return paste.position == other.position && paste.picture.same_pixels(other.picture);
-}
-
-} // namespace
-
 std::size_t Work_State::memory_size() const {
     return (selection ? selection->mask().memory_size() : 0) + (paste ? paste->picture->memory_size() : 0);
 }
@@ -73,19 +65,34 @@ void Work_Area::update_paste_area() {
     }
 }
 
+void Work_Area::recolor_paste(const std::function<void(Tile& picture)>& change) {
+    Tile picture(paste_->picture);
+    change(picture);
+    change_paste({std::move(picture), paste_->position});
+}
+
 Outcome Work_Area::transform_paste(Command command) {
     const Transform_Row* const row = find_transform(command);
-    if (row == nullptr || row->placement == nullptr) {
+    if (command == Command::anti_alias) {
+        change_paste({softened(paste_->picture), paste_->position});
+    } else if (row == nullptr) {
         return Outcome::unknown;
+    } else if (row->placement == nullptr) {
+        move_paste_to({paste_->position.x + row->step.x, paste_->position.y + row->step.y});
+    } else {
+        turn_paste(*row->placement);
     }
+    return Outcome::done;
+}
+
+void Work_Area::turn_paste(const Placement& placement) {
     const Size before = paste_->picture->size();
-    const Size size = row->placement->size_after(before);
+    const Size size = placement.size_after(before);
     Tile after(size.width, size.height);
-    place(paste_->picture, after, *row->placement);
+    place(paste_->picture, after, placement);
     change_paste({std::move(after),
                   {paste_->position.x + (before.width - size.width) / 2,
                    paste_->position.y + (before.height - size.height) / 2}});
-    return Outcome::done;
 }
 
 Drawing_Target Work_Area::target(Tile& tile) const {
@@ -121,7 +128,7 @@ bool Work_Area::operator==(const Work_State& state) const {
     const bool same_selection = has_selection() == (state.selection != nullptr) &&
                                 (!has_selection() || *selection_ == *state.selection);
     const bool same_floating =
-        paste_.has_value() == (state.paste != nullptr) && (!paste_ || same_paste(*paste_, *state.paste));
+        paste_.has_value() == (state.paste != nullptr) && (!paste_ || *paste_ == *state.paste);
     return same_selection && same_floating && paste_source_ == state.paste_source;
 }
 

@@ -8,10 +8,13 @@
 #include "tools/tool_options.h"
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 
 namespace quadrelle {
+
+struct Placement;
 
 // Where what floats is from: a copy can be pasted once more, but what was lifted off the tile is nowhere else
 // until it is plotted.
@@ -64,7 +67,10 @@ public:
     // floated before becomes a part of the tile. The selection is not empty.
     void lift_selection(Tile& tile);
 
-    // Turns or mirrors the paste about its middle; every other command is unknown.
+    // Changes the colours of the paste, which is there.
+    void recolor_paste(const std::function<void(Tile& picture)>& change);
+    // Turns or mirrors the paste about its middle, moves it by a pixel where a tile is scrolled, or softens
+    // it; every other command is unknown.
     Outcome transform_paste(Command command);
 
     [[nodiscard]] Drawing_Target target(Tile& tile) const;
@@ -76,6 +82,7 @@ public:
 
 private:
     void update_paste_area();
+    void turn_paste(const Placement& placement);
 
     std::optional<Selection> selection_; // always there; replaced for another size
     std::optional<Selection> candidate_;

@@ -60,7 +60,7 @@ Color most_colorful(const Drawing_Target& target) {
 
 class Adjust_HSV : public Slider_Numbers {
 public:
-    Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice);
+    Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice, const std::function<void()>& changed);
     std::optional<HSV_Adjustment> run();
 
     [[nodiscard]] int number(std::size_t index) const override;
@@ -83,6 +83,7 @@ private:
     const Tile source_;
     Color sample_;
     All_Tiles_Choice choice_;
+    std::function<void()> changed_;
     HSV_Adjustment adjustment_;
     bool is_accepted_ = false;
     Dialog_Frame frame_{"Adjust HSV"};
@@ -92,9 +93,10 @@ private:
     Text_Button cancel_{"Cancel", {inside.right() - 85, buttons_y, 85, text_button_height}};
 };
 
-Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice)
+Adjust_HSV::Adjust_HSV(const Drawing_Target& target, All_Tiles_Choice choice,
+                       const std::function<void()>& changed)
     : target_(target), source_(target.tile()), sample_(most_colorful(target)), choice_(choice),
-      sliders_(slider_rows, inside, *this), tick_{inside.x, tick_y, 120, tick_height} {
+      changed_(changed), sliders_(slider_rows, inside, *this), tick_{inside.x, tick_y, 120, tick_height} {
     frame_.set_area(frame_area);
     sliders_.set_focus(0);
 }
@@ -122,6 +124,7 @@ void Adjust_HSV::show_change() {
     Drawing_Target shown =
         adjustment_.tiles == Adjusted_Tiles::all ? Drawing_Target(target_.tile()) : target_;
     adjust_hsv(shown, source_, adjustment_.change);
+    changed_();
 }
 
 void Adjust_HSV::step(std::size_t index, int amount) {
@@ -217,8 +220,9 @@ void Adjust_HSV::toggle_all_tiles() {
 
 } // namespace
 
-std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target, All_Tiles_Choice choice) {
-    return Adjust_HSV(target, choice).run();
+std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target, All_Tiles_Choice choice,
+                                                 const std::function<void()>& changed) {
+    return Adjust_HSV(target, choice, changed).run();
 }
 
 } // namespace quadrelle

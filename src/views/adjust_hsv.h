@@ -6,6 +6,7 @@
 #include "color/hsv_change.h"
 #include "tools/drawing_target.h"
 
+#include <functional>
 #include <optional>
 
 namespace quadrelle {
@@ -20,9 +21,9 @@ struct HSV_Adjustment {
 // Whether the user may choose to adjust all tiles.
 enum class All_Tiles_Choice { hidden, shown };
 
-// Shows the change on the target while it is being chosen; at the end every pixel is as before. Returns none
-// when given up.
-[[nodiscard]] std::optional<HSV_Adjustment> ask_hsv_adjustment(const Drawing_Target& target,
-                                                               All_Tiles_Choice choice);
+// Shows the change on the target while it is being chosen; at the end every pixel is as before. `changed` is
+// called whenever that made the target another one. Returns none when given up.
+[[nodiscard]] std::optional<HSV_Adjustment> ask_hsv_adjustment(
+    const Drawing_Target& target, All_Tiles_Choice choice, const std::function<void()>& changed = [] {});
 
 } // namespace quadrelle

@@ -1,6 +1,7 @@
 #include "commands/command_table.h"
 #include "selection/copy_buffer.h"
 #include "selection/floating_paste.h"
+#include "selection/transform_table.h"
 #include "selection/transforms.h"
 #include "selection/work_area.h"
 #include "tests/support/tiles.h"
@@ -109,6 +110,21 @@ TEST(Floating_Paste, honours_alpha) {
     EXPECT_EQ(laid_over({0, 0, 240, 128}, {240, 0, 0, 128}), Color(80, 0, 160, 192));
 }
 
+TEST(Floating_Paste, is_softened_within_its_own_alpha) {
+    Tile picture = make_tile({"      ", " aab  ", " aab  ", "      "});
+    picture.set_pixel(1, 1, {200, 0, 0, 90});
+    const Tile soft = softened(picture);
+    EXPECT_NE(soft.get_pixel(2, 2), picture.get_pixel(2, 2));
+    for (int i = 0; i < picture.pixel_count(); ++i) {
+        const Color before = picture.get_pixel_at(i);
+        EXPECT_EQ(soft.get_pixel_at(i).a, before.a) << i;
+        EXPECT_TRUE(before.a != 0 || soft.get_pixel_at(i) == before) << i;
+    }
+    // What lies beside it does not darken it.
+    Tile plain = make_tile({"    ", " ## ", "    "});
+    EXPECT_EQ(art(softened(plain)), art(plain));
+}
+
 TEST(Copy_Buffer, clones_in_four_places) {
     const Floating_Paste copy{make_tile({"ab d", "efgh", "ijkl"}), {-2, 9}};
     struct Row {
@@ -141,7 +157,7 @@ TEST(Copy_Buffer, what_lies_beside_a_tile_comes_into_its_middle) {
     }
 }
 
-// What floats is turned as what is selected.
+// What floats is turned as what is selected, but moved by a step where that is scrolled.
 TEST(Selection_Transforms, take_what_is_selected_where_their_names_say) {
     const std::vector<std::pair<Command, Art>> rows{
         {Command::rotate, {"gda", "heb", "ifc"}},      {Command::rotate_back, {"cfi", "beh", "adg"}},
@@ -158,9 +174,10 @@ TEST(Selection_Transforms, take_what_is_selected_where_their_names_say) {
         Work_Area work;
         work.resize({4, 4});
         work.float_paste({make_tile({"abc", "def", "ghi"}), {}});
-        if (work.transform_paste(command) == Outcome::done) {
-            EXPECT_EQ(art(work.paste()->picture), after);
-        }
+        EXPECT_EQ(work.transform_paste(command), Outcome::done);
+        const Tile_Point step = find_transform(command)->step;
+        EXPECT_EQ(art(work.paste()->picture), step == Tile_Point{} ? after : Art({"abc", "def", "ghi"}));
+        EXPECT_EQ(work.paste()->position, step);
     }
 }
 
@@ -238,7 +255,7 @@ TEST(Work_Area, turns_what_floats_about_its_middle_and_back) {
             }
             EXPECT_TRUE(work == before) << size.width << " x " << size.height;
         }
-        EXPECT_EQ(work.transform_paste(Command::scroll_left), Outcome::unknown);
+        EXPECT_EQ(work.transform_paste(Command::fill), Outcome::unknown);
     }
 }
 

@@ -76,6 +76,25 @@ TEST_F(Adjust_HSV_Test, gives_every_pixel_back_when_given_up) {
     give_up([&] { script().click({middle_x, hue_y}).click({more_x, value_y}).key(key::enter); });
 }
 
+TEST_F(Adjust_HSV_Test, changes_what_floats_in_view_instead_of_the_tile) {
+    Work_Area& work = editor->canvas().work_area();
+    const auto floating = [&] { return picture_of(work.paste()->picture); };
+    const Tile_Picture before = picture();
+    work.float_paste({random_tile({5, 4}), {3, 3}});
+    execute(Command::work_selection);
+    const Tile_Picture floated = floating();
+    for (const Keycode end : {key::escape, key::enter}) {
+        script().drag({{bar_left + 9, hue_y}, {2000, hue_y}});
+        script().check([&] { EXPECT_EQ(floating(), changed(floated, {.hue = 180})); }).key(end);
+        execute(Command::adjust_hsv);
+        EXPECT_EQ(floating() == floated, end == key::escape);
+        EXPECT_EQ(picture(), before);
+    }
+    EXPECT_EQ(document().history().entries().back().kind, Command::adjust_hsv);
+    editor->execute(Command::undo);
+    EXPECT_EQ(floating(), floated);
+}
+
 TEST_F(Adjust_HSV_Test, takes_typed_numbers_the_wheel_and_keys) {
     const Tile_Picture before = picture();
     script().click({number_x, hue_y}).type("-90").key(key::enter);

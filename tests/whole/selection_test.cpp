@@ -45,13 +45,70 @@ TEST_F(Selection_Test, preview_shows_what_floats_where_the_canvas_does) {
     work().float_paste({picture, {22, 4}});
     execute(Command::work_selection);
     EXPECT_EQ(count_in_preview(red), 4 * 4);
-    play(script().key(key::left, Modifier::shift));
+    play(script().key(key::left));
     EXPECT_EQ(count_in_preview(red), 4 * 6);
     work().select(selected_rectangle({24, 24}, {0, 0}, {4, 4}), Selection_Change::add);
     editor->redraw(Present::yes);
     EXPECT_EQ(count_in_preview(red), 0);
     execute(Command::deselect);
     EXPECT_EQ(count_in_preview(red), 4 * 6);
+}
+
+// With the tool that moves it, or fixed below another one.
+TEST_F(Selection_Test, commands_change_what_floats_in_view_and_leave_the_tile) {
+    const Art before{"ab ", "cde"};
+    struct Row {
+        Command command;
+        Art after; // none for nothing floating
+        Tile_Point position = {5, 6};
+    };
+    const std::vector<Row> rows{
+        {Command::fill, {"## ", "###"}},
+        {Command::clear, {}},
+        {Command::mirror, {" ba", "edc"}},
+        {Command::flip, {"cde", "ab "}},
+        {Command::rotate, {"ca", "db", "e "}},
+        {Command::rotate_back, {" e", "bd", "ac"}},
+        {Command::scroll_left, before, {4, 6}},
+        {Command::scroll_down, before, {5, 7}},
+        {Command::anti_alias, art(softened(make_tile(before)))},
+    };
+    for (const Selection_Mode mode : {Selection_Mode::standard, Selection_Mode::fixed}) {
+        tools().options.selection_mode = mode;
+        execute(mode == Selection_Mode::fixed ? Command::pen : Command::work_selection);
+        for (const Row& row : rows) {
+            SCOPED_TRACE(menu_text(row.command));
+            paint_noise(3);
+            document().history().reset(document().tileset());
+            work().float_paste({make_tile(before), {5, 6}});
+            const Tile_Picture tile_before = tile_picture();
+            execute(row.command);
+            EXPECT_EQ(tile_picture(), tile_before);
+            ASSERT_EQ(work().paste().has_value(), !row.after.empty());
+            EXPECT_TRUE(!work().paste() || art(work().paste()->picture) == row.after);
+            EXPECT_TRUE(!work().paste() || work().paste()->position == row.position);
+            execute(Command::undo);
+            EXPECT_EQ(art(work().paste()->picture), before);
+        }
+        work().drop_paste();
+    }
+}
+
+TEST_F(Selection_Test, arrow_keys_move_what_floats_and_else_scroll_the_tile) {
+    Tile picture(3, 2);
+    work().float_paste({picture, {5, 5}});
+    execute(Command::work_selection);
+    play(script().key(key::left).key(key::up).key(key::up).key(key::right, Modifier::shift));
+    EXPECT_EQ(work().paste()->position, (Tile_Point{12, 3}));
+    play(script().key(key::down, Modifier::shift));
+    EXPECT_EQ(work().paste()->position, (Tile_Point{12, 11}));
+    // One step of undo, for nothing came between.
+    execute(Command::undo);
+    EXPECT_EQ(work().paste()->position, (Tile_Point{5, 5}));
+    work().drop_paste();
+    tile().set_pixel(5, 5, red);
+    play(script().key(key::left).key(key::left, Modifier::shift));
+    EXPECT_EQ(tile_pixel(4, 5), red);
 }
 
 // As a step of that tile; where no other one comes, it floats on.

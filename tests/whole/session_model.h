@@ -241,6 +241,17 @@ public:
         }
     }
     void fill(Color color) {
+        if (!shows_paste()) {
+            fill_tile(color);
+        } else if (color.a == 0) {
+            drop_paste();
+        } else {
+            change_paste(changed(work.paste->picture, [color](Tile& tile) {
+                tile.map_colours([color](Color pixel) { return pixel.a == 0 ? pixel : color; });
+            }));
+        }
+    }
+    void fill_tile(Color color) {
         draw([&](Drawing_Target& target) {
             for (int i = 0; i < picture()->pixel_count(); ++i) {
                 target.plot({i % size().width, i / size().width}, color);
@@ -251,8 +262,26 @@ public:
         if (shows_paste()) {
             drop_paste();
         } else {
-            fill(testing::clear);
+            fill_tile(testing::clear);
         }
+    }
+    // The middle stays, or nearly so.
+    void change_paste(const Picture& picture) {
+        const Floating_Paste& before = *work.paste;
+        work.paste = std::make_shared<Floating_Paste>(
+            Floating_Paste{*picture,
+                           {before.position.x + (before.picture->width() - picture->width()) / 2,
+                            before.position.y + (before.picture->height() - picture->height()) / 2}});
+    }
+    void transform_paste(bool turns, Tile_Point (*source)(Tile_Point to, Size size)) {
+        const Tile& before = work.paste->picture;
+        const auto after = std::make_shared<Tile>(turns ? before.height() : before.width(),
+                                                  turns ? before.width() : before.height());
+        for (int i = 0; i < after->pixel_count(); ++i) {
+            const Tile_Point from = source({i % after->width(), i / after->width()}, after->size());
+            after->set_pixel_at(i, before.get_pixel(from.x, from.y));
+        }
+        change_paste(after);
     }
     void copy() { add_copy(has_selection() ? lifted_area() : shows_paste() ? work.paste : whole_tile()); }
     void floats(const Floating_Paste& paste) {
@@ -270,7 +299,7 @@ public:
         work.area = area;
         work.paste = lifted_area();
         work.is_lifted = true;
-        fill(testing::clear);
+        fill_tile(testing::clear);
         deselect();
     }
 

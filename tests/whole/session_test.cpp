@@ -167,8 +167,9 @@ private:
     }
     void nudge(Keycode pressed, Tile_Point step) {
         if (model_.shows_paste()) {
-            play(script().key(pressed, Modifier::shift));
-            model_.nudge(step);
+            const bool is_far = one_in(2);
+            play(script().key(pressed, is_far ? Modifier::shift : Modifier::none));
+            model_.nudge({is_far ? 8 * step.x : step.x, is_far ? 8 * step.y : step.y});
         }
     }
     void deselect() {
@@ -205,13 +206,26 @@ private:
         model_.edit(
             [&] { model_.draw([&](Drawing_Target& target) { draw_with(target, from, to, color); }); });
     }
+    void transform_paste(Command command, Tile_Point (*source)(Tile_Point to, Size size)) {
+        if (command == Command::scroll_left || command == Command::scroll_up) {
+            model_.work.paste = command == Command::scroll_left ? model_.work.moved_paste(-1, 0)
+                                                                : model_.work.moved_paste(0, -1);
+        } else {
+            const bool turns = command == Command::rotate || command == Command::rotate_back;
+            model_.transform_paste(turns, source);
+        }
+    }
     void transform(Command command, Tile_Point (*source)(Tile_Point to, Size size)) {
         const Size size = model_.size();
         const bool turns = command == Command::rotate || command == Command::rotate_back;
-        if (model_.has_selection() || model_.shows_paste()) {
+        if (model_.has_selection()) {
             return;
         }
         editor->execute(command);
+        if (model_.shows_paste()) {
+            model_.edit([&] { transform_paste(command, source); });
+            return;
+        }
         if (!turns || size.width == size.height) {
             model_.transform([source, size](Tile_Point to) { return source(to, size); });
         }
@@ -332,7 +346,7 @@ private:
         [this] { transform(Command::scroll_left, [](P to, Size s) -> P { return {(to.x + 1) % s.width, to.y}; }); },
         [this] { transform(Command::scroll_up, [](P to, Size s) -> P { return {to.x, (to.y + 1) % s.height}; }); },
         [this] { transform(Command::rotate, [](P to, Size s) -> P { return {to.y, s.width - 1 - to.x}; }); },
-        [this] { transform(Command::rotate_back, [](P to, Size s) -> P { return {s.width - 1 - to.y, to.x}; }); },
+        [this] { transform(Command::rotate_back, [](P to, Size s) -> P { return {s.height - 1 - to.y, to.x}; }); },
         [this] { undo(); }, [this] { undo(); }, [this] { undo(); }, [this] { redo(); },
         [this] { choose_mode(); }, [this] { click_in_strip(); },
         [this] { go_by(Command::next_tile, 1); }, [this] { go_by(Command::previous_tile, -1); },
