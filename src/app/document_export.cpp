@@ -15,7 +15,7 @@ bool export_bitmap(const Tileset_Document& document) {
         return false;
     }
     const Tile picture = export_picture(tileset);
-    std::string path;
+    std::string path = document.file_name();
     if (!Export_Dialog(picture, tileset.count()).run() ||
         !choose_file(File_Dialog_Kind::export_bitmap, path)) {
         return false;

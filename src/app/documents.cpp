@@ -1,5 +1,6 @@
 #include "app/documents.h"
 
+#include "base/file_names.h"
 #include "screen/screen.h"
 #include "tileset/tileset_file.h"
 #include "tools/options.h"
@@ -99,7 +100,7 @@ std::optional<std::string> Documents::ask_where_to_save(Save_As save_as) const {
     if (save_as == Save_As::no && current().is_named()) {
         return confirms_save() ? std::optional(current().file_name()) : std::nullopt;
     }
-    std::string path;
+    std::string path = current().file_name();
     return choose_file(File_Dialog_Kind::save_tileset, path) ? std::optional(path) : std::nullopt;
 }
 
@@ -150,10 +151,14 @@ void Documents::mark_changed() {
 }
 
 void Documents::refresh_titles() {
-    std::vector<std::string> titles;
-    titles.reserve(documents_.size());
+    std::vector<std::string> paths;
+    paths.reserve(documents_.size());
     for (const auto& document : documents_) {
-        titles.push_back(document->title());
+        paths.push_back(document->file_name());
+    }
+    std::vector<std::string> titles = short_names(paths);
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        titles[i] += documents_[i]->change_mark();
     }
     tabs_.set_titles(titles, current_);
     screen->set_title(current().title());
@@ -161,6 +166,11 @@ void Documents::refresh_titles() {
 
 void Documents::draw_tabs() const {
     tabs_.draw();
+}
+
+const Tileset_Document* Documents::document_at(Point point) const {
+    const int tab = tabs_.tab_at(point);
+    return tab < 0 ? nullptr : documents_.at(static_cast<std::size_t>(tab)).get();
 }
 
 bool Documents::click_tab(Point point) {

@@ -53,7 +53,8 @@ public:
     void draw_tabs() const;
     // True when another document's tab was hit; that document is the current one then.
     bool click_tab(Point point);
-    [[nodiscard]] bool has_tab_at(Point point) const { return tabs_.tab_at(point) >= 0; }
+    // Returns the document whose tab is at `point`, or null.
+    [[nodiscard]] const Tileset_Document* document_at(Point point) const;
 
 private:
     void add(std::unique_ptr<Tileset_Document> document);

@@ -59,7 +59,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
         copy_panes_.place(toolbox->entry_top());
         copy_panes_.draw(copies_);
     }
-    hint_lines_.set_hint(hint_of(pointed(pointer.point())), pointer.point());
+    hint_lines_.set_hint(hint_at(pointer.point()), pointer.point());
     hint_lines_.draw();
 }
 
@@ -108,6 +108,17 @@ Pointed Window_Panes::pointed(Point point) const {
     return toolbox->current_command();
 }
 
+// Of a tab also the whole path, which the tab itself has no room for.
+Hint Window_Panes::hint_at(Point point) const {
+    const Pointed thing = pointed(point);
+    Hint hint = hint_of(thing);
+    const Tileset_Document* const document = documents_.document_at(point);
+    if (thing == Pointed(Place::tabs) && document->is_named()) {
+        hint.text = document->file_name() + "\r" + hint.text;
+    }
+    return hint;
+}
+
 std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
     if (!window_layout::canvas.contains(point)) {
         return std::nullopt;
@@ -138,7 +149,7 @@ std::optional<Place> Window_Panes::place_at(Point point) const {
     if (const std::optional<Place> place = pane_at(point)) {
         return place;
     }
-    if (documents_.has_tab_at(point)) {
+    if (documents_.document_at(point) != nullptr) {
         return Place::tabs;
     }
     if (window_layout::tile_strip.contains(point)) {

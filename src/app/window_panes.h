@@ -50,6 +50,7 @@ public:
 private:
     void draw_panes();
     [[nodiscard]] bool is_lit(Command icon) const;
+    [[nodiscard]] Hint hint_at(Point point) const;
     [[nodiscard]] std::optional<Pointed> pointed_on_canvas(Point point) const;
     [[nodiscard]] Command command_at(Point point) const;
     [[nodiscard]] std::optional<Place> place_at(Point point) const;

@@ -3,6 +3,9 @@
 #include "base/platform_files.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <map>
+#include <numeric>
 
 namespace quadrelle {
 
@@ -18,6 +21,18 @@ std::size_t extension_start(const std::string& path) {
 
 constexpr unsigned char lower(char letter) {
     return static_cast<unsigned char>(letter >= 'A' && letter <= 'Z' ? letter - 'A' + 'a' : letter);
+}
+
+constexpr bool is_digit(char character) {
+    return character >= '0' && character <= '9';
+}
+
+// Takes the digits off the start of the text, and answers them without their leading zeros.
+std::string_view take_number(std::string_view& text) {
+    const std::size_t end = std::min(text.find_first_not_of("0123456789"), text.size());
+    const std::string_view number = text.substr(0, end);
+    text.remove_prefix(end);
+    return number.substr(std::min(number.find_first_not_of('0'), number.size()));
 }
 
 bool is_separator(char character) {
@@ -91,11 +106,58 @@ std::string resolved_path(const std::string& folder, std::string_view typed) {
 }
 
 bool is_listed_before(std::string_view one, std::string_view other) {
-    const auto [left, right] = std::ranges::mismatch(one, other, {}, lower, lower);
-    if (left == one.end() && right == other.end()) {
-        return one < other;
+    std::string_view left = one;
+    std::string_view right = other;
+    while (!left.empty() && !right.empty()) {
+        if (is_digit(left.front()) && is_digit(right.front())) {
+            const std::string_view number = take_number(left);
+            const std::string_view other_number = take_number(right);
+            if (number != other_number) {
+                return number.size() == other_number.size() ? number < other_number
+                                                            : number.size() < other_number.size();
+            }
+        } else if (lower(left.front()) != lower(right.front())) {
+            return lower(left.front()) < lower(right.front());
+        } else {
+            left.remove_prefix(1);
+            right.remove_prefix(1);
+        }
     }
-    return right != other.end() && (left == one.end() || lower(*left) < lower(*right));
+    return left.empty() == right.empty() ? one < other : left.empty();
+}
+
+std::string file_part(const std::string& path, int folders) {
+    std::size_t start = path.size();
+    for (int separators = 0; start > 0; --start) {
+        separators += is_separator(path[start - 1]) ? 1 : 0;
+        if (separators > folders) {
+            break;
+        }
+    }
+    return path.substr(start);
+}
+
+std::vector<std::string> short_names(std::span<const std::string> paths) {
+    std::vector<std::string> names(paths.size());
+    std::vector<std::size_t> alike(paths.size());
+    std::iota(alike.begin(), alike.end(), std::size_t{0});
+    // One folder more at a time for those that are still alike, until they have no more.
+    for (int folders = 0; !alike.empty(); ++folders) {
+        std::map<std::string, std::vector<std::size_t>> groups;
+        for (const std::size_t i : alike) {
+            names[i] = file_part(paths[i], folders);
+            groups[names[i]].push_back(i);
+        }
+        alike.clear();
+        for (const auto& [name, group] : groups) {
+            const bool can_differ =
+                std::ranges::any_of(group, [&](std::size_t i) { return paths[i] != paths[group.front()]; });
+            if (can_differ) {
+                alike.insert(alike.end(), group.begin(), group.end());
+            }
+        }
+    }
+    return names;
 }
 
 } // namespace quadrelle

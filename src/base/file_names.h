@@ -2,8 +2,10 @@
 
 // Names of files and folders as texts; nothing here looks at a disk.
 
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quadrelle {
 
@@ -18,7 +20,14 @@ namespace quadrelle {
 // Returns where a path that was typed in a folder leads, with "." and ".." worked in.
 [[nodiscard]] std::string resolved_path(const std::string& folder, std::string_view typed);
 
-// Whether the one comes before the other in a list. The case of letters decides only where nothing else does.
+// Whether the one comes before the other in a list: numbers by their value, and the case of letters and zeros
+// in front of a number decide only where nothing else does.
 [[nodiscard]] bool is_listed_before(std::string_view one, std::string_view other);
+
+// Returns the file's name, with so many of the folders in front of it as far as there are any.
+[[nodiscard]] std::string file_part(const std::string& path, int folders = 0);
+// Returns what tells files apart beside each other: the name, and where several have the same one, folders
+// too.
+[[nodiscard]] std::vector<std::string> short_names(std::span<const std::string> paths);
 
 } // namespace quadrelle

@@ -110,7 +110,7 @@ struct Input_Event {
     Key_Chord chord = {};       // of a key press
     bool is_repeat = false;     // of a press: by a key that is held down
     std::string text = {};      // typed, UTF-8
-    Pointer_State pointer = {}; // of a motion, without a button, and of a button's press and release
+    Pointer_State pointer = {}; // of a motion and the wheel, without a button; of a button's press, release
     int button_number = 0;      // also of the buttons that a pointer state does not know
     int clicks = 0;             // of a press: 2 for that of a double click
     Movement moved = {};        // the pointer, since the last motion; or the wheel: up and to the right

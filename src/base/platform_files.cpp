@@ -76,6 +76,10 @@ Path_Kind path_kind(const std::string& name) {
     return SDL_GetPathInfo(name.c_str(), &info) ? kind_of(info.type) : Path_Kind::nothing;
 }
 
+bool make_folder(const std::string& name) {
+    return SDL_CreateDirectory(name.c_str());
+}
+
 std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder) {
     std::vector<Folder_Entry> entries;
     // The library cuts separators off the end, and of "/" nothing would be left.

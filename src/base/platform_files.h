@@ -50,6 +50,9 @@ struct Folder_Entry {
 // Returns what is in a folder, in no order, without "." and ".."; nothing when it cannot be read.
 [[nodiscard]] std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder);
 
+// Makes the folder, and those above it that are missing.
+[[nodiscard]] bool make_folder(const std::string& name);
+
 extern const char path_separator;
 [[nodiscard]] std::string current_directory();
 [[nodiscard]] bool change_directory(const std::string& name);

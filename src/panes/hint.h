@@ -72,6 +72,8 @@ static_assert(rows_follow_their_ids(place_table));
 struct Pointed_Pixel {
     Tile_Point position;
     Color color;
+
+    bool operator==(const Pointed_Pixel&) const = default;
 };
 
 using Pointed = std::variant<Command, Place, Pointed_Pixel>;

@@ -180,6 +180,7 @@ Input_Event motion(const SDL_MouseMotionEvent& event) {
 Input_Event wheel(const SDL_MouseWheelEvent& event) {
     Input_Event input{.kind = Input_Kind::wheel};
     input.moved = {event.x, event.y};
+    input.pointer = {event.mouse_x, event.mouse_y, Mouse_Button::none};
     return input;
 }
 

@@ -19,7 +19,7 @@ bool Tileset_Document::mark_changed() {
 }
 
 std::string Tileset_Document::title() const {
-    return file_name_ + (is_modified_ ? "*" : "");
+    return file_name_ + change_mark();
 }
 
 void Tileset_Document::record(Command kind, Tool tool, Work_State work) {

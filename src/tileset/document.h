@@ -39,7 +39,9 @@ public:
     // Whether it has a file of its own.
     [[nodiscard]] bool is_named() const { return is_named_; }
 
-    // Returns the file name, followed by "*" while modified.
+    // Returns "*" while modified, else nothing; what stands behind the name of the document.
+    [[nodiscard]] const char* change_mark() const { return is_modified_ ? "*" : ""; }
+    // Returns the file name with the mark.
     [[nodiscard]] std::string title() const;
 
     // The current tile, with what is selected on it and floats over it, becomes an entry of the history.

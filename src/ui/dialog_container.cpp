@@ -95,10 +95,7 @@ bool Dialog_Container::run() {
     result_ = {};
     rows_.begin();
     const std::string name = "dialog \"" + frame_.title() + "\"";
-    run_dialog({name, [this] { draw(); },
-                [this](const Input_Event& event) {
-                    return event.kind == Input_Kind::button_press ? press(event.pointer) : Loop_Step::go_on;
-                },
+    run_dialog({name, [this] { draw(); }, [this](const Input_Event& event) { return handle(event); },
                 [this] { return accept(); }});
     // Escape deliberately is no Cancel: the items stay as they are.
     if (result_.kind == Dialog_Event_Kind::cancel) {
@@ -114,6 +111,17 @@ bool Dialog_Container::run() {
 Loop_Step Dialog_Container::accept() {
     result_ = {Dialog_Event_Kind::accept};
     return Loop_Step::end;
+}
+
+Loop_Step Dialog_Container::handle(const Input_Event& event) {
+    if (event.kind == Input_Kind::button_press) {
+        return press(event.pointer);
+    }
+    if (event.kind == Input_Kind::wheel && event.moved.y != 0) {
+        rows_.notify({event.moved.y > 0 ? Dialog_Event_Kind::increase : Dialog_Event_Kind::decrease,
+                      rows_.stepped_at(event.pointer.point())});
+    }
+    return Loop_Step::go_on;
 }
 
 Loop_Step Dialog_Container::press(const Pointer_State& pointer) {

@@ -46,6 +46,7 @@ private:
     void load_file();
     void save_file();
     Loop_Step accept();
+    Loop_Step handle(const Input_Event& event);
     Loop_Step press(const Pointer_State& pointer);
 
     std::string data_file_;

@@ -36,6 +36,19 @@ Dialog_Event Dialog_Rows::item_at(Point point) {
     return answer;
 }
 
+int Dialog_Rows::stepped_at(Point point) const {
+    for (const Dialog_Row& row : rows_) {
+        for (const auto& item : row.items()) {
+            if (item->area.contains(point)) {
+                const int id = item->host == no_id ? item->id : item->host;
+                const Dialog_Item* const stepped = row.item(id);
+                return stepped != nullptr && stepped->has_steps() ? id : no_target;
+            }
+        }
+    }
+    return no_target;
+}
+
 Dialog_Item* Dialog_Rows::item(int id) const {
     for (const Dialog_Row& row : rows_) {
         if (Dialog_Item* const found = row.item(id)) {

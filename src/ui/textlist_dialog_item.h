@@ -21,6 +21,7 @@ public:
 
     [[nodiscard]] int value() const override { return index_.value(); }
     void set_value(int value) override;
+    [[nodiscard]] bool has_steps() const override { return true; }
     [[nodiscard]] const std::vector<std::string>& entries() const { return entries_; }
     // Makes the item as wide as the widest entry.
     void measure() override;

@@ -41,7 +41,7 @@ const File_Request& request_of(File_Dialog_Kind kind) {
 // Asks in the best way that works. One that failed is not tried again.
 class Working_Dialog {
 public:
-    File_Answer operator()(File_Dialog_Kind kind) {
+    File_Answer operator()(File_Dialog_Kind kind, const std::string& proposed) {
         while (way_ != Way::own) {
             File_Answer answer = ask_system_dialog(request_of(kind));
             if (answer.state != File_Answer_State::failed || system_has_file_dialogs) {
@@ -49,7 +49,7 @@ public:
             }
             way_ = way_ == Way::system && prefer_helper_dialog() ? Way::helper : Way::own;
         }
-        return ask_own_dialog(kind);
+        return ask_own_dialog(kind, proposed);
     }
 
 private:
@@ -65,8 +65,8 @@ File_Chooser& chooser() {
 
 } // namespace
 
-File_Answer ask_own_dialog(File_Dialog_Kind kind) {
-    return run_file_chooser(request_of(kind));
+File_Answer ask_own_dialog(File_Dialog_Kind kind, const std::string& proposed) {
+    return run_file_chooser(request_of(kind), proposed);
 }
 
 void set_file_chooser(File_Chooser new_chooser) {
@@ -74,7 +74,7 @@ void set_file_chooser(File_Chooser new_chooser) {
 }
 
 bool choose_file(File_Dialog_Kind kind, std::string& path) {
-    const File_Answer answer = chooser()(kind);
+    const File_Answer answer = chooser()(kind, path);
     show_backdrop();
     if (answer.state == File_Answer_State::failed) {
         dialogs->message("Note", "Unknown error occurred in file dialog.");

@@ -46,7 +46,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Shift and wheel in View in real size", "shows the tile larger or smaller"},
     {"Click on a tab",                       "goes to that tileset; arrows beside the tabs lead to hidden ones"},
     {"Click on a menu",                      "opens it; a click elsewhere, or any key, closes it"},
-    {"Click on a number in a dialog",        "lets you type it; the arrows beside it change it by one"},
+    {"Click on a number in a dialog",        "lets you type it; the arrows beside it and the wheel change it by one"},
     {"Hold a button on a slot of Versions",  "shows that version in large"},
     {"Drag or wheel in Export as .bmp",      "shows the rest of a picture that is larger than the view"},
 });

@@ -10,8 +10,11 @@
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
 #include "ui/modal_dialog.h"
+#include "ui/name_prompt.h"
 #include "ui/shown_text.h"
+#include "ui/text_button.h"
 #include "ui/text_field.h"
+#include "views/file_choice.h"
 #include "views/file_list.h"
 
 #include <algorithm>
@@ -30,6 +33,7 @@ constexpr int gap = 7;
 constexpr int list_height = 15 * line + 2;
 constexpr int label_width = 60;
 constexpr int name_height = 29;
+constexpr int new_folder_width = 120;
 constexpr std::size_t longest_name = 4000;
 constexpr int text_drop = 3;
 constexpr int wheel_rows = 3;
@@ -48,19 +52,22 @@ struct Layout {
           note{path.x, list.bottom() + gap, path.width, line}, label{path.x, note.bottom() + gap, label_width,
                                                                      name_height},
           field{label.right(), label.y, frame.right() - gap - label.right(), name_height},
-          buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, 27} {}
+          buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, text_button_height},
+          new_folder{frame.x + (frame.width - new_folder_width) / 2, buttons.y, new_folder_width,
+                     text_button_height} {}
 
-    Rectangle path, list, note, label, field, buttons;
+    Rectangle path, list, note, label, field, buttons, new_folder;
 };
 
 class Own_Chooser {
 public:
     explicit Own_Chooser(const File_Request& request);
-    File_Answer run();
+    File_Answer run(const std::string& proposed);
 
 private:
     enum class Part { list, name };
 
+    [[nodiscard]] bool open_start(const std::string& proposed);
     void draw() const;
     Loop_Step handle(const Input_Event& event);
     void handle_key(const Input_Event& event);
@@ -76,8 +83,7 @@ private:
     Loop_Step open_selected();
     Loop_Step accept_name();
     Loop_Step choose(const std::string& path);
-    [[nodiscard]] bool is_allowed(const std::string& path);
-    [[nodiscard]] std::string final_path(const std::string& path) const;
+    void make_folder_here();
 
     File_Request request_;
     Folder_Listing listing_;
@@ -106,8 +112,21 @@ Own_Chooser::Own_Chooser(const File_Request& request)
     cancel_.set_position({layout_.buttons.right() - cancel_.area.width, layout_.buttons.y});
 }
 
-File_Answer Own_Chooser::run() {
-    if (!listing_.open_nearest(last_folder())) {
+// What is proposed is selected: what is typed takes its place.
+bool Own_Chooser::open_start(const std::string& proposed) {
+    const std::string folder = folder_part(proposed);
+    if (request_.direction == File_Direction::save && !proposed.empty()) {
+        name_.set_text(final_path(request_, proposed.substr(folder.size())));
+        name_.select_all();
+        if (!folder.empty() && listing_.open(parent_folder(proposed))) {
+            return true;
+        }
+    }
+    return listing_.open_nearest(last_folder());
+}
+
+File_Answer Own_Chooser::run(const std::string& proposed) {
+    if (!open_start(proposed)) {
         return {File_Answer_State::failed, {}};
     }
     const Text_Input typing;
@@ -128,6 +147,9 @@ void Own_Chooser::draw() const {
     screen->draw_text(font, {layout_.label.x, layout_.label.y + text_drop}, "Name:");
     name_.draw(focus_ == Part::name ? Focus::yes : Focus::no);
     ok_.draw();
+    if (request_.direction == File_Direction::save) {
+        draw_button(layout_.new_folder, font, "New folder", text_drop);
+    }
     cancel_.draw();
 }
 
@@ -212,6 +234,9 @@ Loop_Step Own_Chooser::press(const Input_Event& event) {
     if (ok_.area.contains(point)) {
         return accept();
     }
+    if (request_.direction == File_Direction::save && layout_.new_folder.contains(point)) {
+        make_folder_here();
+    }
     return cancel_.area.contains(point) ? Loop_Step::end : Loop_Step::go_on;
 }
 
@@ -279,20 +304,12 @@ Loop_Step Own_Chooser::accept_name() {
     return choose(path);
 }
 
-// A name typed without its extension means the file that has it.
-std::string Own_Chooser::final_path(const std::string& path) const {
-    if (request_.direction == File_Direction::save) {
-        return std::string_view(request_.forced_extension).empty()
-                   ? path
-                   : with_extension(path, request_.forced_extension);
-    }
-    const bool is_there = std::string_view(request_.pattern) == "*" || path_kind(path) != Path_Kind::nothing;
-    return is_there ? path : path + "." + request_.pattern;
-}
-
 Loop_Step Own_Chooser::choose(const std::string& path) {
-    const std::string chosen = final_path(path);
-    if (!is_allowed(chosen)) {
+    const std::string chosen = final_path(request_, path);
+    note_ = fault_of_choice(request_, chosen);
+    const bool replaces =
+        request_.direction == File_Direction::save && path_kind(chosen) != Path_Kind::nothing;
+    if (!note_.empty() || (replaces && !dialogs->ask(request_.title, "Save over existing file?"))) {
         return Loop_Step::go_on;
     }
     last_folder() = parent_folder(chosen);
@@ -300,27 +317,27 @@ Loop_Step Own_Chooser::choose(const std::string& path) {
     return Loop_Step::end;
 }
 
-bool Own_Chooser::is_allowed(const std::string& path) {
-    const Path_Kind kind = path_kind(path);
-    if (request_.direction == File_Direction::open) {
-        note_ = kind == Path_Kind::file ? "" : "There is no such file.";
-        return note_.empty();
+// Enters the folder that was made, so that what is saved next goes there.
+void Own_Chooser::make_folder_here() {
+    const std::string folder = listing_.folder();
+    const std::optional<std::string> name = ask_name("New folder", "");
+    if (!name || name->empty()) {
+        return;
     }
-    if (path_kind(parent_folder(path)) != Path_Kind::folder) {
-        note_ = "There is no such folder.";
-        return false;
+    const std::string path = resolved_path(folder, *name);
+    if (path_kind(path) != Path_Kind::nothing) {
+        note_ = "There is a file or folder of this name already.";
+    } else if (!make_folder(path)) {
+        note_ = "The folder cannot be made.";
+    } else {
+        enter(path);
     }
-    if (kind == Path_Kind::folder || kind == Path_Kind::other) {
-        note_ = "A folder or a device has this name.";
-        return false;
-    }
-    return kind == Path_Kind::nothing || dialogs->ask(request_.title, "Save over existing file?");
 }
 
 } // namespace
 
-File_Answer run_file_chooser(const File_Request& request) {
-    return Own_Chooser(request).run();
+File_Answer run_file_chooser(const File_Request& request, const std::string& proposed) {
+    return Own_Chooser(request).run(proposed);
 }
 
 } // namespace quadrelle

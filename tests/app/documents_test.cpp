@@ -325,6 +325,17 @@ TEST_F(Documents_Test, close_asks_when_something_is_unsaved) {
     EXPECT_EQ(window_title(), product + "untitled2.qdl");
 }
 
+TEST_F(Documents_Test, tab_shows_the_name_and_the_hint_the_whole_path) {
+    save_as("tiles.qdl");
+    const std::string folder_name = folder().native_path().filename().string();
+    std::filesystem::create_directory(folder().native_path() / "other");
+    documents().new_document({8, 8});
+    const std::string second = save_as("other/tiles.qdl");
+    play(script().motion(tab_after({folder_name + "/tiles.qdl"})));
+    EXPECT_EQ(editor->panes().hint_lines().lines().at(1), second);
+    EXPECT_EQ(window_title(), product + second);
+}
+
 TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
     constexpr Point left_arrow{255, 53};
     constexpr Point right_arrow{768, 53};

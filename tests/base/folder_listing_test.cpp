@@ -43,6 +43,26 @@ TEST(File_Names, lead_from_folder_to_folder) {
     }
 }
 
+TEST(File_Names, tell_files_apart_by_their_folders) {
+    const std::vector<std::string> paths{"untitled0.qdl", "/a/b/one.qdl", "/a/c/one.qdl",      "/x/two.qdl",
+                                         "/y/b/one.qdl",  "/x/two.qdl",   "C:/tiles/three.qdl"};
+    EXPECT_EQ(short_names(paths),
+              (std::vector<std::string>{"untitled0.qdl", "a/b/one.qdl", "c/one.qdl", "two.qdl", "y/b/one.qdl",
+                                        "two.qdl", "three.qdl"}));
+}
+
+TEST(File_Names, are_listed_by_letters_and_numbers) {
+    const std::vector<std::string> listed{
+        "1.qdl",     "02.qdl",      "2.qdl",        "2a.qdl",    "10.qdl",    "tile.qdl",
+        "tile0.qdl", "tile1-9.qdl", "tile1-10.qdl", "Tile2.qdl", "tile2.qdl", "tile12345678901234567890.qdl",
+        "tiles"};
+    for (std::size_t i = 0; i < listed.size(); ++i) {
+        for (std::size_t j = 0; j < listed.size(); ++j) {
+            EXPECT_EQ(is_listed_before(listed[i], listed[j]), i < j) << listed[i] << " " << listed[j];
+        }
+    }
+}
+
 TEST(Folder_Listing, shows_folders_first_and_files_of_its_kind) {
     const Temporary_Folder temporary;
     const std::string bad = "bad\xff\xfe.qdl";

@@ -154,9 +154,11 @@ Script& Script::drag(const std::vector<Point>& points, Mouse_Button button) {
     return release(points.back(), button);
 }
 
-Script& Script::wheel(float amount) {
+Script& Script::wheel(float amount, Point at) {
     SDL_Event event = event_of(SDL_EVENT_MOUSE_WHEEL);
     event.wheel.y = amount;
+    event.wheel.mouse_x = static_cast<float>(at.x);
+    event.wheel.mouse_y = static_cast<float>(at.y);
     return add_event(event);
 }
 

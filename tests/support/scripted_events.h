@@ -46,7 +46,7 @@ public:
     Script& second_press(Point position);
     // Pressed at the first point, moved to each of the others, and released at the last one.
     Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
-    Script& wheel(float amount);
+    Script& wheel(float amount, Point at = {});
     Script& pointer_leaves();
     Script& quit();
     // No event for that time, and then a wait that ends without one: only for loops that do something

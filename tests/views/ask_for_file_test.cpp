@@ -28,8 +28,9 @@ protected:
     // The path that comes out, if any.
     static std::optional<std::string> choose(File_Dialog_Kind kind, const File_Answer& answer) {
         std::string path = "before";
-        set_file_chooser([&](File_Dialog_Kind asked) {
+        set_file_chooser([&](File_Dialog_Kind asked, const std::string& proposed) {
             EXPECT_EQ(asked, kind);
+            EXPECT_EQ(proposed, "before");
             return answer;
         });
         if (choose_file(kind, path)) {

@@ -30,8 +30,8 @@ protected:
     }
 
     // Plays the script; the path that is chosen, or how it ended otherwise.
-    std::string ask(File_Dialog_Kind kind) {
-        const File_Answer answer = ask_own_dialog(kind);
+    std::string ask(File_Dialog_Kind kind, const std::string& proposed = {}) {
+        const File_Answer answer = ask_own_dialog(kind, proposed);
         EXPECT_TRUE(script().is_played());
         return answer.state == File_Answer_State::chosen      ? answer.path
                : answer.state == File_Answer_State::cancelled ? "cancelled"
@@ -94,6 +94,27 @@ TEST_F(File_Chooser_Test, asks_before_a_file_is_replaced) {
     press(std::vector<Keycode>(20, key::delete_key));
     text("new").key(key::enter);
     EXPECT_EQ(ask(File_Dialog_Kind::export_bitmap), in_art("new.bmp"));
+}
+
+TEST_F(File_Chooser_Test, proposes_a_name_and_makes_folders) {
+    make_folder("other");
+    script().key(key::enter);
+    EXPECT_EQ(ask(File_Dialog_Kind::export_bitmap, folder().path("other/tiles.qdl")),
+              folder().path("other/tiles.bmp"));
+    // The name is selected and can be changed as well; without a folder of its own it stays in the last one.
+    press({key::end, key::left, key::left, key::left, key::left}).text("2").key(key::enter);
+    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset, "tiles.qdl"), folder().path("other/tiles2.qdl"));
+
+    // One that is there already is not made, and the dialog stays where it is.
+    const Point new_folder{616, 580};
+    text("deep").click(new_folder).text("..").key(key::enter);
+    script().click(new_folder).text("given up").key(key::escape).click(new_folder).key(key::enter);
+    script().click(new_folder).text("one/two").key(key::enter).key(key::enter);
+    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset, "tiles.qdl"), folder().path("other/one/two/deep.qdl"));
+    EXPECT_FALSE(std::filesystem::exists(folder().native_path() / "other" / "given up"));
+    // There is nothing to make where something is loaded.
+    script().click(new_folder).key(key::escape);
+    EXPECT_EQ(ask(File_Dialog_Kind::load_tileset, "tiles.qdl"), "cancelled");
 }
 
 TEST_F(File_Chooser_Test, walks_through_folders_by_keyboard_mouse_and_name) {

@@ -144,7 +144,7 @@ void Program_Test::load_empty_set(Size size) {
 
 void Program_Test::answer_files(File_Answer_State state, const std::string& path) {
     asked_file_.reset();
-    set_file_chooser([this, state, path](File_Dialog_Kind kind) {
+    set_file_chooser([this, state, path](File_Dialog_Kind kind, const std::string& /*proposed*/) {
         asked_file_ = kind;
         return File_Answer{state, path};
     });
