@@ -211,8 +211,20 @@ Outcome Selection_Desk::transform(Command command) {
         const Outcome changed = change([&] { outcome = work.transform_paste(command); });
         return outcome == Outcome::unknown ? outcome : changed;
     }
-    return work.has_selection() ? transform_selected(*canvas_.tile(), work.mutable_selection(), command)
-                                : Outcome::unknown;
+    if (!work.has_selection()) {
+        return Outcome::unknown;
+    }
+    const Outcome outcome = transform_selected(*canvas_.tile(), work.mutable_selection(), command);
+    return outcome == Outcome::refused ? change([this, command] { lift_and_transform(command); }) : outcome;
+}
+
+// Turned where it is, what is not as wide as high would not fit its place.
+void Selection_Desk::lift_and_transform(Command command) {
+    canvas_.work_area().lift_selection(*canvas_.tile());
+    static_cast<void>(canvas_.work_area().transform_paste(command));
+    if (!toolbox_.state().shows_floating_paste()) {
+        toolbox_.select(Command::work_selection);
+    }
 }
 
 void Selection_Desk::plot_paste() {
@@ -228,8 +240,8 @@ Outcome Selection_Desk::plot() {
     return change([this] { plot_paste(); });
 }
 
-// Where no selection takes its place, and its pixels are not in the tile already: one that persists was
-// plotted when its tool was left, and what was drawn over it since is to stay.
+// Where no selection takes its place. One that persists was plotted when its tool was left, and it is not
+// wanted on other tiles that come into view meanwhile.
 bool Selection_Desk::is_to_settle() const {
     const Work_Area& work = canvas_.work_area();
     const bool was_left = toolbox_.state().options.selection_mode == Selection_Mode::persistent &&
@@ -253,7 +265,7 @@ void Selection_Desk::settle_before_leaving() {
     }
 }
 
-// What goes on floating may be a part of the tile already.
+// What goes on floating may look as if it were a part of the tile already.
 bool Selection_Desk::has_to_settle() const {
     if (!settles_before_leaving() || canvas_.tile() == nullptr) {
         return false;
@@ -262,7 +274,7 @@ bool Selection_Desk::has_to_settle() const {
     Drawing_Target target(settled);
     canvas_.work_area().paste()->plot(target);
     return toolbox_.state().options.selection_mode == Selection_Mode::standard ||
-           !settled.same_pixels(*canvas_.tile());
+           (!canvas_.work_area().is_plotted() && !settled.same_pixels(*canvas_.tile()));
 }
 
 // Wherever a selection lies.

@@ -63,7 +63,7 @@ public:
     // nothing floats in view.
     bool nudge(int dx, int dy);
     // Turns, mirrors, scrolls or softens what floats, which is moved instead of scrolled, or what is
-    // selected. All else is unknown.
+    // selected, which floats from then on if it cannot be turned in its place. All else is unknown.
     Outcome transform(Command command);
     // Draws what floats into the tile. Refused when that changed nothing.
     Outcome plot();
@@ -81,6 +81,7 @@ private:
     void fill_selected(Color color);
     void fill_paste(Color color);
     void clear_selected();
+    void lift_and_transform(Command command);
     [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
     void plot_paste();
     [[nodiscard]] bool is_to_settle() const;

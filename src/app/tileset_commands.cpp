@@ -85,6 +85,7 @@ Outcome arrange_select(Editor_Parts& editor) {
     if (has_swapped) {
         // Another picture came into view, though maybe in the same tile.
         editor.canvas.save_history();
+        editor.canvas.work_area().leave_tile();
         document.history().reset(document.tileset());
         editor.documents.mark_changed();
     }

@@ -46,6 +46,7 @@ void Canvas_View::set_tile(Tile* tile) {
     tile_ = tile;
     if (is_another) {
         save_history();
+        work_area_.leave_tile();
     }
     if (tile_ != nullptr && work_area_.selection().size() != tile_->size()) {
         work_area_.resize(tile_->size());
@@ -127,11 +128,7 @@ void Canvas_View::shift_pixels(Seam seam, int shift) {
     const Tile_Point offset = seam == Seam::horizontal ? Tile_Point{shift, 0} : Tile_Point{0, shift};
     scroll_wrapped(*tile_, offset);
     scroll_wrapped(*history_, offset);
-    work_area_.mutable_selection().change([&](Tile& mask) { scroll_wrapped(mask, offset); });
-    if (work_area_.paste()) {
-        const Tile_Point position = work_area_.paste()->position;
-        work_area_.move_paste_to({position.x + offset.x, position.y + offset.y});
-    }
+    work_area_.scroll(offset);
 }
 
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
@@ -226,6 +223,13 @@ Tile_Point Canvas_View::tool_point(Point position, const Tool_State& tools,
     return tile_point({position.x - offset.x, position.y - offset.y});
 }
 
+Tile_Point Canvas_View::cell_at(Point position) const {
+    const auto rounded_down = [this](int distance) {
+        return distance / pixel_size_ - (distance % pixel_size_ < 0 ? 1 : 0);
+    };
+    return {rounded_down(position.x - origin_.x), rounded_down(position.y - origin_.y)};
+}
+
 Point Canvas_View::in_viewport(Tile_Point corner) const {
     return {origin_.x - window_layout::canvas.x + corner.x * pixel_size_,
             origin_.y - window_layout::canvas.y + corner.y * pixel_size_};
@@ -256,7 +260,7 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
         feedback.outline = is_on_cells ? in_viewport(corner) : centred_on_pointer;
     }
     const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
-    if (stroke != nullptr && stroke->snaps_to_corners) {
+    if (stroke != nullptr && stroke->points == Stroke_Points::corners) {
         feedback.taken_corner = in_viewport(corner_point(hover.position));
     }
     return feedback;

@@ -99,6 +99,8 @@ public:
     [[nodiscard]] Tile_Point tile_point(Point position) const {
         return {tile_column(position.x), tile_row(position.y)};
     }
+    // The same, but just left of and above the tile come its column -1 and row -1.
+    [[nodiscard]] Tile_Point cell_at(Point position) const;
     // The pixel that the tool in use acts on when the pointer is there: a brush lies around the pointer.
     [[nodiscard]] Tile_Point tool_point(Point position, const Tool_State& tools,
                                         const Canvas_Settings& settings) const;

@@ -93,8 +93,12 @@ void Stroke::draw(Tile_Point to, Segment_Start start, const Stroke_Moment& momen
 }
 
 Tile_Point Stroke::point_of(const Pointer_State& pointer) const {
-    return row_.snaps_to_corners ? canvas_.corner_point(pointer.point())
-                                 : canvas_.tool_point(pointer.point(), tools_.state, tools_.settings);
+    switch (row_.points) {
+    case Stroke_Points::corners: return canvas_.corner_point(pointer.point());
+    case Stroke_Points::cells: return canvas_.cell_at(pointer.point());
+    case Stroke_Points::pixels: break;
+    }
+    return canvas_.tool_point(pointer.point(), tools_.state, tools_.settings);
 }
 
 Stroke_Segment Stroke::segment(Tile_Point from, Tile_Point to, Segment_Start start,

@@ -108,32 +108,34 @@ Stroke_Findings draw_figure(Drawing_Target& target, const Stroke_Segment& segmen
 constexpr bool keeps_start = true;
 constexpr bool while_moving = true;
 constexpr bool keeps_cursor = true;
-constexpr bool corners = true;
+constexpr auto pixels = Stroke_Points::pixels;
+constexpr auto corners = Stroke_Points::corners;
+constexpr auto cells = Stroke_Points::cells;
 constexpr bool _ = false;
 
 // clang-format off
 constexpr std::array stroke_table = std::to_array<Stroke_Row>({
-    {Canvas_Action::line,                     keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::rectangle_outline,        keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::rectangle_filled,         keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::rectangle_filled_outline, keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::ellipse_outline,          keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::ellipse_filled,           keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::ellipse_filled_outline,   keeps_start, while_moving, _,            _,       draw_figure},
-    {Canvas_Action::stamp_brush,              _,           while_moving, _,            _,       stamp},
-    {Canvas_Action::pen,                      _,           while_moving, _,            _,       draw_pen},
-    {Canvas_Action::colorize_pen,             _,           while_moving, _,            _,       colorize},
-    {Canvas_Action::lightness_pen,            _,           while_moving, _,            _,       change_lightness, nullptr, is_lightness_step_due},
-    {Canvas_Action::dropper,                  _,           while_moving, keeps_cursor, _,       pick_for_button},
-    {Canvas_Action::flood_fill,               _,           _,            keeps_cursor, _,       fill},
-    {Canvas_Action::smudge_brush,             _,           while_moving, _,            _,       smudge_along},
+    {Canvas_Action::line,                     keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::rectangle_outline,        keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::rectangle_filled,         keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::rectangle_filled_outline, keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::ellipse_outline,          keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::ellipse_filled,           keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::ellipse_filled_outline,   keeps_start, while_moving, _,            pixels,  draw_figure},
+    {Canvas_Action::stamp_brush,              _,           while_moving, _,            pixels,  stamp},
+    {Canvas_Action::pen,                      _,           while_moving, _,            pixels,  draw_pen},
+    {Canvas_Action::colorize_pen,             _,           while_moving, _,            pixels,  colorize},
+    {Canvas_Action::lightness_pen,            _,           while_moving, _,            pixels,  change_lightness, nullptr, is_lightness_step_due},
+    {Canvas_Action::dropper,                  _,           while_moving, keeps_cursor, pixels,  pick_for_button},
+    {Canvas_Action::flood_fill,               _,           _,            keeps_cursor, pixels,  fill},
+    {Canvas_Action::smudge_brush,             _,           while_moving, _,            pixels,  smudge_along},
     {Canvas_Action::rectangle_selector,       keeps_start, while_moving, _,            corners, mark_rectangle, finish_area},
-    {Canvas_Action::circle_selector,          keeps_start, while_moving, _,            _,       mark_circle, finish_area},
-    {Canvas_Action::brush_selector,           _,           while_moving, _,            _,       mark_with_brush, finish_marking},
-    {Canvas_Action::wand_selector,            _,           _,            keeps_cursor, _,       mark_with_wand, finish_marking},
-    {Canvas_Action::work_selection,           keeps_start, while_moving, keeps_cursor, _,       move_paste, finish_moving},
-    {Canvas_Action::free_rotate,              keeps_start, while_moving, keeps_cursor, _,       rotate},
-    {Canvas_Action::scroll,                   keeps_start, while_moving, keeps_cursor, _,       scroll},
+    {Canvas_Action::circle_selector,          keeps_start, while_moving, _,            pixels,  mark_circle, finish_area},
+    {Canvas_Action::brush_selector,           _,           while_moving, _,            pixels,  mark_with_brush, finish_marking},
+    {Canvas_Action::wand_selector,            _,           _,            keeps_cursor, pixels,  mark_with_wand, finish_marking},
+    {Canvas_Action::work_selection,           keeps_start, while_moving, keeps_cursor, cells,   move_paste, finish_moving},
+    {Canvas_Action::free_rotate,              keeps_start, while_moving, keeps_cursor, cells,   rotate},
+    {Canvas_Action::scroll,                   keeps_start, while_moving, keeps_cursor, cells,   scroll},
 });
 // clang-format on
 

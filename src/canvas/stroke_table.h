@@ -14,6 +14,13 @@ using Draw_Segment = Stroke_Findings (*)(Drawing_Target& target, const Stroke_Se
 using Finish_Stroke = void (*)(Drawing_Target& target, const Stroke_Segment& segment);
 using Is_Due = bool (*)(const Tool_State& tools, Mouse_Button button, std::int64_t time);
 
+// What the points of a stroke are.
+enum class Stroke_Points {
+    pixels,  // that the tool acts on; just left of and above the tile they are its first ones
+    corners, // of cells, the nearest ones
+    cells,   // everywhere, so that what is dragged follows the pointer there too
+};
+
 // How the strokes differ.
 struct Stroke_Row {
     Canvas_Action action;
@@ -21,7 +28,7 @@ struct Stroke_Row {
     bool keeps_start;
     bool draws_while_moving; // or at the press only
     bool keeps_cursor;       // the system's cursor shows during the stroke
-    bool snaps_to_corners;   // its points are corners of cells, not pixels
+    Stroke_Points points;
     Draw_Segment draw_segment;
     // When the button is released, with the segment from the press to there; null for nothing more to do.
     Finish_Stroke finish = nullptr;

@@ -1,6 +1,7 @@
 #include "selection/work_area.h"
 
 #include "selection/copy_buffer.h"
+#include "selection/scroll.h"
 #include "selection/transform_table.h"
 
 #include <utility>
@@ -22,18 +23,20 @@ void Work_Area::resize(Size tile) {
 
 void Work_Area::float_paste(const Floating_Paste& paste, Paste_Source source) {
     deselect();
-    paste_source_ = source;
     change_paste(paste);
+    paste_source_ = source;
 }
 
 void Work_Area::change_paste(const Floating_Paste& paste) {
+    if (is_plotted() && !(*paste_ == paste)) {
+        paste_source_ = Paste_Source::copy;
+    }
     paste_ = paste;
     update_paste_area();
 }
 
 void Work_Area::move_paste_to(Tile_Point position) {
-    paste_->position = position;
-    update_paste_area();
+    change_paste({paste_->picture, position});
 }
 
 void Work_Area::drop_paste() {
@@ -42,21 +45,37 @@ void Work_Area::drop_paste() {
 }
 
 void Work_Area::plot_paste(Drawing_Target& target, Selection_Mode mode) {
-    paste_->plot(target);
-    paste_source_ = Paste_Source::copy;
+    if (!is_plotted()) {
+        paste_->plot(target);
+    }
+    paste_source_ = Paste_Source::plotted;
     if (mode == Selection_Mode::standard) {
         drop_paste();
     }
 }
 
 void Work_Area::lift_selection(Tile& tile) {
-    if (paste_) {
+    if (paste_ && !is_plotted()) {
         Drawing_Target target(tile);
         paste_->plot(target);
     }
     const Floating_Paste paste = lifted(tile, *selection_);
     clear_selected(tile, *selection_);
     float_paste(paste, Paste_Source::tile);
+}
+
+void Work_Area::leave_tile() {
+    if (is_plotted()) {
+        paste_source_ = Paste_Source::copy;
+    }
+}
+
+void Work_Area::scroll(Tile_Point offset) {
+    selection_->change([offset](Tile& mask) { scroll_wrapped(mask, offset); });
+    if (paste_) {
+        paste_->position = {paste_->position.x + offset.x, paste_->position.y + offset.y};
+        update_paste_area();
+    }
 }
 
 void Work_Area::update_paste_area() {
@@ -129,7 +148,7 @@ bool Work_Area::operator==(const Work_State& state) const {
                                 (!has_selection() || *selection_ == *state.selection);
     const bool same_floating =
         paste_.has_value() == (state.paste != nullptr) && (!paste_ || *paste_ == *state.paste);
-    return same_selection && same_floating && paste_source_ == state.paste_source;
+    return same_selection && same_floating && has_lifted() == (state.paste_source == Paste_Source::tile);
 }
 
 } // namespace quadrelle

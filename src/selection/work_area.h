@@ -17,8 +17,8 @@ namespace quadrelle {
 struct Placement;
 
 // Where what floats is from: a copy can be pasted once more, but what was lifted off the tile is nowhere else
-// until it is plotted.
-enum class Paste_Source { copy, tile };
+// until it is plotted. What was plotted is in the tile too, until it is moved or changed.
+enum class Paste_Source { copy, tile, plotted };
 
 // What a step of the history keeps of the work area; null for nothing selected, and nothing floating.
 struct Work_State {
@@ -52,15 +52,23 @@ public:
 
     // Drops the selection; one that is made later takes the place of what floats in view.
     void float_paste(const Floating_Paste& paste, Paste_Source source = Paste_Source::copy);
-    // The paste is there, and looks like that or lies there from now on.
+    // The paste is there, and looks like that or lies there from now on. It is to be plotted once more, if it
+    // did not before.
     void change_paste(const Floating_Paste& paste);
     void move_paste_to(Tile_Point position);
     void drop_paste();
-    // Draws the paste, which is there, into the target. Unless the mode lets it go, it floats on, as a copy
-    // of what is in the tile now.
+    // Draws the paste, which is there, into the target, where it was not plotted already. Unless the mode
+    // lets it go, it floats on.
     void plot_paste(Drawing_Target& target, Selection_Mode mode);
     // Returns whether something floats that was lifted off the tile and is not plotted yet.
     [[nodiscard]] bool has_lifted() const { return paste_source_ == Paste_Source::tile; }
+    // Returns whether what floats is a part of the tile already: plotted twice, what is translucent in it
+    // would get denser.
+    [[nodiscard]] bool is_plotted() const { return paste_source_ == Paste_Source::plotted; }
+    // To be called when another tile comes into view, on which nothing is plotted yet.
+    void leave_tile();
+    // The tile's pixels were scrolled by that much, and all goes with them.
+    void scroll(Tile_Point offset);
     // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
@@ -78,6 +86,7 @@ public:
     [[nodiscard]] Work_State state() const;
     // A selection of another tile size is dropped.
     void restore(const Work_State& state);
+    // Whether it was plotted already makes no difference.
     [[nodiscard]] bool operator==(const Work_State& state) const;
 
 private:

@@ -111,6 +111,84 @@ TEST_F(Selection_Test, arrow_keys_move_what_floats_and_else_scroll_the_tile) {
     EXPECT_EQ(tile_pixel(4, 5), red);
 }
 
+// Plotted twice in one place, what is translucent would get denser.
+TEST_F(Selection_Test, what_persists_is_plotted_again_when_it_was_moved_or_another_tile_came) {
+    make_set({24, 24}, 2, [](int, Point) { return black; });
+    tools().options.selection_mode = Selection_Mode::persistent;
+    execute(Command::work_selection);
+    Tile picture(1, 1);
+    picture.fill({255, 255, 255, 100});
+    work().float_paste({picture, {5, 5}});
+    const auto leave = [this] {
+        execute(Command::pen);
+        execute(Command::work_selection);
+    };
+    leave();
+    const Color once = tile_pixel(5, 5);
+    ASSERT_NE(once, black);
+    const std::size_t steps = document().history().entries().size();
+    leave();
+    execute(Command::plot_paste);
+    click({20, 20});
+    execute(Command::horizontal_seam_tool);
+    leave();
+    execute(Command::horizontal_seam_tool);
+    EXPECT_EQ(document().history().entries().size(), steps);
+    EXPECT_EQ(tile_pixel(5, 5), once);
+    play(script().key(key::right));
+    leave();
+    EXPECT_EQ(tile_pixel(6, 5), once);
+    execute(Command::next_tile);
+    leave();
+    EXPECT_EQ(tile_pixel(6, 5), once);
+    play(script().key(key::right).key(key::left));
+    leave();
+    EXPECT_NE(tile_pixel(6, 5), once);
+}
+
+// In whole cells on both sides of the tile's edges.
+TEST_F(Selection_Test, a_drag_follows_the_pointer_beyond_the_left_and_the_top_edge) {
+    execute(Command::work_selection);
+    work().float_paste({Tile(6, 6), {2, 2}});
+    for (int step = 1; step < 6; ++step) {
+        script().press(cell(4, 4)).motion(cell(4 - step, 4 - step)).motion(cell(-step, -step));
+        play(script().release(cell(-step, -step)));
+        EXPECT_EQ(work().paste()->position, (Tile_Point{-2 - step, -2 - step}));
+        work().move_paste_to({2, 2});
+    }
+    // And back, by what hangs over.
+    work().move_paste_to({-3, -3});
+    drag({-1, -1}, {5, 3});
+    EXPECT_EQ(work().paste()->position, (Tile_Point{3, 1}));
+    work().drop_paste();
+    execute(Command::scroll);
+    tile().set_pixel(5, 5, red);
+    drag({1, 1}, {-2, -3});
+    EXPECT_EQ(tile_pixel(2, 1), red);
+}
+
+// In one step; turned in its place it would not fit there.
+TEST_F(Selection_Test, turning_what_is_selected_and_not_square_lifts_it) {
+    paint_noise(4);
+    const Tile_Picture before = tile_picture();
+    for (const Command command : {Command::rotate, Command::rotate_back}) {
+        select_rectangle({4, 6}, {10, 8});
+        const Color corner = tile_pixel(4, 6);
+        execute(command);
+        EXPECT_EQ(work().paste()->picture->size(), (Size{2, 6}));
+        EXPECT_EQ(work().paste()->position, (Tile_Point{6, 4}));
+        EXPECT_EQ(work().paste()->picture->get_pixel(command == Command::rotate ? 1 : 0,
+                                                     command == Command::rotate ? 0 : 5),
+                  corner);
+        EXPECT_TRUE(editor->canvas().shows_paste(tools()));
+        EXPECT_EQ(count(clear), 12);
+        execute(Command::undo);
+        EXPECT_EQ(tile_picture(), before);
+        EXPECT_EQ(work().selection().count(), 12);
+        execute(Command::deselect);
+    }
+}
+
 // As a step of that tile; where no other one comes, it floats on.
 TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_comes) {
     constexpr Point second_in_strip{4 + 24 + 12, 648};

@@ -70,12 +70,13 @@ inline Area area_of(Size size, const std::function<void(Drawing_Target&)>& draw)
 struct Work {
     Area area;
     Paste paste;
-    bool is_lifted = false; // off the tile, and not plotted yet
+    bool is_lifted = false;  // off the tile, and not plotted yet
+    bool is_plotted = false; // and neither moved nor changed since
 
     [[nodiscard]] Work scrolled(int dx, int dy) const {
         const auto mask = std::make_shared<Selection>(*area);
         mask->change([&](Tile& tile) { tile.copy_from(*testing::scrolled(Tile(tile), dx, dy)); });
-        return {mask, moved_paste(dx, dy), is_lifted};
+        return {mask, moved_paste(dx, dy), is_lifted, is_plotted};
     }
     [[nodiscard]] Paste moved_paste(int dx, int dy) const {
         return paste ? std::make_shared<Floating_Paste>(
@@ -173,7 +174,7 @@ public:
     // Steps of the same nudging are one.
     void nudge(Tile_Point step) {
         const State& last = set().states[set().position];
-        const auto move = [&] { work.paste = work.moved_paste(step.x, step.y); };
+        const auto move = [&] { move_paste(step.x, step.y); };
         if (last.nudge != 0 && last.nudge == last_nudge_ && last.tile == set().tile().number &&
             last.work == state().work && set().position > 0) {
             --set().position;
@@ -217,10 +218,11 @@ public:
     }
     void deselect() { work.area = std::make_shared<Selection>(size()); }
     void plot() {
-        if (work.paste) {
+        if (work.paste && !work.is_plotted) {
             draw([this](Drawing_Target& target) { work.paste->plot(target); });
         }
         work.is_lifted = false;
+        work.is_plotted = work.paste != nullptr;
         if (mode == Selection_Mode::standard) {
             drop_paste();
         }
@@ -228,6 +230,7 @@ public:
     void drop_paste() {
         work.paste.reset();
         work.is_lifted = false;
+        work.is_plotted = false;
     }
     // What was lifted drops wherever a selection lies; copies float on.
     void leave() {
@@ -265,8 +268,13 @@ public:
             fill_tile(testing::clear);
         }
     }
+    void move_paste(int dx, int dy) {
+        work.paste = work.moved_paste(dx, dy);
+        work.is_plotted = work.is_plotted && dx == 0 && dy == 0;
+    }
     // The middle stays, or nearly so.
     void change_paste(const Picture& picture) {
+        work.is_plotted = work.is_plotted && same(work.paste->picture, *picture);
         const Floating_Paste& before = *work.paste;
         work.paste = std::make_shared<Floating_Paste>(
             Floating_Paste{*picture,
@@ -290,6 +298,7 @@ public:
         tool = Tool::selection;
         work.paste = std::make_shared<Floating_Paste>(paste);
         work.is_lifted = false;
+        work.is_plotted = false;
     }
     // What floated before is plotted wherever it is.
     void lift() {
@@ -299,6 +308,7 @@ public:
         work.area = area;
         work.paste = lifted_area();
         work.is_lifted = true;
+        work.is_plotted = false;
         fill_tile(testing::clear);
         deselect();
     }
@@ -376,6 +386,7 @@ public:
         look();
         if (one != other) {
             history = picture();
+            work.is_plotted = false;
             start_history();
             set().is_modified = true;
         }
@@ -412,6 +423,7 @@ private:
     // Another tile is in view, or this one is another since it was seen last.
     void look() {
         history = seen_ == set().tile().number ? history : picture();
+        work.is_plotted = work.is_plotted && seen_ == set().tile().number;
         seen_ = set().tile().number;
     }
     [[nodiscard]] Set_Model::Numbered blank(Size size) {

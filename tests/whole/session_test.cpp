@@ -144,7 +144,7 @@ private:
                 model_.lift();
             }
             if (model_.shows_paste() && is_in_paste(from)) {
-                model_.work.paste = model_.work.moved_paste(to.x - from.x, to.y - from.y);
+                model_.move_paste(to.x - from.x, to.y - from.y);
             }
         });
     }
@@ -208,8 +208,7 @@ private:
     }
     void transform_paste(Command command, Tile_Point (*source)(Tile_Point to, Size size)) {
         if (command == Command::scroll_left || command == Command::scroll_up) {
-            model_.work.paste = command == Command::scroll_left ? model_.work.moved_paste(-1, 0)
-                                                                : model_.work.moved_paste(0, -1);
+            command == Command::scroll_left ? model_.move_paste(-1, 0) : model_.move_paste(0, -1);
         } else {
             const bool turns = command == Command::rotate || command == Command::rotate_back;
             model_.transform_paste(turns, source);
