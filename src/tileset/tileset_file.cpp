@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -70,21 +71,24 @@ std::int64_t save_tileset(const Tileset& tileset, const std::string& path) {
     Atomic_File file(path);
     const auto tile_bytes = static_cast<std::size_t>(tileset.tile_bytes());
     const auto all_bytes = static_cast<std::size_t>(tileset_header_size + tileset.total_bytes());
-    std::vector<std::uint8_t> block(
-        std::min(all_bytes, std::max(block_size, tileset_header_size + tile_bytes)));
+    const std::size_t block_bytes =
+        std::min(all_bytes, std::max(block_size, tileset_header_size + tile_bytes));
+    // Not set to zero first, which would take as long as the pixels do.
+    const auto memory = std::make_unique_for_overwrite<std::uint8_t[]>(block_bytes);
+    const std::span block(memory.get(), block_bytes);
     std::ranges::copy(packed(tileset), block.begin());
     std::size_t used = tileset_header_size;
     for (int i = 0; i < tileset.count(); ++i) {
         if (used + tile_bytes > block.size()) {
-            if (!file.write(std::span(block).first(used))) {
+            if (!file.write(block.first(used))) {
                 return -1;
             }
             used = 0;
         }
-        tileset.tile_at(i).write_pixels(std::span(block).subspan(used, tile_bytes));
+        tileset.tile_at(i).write_pixels(block.subspan(used, tile_bytes));
         used += tile_bytes;
     }
-    file.write(std::span(block).first(used));
+    file.write(block.first(used));
     return file.commit() ? tileset_header_size + tileset.total_bytes() : -1;
 }
 
