@@ -14,9 +14,13 @@ constexpr int inset = 4;
 constexpr int gap_in_pair = 8;
 constexpr int column_gap = 8;
 constexpr int row_gap = 1;
+// What the rest of a dialog takes of the window's height, and a little more.
+constexpr int height_around = 80;
 
-int row_step(Font font) {
-    return line_height(font) + row_gap;
+// Rows stand closer where they would not fit into the window otherwise.
+int fitting_row_step(Font font, int rows) {
+    const int room = (screen->size().height - height_around) / std::max(rows, 1);
+    return std::min(line_height(font) + row_gap, room);
 }
 
 } // namespace
@@ -28,7 +32,8 @@ Pair_List::Pair_List(std::vector<Text_Pair> pairs, int columns, Font item_font)
     for (std::size_t first = 0; first < pairs_.size(); first += rows) {
         add_column(first, std::min(first + rows, pairs_.size()));
     }
-    area.height = static_cast<int>(rows) * row_step(font);
+    row_step_ = fitting_row_step(font, static_cast<int>(rows));
+    area.height = static_cast<int>(rows) * row_step_;
 }
 
 void Pair_List::add_column(std::size_t first_pair, std::size_t end) {
@@ -55,16 +60,17 @@ void Pair_List::draw() const {
 
 void Pair_List::draw_column(const Column& column) const {
     const int first_width = column.second_x - gap_in_pair / 2 - column.x;
+    const int height = row_step_ - row_gap;
+    const int rise = (line_height(font) - height) / 2;
     int y = area.y;
     for (std::size_t i = column.first_pair; i < column.end; ++i) {
         const int x = area.x + column.x;
-        const Rectangle second{x + first_width + 1, y, column.width - first_width - 1,
-                               row_step(font) - row_gap};
+        const Rectangle second{x + first_width + 1, y, column.width - first_width - 1, height};
         screen->fill_rect({x, y, first_width, second.height}, standard_color(Standard_Color::list_passive));
         screen->fill_rect(second, standard_color(Standard_Color::pane_frame));
-        screen->draw_text(font, {x + inset, y}, pairs_[i].first);
-        screen->draw_text(font, {area.x + column.second_x + inset, y}, pairs_[i].second);
-        y += row_step(font);
+        screen->draw_text(font, {x + inset, y - rise}, pairs_[i].first);
+        screen->draw_text(font, {area.x + column.second_x + inset, y - rise}, pairs_[i].second);
+        y += row_step_;
     }
 }
 

@@ -35,6 +35,7 @@ private:
 
     std::vector<Text_Pair> pairs_;
     std::vector<Column> columns_;
+    int row_step_ = 0;
 };
 
 } // namespace quadrelle
