@@ -55,6 +55,10 @@ Outcome paste(Editor_Parts& editor) {
     return editor.desk.paste();
 }
 
+Outcome paste_copy(Editor_Parts& editor) {
+    return editor.canvas.tile() == nullptr ? Outcome::refused : editor.desk.paste();
+}
+
 Outcome clone(Editor_Parts& editor) {
     return editor.desk.clone(options->choice<Clone_Style>(Option::clone_style));
 }

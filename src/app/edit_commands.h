@@ -18,6 +18,8 @@ Outcome view_undo_history(Editor_Parts& editor);
 Outcome copy(Editor_Parts& editor);
 Outcome cut(Editor_Parts& editor);
 Outcome paste(Editor_Parts& editor);
+// Floats the current copy, whatever other programs have put on the clipboard since.
+Outcome paste_copy(Editor_Parts& editor);
 Outcome clone(Editor_Parts& editor);
 Outcome plot_paste(Editor_Parts& editor);
 

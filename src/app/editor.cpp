@@ -102,6 +102,7 @@ void Editor::handle(const Input_Event& event) {
         break;
     case Input_Kind::button_press:
         parts_->pointer = event.pointer;
+        parts_->clicks = event.clicks;
         execute_if_any(press_mouse(*parts_));
         break;
     case Input_Kind::pointer_left: parts_->pointer = pointer_nowhere; break;

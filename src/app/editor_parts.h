@@ -29,6 +29,7 @@ struct Editor_Parts {
 
     Redraw redraw;
     Pointer_State pointer = pointer_nowhere;
+    int clicks = 0; // of the press that is answered: 2 for that of a double click
     bool is_control_held = false;
     bool is_quit_requested = false;
     Size shown_tile_size;

@@ -1,5 +1,6 @@
 #include "app/mouse_press.h"
 
+#include "app/edit_commands.h"
 #include "app/editor_parts.h"
 #include "app/hover.h"
 #include "app/tool_commands.h"
@@ -37,12 +38,22 @@ void draw_on_canvas(Editor_Parts& editor) {
     }
 }
 
+void answer_double_click(Editor_Parts& editor, Double_Click twice) {
+    if (twice == Double_Click::paste_copy) {
+        editor.recorder.step([&] {
+            return edit_commands::paste_copy(editor) == Outcome::done ? Command::paste : Command::none;
+        });
+    }
+}
+
 Command press_beside_canvas(Editor_Parts& editor) {
     if (editor.documents.click_tab(editor.pointer.point())) {
         editor.leave_selection();
         return Command::none;
     }
-    return editor.panes.click(editor.pointer);
+    const Pane_Click click = editor.panes.click(editor.pointer, editor.clicks);
+    answer_double_click(editor, click.twice);
+    return click.command;
 }
 
 } // namespace

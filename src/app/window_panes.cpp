@@ -179,20 +179,39 @@ std::optional<Place> Window_Panes::pane_at(Point point) const {
     return std::nullopt;
 }
 
-Command Window_Panes::click(Pointer_State& pointer) {
+// The second of two quick clicks counts only on what the first one was on: neighbours are close together.
+Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count) {
+    const Click_Target target = target_at(pointer);
+    const bool is_second = count > 1 && target == last_target_;
+    last_target_ = is_second ? Click_Target{} : target;
+    return is_second ? target.meaning : Double_Click::none;
+}
+
+Window_Panes::Click_Target Window_Panes::target_at(const Pointer_State& pointer) const {
+    if (const std::optional<std::size_t> copy = copy_at(pointer.point());
+        copy && pointer.button == Mouse_Button::left) {
+        return {Double_Click::paste_copy, *copy};
+    }
+    return {};
+}
+
+Pane_Click Window_Panes::click(Pointer_State& pointer, int count) {
+    if (const Double_Click twice = double_click(pointer, count); twice != Double_Click::none) {
+        return {.twice = twice};
+    }
     if (take_click(pointer)) {
-        return Command::none;
+        return {};
     }
     const Command command = click_buttons(pointer);
     if (command != Command::none) {
-        return command;
+        return {.command = command};
     }
     const Command chosen = menu_bar_.click(pointer);
     if (chosen != Command::none) {
         // Nothing under the closed menu reacts to where it was clicked.
         pointer = pointer_nowhere;
     }
-    return chosen;
+    return {.command = chosen};
 }
 
 // What a pane does by itself: options, brushes, colours and copies are chosen.
@@ -213,12 +232,26 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
         }
         return true;
     }
-    if (const std::optional<std::size_t> copy = copy_panes_.copy_at(point);
-        copy && toolbox->state().is_in_selection_group()) {
-        copies_.choose(*copy);
-        return true;
+    return take_copy_click(pointer);
+}
+
+// The left button chooses a copy, the right one removes it.
+bool Window_Panes::take_copy_click(const Pointer_State& pointer) {
+    const std::optional<std::size_t> copy = copy_at(pointer.point());
+    if (!copy) {
+        return false;
     }
-    return false;
+    if (pointer.button == Mouse_Button::right) {
+        copies_.remove(*copy);
+    } else {
+        copies_.choose(*copy);
+    }
+    return true;
+}
+
+// With other tools they are not there.
+std::optional<std::size_t> Window_Panes::copy_at(Point point) const {
+    return toolbox->state().is_in_selection_group() ? copy_panes_.copy_at(point) : std::nullopt;
 }
 
 // The tools of the list and the buttons of the navigation take either button, all else the left one.

@@ -16,6 +16,7 @@
 #include "panes/tile_strip_picture.h"
 #include "ui/number_info.h"
 
+#include <cstddef>
 #include <optional>
 
 namespace quadrelle {
@@ -26,6 +27,15 @@ class Documents;
 // Where the pointer is while it is not over the window.
 constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
 
+// What a double click on a pane asks for.
+enum class Double_Click { none, paste_copy };
+
+// What is still to be done after a click on a pane.
+struct Pane_Click {
+    Command command = Command::none;
+    Double_Click twice = Double_Click::none;
+};
+
 class Window_Panes {
 public:
     // Borrows what the panes show.
@@ -34,8 +44,8 @@ public:
     void draw(const Pointer_State& pointer);
     // Returns what lies there: the current tool where there is nothing else.
     [[nodiscard]] Pointed pointed(Point point) const;
-    // Lets the pane that was hit answer. Returns the command that is still to be carried out, or none.
-    [[nodiscard]] Command click(Pointer_State& pointer);
+    // Lets the pane that was hit answer. `count` is 2 or more when clicks follow each other quickly.
+    [[nodiscard]] Pane_Click click(Pointer_State& pointer, int count);
     // To be called when no button of the mouse is held any more.
     void release() { navigation_.release(); }
 
@@ -48,6 +58,14 @@ public:
     [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
 
 private:
+    // A thing that can be clicked twice.
+    struct Click_Target {
+        Double_Click meaning = Double_Click::none;
+        std::size_t index = 0;
+
+        bool operator==(const Click_Target&) const = default;
+    };
+
     void draw_panes();
     [[nodiscard]] bool is_lit(Command icon) const;
     [[nodiscard]] Hint hint_at(Point point) const;
@@ -55,13 +73,18 @@ private:
     [[nodiscard]] Command command_at(Point point) const;
     [[nodiscard]] std::optional<Place> place_at(Point point) const;
     [[nodiscard]] std::optional<Place> pane_at(Point point) const;
+    [[nodiscard]] Click_Target target_at(const Pointer_State& pointer) const;
+    [[nodiscard]] Double_Click double_click(const Pointer_State& pointer, int count);
     [[nodiscard]] bool take_click(const Pointer_State& pointer);
+    [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
+    [[nodiscard]] bool take_copy_click(const Pointer_State& pointer);
     [[nodiscard]] Command click_buttons(const Pointer_State& pointer);
 
     Canvas_View& canvas_;
     Documents& documents_;
     Copy_Buffer& copies_;
     Redraw redraw_;
+    Click_Target last_target_;
     Copy_Panes copy_panes_;
     Preview_Pane preview_;
     Number_Info magnification_; // shown as "21x"

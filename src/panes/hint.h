@@ -61,7 +61,7 @@ constexpr std::array place_table = {
     Place_Row{Place::handles,             "Handles",            "Change the lit color: drag a slider, or click on less, middle and more."},
     Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
     Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
-    Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take."},
+    Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take, a double click pastes it, a right click removes it."},
     Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
 };
 // clang-format on

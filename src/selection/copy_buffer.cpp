@@ -13,6 +13,8 @@ int centred_start(int copy, int tile) {
 } // namespace
 
 void Copy_Buffer::add(const Floating_Paste& copy) {
+    std::erase_if(copies_,
+                  [&copy](const Floating_Paste& kept) { return kept.picture.same_pixels(copy.picture); });
     copies_.push_front(copy);
     current_ = 0;
     if (copies_.size() > capacity) {
@@ -28,6 +30,15 @@ void Copy_Buffer::choose(std::size_t index) {
     if (index < copies_.size()) {
         current_ = index;
     }
+}
+
+void Copy_Buffer::remove(std::size_t index) {
+    if (index >= copies_.size()) {
+        return;
+    }
+    copies_.erase(copies_.begin() + static_cast<std::ptrdiff_t>(index));
+    const bool is_last_gone = current_ == copies_.size() && current_ > 0;
+    current_ -= current_ > index || is_last_gone ? 1U : 0U;
 }
 
 Floating_Paste cloned(const Floating_Paste& copy, Clone_Style style, Size tile) {

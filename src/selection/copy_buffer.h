@@ -13,7 +13,8 @@ class Copy_Buffer {
 public:
     static constexpr std::size_t capacity = 16;
 
-    // The copy becomes the current one; beyond the capacity the oldest one is forgotten.
+    // The copy becomes the newest and the current one. One with the same pixels goes: it is not kept twice.
+    // Beyond the capacity the oldest one is forgotten.
     void add(const Floating_Paste& copy);
     // Returns the copy at the place from which it was taken; null while nothing was copied.
     [[nodiscard]] const Floating_Paste* current() const;
@@ -22,6 +23,9 @@ public:
     [[nodiscard]] std::size_t current_index() const { return current_; }
     // An index that no copy has changes nothing.
     void choose(std::size_t index);
+    // Forgets that copy. When it was the current one, the one in its place is it then. An index that no copy
+    // has changes nothing.
+    void remove(std::size_t index);
 
 private:
     std::deque<Floating_Paste> copies_;

@@ -45,6 +45,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Left, middle button in Arrange/Select", "chooses the primary, the secondary tile"},
     {"Shift and wheel in View in real size", "shows the tile larger or smaller"},
     {"Click on a tab",                       "goes to that tileset; arrows beside the tabs lead to hidden ones"},
+    {"Click in Previous copies",             "makes a copy the one that is pasted; a double click pastes it, a right click removes it"},
     {"Click on a menu",                      "opens it; a click elsewhere, or any key, closes it"},
     {"Click on a number in a dialog",        "lets you type it; the arrows beside it and the wheel change it by one"},
     {"Hold a button on a slot of Versions",  "shows that version in large"},

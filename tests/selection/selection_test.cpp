@@ -125,6 +125,46 @@ TEST(Floating_Paste, is_softened_within_its_own_alpha) {
     EXPECT_EQ(art(softened(plain)), art(plain));
 }
 
+// Of pictures that are one pixel high and named by their widths: which are kept, the current one in brackets.
+std::string shown(const Copy_Buffer& copies) {
+    std::string text;
+    for (std::size_t i = 0; i < copies.copies().size(); ++i) {
+        const std::string width = std::to_string(copies.copies()[i].picture->width());
+        text += i == copies.current_index() ? "[" + width + "]" : width;
+    }
+    return text;
+}
+
+TEST(Copy_Buffer, keeps_equal_copies_once_and_forgets_those_that_are_removed) {
+    struct Row {
+        std::size_t chosen, removed;
+        const char* left;
+    };
+    for (const Row& row : {Row{0, 0, "[3]14"},
+                           {0, 3, "[2]31"},
+                           {1, 0, "[3]14"},
+                           {1, 1, "2[1]4"},
+                           {3, 1, "21[4]"},
+                           {3, 3, "23[1]"},
+                           {2, 9, "23[1]4"}}) {
+        Copy_Buffer copies;
+        for (const int width : {1, 2, 4, 1, 3, 2}) {
+            copies.add({Tile(width, 1), {width, 0}});
+        }
+        ASSERT_EQ(shown(copies), "[2]314");
+        copies.choose(row.chosen);
+        copies.remove(row.removed);
+        EXPECT_EQ(shown(copies), row.left) << row.chosen << ", " << row.removed;
+    }
+    Copy_Buffer copies;
+    copies.add({Tile(5, 1), {}});
+    copies.remove(0);
+    EXPECT_EQ(copies.current(), nullptr);
+    copies.add({Tile(5, 1), {1, 2}});
+    copies.add({Tile(5, 1), {3, 4}});
+    EXPECT_EQ(copies.current()->position, (Tile_Point{3, 4}));
+}
+
 TEST(Copy_Buffer, clones_in_four_places) {
     const Floating_Paste copy{make_tile({"ab d", "efgh", "ijkl"}), {-2, 9}};
     struct Row {

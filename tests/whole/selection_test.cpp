@@ -285,6 +285,25 @@ TEST_F(Copy_Panes_Test, a_click_makes_a_previous_copy_current) {
     EXPECT_EQ(editor->copies().current_index(), 3U);
 }
 
+TEST_F(Copy_Panes_Test, a_double_click_pastes_that_copy_and_a_right_click_removes_it) {
+    make_copies();
+    // Quick clicks on two copies are no double click.
+    play(script().click(next(first_copy, 2)).second_press(next(first_copy, 1)));
+    EXPECT_FALSE(work().paste());
+    EXPECT_EQ(editor->copies().current_index(), 1U);
+    const std::size_t steps = document().history().entries().size();
+    play(script().second_press(next(first_copy, 1)));
+    ASSERT_TRUE(work().paste());
+    EXPECT_EQ(work().paste()->picture->size(), (Size{4, 1}));
+    EXPECT_EQ(document().history().entries().size(), steps + 1);
+    const auto remove = [&] { play(script().click(first_copy, Mouse_Button::right)); };
+    remove();
+    play(script().second_press(first_copy));
+    EXPECT_EQ(editor->copies().copies().size(), 3U);
+    EXPECT_EQ(editor->copies().current_index(), 0U);
+    EXPECT_EQ(editor->copies().current()->picture->size(), (Size{4, 1}));
+}
+
 TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
     // Two rows of four: Copy, Cut, Paste, Clone; Clear, Fill, Invert, Deselect.
     const auto press = [&](int column, int row) {
@@ -361,15 +380,17 @@ TEST_F(Clipboard_Test, what_is_copied_is_there_for_others_in_every_format) {
 }
 
 TEST_F(Clipboard_Test, pictures_of_others_are_pasted_once_and_then_are_copies_like_any) {
+    int blue = 0;
     for (const Picture_Format& format : picture_formats) {
         SCOPED_TRACE(format.media_type);
+        const Color color(9, 8, ++blue, 60);
         execute(Command::copy);
         const std::size_t copies = editor->copies().copies().size();
         {
-            const Other_Program other(format.media_type, format.encode(picture({10, 4}, {9, 8, 7, 60})));
+            const Other_Program other(format.media_type, format.encode(picture({10, 4}, color)));
             execute(Command::paste);
             EXPECT_EQ(work().paste()->position, (Tile_Point{7, 10}));
-            EXPECT_EQ(work().paste()->picture->get_pixel(9, 3), Color(9, 8, 7, 60));
+            EXPECT_EQ(work().paste()->picture->get_pixel(9, 3), color);
             execute(Command::paste);
             EXPECT_EQ(editor->copies().copies().size(), copies + 1);
         }

@@ -436,6 +436,7 @@ private:
         return std::make_shared<Floating_Paste>(Floating_Paste{*picture(), {}});
     }
     void add_copy(const Paste& copy) {
+        std::erase_if(copies, [&](const Paste& kept) { return same(kept->picture, copy->picture); });
         copies.push_front(copy);
         if (copies.size() > Copy_Buffer::capacity) {
             copies.pop_back();
