@@ -6,6 +6,7 @@
 #include "ui/dialogs.h"
 
 #include <optional>
+#include <string>
 
 namespace quadrelle::brush_commands {
 
@@ -69,7 +70,7 @@ Outcome use_as_brush(Editor_Parts& editor) {
     return tool_commands::select_tool(editor, Tool::stamp_brush);
 }
 
-Outcome move_to_pad(Editor_Parts& /*editor*/) {
+Outcome move_to_pad(Editor_Parts& editor) {
     if (!uses_stamp_brush()) {
         return refuse("Select stamp brush tool to copy the current brush to the pad.");
     }
@@ -77,6 +78,7 @@ Outcome move_to_pad(Editor_Parts& /*editor*/) {
         return refuse("Failed to add brush to pad. Either it's already there,\rthere is no current "
                       "brush or the pad is full.");
     }
+    editor.report(Command::move_to_pad, "The brush lies on the pad now, also when you start again.");
     return Outcome::done;
 }
 
@@ -90,8 +92,14 @@ Outcome delete_brush(Editor_Parts& /*editor*/) {
     return Outcome::done;
 }
 
-Outcome select_size(Editor_Parts& /*editor*/, int size_index) {
+// The row that shows it belongs to some of the tools only.
+Outcome select_size(Editor_Parts& editor, int size_index) {
     toolbox->select_brush_size(size_index);
+    if (!row_of(toolbox->current_tool()).uses_brush) {
+        const int width = size_index + 1;
+        editor.report(static_cast<Command>(index_of(Command::select_brush_size_1) + size_index),
+                      "The brush is " + std::to_string(width) + " x " + std::to_string(width) + " pixels.");
+    }
     return Outcome::done;
 }
 

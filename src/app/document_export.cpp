@@ -8,23 +8,23 @@
 
 namespace quadrelle {
 
-bool export_bitmap(const Tileset_Document& document) {
+std::optional<std::string> export_bitmap(const Tileset_Document& document) {
     const Tileset& tileset = document.tileset();
     if (tileset.tile_bytes() == 0) {
         dialogs->message("Note", "The tiles of this set have no pixels.");
-        return false;
+        return std::nullopt;
     }
     const Tile picture = export_picture(tileset);
     std::string path = document.file_name();
     if (!Export_Dialog(picture, tileset.count()).run() ||
         !choose_file(File_Dialog_Kind::export_bitmap, path)) {
-        return false;
+        return std::nullopt;
     }
-    const bool is_saved = save_bitmap(picture, path);
-    if (!is_saved) {
+    if (!save_bitmap(picture, path)) {
         dialogs->message("Note", "Could not save the file.");
+        return std::nullopt;
     }
-    return is_saved;
+    return path;
 }
 
 } // namespace quadrelle

@@ -2,12 +2,15 @@
 
 // The way of a document's tiles into a bitmap file.
 
+#include <optional>
+#include <string>
+
 namespace quadrelle {
 
 class Tileset_Document;
 
-// Shows the picture, asks for a name and writes the file; the user is told what failed. True when there is a
-// new file.
-bool export_bitmap(const Tileset_Document& document);
+// Shows the picture, asks for a name and writes the file; the user is told what failed. Returns the
+// path of the file when there is a new one.
+[[nodiscard]] std::optional<std::string> export_bitmap(const Tileset_Document& document);
 
 } // namespace quadrelle

@@ -173,14 +173,22 @@ const Tileset_Document* Documents::document_at(Point point) const {
     return tab < 0 ? nullptr : documents_.at(static_cast<std::size_t>(tab)).get();
 }
 
-bool Documents::click_tab(Point point) {
-    const int tab = tabs_.tab_at(point);
-    if (tab < 0 || static_cast<std::size_t>(tab) == current_) {
+bool Documents::go_to(std::size_t index) {
+    if (index == current_) {
         return false;
     }
     leaving_();
-    make_current(static_cast<std::size_t>(tab));
+    make_current(index);
     return true;
+}
+
+bool Documents::go_to_next() {
+    return go_to((current_ + 1) % documents_.size());
+}
+
+bool Documents::click_tab(Point point) {
+    const int tab = tabs_.tab_at(point);
+    return tab >= 0 && go_to(static_cast<std::size_t>(tab));
 }
 
 } // namespace quadrelle

@@ -51,6 +51,8 @@ public:
     void mark_changed();
 
     void draw_tabs() const;
+    // Goes on from the last one to the first. False without another document.
+    bool go_to_next();
     // True when another document's tab was hit; that document is the current one then.
     bool click_tab(Point point);
     // Returns the document whose tab is at `point`, or null.
@@ -59,6 +61,7 @@ public:
 private:
     void add(std::unique_ptr<Tileset_Document> document);
     void make_current(std::size_t index);
+    bool go_to(std::size_t index);
     void refresh_titles();
     [[nodiscard]] bool confirms_save() const;
 

@@ -6,6 +6,8 @@
 #include "ui/dialogs.h"
 #include "views/undo_list.h"
 
+#include <string>
+
 namespace quadrelle::edit_commands {
 
 namespace {
@@ -21,14 +23,18 @@ bool take_from_other_program(Selection_Desk& desk) {
     return fault == Picture_Fault::none;
 }
 
+Outcome refuse_without_copy(Editor_Parts& editor, Command command) {
+    return editor.refuse(command, "Nothing is copied yet.");
+}
+
 } // namespace
 
 Outcome undo(Editor_Parts& editor) {
-    return editor.recorder.undo() ? Outcome::done : Outcome::refused;
+    return editor.recorder.undo() ? Outcome::done : editor.refuse(Command::undo, "There is nothing to undo.");
 }
 
 Outcome redo(Editor_Parts& editor) {
-    return editor.recorder.redo() ? Outcome::done : Outcome::refused;
+    return editor.recorder.redo() ? Outcome::done : editor.refuse(Command::redo, "There is nothing to redo.");
 }
 
 Outcome view_undo_history(Editor_Parts& editor) {
@@ -37,7 +43,13 @@ Outcome view_undo_history(Editor_Parts& editor) {
 }
 
 Outcome copy(Editor_Parts& editor) {
-    return editor.desk.copy();
+    if (editor.desk.copy() != Outcome::done) {
+        return editor.refuse(Command::copy, "There is nothing to copy.");
+    }
+    const Size size = editor.desk.copies().current()->picture->size();
+    editor.report(Command::copy,
+                  std::to_string(size.width) + " x " + std::to_string(size.height) + " pixels are copied.");
+    return Outcome::done;
 }
 
 Outcome cut(Editor_Parts& editor) {
@@ -52,7 +64,7 @@ Outcome paste(Editor_Parts& editor) {
     if (editor.canvas.tile() == nullptr || !take_from_other_program(editor.desk)) {
         return Outcome::refused;
     }
-    return editor.desk.paste();
+    return editor.desk.paste() == Outcome::done ? Outcome::done : refuse_without_copy(editor, Command::paste);
 }
 
 Outcome paste_copy(Editor_Parts& editor) {
@@ -60,7 +72,8 @@ Outcome paste_copy(Editor_Parts& editor) {
 }
 
 Outcome clone(Editor_Parts& editor) {
-    return editor.desk.clone(options->choice<Clone_Style>(Option::clone_style));
+    const Outcome outcome = editor.desk.clone(options->choice<Clone_Style>(Option::clone_style));
+    return outcome == Outcome::done ? outcome : refuse_without_copy(editor, Command::clone);
 }
 
 Outcome plot_paste(Editor_Parts& editor) {
@@ -68,7 +81,8 @@ Outcome plot_paste(Editor_Parts& editor) {
 }
 
 Outcome deselect(Editor_Parts& editor) {
-    return editor.desk.deselect();
+    return editor.desk.deselect() == Outcome::done ? Outcome::done
+                                                   : editor.refuse(Command::deselect, "Nothing is selected.");
 }
 
 Outcome invert_selection(Editor_Parts& editor) {

@@ -96,13 +96,16 @@ void Editor::handle_one_event() {
 void Editor::handle(const Input_Event& event) {
     switch (event.kind) {
     case Input_Kind::quit: static_cast<void>(perform(Command::quit)); break;
-    case Input_Kind::key_press: execute_if_any(press_key(*parts_, event.chord)); break;
+    case Input_Kind::key_press:
+        execute_if_any(press_key(*parts_, event), event.is_repeat ? Held::yes : Held::no);
+        break;
     case Input_Kind::pointer_motion:
         parts_->pointer = {event.pointer.x, event.pointer.y, parts_->pointer.button};
         break;
     case Input_Kind::button_press:
         parts_->pointer = event.pointer;
         parts_->clicks = event.clicks;
+        parts_->panes.hint_lines().end_report();
         execute_if_any(press_mouse(*parts_));
         break;
     case Input_Kind::pointer_left: parts_->pointer = pointer_nowhere; break;
@@ -115,18 +118,21 @@ void Editor::handle(const Input_Event& event) {
     }
 }
 
-void Editor::execute_if_any(Command command) {
+void Editor::execute_if_any(Command command, Held held) {
     if (command != Command::none) {
-        execute(command);
+        execute(command, held);
     }
 }
 
-void Editor::execute(Command command) {
-    if (row_of(command).has(Command_Trait::step)) {
-        parts_->recorder.step([&] { return perform(command); });
-    } else {
+// A walk through the tiles on one held key or button is one step, or it would push all others out of the
+// history.
+void Editor::execute(Command command, Held held) {
+    if (!row_of(command).has(Command_Trait::step)) {
         static_cast<void>(perform(command));
+        return;
     }
+    const bool is_walk = held == Held::yes && row_of(command).category == Command_Category::tile_switch;
+    parts_->recorder.step([&] { return perform(command); }, is_walk ? Merge::with_same_kind : Merge::no);
 }
 
 Command Editor::perform(Command command) {

@@ -30,7 +30,7 @@ public:
     bool show_first_frame();
     void handle_one_event();
     // Carries the command out and records it.
-    void execute(Command command);
+    void execute(Command command) { execute(command, Held::no); }
     void redraw(Present present);
 
     [[nodiscard]] Documents& documents();
@@ -39,8 +39,12 @@ public:
     [[nodiscard]] const Window_Panes& panes() const;
 
 private:
+    // Whether the key or button that asks for a command does so again because it is held down.
+    enum class Held { no, yes };
+
     void handle(const Input_Event& event);
-    void execute_if_any(Command command);
+    void execute_if_any(Command command, Held held = Held::no);
+    void execute(Command command, Held held);
     // Carries the command out. Returns the command to record, or none when it failed or was refused.
     [[nodiscard]] Command perform(Command command);
 

@@ -35,6 +35,11 @@ void Editor_Parts::leave_selection() {
     }
 }
 
+Outcome Editor_Parts::refuse(Command command, std::string_view why) {
+    report(command, why);
+    return Outcome::refused;
+}
+
 void Editor_Parts::follow_up(Command done) {
     const Command_Row& row = row_of(done);
     if (row.has(Command_Trait::leaves_selection)) {

@@ -9,6 +9,9 @@
 #include "app/window_panes.h"
 #include "base/input.h"
 #include "canvas/canvas_view.h"
+#include "commands/outcome.h"
+
+#include <string_view>
 
 namespace quadrelle {
 
@@ -26,6 +29,12 @@ struct Editor_Parts {
     void leave_selection();
     // Brings into view what a command did that was carried out.
     void follow_up(Command done);
+
+    // Tell in the hint lines what a command did where nothing else shows it, or why it did nothing.
+    void report(Command command, std::string_view what_it_did) {
+        panes.hint_lines().report(command, what_it_did);
+    }
+    Outcome refuse(Command command, std::string_view why);
 
     Redraw redraw;
     Pointer_State pointer = pointer_nowhere;

@@ -23,7 +23,12 @@ Outcome save_document(Editor_Parts& editor, Save_As save_as) {
     }
     editor.canvas.undo_seam_shifts();
     editor.desk.settle_before_leaving();
-    return editor.documents.save_document(*path) ? Outcome::done : Outcome::refused;
+    if (!editor.documents.save_document(*path)) {
+        return Outcome::refused;
+    }
+    editor.report(save_as == Save_As::yes ? Command::save_as : Command::save,
+                  "Saved in " + editor.documents.current().file_name());
+    return Outcome::done;
 }
 
 } // namespace
@@ -61,7 +66,7 @@ Outcome load(Editor_Parts& editor) {
 Outcome save(Editor_Parts& editor) {
     const Tileset_Document& document = editor.documents.current();
     if (document.is_named() && !document.is_modified() && !editor.desk.has_to_settle()) {
-        return Outcome::refused;
+        return editor.refuse(Command::save, "Nothing has changed since it was saved.");
     }
     return save_document(editor, Save_As::no);
 }
@@ -71,7 +76,12 @@ Outcome save_as(Editor_Parts& editor) {
 }
 
 Outcome export_picture(Editor_Parts& editor) {
-    return export_bitmap(editor.documents.current()) ? Outcome::done : Outcome::refused;
+    const std::optional<std::string> path = export_bitmap(editor.documents.current());
+    if (!path) {
+        return Outcome::refused;
+    }
+    editor.report(Command::export_bitmap, "Exported to " + *path);
+    return Outcome::done;
 }
 
 Outcome close(Editor_Parts& editor) {
@@ -84,8 +94,13 @@ Outcome close(Editor_Parts& editor) {
 }
 
 Outcome edit_options(Editor_Parts& editor) {
+    const int grid_intensity = options->value(Option::grid_intensity);
     if (options->edit()) {
         editor.panes.size_preview();
+    }
+    // Whoever chooses it wants to see it.
+    if (options->value(Option::grid_intensity) != grid_intensity) {
+        editor.canvas.show_grid();
     }
     return Outcome::done;
 }

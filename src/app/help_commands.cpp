@@ -2,7 +2,6 @@
 
 #include "app/editor_parts.h"
 #include "base/debug_monitor.h"
-#include "panes/toolbox.h"
 #include "screen/screen.h"
 #include "ui/dialogs.h"
 #include "views/about.h"
@@ -14,11 +13,12 @@
 namespace quadrelle::help_commands {
 
 Outcome context_info(Editor_Parts& editor) {
-    const Pointed thing = editor.panes.pointed(editor.pointer.point());
+    Pointed thing = editor.panes.pointed(editor.pointer.point());
+    if (std::holds_alternative<Pointed_Pixel>(thing)) {
+        thing = Window_Panes::tool_in_use();
+    }
     const auto* const place = std::get_if<Place>(&thing);
-    const auto* const other = std::get_if<Command>(&thing);
-    const Hint help =
-        place != nullptr ? help_of(*place) : help_of(other != nullptr ? *other : toolbox->current_command());
+    const Hint help = place != nullptr ? help_of(*place) : help_of(std::get<Command>(thing));
     dialogs->message(help.title, help.text);
     return Outcome::done;
 }

@@ -1,7 +1,8 @@
 #include "app/key_press.h"
 
 #include "app/editor_parts.h"
-#include "commands/command_table.h"
+#include "app/key_actions.h"
+#include "commands/key_table.h"
 
 namespace quadrelle {
 
@@ -24,11 +25,23 @@ bool nudge(Selection_Desk& desk, Key_Chord chord) {
     }
 }
 
+Command press_further_key(Editor_Parts& editor, const Input_Event& press) {
+    const Key_Row* const row = find_key(press.chord, press.character);
+    if (row == nullptr || (press.is_repeat && row->hold == Key_Hold::acts_once)) {
+        return Command::none;
+    }
+    return row->action == Key_Action::none ? row->command : carry_out(editor, row->action);
+}
+
 } // namespace
 
-Command press_key(Editor_Parts& editor, Key_Chord chord) {
-    editor.is_control_held = editor.is_control_held || chord.modifier == Modifier::control;
-    return nudge(editor.desk, chord) ? Command::none : find_command(chord);
+Command press_key(Editor_Parts& editor, const Input_Event& press) {
+    editor.is_control_held = editor.is_control_held || press.chord.modifier == Modifier::control;
+    if (nudge(editor.desk, press.chord)) {
+        return Command::none;
+    }
+    const Command command = find_command(press.chord);
+    return command == Command::none ? press_further_key(editor, press) : command;
 }
 
 } // namespace quadrelle

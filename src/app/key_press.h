@@ -1,6 +1,6 @@
 #pragma once
 
-// What a pressed key does: the keys of the commands stand in the command table.
+// What a pressed key does: the keys stand in the command table, and beside it in the key table.
 
 #include "base/input.h"
 #include "commands/command.h"
@@ -10,6 +10,6 @@ namespace quadrelle {
 struct Editor_Parts;
 
 // Returns the command that is still to be carried out, or none.
-[[nodiscard]] Command press_key(Editor_Parts& editor, Key_Chord chord);
+[[nodiscard]] Command press_key(Editor_Parts& editor, const Input_Event& press);
 
 } // namespace quadrelle

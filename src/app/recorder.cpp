@@ -46,7 +46,7 @@ void Recorder::step(const Edit& edit, Merge merge) {
     Undo_History& history = documents_.current().history();
     if (floor && is_edit(kind)) {
         history.add(std::move(*floor));
-    } else if (!floor && merge == Merge::with_last && stands_on_merged_step()) {
+    } else if (!floor && is_merged(merge, kind)) {
         history.give_up_current();
     }
     record(kind);
@@ -99,6 +99,16 @@ std::optional<Undo_Entry> Recorder::missing_floor() {
 bool Recorder::stands_on_merged_step() {
     const Undo_Entry* const last = documents_.current().history().current();
     return last != nullptr && last->work.paste && last->work.paste == merged_.lock();
+}
+
+bool Recorder::is_merged(Merge merge, Command kind) {
+    const Undo_Entry* const last = documents_.current().history().current();
+    switch (merge) {
+    case Merge::with_last: return stands_on_merged_step();
+    case Merge::with_same_kind: return last != nullptr && last->kind == kind;
+    case Merge::no: break;
+    }
+    return false;
 }
 
 bool Recorder::restore(const Undo_Entry* entry, Command transform) {

@@ -19,9 +19,9 @@ class Toolbox;
 // nothing to record.
 using Edit = std::function<Command()>;
 
-// A step that is merged takes the place of the one before it, if that was merged too and nothing came
-// between.
-enum class Merge { no, with_last };
+// A step that is merged takes the place of the one before it: if that was merged too and nothing came
+// between, or if it was of the same kind.
+enum class Merge { no, with_last, with_same_kind };
 
 class Recorder {
 public:
@@ -41,6 +41,7 @@ public:
 private:
     [[nodiscard]] std::optional<Undo_Entry> missing_floor();
     [[nodiscard]] bool stands_on_merged_step();
+    [[nodiscard]] bool is_merged(Merge merge, Command kind);
     // `transform` leads from the tile that is left to this one, if the whole of it was transformed.
     bool restore(const Undo_Entry* entry, Command transform);
 

@@ -59,6 +59,14 @@ Outcome Selection_Desk::invert() {
     });
 }
 
+Outcome Selection_Desk::select_all() {
+    return change([this] {
+        settle();
+        canvas_.work_area().deselect();
+        canvas_.work_area().invert_selection();
+    });
+}
+
 Outcome Selection_Desk::fill(Color color) {
     return change([&] { shows_paste() ? fill_paste(color) : fill_selected(color); });
 }

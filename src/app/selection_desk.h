@@ -38,6 +38,7 @@ public:
     // which settles. The others change what floats in view, or what is selected, or else the whole tile.
     Outcome deselect();
     Outcome invert();
+    Outcome select_all();
     Outcome fill(Color color);
     Outcome clear();
     Outcome adjust_hsv(const HSV_Change& change);

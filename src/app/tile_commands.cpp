@@ -84,12 +84,14 @@ Outcome transform(Editor_Parts& editor, Command command) {
 
 // Turned about the middle of the shifted tile, it could not be shifted back; what is selected or floats can.
 Outcome turn(Editor_Parts& editor, Command command) {
-    if (editor.desk.has_something()) {
-        return transform(editor, command);
-    }
     Outcome outcome = Outcome::refused;
-    editor.canvas.with_tile_in_place([&] { outcome = transform(editor, command); });
-    return outcome;
+    if (editor.desk.has_something()) {
+        outcome = transform(editor, command);
+    } else {
+        editor.canvas.with_tile_in_place([&] { outcome = transform(editor, command); });
+    }
+    return outcome == Outcome::refused ? editor.refuse(command, "Only what is as wide as high can be turned.")
+                                       : outcome;
 }
 
 Outcome adjust_hsv(Editor_Parts& editor) {
@@ -112,6 +114,8 @@ Outcome shift_to_seam(Editor_Parts& editor, Seam seam) {
 
 Outcome save_history_buffer(Editor_Parts& editor) {
     editor.canvas.save_history();
+    editor.report(Command::save_history_buffer,
+                  "The pens' right button mode \"History\" draws from the tile as it is now.");
     return Outcome::done;
 }
 

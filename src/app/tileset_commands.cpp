@@ -7,6 +7,7 @@
 #include "views/tile_array.h"
 
 #include <optional>
+#include <string_view>
 
 namespace quadrelle::tileset_commands {
 
@@ -16,11 +17,12 @@ Outcome leave_to_document(Editor_Parts& editor, Command command) {
 
 namespace {
 
-bool leads_to_another_tile(const Tileset& tileset, Command command) {
+// Why it leads to no other tile; empty where it does.
+std::string_view obstacle(const Tileset& tileset, Command command) {
     switch (command) {
-    case Command::next_tile: return !tileset.is_last();
-    case Command::previous_tile: return tileset.current_index() > 0;
-    default: return !tileset.is_full();
+    case Command::next_tile: return tileset.is_last() ? "This is the last tile." : "";
+    case Command::previous_tile: return tileset.current_index() > 0 ? "" : "This is the first tile.";
+    default: return tileset.is_full() ? "The set has all the tiles that it has room for." : "";
     }
 }
 
@@ -28,8 +30,8 @@ bool leads_to_another_tile(const Tileset& tileset, Command command) {
 void keep_picture(Editor_Parts& editor, const Tile& tile) {
     if (!tile.is_as_new()) {
         editor.desk.keep(tile);
-        editor.panes.hint_lines().report(
-            Command::delete_tile, "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.");
+        editor.report(Command::delete_tile,
+                      "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.");
     }
 }
 
@@ -44,8 +46,7 @@ Outcome make_tile_black(Editor_Parts& editor) {
             return Command::none;
         }
         editor.leave_selection();
-        editor.panes.hint_lines().report(Command::delete_tile,
-                                         "The last tile stays, black: Undo (^z) brings its picture back.");
+        editor.report(Command::delete_tile, "The last tile stays, black: Undo (^z) brings its picture back.");
         outcome = Outcome::done;
         return Command::delete_tile;
     });
@@ -55,8 +56,9 @@ Outcome make_tile_black(Editor_Parts& editor) {
 } // namespace
 
 Outcome show_another_tile(Editor_Parts& editor, Command command) {
-    if (!leads_to_another_tile(editor.documents.current().tileset(), command)) {
-        return Outcome::refused;
+    const std::string_view why_not = obstacle(editor.documents.current().tileset(), command);
+    if (!why_not.empty()) {
+        return editor.refuse(command, why_not);
     }
     editor.leave_tile();
     return leave_to_document(editor, command);

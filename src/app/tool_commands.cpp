@@ -14,6 +14,7 @@ Outcome select(Editor_Parts& editor, Command of_tool) {
 
 Outcome select_tool(Editor_Parts& editor, Tool tool) {
     if (tool == toolbox->current_tool()) {
+        toolbox->state().is_erasing = false;
         return Outcome::done;
     }
     if (tool != Tool::selection) {
@@ -28,15 +29,26 @@ Outcome select_filled(Editor_Parts& editor, Tool shape) {
     return select_tool(editor, shape);
 }
 
-Outcome swap_colors(Editor_Parts& /*editor*/) {
+void select_eraser(Editor_Parts& editor) {
+    select_tool(editor, Tool::pen);
+    toolbox->state().is_erasing = true;
+}
+
+// Some tools show no colours.
+Outcome swap_colors(Editor_Parts& editor) {
     tool_colors->swap();
+    if (!row_of(toolbox->current_tool()).uses_tool_colors) {
+        editor.report(Command::swap_tool_colors, "Left and right button have changed their colors.");
+    }
     return Outcome::done;
 }
 
 Outcome step_in_palette(Editor_Parts& editor, Point step) {
-    if (row_of(toolbox->current_tool()).uses_tool_colors) {
-        tool_colors->set_color(Mouse_Button::left, editor.panes.palette().move_selection(step.x, step.y));
+    if (!row_of(toolbox->current_tool()).uses_tool_colors) {
+        editor.panes.hint_lines().report({"Palette", "The tool in use draws in no color."});
+        return Outcome::refused;
     }
+    tool_colors->set_color(Mouse_Button::left, editor.panes.palette().move_selection(step.x, step.y));
     return Outcome::done;
 }
 

@@ -16,6 +16,8 @@ Outcome select(Editor_Parts& editor, Command of_tool);
 Outcome select_tool(Editor_Parts& editor, Tool tool);
 // Of rectangles and ellipses.
 Outcome select_filled(Editor_Parts& editor, Tool shape);
+// The pen painting transparent.
+void select_eraser(Editor_Parts& editor);
 
 Outcome swap_colors(Editor_Parts& editor);
 // Selects another entry of the palette, so many columns and rows away.

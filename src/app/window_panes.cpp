@@ -105,7 +105,11 @@ Pointed Window_Panes::pointed(Point point) const {
     if (const std::optional<Place> place = place_at(point)) {
         return *place;
     }
-    return toolbox->current_command();
+    return tool_in_use();
+}
+
+Pointed Window_Panes::tool_in_use() {
+    return toolbox->state().is_erasing ? Pointed(Place::eraser) : Pointed(toolbox->current_command());
 }
 
 // Of a tab also the whole path, which the tab itself has no room for.

@@ -42,8 +42,9 @@ public:
     Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffer& copies, Redraw redraw);
 
     void draw(const Pointer_State& pointer);
-    // Returns what lies there: the current tool where there is nothing else.
+    // Returns what lies there: the tool in use where there is nothing else.
     [[nodiscard]] Pointed pointed(Point point) const;
+    [[nodiscard]] static Pointed tool_in_use();
     // Lets the pane that was hit answer. `count` is 2 or more when clicks follow each other quickly.
     [[nodiscard]] Pane_Click click(Pointer_State& pointer, int count);
     // To be called when no button of the mouse is held any more.

@@ -107,9 +107,10 @@ struct Movement {
 // One thing that the user did. Each kind has the fields that name it; the others are as here.
 struct Input_Event {
     Input_Kind kind = Input_Kind::other;
-    Key_Chord chord = {};       // of a key press
-    bool is_repeat = false;     // of a press: by a key that is held down
-    std::string text = {};      // typed, UTF-8
+    Key_Chord chord = {};          // of a key press
+    Keycode character = key::none; // of a press: what the key makes with Shift, unless Ctrl or Alt is held
+    bool is_repeat = false;        // of a press: by a key that is held down
+    std::string text = {};         // typed, UTF-8
     Pointer_State pointer = {}; // of a motion and the wheel, without a button; of a button's press, release
     int button_number = 0;      // also of the buttons that a pointer state does not know
     int clicks = 0;             // of a press: 2 for that of a double click

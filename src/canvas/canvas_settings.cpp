@@ -16,18 +16,20 @@ Canvas_Settings canvas_settings(const Options& values) {
 }
 
 bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {
-    const bool leaves_out_brush =
-        settings.brush_outline == Brush_Outline::not_of_one_pixel && tools.brush().size() == Size{1, 1};
+    const bool leaves_out_brush = settings.brush_outline == Brush_Outline::not_of_one_pixel &&
+                                  tools.brush().size() == Size{1, 1} && !tools.is_erasing;
     return tools.uses_brush() && settings.brush_outline != Brush_Outline::off && !leaves_out_brush;
 }
 
-// Nothing for brushes that change the colour which is there, nor where the pen paints from the history.
+// Nothing for brushes that change the colour which is there, nor where the pen erases or paints from the
+// history.
 bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings, Mouse_Button button) {
     const Brush_Owner owner = tools.brush().owner();
     const bool has_colors = owner == Brush_Owner::pen || owner == Brush_Owner::stamp_brush;
     const bool paints_otherwise = button == Mouse_Button::right && tools.tool == Tool::pen &&
                                   tools.options.right_button_mode != Right_Button_Mode::color;
-    return tools.uses_brush() && has_colors && !paints_otherwise && settings.has_brush_preview;
+    return tools.uses_brush() && has_colors && !paints_otherwise && !tools.is_erasing &&
+           settings.has_brush_preview;
 }
 
 Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size) {

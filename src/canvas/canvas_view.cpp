@@ -187,7 +187,7 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
     picture.tile = tile_;
     picture.pixel_size = pixel_size_;
     picture.origin = in_viewport({0, 0});
-    picture.grid_intensity = settings.grid_intensity;
+    picture.grid_intensity = shows_grid_ ? settings.grid_intensity : 0;
     picture.checker = settings.checker;
     picture.surround = standard_color(Standard_Color::dark_frame);
     const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);

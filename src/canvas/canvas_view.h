@@ -112,6 +112,10 @@ public:
         return {nearest_column(position.x), nearest_row(position.y)};
     }
 
+    // The grid shows in the intensity of the settings, or not at all.
+    void toggle_grid() { shows_grid_ = !shows_grid_; }
+    void show_grid() { shows_grid_ = true; }
+
     // Where the brush, or the corner that is taken, shows, if the tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
     // Returns whether anything of it shows there.
@@ -147,6 +151,7 @@ private:
 
     Tile* tile_ = nullptr;
     int pixel_size_;
+    bool shows_grid_ = true;
     Point origin_{window_layout::canvas.x, window_layout::canvas.y};
     int horizontal_seam_shift_ = no_seam_shift;
     int vertical_seam_shift_ = no_seam_shift;

@@ -46,6 +46,11 @@ Stroke_Findings draw_or_pick(Drawing_Target& target, const Stroke_Segment& segme
 }
 
 Stroke_Findings draw_pen(Drawing_Target& target, const Stroke_Segment& segment) {
+    if (segment.tools.is_erasing) {
+        Ink ink;
+        ink.color = segment.tools.brush_color(segment.button);
+        return draw_with(target, segment, segment.tools.pen_mode(), ink);
+    }
     return draw_or_pick(target, segment, segment.tools.pen_mode(), {});
 }
 

@@ -14,7 +14,7 @@
 
 namespace quadrelle {
 
-// The places that are no command.
+// The places, and the one tool, that are no command.
 enum class Place : int {
     menus,
     tabs,
@@ -34,6 +34,7 @@ enum class Place : int {
     copy_buffer,
     previous_copies,
     brush_pad,
+    eraser,
     count
 };
 
@@ -63,6 +64,7 @@ constexpr std::array place_table = {
     Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
     Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take, a double click pastes it, a right click removes it."},
     Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
+    Place_Row{Place::eraser,              "Eraser (e)",         "The pen paints transparent with either button, until another tool is chosen."},
 };
 // clang-format on
 

@@ -21,7 +21,7 @@ constexpr std::size_t most_lines = area.height / line_step;
 } // namespace
 
 void Hint_Lines::report(Command command, std::string_view what_it_did) {
-    report_ = {{menu_text(command), std::string(what_it_did)}, {}};
+    report({menu_text(command), std::string(what_it_did)});
 }
 
 void Hint_Lines::set_hint(const Hint& hint, Point pointer) {

@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace quadrelle {
@@ -18,6 +19,7 @@ public:
     // Tells what a command did in the place of the hint, until the pointer moves or `end_report`. It should
     // be no longer than a line.
     void report(Command command, std::string_view what_it_did);
+    void report(Hint what_was_done) { report_ = {std::move(what_was_done), {}}; }
     void end_report() { report_.reset(); }
 
     // Takes the hint for what is under the pointer there.

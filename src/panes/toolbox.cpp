@@ -13,6 +13,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace quadrelle {
 
@@ -25,12 +26,12 @@ constexpr Size entry_size{window_layout::tool_list.width, 26};
 constexpr Point icon_offset{1, 1};
 constexpr Point name_offset{32, 3};
 
-void draw_entry(const Tool_Row& tool, const Rectangle& area, bool is_chosen) {
+void draw_entry(const Tool_Row& tool, std::string_view name, const Rectangle& area, bool is_chosen) {
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
     const Sprite icon = is_chosen ? lit_twin(icon_of(tool.command)) : icon_of(tool.command);
     screen->draw_box(area, standard_color(fill));
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
-    screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, tool.name);
+    screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, name);
 }
 
 // The dropper takes no clicks on the panes below the two colours.
@@ -113,7 +114,10 @@ void Toolbox::draw(Point pointer) {
     for (std::size_t i = 0; i < tool_table.size(); ++i) {
         const Rectangle entry = entry_area(i);
         if (command_at({entry.x, entry.y}) != Command::none) {
-            draw_entry(tool_table.at(i), entry, tool_table.at(i).id == state_.tool);
+            const Tool_Row& tool = tool_table.at(i);
+            const bool is_chosen = tool.id == state_.tool;
+            const bool is_eraser = is_chosen && state_.is_erasing;
+            draw_entry(tool, is_eraser ? "Eraser" : tool.name, entry, is_chosen);
         }
     }
     if (row_of(state_.tool).uses_brush) {

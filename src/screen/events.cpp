@@ -133,8 +133,20 @@ void discard_events() {
     SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);
 }
 
+namespace {
+
+Held_Modifiers held_in(SDL_Keymod state) {
+    return {(state & SDL_KMOD_SHIFT) != 0, (state & SDL_KMOD_CTRL) != 0, (state & SDL_KMOD_ALT) != 0};
+}
+
+} // namespace
+
+Held_Modifiers held_modifiers() {
+    return held_in(SDL_GetModState());
+}
+
 bool is_shift_held() {
-    return (SDL_GetModState() & SDL_KMOD_SHIFT) != 0;
+    return held_modifiers().shift;
 }
 
 namespace {
@@ -153,11 +165,16 @@ static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTR
 static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
 static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
 
+Keycode character_of(const SDL_KeyboardEvent& event) {
+    const bool is_chord = (event.mod & (SDL_KMOD_CTRL | SDL_KMOD_ALT)) != 0;
+    const auto levels = static_cast<SDL_Keymod>(event.mod & (SDL_KMOD_SHIFT | SDL_KMOD_MODE));
+    return is_chord ? key::none : SDL_GetKeyFromScancode(event.scancode, levels, false);
+}
+
 Input_Event key_press(const SDL_KeyboardEvent& event) {
-    const Held_Modifiers held{(event.mod & SDL_KMOD_SHIFT) != 0, (event.mod & SDL_KMOD_CTRL) != 0,
-                              (event.mod & SDL_KMOD_ALT) != 0};
     Input_Event press{.kind = Input_Kind::key_press};
-    press.chord = make_key_chord(event.key, held);
+    press.chord = make_key_chord(event.key, held_in(event.mod));
+    press.character = character_of(event);
     press.is_repeat = event.repeat;
     return press;
 }

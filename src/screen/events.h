@@ -55,7 +55,8 @@ Idle_Outcome idle(std::string_view loop);
 // Drops every event that waits but the request to quit.
 void discard_events();
 
-// Whether a shift key is held now.
+// What is held now, whatever events still wait.
+[[nodiscard]] Held_Modifiers held_modifiers();
 [[nodiscard]] bool is_shift_held();
 
 // Called with the loop's name before each wait; a test feeds its next event from here.

@@ -54,6 +54,8 @@ struct Tool_State {
     Command command = Command::pen;
     Command previous_command = Command::pen;
     Tool tool = Tool::pen;
+    // The pen makes pixels transparent with either button, until a tool is selected.
+    bool is_erasing = false;
     Tool_Options options;
     Tool_Colors colors;
     Chosen_Brush chosen_brush;

@@ -1,6 +1,7 @@
 #include "views/help_lists.h"
 
 #include "commands/command_table.h"
+#include "commands/key_table.h"
 
 #include <array>
 #include <string_view>
@@ -12,7 +13,7 @@ namespace {
 constexpr int keyboard_columns = 3;
 constexpr std::string_view key_legend =
     "^ stands for Ctrl, ~ for Alt, a capital letter for Shift and the letter.\r"
-    "< and > are the key \\ without and with Shift; *, + and - those of the keypad.";
+    "< and > are the key \\ without and with Shift; the first *, + and - are those of the keypad.";
 
 struct Mouse_Row {
     std::string_view what;
@@ -68,18 +69,21 @@ Dialog_Container make_list_dialog(std::string_view title, std::vector<Text_Pair>
 
 } // namespace
 
-std::vector<Text_Pair> keyed_commands() {
+std::vector<Text_Pair> all_keys() {
     std::vector<Text_Pair> pairs;
     for (const Command_Row& row : command_table) {
         if (row.key != key::none) {
             pairs.push_back({std::string(row.key_label), std::string(row.name)});
         }
     }
+    for (const Key_Row& row : key_table) {
+        pairs.push_back({std::string(row.label), std::string(name_of(row))});
+    }
     return pairs;
 }
 
 Dialog_Container make_keyboard_dialog() {
-    return make_list_dialog("Keyboard commands", keyed_commands(), keyboard_columns, key_legend);
+    return make_list_dialog("Keyboard commands", all_keys(), keyboard_columns, key_legend);
 }
 
 Dialog_Container make_mouse_dialog() {

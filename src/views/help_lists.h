@@ -9,8 +9,8 @@
 
 namespace quadrelle {
 
-// Returns key label and name of every command that has a key, in the order of the command table.
-[[nodiscard]] std::vector<Text_Pair> keyed_commands();
+// Returns label and name of every key: those of the command table, then those of the key table.
+[[nodiscard]] std::vector<Text_Pair> all_keys();
 
 // These are to be run; they wait until they are dismissed.
 [[nodiscard]] Dialog_Container make_keyboard_dialog();

@@ -1,5 +1,6 @@
 #include "commands/command_table.h"
 
+#include "commands/key_table.h"
 #include "commands/menu_table.h"
 
 #include <gtest/gtest.h>
@@ -52,6 +53,19 @@ TEST(Command_Table, key_chords_find_their_commands) {
         EXPECT_EQ(find_command(make_key_chord(test.key, test.held)), test.expected)
             << "key " << test.key << " with " << test.held.shift << test.held.control << test.held.alt;
     }
+}
+
+// Plus and asterisk stand elsewhere on each keyboard.
+TEST(Key_Table, a_character_counts_whatever_makes_it) {
+    const auto command_of = [](Key_Chord chord, Keycode character) {
+        const Key_Row* const row = find_key(chord, character);
+        return row == nullptr ? Command::none : row->command;
+    };
+    EXPECT_EQ(command_of({'=', Modifier::shift}, '+'), Command::zoom_tile_up);
+    EXPECT_EQ(command_of({'+', Modifier::shift}, '*'), Command::center_tile_on_view);
+    EXPECT_EQ(command_of({'8', Modifier::shift}, '('), Command::none);
+    EXPECT_EQ(command_of({'u', Modifier::shift}, 'U'), Command::circle);
+    EXPECT_EQ(command_of({key::none, Modifier::none}, key::none), Command::none);
 }
 
 } // namespace

@@ -1,0 +1,209 @@
+#include "app/window_panes.h"
+#include "commands/key_table.h"
+#include "tests/whole/program_test.h"
+
+namespace quadrelle::testing {
+namespace {
+
+// The keys beside those of the command table.
+class Key_Test : public Program_Test {
+protected:
+    static int selected() { return editor->canvas().work_area().selection().count(); }
+    static int current_tile() { return document().tileset().current_index(); }
+    static std::string report() { return editor->panes().hint_lines().lines().at(1); }
+    void press(Keycode key, Modifier modifier = Modifier::none) {
+        play(script().key(key, modifier).key_up(key, modifier));
+    }
+};
+
+TEST_F(Key_Test, select_all_is_a_step_and_the_selection_can_be_inverted_and_given_up) {
+    press('a', Modifier::control);
+    EXPECT_EQ(selected(), 24 * 24);
+    press('i', Modifier::control);
+    EXPECT_EQ(selected(), 0);
+    press('z', Modifier::control);
+    EXPECT_EQ(selected(), 24 * 24);
+    press(key::delete_key);
+    EXPECT_EQ(tile_pixel(7, 7), clear);
+    press('d', Modifier::control);
+    EXPECT_EQ(selected(), 0);
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    EXPECT_EQ(tile_pixel(7, 7), black);
+    press('z', Modifier::control);
+    EXPECT_EQ(selected(), 0);
+    press('y', Modifier::control);
+    EXPECT_EQ(selected(), 24 * 24);
+}
+
+TEST_F(Key_Test, eraser_makes_transparent_until_a_tool_is_chosen) {
+    const auto expect_title = [](const std::string& title) {
+        EXPECT_EQ(editor->panes().hint_lines().lines().at(0), title);
+    };
+    tools().options.right_button_mode = Right_Button_Mode::dropper;
+    press('n');
+    press('e');
+    expect_title("Eraser (e)");
+    play(script().click(cell(1, 1)).click(cell(2, 1), Mouse_Button::right));
+    EXPECT_EQ(tile_pixel(1, 1), clear);
+    EXPECT_EQ(tile_pixel(2, 1), clear);
+    EXPECT_EQ(tools().colors.left, white);
+    press('p');
+    play(script().click(cell(3, 1)).motion({300, 100}));
+    EXPECT_EQ(tile_pixel(3, 1), white);
+    expect_title("Pen (p)");
+    press('e');
+    press('f');
+    press('p');
+    play(script().click(cell(4, 1)));
+    EXPECT_EQ(tile_pixel(4, 1), white);
+}
+
+// Where a press erases shows as an outline, also of a single pixel.
+TEST_F(Key_Test, eraser_and_grid_show_on_the_canvas) {
+    const Point above_cell{cell(5, 5).x, cell(5, 5).y - 6};
+    const Color grid = pixel_at(above_cell);
+    EXPECT_NE(grid, black);
+    press('g');
+    EXPECT_EQ(pixel_at(above_cell), black);
+    press('e');
+    play(script().motion(cell(5, 5)));
+    EXPECT_EQ(pixel_at(above_cell), white);
+    EXPECT_EQ(pixel_at(cell(5, 5)), black);
+    press('p');
+    EXPECT_EQ(pixel_at(above_cell), black);
+    press('g');
+    EXPECT_EQ(pixel_at(above_cell), grid);
+    set_option(Option::grid_intensity, 0);
+    press('g');
+    EXPECT_EQ(report(), "Its intensity is 0: see File, Options.");
+}
+
+TEST_F(Key_Test, return_drops_what_floats) {
+    play(script().click(cell(3, 3)));
+    press('c', Modifier::control);
+    EXPECT_EQ(report(), "24 x 24 pixels are copied.");
+    press('v', Modifier::control);
+    press(key::right);
+    EXPECT_EQ(tile_pixel(4, 3), black);
+    press(key::enter);
+    EXPECT_EQ(tile_pixel(4, 3), white);
+    EXPECT_FALSE(editor->canvas().work_area().paste());
+    press(key::enter);
+    EXPECT_EQ(report(), "Nothing floats over the tile.");
+}
+
+TEST_F(Key_Test, brush_sizes_end_at_one_and_six) {
+    std::string sizes;
+    for (const char pressed : std::string("[]]]]]]][")) {
+        press(static_cast<Keycode>(pressed));
+        sizes += static_cast<char>('1' + tools().chosen_brush.size_index());
+    }
+    EXPECT_EQ(sizes, "123456665");
+    press('u');
+    press('[');
+    EXPECT_EQ(report(), "The brush is 4 x 4 pixels.");
+}
+
+// Or it would leave no room for the steps before it.
+TEST_F(Key_Test, a_walk_on_a_held_key_is_one_step) {
+    make_set({8, 8}, 40, [](int, Point) { return black; });
+    play(script().click(cell(10, 10)));
+    const std::size_t steps = document().history().entries().size();
+    script().key(key::page_down);
+    for (int i = 0; i < 38; ++i) {
+        script().repeated_key(key::page_down);
+    }
+    play(script().key_up(key::page_down));
+    EXPECT_EQ(current_tile(), 39);
+    EXPECT_EQ(document().history().entries().size(), steps + 1);
+    press(key::page_down);
+    EXPECT_EQ(report(), "This is the last tile.");
+    press(key::page_up);
+    press(key::page_up);
+    EXPECT_EQ(current_tile(), 37);
+    EXPECT_EQ(document().history().entries().size(), steps + 3);
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    EXPECT_EQ(current_tile(), 0);
+    // A stroke in between stays.
+    play(script().key(key::page_down).click(cell(10, 10)).repeated_key(key::page_down));
+    press('z', Modifier::control);
+    EXPECT_EQ(document().tileset().tile_at(1).get_pixel(2, 2), white);
+}
+
+TEST_F(Key_Test, next_set_comes_after_the_last_the_first) {
+    press(key::tab, Modifier::control);
+    EXPECT_EQ(report(), "No other set is open.");
+    make_set({8, 8}, 1, [](int, Point) { return black; });
+    press('a', Modifier::control);
+    press(key::tab, Modifier::control);
+    EXPECT_EQ(document().tileset().tile_size().width, 24);
+    EXPECT_EQ(selected(), 0);
+    press(key::tab, Modifier::control);
+    EXPECT_EQ(document().tileset().tile_size().width, 8);
+}
+
+// A key that is held down asks once, and closes one set.
+TEST_F(Key_Test, dialogs_come_by_their_keys) {
+    script().key('n', Modifier::control);
+    expect_loop("dialog \"New tileset\"").key(key::enter).repeated_key('w');
+    play();
+    EXPECT_EQ(editor->documents().count(), 2);
+    press('o', Modifier::control);
+    EXPECT_EQ(asked_file(), File_Dialog_Kind::load_tileset);
+    press('w', Modifier::control);
+    EXPECT_EQ(editor->documents().count(), 1);
+}
+
+TEST_F(Key_Test, zoom_and_tools_stand_on_the_main_keys) {
+    press('=');
+    press('+');
+    press('-');
+    EXPECT_EQ(editor->canvas().pixel_size(), 11);
+    for (const Key_Row& row : key_table) {
+        if (row.command != Command::none && tool_of(row.command) != Tool::none) {
+            press(row.key, row.modifier);
+            EXPECT_EQ(tools().command, row.command);
+        }
+    }
+}
+
+struct Report_Case {
+    Command command;
+    std::string report;
+};
+
+TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
+    const std::string path = folder().data_path("kept.qdl");
+    const auto expect_reports = [this](const std::vector<Report_Case>& cases) {
+        for (const Report_Case& test : cases) {
+            execute(test.command);
+            EXPECT_EQ(report(), test.report) << index_of(test.command);
+        }
+    };
+    expect_reports({{Command::undo, "There is nothing to undo."},
+                    {Command::redo, "There is nothing to redo."},
+                    {Command::paste, "Nothing is copied yet."},
+                    {Command::clone, "Nothing is copied yet."},
+                    {Command::deselect, "Nothing is selected."},
+                    {Command::previous_tile, "This is the first tile."},
+                    {Command::next_tile, "This is the last tile."},
+                    {Command::save_history_buffer,
+                     "The pens' right button mode \"History\" draws from the tile as it is now."}});
+    execute(Command::lightness_pen);
+    expect_reports({{Command::swap_tool_colors, "Left and right button have changed their colors."},
+                    {Command::color_up, "The tool in use draws in no color."}});
+    answer_files(File_Answer_State::chosen, path);
+    expect_reports(
+        {{Command::save, "Saved in " + path}, {Command::save, "Nothing has changed since it was saved."}});
+    make_set({8, 9}, 1, [](int, Point) { return black; });
+    expect_reports({{Command::rotate, "Only what is as wide as high can be turned."}});
+    // A report ends with the next press of a button too.
+    play(script().click(cell(10, 10)));
+    EXPECT_NE(report(), "Only what is as wide as high can be turned.");
+}
+
+} // namespace
+} // namespace quadrelle::testing
