@@ -91,6 +91,7 @@ void Editor::handle_one_event() {
     }
     show_hover(parts_->canvas, parts_->pointer);
     show_pixel_under(parts_->canvas, parts_->pointer);
+    show_shape_of_paste(parts_->canvas);
 }
 
 void Editor::handle(const Input_Event& event) {

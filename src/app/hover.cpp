@@ -3,6 +3,7 @@
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
+#include "selection/paste_shape.h"
 #include "tools/options.h"
 #include "ui/window_layout.h"
 
@@ -29,6 +30,16 @@ void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
 void hide_hover(Canvas_View& canvas) {
     canvas.set_hover(std::nullopt);
     set_cursor(Cursor::shown);
+}
+
+void show_shape_of_paste(const Canvas_View& canvas) {
+    if (toolbox->current_tool() != Tool::selection) {
+        return;
+    }
+    const bool is_shown = canvas.shows_paste(toolbox->state());
+    Tool_Figures& figures = toolbox->figures();
+    figures.size = is_shown ? canvas.work_area().paste()->picture->size() : Size{};
+    figures.degrees = is_shown ? shape_of(*canvas.work_area().paste()).degrees : 0;
 }
 
 void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer) {

@@ -14,7 +14,8 @@ void show_hover(Canvas_View& canvas, const Pointer_State& pointer);
 // Shows the cursor alone, while a command runs, which may show a dialog over the canvas.
 void hide_hover(Canvas_View& canvas);
 
-// Lets the toolbox say what is there.
+// Let the toolbox say what is there, and how large what floats is and how far it was turned.
 void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer);
+void show_shape_of_paste(const Canvas_View& canvas);
 
 } // namespace quadrelle

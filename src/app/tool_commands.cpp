@@ -20,6 +20,7 @@ Outcome select_tool(Editor_Parts& editor, Tool tool) {
     if (tool != Tool::selection) {
         editor.desk.settle_before_leaving();
     }
+    editor.canvas.work_area().end_turn();
     toolbox->select(row_of(tool).command);
     return Outcome::done;
 }

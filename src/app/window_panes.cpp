@@ -130,6 +130,10 @@ std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
     if (canvas_.tile() == nullptr) {
         return Place::canvas_without_tile;
     }
+    const Paste_Handle handle = canvas_.handle_at(point, toolbox->state());
+    if (handle != Paste_Handle::none) {
+        return handle == Paste_Handle::turn ? Place::turning_handle : Place::scaling_handle;
+    }
     const Tile_Point pixel = canvas_.tile_point(point);
     if (canvas_.tile()->is_outside(pixel.x, pixel.y)) {
         return std::nullopt;

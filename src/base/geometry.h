@@ -22,6 +22,14 @@ struct Tile_Point {
     bool operator==(const Tile_Point&) const = default;
 };
 
+// A place in a tile, in its pixels from its corner, which may lie within a pixel.
+struct Tile_Position {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const Tile_Position&) const = default;
+};
+
 struct Size {
     int width = 0;
     int height = 0;

@@ -81,6 +81,9 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
         }
         paint_markers(picture, columns, rows, target);
     }
+    if (picture.handles) {
+        paint_handles(*picture.handles, target);
+    }
 }
 
 void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selection_Outline& outline,

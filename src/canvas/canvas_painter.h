@@ -4,6 +4,7 @@
 // checkerboard, with a grid. Knows neither window nor events.
 
 #include "base/geometry.h"
+#include "canvas/paste_handles.h"
 #include "color/color.h"
 #include "color/pixel_rows.h"
 #include "pixels/tile.h"
@@ -12,6 +13,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace quadrelle {
@@ -51,6 +53,8 @@ struct Canvas_Picture {
     // In the cells of the column, and of the row, that begins the second half of the tile; null for none.
     const Cell_Marker* column_marker = nullptr;
     const Cell_Marker* row_marker = nullptr;
+    // Over all else; none for no handles.
+    std::optional<Paste_Handles> handles = {};
 };
 
 // Returns the colour of the grid lines along a pixel, as translucent as the pixel itself.

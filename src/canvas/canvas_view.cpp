@@ -198,7 +198,35 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
         picture.row_marker = &seam->horizontal.front();
     }
     show_selection(picture, tools);
+    const bool is_in_stroke = hover_ && hover_->button != Mouse_Button::none;
+    picture.handles = is_in_stroke ? std::nullopt : paste_handles(tools);
     return picture;
+}
+
+std::optional<Paste_Handles> Canvas_View::paste_handles(const Tool_State& tools) const {
+    const Rectangle viewport{0, 0, window_layout::canvas.width, window_layout::canvas.height};
+    if (tools.tool != Tool::selection || !shows_paste(tools)) {
+        return std::nullopt;
+    }
+    const Floating_Paste& paste = *work_area_.paste();
+    const Point corner = in_viewport(paste.position);
+    const Rectangle area{corner.x, corner.y, paste.picture->width() * pixel_size_,
+                         paste.picture->height() * pixel_size_};
+    if (intersection(area, viewport).is_empty()) {
+        return std::nullopt;
+    }
+    Paste_Handles handles = handles_around(area, {viewport.width, viewport.height});
+    if (hover_) {
+        handles.lit = quadrelle::handle_at(handles, {hover_->position.x - window_layout::canvas.x,
+                                                     hover_->position.y - window_layout::canvas.y});
+    }
+    return handles;
+}
+
+Paste_Handle Canvas_View::handle_at(Point position, const Tool_State& tools) const {
+    const std::optional<Paste_Handles> handles = paste_handles(tools);
+    const Point point{position.x - window_layout::canvas.x, position.y - window_layout::canvas.y};
+    return handles ? quadrelle::handle_at(*handles, point) : Paste_Handle::none;
 }
 
 void Canvas_View::show_selection(Canvas_Picture& picture, const Tool_State& tools) const {
@@ -228,6 +256,11 @@ Tile_Point Canvas_View::cell_at(Point position) const {
         return distance / pixel_size_ - (distance % pixel_size_ < 0 ? 1 : 0);
     };
     return {rounded_down(position.x - origin_.x), rounded_down(position.y - origin_.y)};
+}
+
+Tile_Position Canvas_View::exact_position(Point position) const {
+    return {static_cast<double>(position.x - origin_.x) / pixel_size_,
+            static_cast<double>(position.y - origin_.y) / pixel_size_};
 }
 
 Point Canvas_View::in_viewport(Tile_Point corner) const {
@@ -275,6 +308,9 @@ bool Canvas_View::shows_brush(const Tool_State& tools, const Canvas_Settings& se
 void Canvas_View::paint(Canvas_Picture picture, const Brush_Feedback& feedback, const Rectangle& part,
                         const Pixel_Rows& target) {
     picture.origin = {picture.origin.x - part.x, picture.origin.y - part.y};
+    if (picture.handles) {
+        picture.handles = seen_from({part.x, part.y}, *picture.handles);
+    }
     painter_.paint(picture, target);
     paint_brush_feedback(seen_from({part.x, part.y}, feedback), pixel_size_, target);
 }

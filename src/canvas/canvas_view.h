@@ -9,6 +9,7 @@
 #include "canvas/canvas_painter.h"
 #include "canvas/canvas_settings.h"
 #include "canvas/edge_pictures.h"
+#include "canvas/paste_handles.h"
 #include "canvas/shown_canvas.h"
 #include "commands/command.h"
 #include "selection/work_area.h"
@@ -116,6 +117,11 @@ public:
     void toggle_grid() { shows_grid_ = !shows_grid_; }
     void show_grid() { shows_grid_ = true; }
 
+    // Where in the tile that is, to the window pixel.
+    [[nodiscard]] Tile_Position exact_position(Point position) const;
+    // The handle of what floats that is there, while the tool in use shows them.
+    [[nodiscard]] Paste_Handle handle_at(Point position, const Tool_State& tools) const;
+
     // Where the brush, or the corner that is taken, shows, if the tool has one; nowhere for none.
     void set_hover(std::optional<Hover> hover) { hover_ = hover; }
     // Returns whether anything of it shows there.
@@ -140,6 +146,8 @@ private:
     }
     [[nodiscard]] Canvas_Picture picture(const Tool_State& tools, const Canvas_Settings& settings) const;
     void show_selection(Canvas_Picture& picture, const Tool_State& tools) const;
+    // In pixels of the viewport.
+    [[nodiscard]] std::optional<Paste_Handles> paste_handles(const Tool_State& tools) const;
     // Writes every pixel of that part of the viewport.
     void paint(Canvas_Picture picture, const Brush_Feedback& feedback, const Rectangle& part,
                const Pixel_Rows& target);

@@ -1,10 +1,12 @@
 #include "canvas/selection_strokes.h"
 
 #include "selection/free_rotation.h"
+#include "selection/paste_shape.h"
 #include "selection/scroll.h"
 #include "tools/flood_fill.h"
 #include "tools/shapes.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace quadrelle {
@@ -20,6 +22,58 @@ bool is_in_picture(const Floating_Paste& paste, Tile_Point pixel) {
 }
 
 constexpr int shift_step = 15; // degrees
+
+// By the drag of a segment, on from what was turned so far.
+int turned_to(int degrees, const Stroke_Segment& segment, Tile_Position middle) {
+    const Grip& grip = segment.grip;
+    const int wanted = degrees + turn_between(grip.from, grip.to, middle);
+    const bool is_stepped = segment.moment.is_shift_held && grip.from != grip.to;
+    return normalized_degrees(is_stepped ? (wanted + shift_step / 2) / shift_step * shift_step : wanted);
+}
+
+Tile_Position middle_of(const Floating_Paste& paste) {
+    return {paste.position.x + paste.picture->width() / 2.0,
+            paste.position.y + paste.picture->height() / 2.0};
+}
+
+Stroke_Findings figures_of(const Floating_Paste& paste, const Stroke_Segment& segment) {
+    Stroke_Findings found = segment.no_findings();
+    found.figures.size = paste.picture->size();
+    found.figures.degrees = shape_of(paste).degrees;
+    return found;
+}
+
+void turn_paste(const Stroke_Segment& segment) {
+    const Floating_Paste& paste = *segment.work.paste();
+    const int degrees = shape_of(paste).degrees;
+    const int wanted = turned_to(degrees, segment, middle_of(paste));
+    if (wanted != degrees) {
+        segment.work.change_paste(turned(paste, wanted));
+    }
+}
+
+Corner opposite_to(Paste_Handle handle) {
+    switch (handle) {
+    case Paste_Handle::top_left: return Corner::bottom_right;
+    case Paste_Handle::top_right: return Corner::bottom_left;
+    case Paste_Handle::bottom_left: return Corner::top_right;
+    default: return Corner::top_left;
+    }
+}
+
+// With Shift by one factor both ways.
+void scale_paste(const Stroke_Segment& segment) {
+    const Floating_Paste& paste = *segment.work.paste();
+    const Grip& grip = segment.grip;
+    const Corner fixed = opposite_to(grip.handle);
+    Factors factors = factors_for(paste, fixed, {grip.to.x - grip.from.x, grip.to.y - grip.from.y});
+    if (segment.moment.is_shift_held) {
+        factors = {std::max(factors.x, factors.y), std::max(factors.x, factors.y)};
+    }
+    if (factors != shape_of(paste).factors) {
+        segment.work.change_paste(scaled(paste, factors, fixed));
+    }
+}
 
 // Brushes paint the mask in its own colour.
 constexpr Ink selecting_ink{Pixel_Operation::paint, Selection::selected_color, {}, {}, nullptr};
@@ -90,6 +144,10 @@ void finish_marking(Drawing_Target& /*target*/, const Stroke_Segment& segment) {
 
 Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = segment.work;
+    if (segment.grip.handle != Paste_Handle::none) {
+        segment.grip.handle == Paste_Handle::turn ? turn_paste(segment) : scale_paste(segment);
+        return figures_of(*work.paste(), segment);
+    }
     const bool has_moved = segment.from != segment.to;
     if (has_moved && work.selection().contains(segment.from)) {
         work.lift_selection(target.tile());
@@ -107,6 +165,9 @@ Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = segment.work;
     const bool is_click = segment.from == segment.to;
+    if (segment.grip.handle != Paste_Handle::none) {
+        return;
+    }
     if (work.paste() && !work.has_selection()) {
         if (is_click && !is_in_picture(*work.paste(), segment.from)) {
             work.plot_paste(target, segment.tools.options.selection_mode);
@@ -118,25 +179,23 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
 
 Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment) {
     Work_Area& work = segment.work;
-    Stroke_Findings found = segment.no_findings();
-    found.figures.degrees = 0;
-    if (work.has_selection()) {
-        if (segment.from == segment.to) {
-            return found;
-        }
+    const bool has_moved = segment.from != segment.to;
+    if (has_moved && work.has_selection()) {
         work.lift_selection(target.tile());
     }
-    const Size size = work.paste() ? work.paste()->picture->size() : target.size();
-    const Tile_Point corner = work.paste() ? work.paste()->position : Tile_Point{};
-    int& degrees = found.figures.degrees;
-    degrees = turn_between(segment.from, segment.to, {2 * corner.x + size.width, 2 * corner.y + size.height});
-    if (segment.moment.is_shift_held) {
-        degrees = (degrees + shift_step / 2) / shift_step * shift_step % 360;
+    if (work.paste() && !work.has_selection()) {
+        turn_paste(segment);
+        return figures_of(*work.paste(), segment);
     }
-    if (work.paste()) {
-        work.change_paste(turned(*work.paste(), degrees));
-    } else {
-        turned(target.tile(), degrees, size).copy_to(target.tile());
+    Stroke_Findings found = segment.no_findings();
+    int& degrees = found.figures.degrees;
+    degrees = 0;
+    if (!work.has_selection()) {
+        const int before = work.degrees_turned(target.tile());
+        degrees = turned_to(before, segment, {target.size().width / 2.0, target.size().height / 2.0});
+        if (degrees != before) {
+            work.turn_tile(target.tile(), degrees);
+        }
     }
     return found;
 }

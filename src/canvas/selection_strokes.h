@@ -17,12 +17,13 @@ Stroke_Findings mark_with_wand(Drawing_Target& target, const Stroke_Segment& seg
 void finish_area(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_marking(Drawing_Target& target, const Stroke_Segment& segment);
 
-// Drags the paste, or the selected pixels, which then float; beside it the paste is plotted.
+// Drags the paste, or the selected pixels, which then float; beside it the paste is plotted. A handle at a
+// corner of the paste scales it by whole factors, with Shift by one both ways, and that above it turns it.
 Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment);
 
-// Turns what floats, or lifts the selected pixels and turns them, or else turns the whole tile. In steps of
-// 15 degrees while Shift is held.
+// Turns what floats, or lifts the selected pixels and turns them, or else turns the whole tile; always from
+// what was there before it was turned first. To multiples of 15 degrees while Shift is held.
 Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment);
 
 Stroke_Findings scroll(Drawing_Target& target, const Stroke_Segment& segment);

@@ -47,6 +47,15 @@ Rectangle Shown_Canvas::changed_paste(const Canvas_Picture& picture) {
     return before == paste ? Rectangle{} : bounds_of(before.area, paste.area);
 }
 
+Rectangle Shown_Canvas::changed_handles(const Canvas_Picture& picture) {
+    const std::optional<Paste_Handles> before = std::exchange(handles_, picture.handles);
+    if (before == picture.handles) {
+        return {};
+    }
+    return bounds_of(before ? area_of(*before) : Rectangle{},
+                     picture.handles ? area_of(*picture.handles) : Rectangle{});
+}
+
 // A cell's outline depends on its neighbours too.
 Rectangle Shown_Canvas::changed_cells(const Canvas_Picture& picture) {
     Rectangle changed = bounds_of(tile_.change_to(*picture.tile), changed_paste(picture));
@@ -61,7 +70,8 @@ Rectangle Shown_Canvas::changed_cells(const Canvas_Picture& picture) {
 Rectangle Shown_Canvas::change_to(const Canvas_Picture& picture, const Rectangle& feedback, Size viewport) {
     const Rectangle cells = picture.tile == nullptr ? Rectangle{} : changed_cells(picture);
     const Rectangle all{0, 0, viewport.width, viewport.height};
-    const Rectangle marked = bounds_of(std::exchange(feedback_, feedback), feedback);
+    const Rectangle marked =
+        bounds_of(bounds_of(std::exchange(feedback_, feedback), feedback), changed_handles(picture));
     Look look = look_of(picture);
     if (look != look_) {
         look_ = std::move(look);

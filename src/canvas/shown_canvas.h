@@ -6,6 +6,7 @@
 #include "canvas/canvas_painter.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace quadrelle {
@@ -53,11 +54,14 @@ private:
     [[nodiscard]] static Look look_of(const Canvas_Picture& picture);
     [[nodiscard]] Rectangle changed_cells(const Canvas_Picture& picture);
     [[nodiscard]] Rectangle changed_paste(const Canvas_Picture& picture);
+    // In pixels of the viewport.
+    [[nodiscard]] Rectangle changed_handles(const Canvas_Picture& picture);
 
     Look look_;
     Cells tile_;
     std::vector<Cells> masks_; // of the outlines
     Paste paste_;
+    std::optional<Paste_Handles> handles_;
     Rectangle feedback_;
 };
 

@@ -6,7 +6,9 @@ namespace quadrelle {
 
 Stroke::Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointer, Stroke_Tools tools)
     : canvas_(canvas), row_(row), tile_(*canvas.tile()), pointer_(pointer), tools_(std::move(tools)),
-      button_(pointer.button), pressed_(point_of(pointer)), start_(pressed_), end_(pressed_), before_(tile_),
+      button_(pointer.button), grip_{canvas.handle_at(pointer.point(), tools_.state),
+                                     canvas.exact_position(pointer.point())},
+      pressed_(point_of(pointer)), start_(pressed_), end_(pressed_), before_(tile_),
       before_work_(canvas.work_area().state()) {
     canvas_.set_hover(Hover{pointer.point(), button_});
 }
@@ -112,7 +114,8 @@ Stroke_Segment Stroke::segment(Tile_Point from, Tile_Point to, Segment_Start sta
             to,
             start,
             canvas_.tile_point(pointer_.point()),
-            moment};
+            moment,
+            {grip_.handle, grip_.from, canvas_.exact_position(pointer_.point())}};
 }
 
 } // namespace quadrelle

@@ -53,6 +53,7 @@ private:
     Pointer_State& pointer_;
     Stroke_Tools tools_;
     Mouse_Button button_;
+    Grip grip_;
     Tile_Point pressed_;
     Tile_Point start_; // of the next segment
     Tile_Point end_;   // where the pointer was last

@@ -63,7 +63,7 @@ constexpr std::array tool_option_table = std::to_array<Tool_Option_Row>({
     {Tool::lightness_pen, none,               below, choice, "Speed",             "Extremely slow,Very slow,Slow,Moderate,Fast,Very fast,Extremely fast$", access<&Tool_Options::speed>},
     {Tool::lightness_pen, none,               below, tick,   "Speed",             "Size compensation",                                         access<&Tool_Options::size_compensation>},
     {Tool::flood_fill,    none,               below, choice, "Mode",              "Solid,Stamp$",                                              access<&Tool_Options::fill_mode>},
-    {Tool::selection,     none,               below, choice, "Mode",              "Standard,Persistent,Fixed$",                                access<&Tool_Options::selection_mode>},
+    {Tool::selection,     none,               above, choice, "Mode",              "Standard,Persistent,Fixed$",                                access<&Tool_Options::selection_mode>},
     {Tool::scroll,        none,               below, choice, "Move",              "Both,Pixels,Selection$",                                    access<&Tool_Options::scroll_move>},
     {Tool::wand_selector, none,               below, choice, "Mode",              "Normal,Quick copy,Quick cut$",                              access<&Tool_Options::wand_mode>},
 });
@@ -96,7 +96,6 @@ Tool_Option_Panes::~Tool_Option_Panes() = default;
 
 int Tool_Option_Panes::place(Tool tool, Point position) {
     visible_options_.clear();
-    visible_figures_.clear();
     const auto place_options = [&](Tool_Option_Place place) {
         for (std::size_t i = 0; i < tool_option_table.size(); ++i) {
             if (is_shown_for(tool, tool_option_table.at(i)) && tool_option_table.at(i).place == place) {
@@ -106,30 +105,30 @@ int Tool_Option_Panes::place(Tool tool, Point position) {
         }
     };
     place_options(Tool_Option_Place::above_figures);
-    const std::array<Pane*, 2> all_figures{row_of(tool).shows_location ? &location_ : nullptr,
-                                           figures_of(tool)};
-    for (Pane* const figures : all_figures) {
-        if (figures != nullptr) {
-            visible_figures_.push_back(figures);
-            position.y = figures->place(position.x, position.y);
-        }
+    visible_figures_ = figures_of(tool);
+    if (row_of(tool).shows_location) {
+        visible_figures_.insert(visible_figures_.begin(), &location_);
+    }
+    for (Pane* const figures : visible_figures_) {
+        position.y = figures->place(position.x, position.y);
     }
     place_options(Tool_Option_Place::below_figures);
     return position.y;
 }
 
 // What the tool shows while it works.
-Pane* Tool_Option_Panes::figures_of(Tool tool) {
+std::vector<Pane*> Tool_Option_Panes::figures_of(Tool tool) {
     switch (tool) {
-    case Tool::dropper: return &dropper_color_;
-    case Tool::line: return &length_;
+    case Tool::dropper: return {&dropper_color_};
+    case Tool::line: return {&length_};
     case Tool::rectangle:
-    case Tool::rectangle_selector: return &size_;
+    case Tool::rectangle_selector: return {&size_};
     case Tool::ellipse:
-    case Tool::circle_selector: return &radius_;
-    case Tool::scroll: return &offset_;
-    case Tool::rotate: return &degrees_;
-    default: return nullptr;
+    case Tool::circle_selector: return {&radius_};
+    case Tool::scroll: return {&offset_};
+    case Tool::rotate: return {&degrees_};
+    case Tool::selection: return {&size_, &degrees_};
+    default: return {};
     }
 }
 

@@ -27,7 +27,7 @@ public:
     bool click(Point point, Tool_Options& options);
 
 private:
-    [[nodiscard]] Pane* figures_of(Tool tool);
+    [[nodiscard]] std::vector<Pane*> figures_of(Tool tool);
     void show(const Tool_Figures& figures);
 
     std::vector<std::unique_ptr<Dialog_Pane>> options_; // in the order of the table

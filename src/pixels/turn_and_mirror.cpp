@@ -13,4 +13,11 @@ void place(const Tile& source, Tile& target, const Placement& placement) {
     }
 }
 
+Tile placed(const Tile& source, const Placement& placement) {
+    const Size size = placement.size_after(source.size());
+    Tile result(size.width, size.height);
+    place(source, result, placement);
+    return result;
+}
+
 } // namespace quadrelle

@@ -39,5 +39,6 @@ inline constexpr Placement flipped{[](Tile_Point pixel, Size area) {
 
 // `target` becomes the source placed anew. It is another tile, of the size that this takes.
 void place(const Tile& source, Tile& target, const Placement& placement);
+[[nodiscard]] Tile placed(const Tile& source, const Placement& placement);
 
 } // namespace quadrelle

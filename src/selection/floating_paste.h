@@ -14,9 +14,25 @@ namespace quadrelle {
 // A colour laid over another one: an opaque one hides it, a transparent one leaves it.
 [[nodiscard]] Color laid_over(Color color, Color below);
 
+// How many times as wide and as high.
+struct Factors {
+    int x = 1;
+    int y = 1;
+
+    bool operator==(const Factors&) const = default;
+};
+
+// How a picture came from the pixels that were taken: scaled first, and then turned clockwise.
+struct Paste_Shape {
+    Shared_Picture taken;
+    Factors factors = {};
+    int degrees = 0; // 0 to 359
+};
+
 struct Floating_Paste {
-    Shared_Picture picture; // transparent where it leaves what is below
-    Tile_Point position;    // of its top left corner in the tile
+    Shared_Picture picture;                // transparent where it leaves what is below
+    Tile_Point position;                   // of its top left corner in the tile
+    std::optional<Paste_Shape> shape = {}; // none for a picture that is as it was taken
 
     // Returns none outside the picture; what is there counts as transparent.
     [[nodiscard]] std::optional<Color> pixel_over(Tile_Point tile_pixel) const;

@@ -31,10 +31,6 @@ Direction direction_of(int degrees) {
     return {std::cos(angle), std::sin(angle)};
 }
 
-int normalized(int degrees) {
-    return ((degrees % 360) + 360) % 360;
-}
-
 // `sample(x, y)` gives the colour there, in pixels from the top left corner.
 template <typename Sample>
 Tile turned_by(const Tile& picture, Direction direction, Size size, Sample sample) {
@@ -60,7 +56,7 @@ Tile turned_by(const Tile& picture, Direction direction, Size size, Sample sampl
 } // namespace
 
 Tile turned(const Tile& picture, int degrees, Size size) {
-    const int angle = normalized(degrees);
+    const int angle = normalized_degrees(degrees);
     const Direction direction = direction_of(angle);
     if (angle % 90 == 0) {
         return turned_by(picture, direction, size, [&picture](double x, double y) {
@@ -84,24 +80,24 @@ int grown(double extent, int before) {
 
 } // namespace
 
-Floating_Paste turned(const Floating_Paste& paste, int degrees) {
-    const Direction direction = direction_of(normalized(degrees));
-    const int width = paste.picture->width();
-    const int height = paste.picture->height();
+Size size_turned(Size size, int degrees) {
+    const Direction direction = direction_of(normalized_degrees(degrees));
     const double cosine = std::abs(direction.cosine);
     const double sine = std::abs(direction.sine);
-    const Size size{grown(width * cosine + height * sine, width),
-                    grown(width * sine + height * cosine, height)};
-    return {turned(paste.picture, degrees, size),
-            {paste.position.x + (width - size.width) / 2, paste.position.y + (height - size.height) / 2}};
+    return {grown(size.width * cosine + size.height * sine, size.width),
+            grown(size.width * sine + size.height * cosine, size.height)};
 }
 
-int turn_between(Tile_Point from, Tile_Point to, Tile_Point middle_in_halves) {
-    const auto direction = [&](Tile_Point point) {
-        return std::atan2(2 * point.y + 1 - middle_in_halves.y, 2 * point.x + 1 - middle_in_halves.x);
+int normalized_degrees(int degrees) {
+    return ((degrees % 360) + 360) % 360;
+}
+
+int turn_between(Tile_Position from, Tile_Position to, Tile_Position middle) {
+    const auto direction = [middle](Tile_Position position) {
+        return std::atan2(position.y - middle.y, position.x - middle.x);
     };
     const double turn = (direction(to) - direction(from)) * 180 / std::numbers::pi;
-    return normalized(static_cast<int>(std::lround(turn)));
+    return normalized_degrees(static_cast<int>(std::lround(turn)));
 }
 
 } // namespace quadrelle

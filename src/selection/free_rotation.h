@@ -4,7 +4,6 @@
 
 #include "base/geometry.h"
 #include "pixels/tile.h"
-#include "selection/floating_paste.h"
 
 namespace quadrelle {
 
@@ -13,11 +12,14 @@ namespace quadrelle {
 // keeps its middle on a pixel or between pixels.
 [[nodiscard]] Tile turned(const Tile& picture, int degrees, Size size);
 
-// Returns the paste turned, as large as it has to be to lose nothing; the middle stays where it was.
-[[nodiscard]] Floating_Paste turned(const Floating_Paste& paste, int degrees);
+// Returns the size that it takes to lose nothing of a picture of that size, with its middle on a pixel or
+// between pixels as before.
+[[nodiscard]] Size size_turned(Size size, int degrees);
 
+// Returns the same turn in 0 to 359 degrees.
+[[nodiscard]] int normalized_degrees(int degrees);
 // Returns the degrees, 0 to 359 clockwise, from the direction of `from`, seen from the middle, to that of
-// `to`. The middle is given in half pixels.
-[[nodiscard]] int turn_between(Tile_Point from, Tile_Point to, Tile_Point middle_in_halves);
+// `to`.
+[[nodiscard]] int turn_between(Tile_Position from, Tile_Position to, Tile_Position middle);
 
 } // namespace quadrelle

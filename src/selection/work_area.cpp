@@ -1,6 +1,8 @@
 #include "selection/work_area.h"
 
 #include "selection/copy_buffer.h"
+#include "selection/free_rotation.h"
+#include "selection/paste_shape.h"
 #include "selection/scroll.h"
 #include "selection/transform_table.h"
 
@@ -36,7 +38,9 @@ void Work_Area::change_paste(const Floating_Paste& paste) {
 }
 
 void Work_Area::move_paste_to(Tile_Point position) {
-    change_paste({paste_->picture, position});
+    Floating_Paste moved = *paste_;
+    moved.position = position;
+    change_paste(moved);
 }
 
 void Work_Area::drop_paste() {
@@ -85,9 +89,16 @@ void Work_Area::update_paste_area() {
 }
 
 void Work_Area::recolor_paste(const std::function<void(Tile& picture)>& change) {
-    Tile picture(paste_->picture);
-    change(picture);
-    change_paste({std::move(picture), paste_->position});
+    const auto changed = [&change](const Tile& before) {
+        Tile picture(before);
+        change(picture);
+        return picture;
+    };
+    Floating_Paste paste{changed(paste_->picture), paste_->position, paste_->shape};
+    if (paste.shape) {
+        paste.shape->taken = changed(paste.shape->taken);
+    }
+    change_paste(paste);
 }
 
 Outcome Work_Area::transform_paste(Command command) {
@@ -99,19 +110,22 @@ Outcome Work_Area::transform_paste(Command command) {
     } else if (row->placement == nullptr) {
         move_paste_to({paste_->position.x + row->step.x, paste_->position.y + row->step.y});
     } else {
-        turn_paste(*row->placement);
+        change_paste(placed(*paste_, *row->placement));
     }
     return Outcome::done;
 }
 
-void Work_Area::turn_paste(const Placement& placement) {
-    const Size before = paste_->picture->size();
-    const Size size = placement.size_after(before);
-    Tile after(size.width, size.height);
-    place(paste_->picture, after, placement);
-    change_paste({std::move(after),
-                  {paste_->position.x + (before.width - size.width) / 2,
-                   paste_->position.y + (before.height - size.height) / 2}});
+int Work_Area::degrees_turned(const Tile& tile) const {
+    const bool is_turned = turn_ && tile.same_pixels(turn_->result);
+    return is_turned ? turn_->degrees : 0;
+}
+
+void Work_Area::turn_tile(Tile& tile, int degrees) {
+    const bool is_turned = turn_ && tile.same_pixels(turn_->result);
+    const Shared_Picture original = is_turned ? turn_->original : Shared_Picture(Tile(tile));
+    const Shared_Picture result = turned(original, degrees, tile.size());
+    result->copy_to(tile);
+    turn_ = std::make_shared<const Tile_Turn>(Tile_Turn{original, normalized_degrees(degrees), result});
 }
 
 Drawing_Target Work_Area::target(Tile& tile) const {
@@ -127,6 +141,7 @@ Work_State Work_Area::state() const {
         state.paste = std::make_shared<const Floating_Paste>(*paste_);
         state.paste_source = paste_source_;
     }
+    state.turn = turn_;
     return state;
 }
 
@@ -141,6 +156,7 @@ void Work_Area::restore(const Work_State& state) {
         change_paste(*state.paste);
         paste_source_ = state.paste_source;
     }
+    turn_ = state.turn;
 }
 
 bool Work_Area::operator==(const Work_State& state) const {

@@ -14,17 +14,23 @@
 
 namespace quadrelle {
 
-struct Placement;
-
 // Where what floats is from: a copy can be pasted once more, but what was lifted off the tile is nowhere else
 // until it is plotted. What was plotted is in the tile too, until it is moved or changed.
 enum class Paste_Source { copy, tile, plotted };
+
+// The tile before it was turned by so many degrees, and what it became.
+struct Tile_Turn {
+    Shared_Picture original;
+    int degrees = 0;
+    Shared_Picture result;
+};
 
 // What a step of the history keeps of the work area; null for nothing selected, and nothing floating.
 struct Work_State {
     std::shared_ptr<const Selection> selection;
     std::shared_ptr<const Floating_Paste> paste;
     Paste_Source paste_source = Paste_Source::copy;
+    std::shared_ptr<const Tile_Turn> turn = {};
 
     [[nodiscard]] std::size_t memory_size() const;
 };
@@ -81,23 +87,30 @@ public:
     // it; every other command is unknown.
     Outcome transform_paste(Command command);
 
+    // Returns how far the tile was turned since it was something else: 0 to 359 degrees.
+    [[nodiscard]] int degrees_turned(const Tile& tile) const;
+    // Turns the whole tile to that many degrees, from what it was before it was turned first.
+    void turn_tile(Tile& tile, int degrees);
+    // From now on the tile as it is counts as not turned.
+    void end_turn() { turn_.reset(); }
+
     [[nodiscard]] Drawing_Target target(Tile& tile) const;
 
     [[nodiscard]] Work_State state() const;
     // A selection of another tile size is dropped.
     void restore(const Work_State& state);
-    // Whether it was plotted already makes no difference.
+    // Whether it was plotted already and what it was before it was turned make no difference.
     [[nodiscard]] bool operator==(const Work_State& state) const;
 
 private:
     void update_paste_area();
-    void turn_paste(const Placement& placement);
 
     std::optional<Selection> selection_; // always there; replaced for another size
     std::optional<Selection> candidate_;
     std::optional<Floating_Paste> paste_;
     Paste_Source paste_source_ = Paste_Source::copy; // also without a paste
     std::optional<Selection> paste_area_;
+    std::shared_ptr<const Tile_Turn> turn_; // also when something else changed the tile since
 };
 
 } // namespace quadrelle

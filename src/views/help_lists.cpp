@@ -27,6 +27,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Lightness pen, left and right button", "one lightens, the other darkens"},
     {"Dropper, left or right button",        "takes the color for that button"},
     {"Ctrl and drag with the right button",  "moves the tile in the view"},
+    {"Handles around what floats",           "at the corners: scale it; above it: turn it, with Shift to multiples of 15 degrees"},
     {"Wheel",                                "zooms in and out"},
     {"Left button on an icon",               "chooses the tool, or does what the icon stands for"},
     {"Click in the list of tools",           "chooses the tool"},

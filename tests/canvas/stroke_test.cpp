@@ -1,3 +1,4 @@
+#include "selection/free_rotation.h"
 #include "tests/support/drawing_board.h"
 #include "tests/support/tiles.h"
 
@@ -42,12 +43,32 @@ TEST_F(Stroke_On_Board, figures_follow_and_shift_turns_in_steps) {
     EXPECT_EQ(board.tools.figures.degrees, 19);
     board.is_shift_held = true;
     board.drag({{20, 12}, {20, 15}});
-    EXPECT_EQ(board.tools.figures.degrees, 15);
+    EXPECT_EQ(board.tools.figures.degrees, 45);
     for (const Tool_Row& tool : tool_table) {
         board.tools.select(tool.command);
         board.drag({{20, 12}, {7, 15}});
         EXPECT_TRUE(!tool.shows_location || board.tools.figures.location == Tile_Point({7, 15})) << tool.name;
     }
+}
+
+// Of the corners, which turn out of the tile, nothing is lost.
+TEST_F(Stroke_On_Board, turns_the_tile_from_what_it_was_at_first) {
+    random_tile({24, 24}).copy_to(board.tile);
+    const Tile_Picture before = picture_of(board.tile);
+    const Tile quarter = turned(board.tile, 90, {24, 24});
+    board.tools.select(Command::free_rotate);
+    board.is_shift_held = true;
+    for (int degrees = 15; degrees <= 360; degrees += 15) {
+        board.drag({{20, 12}, {20, 15}});
+        EXPECT_EQ(picture_of(board.tile) == picture_of(quarter), degrees == 90) << degrees;
+        EXPECT_EQ(picture_of(board.tile) == before, degrees == 360) << degrees;
+        EXPECT_EQ(board.tools.figures.degrees, degrees % 360);
+    }
+    // Something else changes it.
+    board.drag({{20, 12}, {20, 15}});
+    board.tile.set_pixel(11, 11, red);
+    board.drag({{20, 12}, {20, 15}});
+    EXPECT_EQ(board.tools.figures.degrees, 15);
 }
 
 // Grey, on which the lightness pen of one pixel draws; how often it touched each pixel of a row or column.

@@ -58,22 +58,8 @@ TEST(Rotation, tells_black_from_transparent) {
     }
 }
 
-TEST(Rotation, a_paste_grows_so_that_nothing_is_lost_and_its_middle_stays) {
-    std::mt19937 random(9);
-    const Floating_Paste paste{random_tile({9, 4}, random), {5, -2}};
-    for (int degrees = 0; degrees < 360; degrees += 5) {
-        const Floating_Paste result = turned(paste, degrees);
-        EXPECT_EQ(2 * result.position.x + result.picture->width(), 2 * 5 + 9) << degrees;
-        EXPECT_EQ(2 * result.position.y + result.picture->height(), 2 * -2 + 4) << degrees;
-    }
-    const Floating_Paste upright = turned(paste, 90);
-    // Odd across even has no common middle: there is a transparent line more.
-    EXPECT_EQ(upright.picture->size(), (Size{5, 10}));
-    EXPECT_EQ(picture_of(turned(paste, 0).picture), picture_of(paste.picture));
-}
-
 TEST(Rotation, turns_by_the_angle_between_two_directions) {
-    constexpr Tile_Point middle{2 * 10 + 1, 2 * 10 + 1}; // of pixel (10, 10)
+    constexpr Tile_Position middle{10, 10};
     EXPECT_EQ(turn_between({15, 10}, {10, 15}, middle), 90);
     EXPECT_EQ(turn_between({10, 15}, {15, 10}, middle), 270);
     EXPECT_EQ(turn_between({15, 10}, {14, 14}, middle), 45);

@@ -189,6 +189,35 @@ TEST_F(Selection_Test, turning_what_is_selected_and_not_square_lifts_it) {
     }
 }
 
+// Until the tool is left; undo and redo go there too.
+TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_was_taken) {
+    paint_noise(6);
+    document().history().reset(document().tileset());
+    const Tile_Picture before = tile_picture();
+    const auto turn = [this](Tile_Point from, Tile_Point to) {
+        play(script().drag({cell(from.x, from.y), cell(to.x, to.y)}));
+    };
+    constexpr Tile_Point start{20, 12};
+    constexpr Tile_Point end{20, 15};
+    for (const bool leaves : {false, true}) {
+        execute(Command::free_rotate);
+        turn(start, end);
+        const Tile_Picture turned_once = tile_picture();
+        turn(start, end);
+        execute(Command::undo);
+        EXPECT_EQ(tile_picture(), turned_once);
+        if (leaves) {
+            execute(Command::pen);
+            execute(Command::free_rotate);
+        }
+        turn(end, start);
+        EXPECT_EQ(tile_picture() == before, !leaves);
+        execute(Command::undo);
+        execute(Command::undo);
+        EXPECT_EQ(tile_picture(), before);
+    }
+}
+
 // As a step of that tile; where no other one comes, it floats on.
 TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_comes) {
     constexpr Point second_in_strip{4 + 24 + 12, 648};
