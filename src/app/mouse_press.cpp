@@ -5,6 +5,7 @@
 #include "app/hover.h"
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
+#include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "tools/options.h"
 #include "ui/window_layout.h"
@@ -38,11 +39,24 @@ void draw_on_canvas(Editor_Parts& editor) {
     }
 }
 
+// The first of two clicks took the palette's colour for that button already: it has it as it is now.
+void edit_palette_color(Editor_Parts& editor, Mouse_Button taken_for) {
+    tool_commands::edit_palette_color(editor.panes.palette());
+    tool_colors->set_color(taken_for, editor.panes.palette().selected_color());
+}
+
 void answer_double_click(Editor_Parts& editor, Double_Click twice) {
-    if (twice == Double_Click::paste_copy) {
+    switch (twice) {
+    case Double_Click::none: break;
+    case Double_Click::paste_copy:
         editor.recorder.step([&] {
             return edit_commands::paste_copy(editor) == Outcome::done ? Command::paste : Command::none;
         });
+        break;
+    case Double_Click::edit_left_color: tool_commands::edit_button_color(Mouse_Button::left); break;
+    case Double_Click::edit_right_color: tool_commands::edit_button_color(Mouse_Button::right); break;
+    case Double_Click::edit_palette_color: edit_palette_color(editor, editor.pointer.button); break;
+    case Double_Click::edit_selected_color: tool_commands::edit_palette_color(editor.panes.palette()); break;
     }
 }
 

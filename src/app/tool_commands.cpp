@@ -1,7 +1,6 @@
 #include "app/tool_commands.h"
 
 #include "app/editor_parts.h"
-#include "app/tile_commands.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "views/color_editor.h"
@@ -53,15 +52,26 @@ Outcome step_in_palette(Editor_Parts& editor, Point step) {
     return Outcome::done;
 }
 
-Outcome edit_color(Editor_Parts& editor) {
-    const Color_Choice choice = quadrelle::edit_color(tool_colors->color(Mouse_Button::left));
-    if (choice.color) {
-        tool_colors->set_color(Mouse_Button::left, *choice.color);
-    }
-    if (choice.request == Color_Request::adjust_tile) {
-        tile_commands::adjust_hsv(editor);
-    }
+Outcome edit_color(Editor_Parts& /*editor*/) {
+    edit_button_color(Mouse_Button::left);
     return Outcome::done;
+}
+
+void edit_button_color(Mouse_Button button) {
+    const bool is_left = button == Mouse_Button::left;
+    const std::optional<Color> edited = quadrelle::edit_color(
+        is_left ? "Left button color" : "Right button color", tool_colors->color(button));
+    if (edited) {
+        tool_colors->set_color(button, *edited);
+    }
+}
+
+void edit_palette_color(Palette_Area& palette) {
+    const std::optional<Color> edited =
+        quadrelle::edit_color("Selected color of the palette", palette.selected_color());
+    if (edited) {
+        palette.store(*edited);
+    }
 }
 
 } // namespace quadrelle::tool_commands

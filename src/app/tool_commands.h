@@ -3,11 +3,13 @@
 // The commands that select a tool or its colours.
 
 #include "base/geometry.h"
+#include "base/input.h"
 #include "commands/outcome.h"
 #include "tools/tool_catalogue.h"
 
 namespace quadrelle {
 
+class Palette_Area;
 struct Editor_Parts;
 
 namespace tool_commands {
@@ -23,6 +25,10 @@ Outcome swap_colors(Editor_Parts& editor);
 // Selects another entry of the palette, so many columns and rows away.
 Outcome step_in_palette(Editor_Parts& editor, Point step);
 Outcome edit_color(Editor_Parts& editor);
+
+// Let the user edit the colour of that button, or the selected one of the palette.
+void edit_button_color(Mouse_Button button);
+void edit_palette_color(Palette_Area& palette);
 
 } // namespace tool_commands
 

@@ -2,6 +2,7 @@
 
 #include "app/documents.h"
 #include "canvas/canvas_view.h"
+#include "color/standard_colors.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
 #include "screen/events.h"
@@ -39,7 +40,7 @@ Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffe
       preview_(below_title(window_layout::preview)),
       magnification_(below_title(window_layout::magnification), "Magnification", "x"),
       palette_(corner_of(window_layout::palette), *palette_store),
-      selected_color_(corner_of(window_layout::selected_color), palette_),
+      selected_color_(corner_of(window_layout::selected_color), palette_, toolbox->state().colors),
       history_(corner_of(window_layout::history)), navigation_(corner_of(window_layout::navigation)),
       menu_bar_([this] { redraw_(Present::no); }) {}
 
@@ -145,7 +146,8 @@ Command Window_Panes::command_at(Point point) const {
     const Command copying =
         toolbox->state().is_in_selection_group() ? copy_panes_.command_at(point) : Command::none;
     for (const Command command :
-         {icon_bar_.command_at(point), toolbox->command_at(point), copying, navigation_.command_at(point)}) {
+         {icon_bar_.command_at(point), toolbox->command_at(point), copying, navigation_.command_at(point),
+          selected_color_.adjust_button().contains(point) ? Command::adjust_hsv : Command::none}) {
         if (command != Command::none) {
             return command;
         }
@@ -154,6 +156,12 @@ Command Window_Panes::command_at(Point point) const {
 }
 
 std::optional<Place> Window_Panes::place_at(Point point) const {
+    if (const std::optional<Mouse_Button> button = selected_color_.button_color_at(point)) {
+        return button == Mouse_Button::left ? Place::left_color : Place::right_color;
+    }
+    if (palette_.has_transparent_at(point)) {
+        return Place::transparent;
+    }
     if (const std::optional<Place> place = pane_at(point)) {
         return place;
     }
@@ -195,12 +203,29 @@ Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count)
     return is_second ? target.meaning : Double_Click::none;
 }
 
+// With Shift a click on the palette stores.
 Window_Panes::Click_Target Window_Panes::target_at(const Pointer_State& pointer) const {
-    if (const std::optional<std::size_t> copy = copy_at(pointer.point());
+    const Point point = pointer.point();
+    if (const std::optional<Mouse_Button> side = button_color_at(point)) {
+        return {side == Mouse_Button::left ? Double_Click::edit_left_color : Double_Click::edit_right_color};
+    }
+    if (const std::optional<int> entry = palette_.entry_at(point); entry && !is_shift_held()) {
+        return {Double_Click::edit_palette_color, static_cast<std::size_t>(*entry)};
+    }
+    if (selected_color_.has_entry_at(point)) {
+        return {Double_Click::edit_selected_color};
+    }
+    if (const std::optional<std::size_t> copy = copy_at(point);
         copy && pointer.button == Mouse_Button::left) {
         return {Double_Click::paste_copy, *copy};
     }
     return {};
+}
+
+// Both colours stand above the pane "Selected", and with tools that use them in panes of their own.
+std::optional<Mouse_Button> Window_Panes::button_color_at(Point point) const {
+    const std::optional<Mouse_Button> small = selected_color_.button_color_at(point);
+    return small ? small : toolbox->button_color_at(point);
 }
 
 Pane_Click Window_Panes::click(Pointer_State& pointer, int count) {
@@ -228,19 +253,30 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
     if (toolbox->click(pointer, [this] { redraw_(Present::yes); })) {
         return true;
     }
-    if (selected_color_.set_button().contains(point)) {
+    if (const std::optional<Mouse_Button> side = selected_color_.button_color_at(point)) {
+        tool_colors->light(*side);
+        return true;
+    }
+    if (selected_color_.store_button().contains(point)) {
         palette_.store(tool_colors->current_color());
         return true;
     }
-    if (const std::optional<Color> color = palette_.click(point)) {
-        if (is_shift_held()) {
-            palette_.store(tool_colors->color(pointer.button));
-        } else {
-            tool_colors->set_color(pointer.button, *color);
-        }
+    return take_palette_click(pointer) || take_copy_click(pointer);
+}
+
+bool Window_Panes::take_palette_click(const Pointer_State& pointer) {
+    if (palette_.has_transparent_at(pointer.point())) {
+        tool_colors->set_color(pointer.button, standard_color(Standard_Color::transparent));
         return true;
     }
-    return take_copy_click(pointer);
+    const std::optional<Color> color = palette_.click(pointer.point());
+    if (color && is_shift_held()) {
+        palette_.store(pointer.button == Mouse_Button::left ? tool_colors->current_color()
+                                                            : tool_colors->other_color());
+    } else if (color) {
+        tool_colors->set_color(pointer.button, *color);
+    }
+    return color.has_value();
 }
 
 // The left button chooses a copy, the right one removes it.

@@ -12,6 +12,7 @@
 #include "panes/menu_bar.h"
 #include "panes/palette_area.h"
 #include "panes/preview_pane.h"
+#include "panes/selected_color_area.h"
 #include "panes/tile_navigation_pane.h"
 #include "panes/tile_strip_picture.h"
 #include "ui/number_info.h"
@@ -28,7 +29,14 @@ class Documents;
 constexpr Pointer_State pointer_nowhere{-1, -1, Mouse_Button::none};
 
 // What a double click on a pane asks for.
-enum class Double_Click { none, paste_copy };
+enum class Double_Click {
+    none,
+    paste_copy,
+    edit_left_color,
+    edit_right_color,
+    edit_palette_color,
+    edit_selected_color
+};
 
 // What is still to be done after a click on a pane.
 struct Pane_Click {
@@ -74,10 +82,12 @@ private:
     [[nodiscard]] Command command_at(Point point) const;
     [[nodiscard]] std::optional<Place> place_at(Point point) const;
     [[nodiscard]] std::optional<Place> pane_at(Point point) const;
+    [[nodiscard]] std::optional<Mouse_Button> button_color_at(Point point) const;
     [[nodiscard]] Click_Target target_at(const Pointer_State& pointer) const;
     [[nodiscard]] Double_Click double_click(const Pointer_State& pointer, int count);
     [[nodiscard]] bool take_click(const Pointer_State& pointer);
     [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
+    [[nodiscard]] bool take_palette_click(const Pointer_State& pointer);
     [[nodiscard]] bool take_copy_click(const Pointer_State& pointer);
     [[nodiscard]] Command click_buttons(const Pointer_State& pointer);
 

@@ -1,12 +1,9 @@
 #include "panes/palette_area.h"
 
-#include "color/color_data.h"
-#include "color/hex_color.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "ui/swatch.h"
-#include "ui/text_button.h"
 #include "ui/window_layout.h"
 
 namespace quadrelle {
@@ -18,15 +15,10 @@ constexpr Size grid_size{192, 80};
 constexpr int coarse_columns = 8;
 constexpr int coarse_rows = 4;
 constexpr int button_gap = 4;
-constexpr Size selected_size{192, 40};
-constexpr int swatch_edge = 40;
-constexpr int text_gap = 7;
-constexpr int text_rise = 4; // the letters begin below their position
-constexpr int second_line = 25;
-constexpr Size set_button_size{46, 18};
+constexpr int swatch_width = 24;
+constexpr int swatch_gap = 8;
 
 static_assert(window_layout::palette.height == window_layout::pane_height(name_height + grid_size.height));
-static_assert(window_layout::selected_color.height == window_layout::pane_height(selected_size.height));
 
 Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
     const Rectangle button = sprite_rect(sprite);
@@ -70,11 +62,16 @@ Rectangle Palette_Area::less_button() const {
     return button_at(client_area(), Sprite::button_less, more_button().x - button_gap);
 }
 
-// A palette from a file may have any name: what has no room before the buttons is left out.
+Rectangle Palette_Area::transparent_swatch() const {
+    const Rectangle button = less_button();
+    return {button.x - swatch_gap - swatch_width, button.y, swatch_width, button.height};
+}
+
+// A palette from a file may have any name: what has no room is left out.
 std::string Palette_Area::shown_name() const {
     std::string name = store_.name(palette_).substr(0, static_cast<std::size_t>(grid_size.width));
     std::erase_if(name, [](char letter) { return letter == '\r'; });
-    const int room = less_button().x - client_area().x - button_gap;
+    const int room = transparent_swatch().x - client_area().x - button_gap;
     while (screen->text_width(Font::pane, name) > room) {
         name.pop_back();
     }
@@ -87,10 +84,12 @@ void Palette_Area::draw() const {
     screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
     screen->draw_sprite(Sprite::button_less, {less_button().x, less_button().y});
     screen->draw_sprite(Sprite::button_more, {more_button().x, more_button().y});
+    draw_swatch(transparent_swatch(), standard_color(Standard_Color::transparent));
+    screen->draw_outline(transparent_swatch(), standard_color(Standard_Color::dark_frame));
     for (int entry = 0; entry < store_.count(palette_); ++entry) {
         draw_swatch(cell(entry), store_.color(palette_, entry));
     }
-    if (store_.count(palette_) > 0) {
+    if (has_entries()) {
         draw_cell_mark(cell(entry_));
     }
 }
@@ -101,10 +100,18 @@ std::optional<Color> Palette_Area::click(Point point) {
     } else if (more_button().contains(point)) {
         step_palette(1);
     }
+    const std::optional<int> entry = entry_at(point);
+    if (!entry) {
+        return std::nullopt;
+    }
+    entry_ = *entry;
+    return selected_color();
+}
+
+std::optional<int> Palette_Area::entry_at(Point point) const {
     for (int entry = 0; entry < store_.count(palette_); ++entry) {
         if (cell(entry).contains(point)) {
-            entry_ = entry;
-            return selected_color();
+            return entry;
         }
     }
     return std::nullopt;
@@ -122,30 +129,6 @@ Color Palette_Area::move_selection(int dx, int dy) {
         entry_ = entry;
     }
     return selected_color();
-}
-
-Selected_Color_Area::Selected_Color_Area(Point position, const Palette_Area& palette)
-    : Pane(below_title({position.x, position.y, window_layout::selected_color.width,
-                        window_layout::selected_color.height}),
-           "Selected"),
-      palette_(palette) {}
-
-Rectangle Selected_Color_Area::set_button() const {
-    const Rectangle client = client_area();
-    return {client.right() - set_button_size.width, client.bottom() - set_button_size.height,
-            set_button_size.width, set_button_size.height};
-}
-
-void Selected_Color_Area::draw() const {
-    Pane::draw();
-    const Rectangle client = client_area();
-    const Rectangle swatch{client.x, client.y, swatch_edge, swatch_edge};
-    screen->draw_outline(swatch, standard_color(Standard_Color::dark_frame));
-    draw_swatch(swatch.inset(1), palette_.selected_color());
-    const Point text{swatch.right() + text_gap, client.y - text_rise};
-    screen->draw_text(Font::pane, text, color_numbers(palette_.selected_color()));
-    screen->draw_text(Font::pane, {text.x, text.y + second_line}, hex_text(palette_.selected_color()));
-    draw_button(set_button(), Font::pane, "Set", -1);
 }
 
 } // namespace quadrelle

@@ -1,6 +1,7 @@
 #pragma once
 
-// The pane of the palettes: one of them at a time as a grid of colours, and which entry is selected.
+// The pane of the palettes: one of them at a time as a grid of colours, and which entry is selected. Beside
+// their name stands a swatch that belongs to none of them: transparent.
 
 #include "color/color.h"
 #include "color/palette_store.h"
@@ -19,6 +20,9 @@ public:
     void draw() const override;
     // Chooses a palette, or selects an entry: then its colour is the answer.
     std::optional<Color> click(Point point);
+    [[nodiscard]] std::optional<int> entry_at(Point point) const;
+    [[nodiscard]] bool has_transparent_at(Point point) const { return transparent_swatch().contains(point); }
+    [[nodiscard]] bool has_entries() const { return store_.count(palette_) > 0; }
     // Goes by one entry along either axis and returns its colour; at an edge the selection stays.
     Color move_selection(int dx, int dy);
     [[nodiscard]] Color selected_color() const { return store_.color(palette_, entry_); }
@@ -31,6 +35,7 @@ private:
     [[nodiscard]] int columns() const;
     [[nodiscard]] Size cell_size() const;
     [[nodiscard]] Rectangle cell(int entry) const;
+    [[nodiscard]] Rectangle transparent_swatch() const;
     [[nodiscard]] Rectangle less_button() const;
     [[nodiscard]] Rectangle more_button() const;
     [[nodiscard]] std::string shown_name() const;
@@ -39,19 +44,6 @@ private:
     Palette_Store& store_;
     int palette_ = 0;
     int entry_ = 0;
-};
-
-// Shows the entry selected in the palette: a swatch and its numbers, and the button that stores the current
-// tool colour there.
-class Selected_Color_Area : public Pane {
-public:
-    Selected_Color_Area(Point position, const Palette_Area& palette);
-
-    void draw() const override;
-    [[nodiscard]] Rectangle set_button() const;
-
-private:
-    const Palette_Area& palette_;
 };
 
 } // namespace quadrelle

@@ -62,14 +62,26 @@ bool Tool_Color_Panel::click(const Pointer_State& pointer, const std::function<v
            handles_.click(point, redraw);
 }
 
-bool Tool_Color_Panel::click_side(Point point) {
+Color Tool_Color_Panel::other_color() const {
+    return colors_.of(colors_.active_side == Mouse_Button::left ? Mouse_Button::right : Mouse_Button::left);
+}
+
+std::optional<Mouse_Button> Tool_Color_Panel::button_color_at(Point point) const {
     for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-        if (panes_.at(side(button)).contains(point.x, point.y) && colors_.active_side != button) {
-            colors_.active_side = button;
-            return true;
+        if (panes_.at(side(button)).contains(point)) {
+            return button;
         }
     }
-    return false;
+    return std::nullopt;
+}
+
+bool Tool_Color_Panel::click_side(Point point) {
+    const std::optional<Mouse_Button> button = button_color_at(point);
+    if (!button || button == colors_.active_side) {
+        return false;
+    }
+    light(*button);
+    return true;
 }
 
 std::optional<Place> Tool_Color_Panel::place_at(Point point, Tool_Color_Panes shown) const {

@@ -30,7 +30,10 @@ public:
     void set_color(Mouse_Button button, Color color) { colors_.set(button, color); }
     // Returns the colour of the side that was clicked last: the handles and variations work on it.
     [[nodiscard]] Color current_color() const { return colors_.current(); }
+    [[nodiscard]] Color other_color() const;
     [[nodiscard]] Mouse_Button active_side() const { return colors_.active_side; }
+    // Makes that side the active one.
+    void light(Mouse_Button side) { colors_.active_side = side; }
     void swap();
     // Makes the colours white and black, as at the start.
     void reset();
@@ -40,6 +43,8 @@ public:
     // A click on a colour makes its side the active one; the other panes pick and change colours, also along
     // the pointer's motions: `redraw` then draws and presents the window. True when something was chosen.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);
+    // Returns the button whose colour is in the pane at `point`, if any.
+    [[nodiscard]] std::optional<Mouse_Button> button_color_at(Point point) const;
     // Returns which of the panes that are shown is at `point`, if any.
     [[nodiscard]] std::optional<Place> place_at(Point point, Tool_Color_Panes shown) const;
 

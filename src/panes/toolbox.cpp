@@ -130,6 +130,11 @@ void Toolbox::draw(Point pointer) {
     }
 }
 
+std::optional<Mouse_Button> Toolbox::button_color_at(Point point) const {
+    return color_panes_of(state_.tool) == Tool_Color_Panes::none ? std::nullopt
+                                                                 : tool_colors->button_color_at(point);
+}
+
 std::optional<Place> Toolbox::place_at(Point point) const {
     if (state_.tool == Tool::stamp_brush && brush_pad_panes_.has_board_at(point)) {
         return Place::brush_pad;

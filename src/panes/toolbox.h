@@ -56,6 +56,8 @@ public:
     [[nodiscard]] Command command_at(Point point) const;
     // Returns the pane beside the list that is at `point`, if any.
     [[nodiscard]] std::optional<Place> place_at(Point point) const;
+    // Returns the button whose colour the tool shows in the pane at `point`, if any.
+    [[nodiscard]] std::optional<Mouse_Button> button_color_at(Point point) const;
     // Returns true when an option, a brush, one of the pad too, or a colour was chosen. `redraw` draws and
     // presents the window, while the pointer is followed.
     bool click(const Pointer_State& pointer, const std::function<void()>& redraw);

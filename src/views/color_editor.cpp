@@ -29,58 +29,60 @@ constexpr int buttons_y = inside.bottom() - text_button_height;
 
 enum class View { data, database };
 
+void draw_right_aligned(std::string_view text, int y) {
+    screen->draw_text(Font::pane, {inside.right() - screen->text_width(Font::pane, text), y}, text);
+}
+
 class Color_Editor {
 public:
-    explicit Color_Editor(Color color);
-    Color_Choice run();
+    Color_Editor(std::string_view what, Color color);
+    std::optional<Color> run();
 
 private:
     void draw() const;
     Loop_Step handle(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
     Loop_Step hand_on(const Input_Event& event);
-    Loop_Step accept(Color_Request request);
+    Loop_Step accept();
     void show(View view);
 
+    std::string_view what_;
     Color_Edit edit_;
     View view_ = View::data;
     Dialog_Frame frame_{"Color editor"};
     Text_Button data_tab_{"Data", {inside.x, inside.y, 90, tab_height}};
     Text_Button database_tab_{"Database", {inside.x + 94, inside.y, 110, tab_height}};
     Text_Button ok_{"Ok", {inside.x, buttons_y, 70, text_button_height}};
-    Text_Button adjust_{"Adjust HSV", {inside.x + 140, buttons_y, 140, text_button_height}};
     Text_Button cancel_{"Cancel", {inside.right() - 85, buttons_y, 85, text_button_height}};
     Color_Data_View data_;
     Color_Database_View database_;
-    Color_Choice choice_;
+    bool is_accepted_ = false;
 };
 
-Color_Editor::Color_Editor(Color color) : edit_(color), data_(edit_, content), database_(edit_, content) {
+Color_Editor::Color_Editor(std::string_view what, Color color)
+    : what_(what), edit_(color), data_(edit_, content), database_(edit_, content) {
     frame_.set_area(frame_area);
 }
 
-Color_Choice Color_Editor::run() {
+std::optional<Color> Color_Editor::run() {
     const Text_Input text_input;
     run_dialog({"dialog \"Color editor\"", [this] { draw(); },
-                [this](const Input_Event& event) { return handle(event); },
-                [this] { return accept(Color_Request::none); }});
-    return choice_;
+                [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
+    return is_accepted_ ? std::optional(edit_.color()) : std::nullopt;
 }
 
 void Color_Editor::draw() const {
     frame_.draw();
+    draw_right_aligned(what_, frame_area.y + 2);
     data_tab_.draw(view_ == View::data ? Button_Look::chosen : Button_Look::plain);
     database_tab_.draw(view_ == View::database ? Button_Look::chosen : Button_Look::plain);
-    constexpr std::string_view hint = "Tab switches";
-    screen->draw_text(Font::pane, {inside.right() - screen->text_width(Font::pane, hint), inside.y + 1},
-                      hint);
+    draw_right_aligned("Tab switches", inside.y + 1);
     if (view_ == View::data) {
         data_.draw();
     } else {
         database_.draw();
     }
     ok_.draw(Button_Look::plain);
-    adjust_.draw(Button_Look::plain);
     cancel_.draw(Button_Look::plain);
 }
 
@@ -102,8 +104,8 @@ Loop_Step Color_Editor::press(const Input_Event& event) {
     if (cancel_.contains(point)) {
         return Loop_Step::end;
     }
-    if (ok_.contains(point) || adjust_.contains(point)) {
-        return accept(ok_.contains(point) ? Color_Request::none : Color_Request::adjust_tile);
+    if (ok_.contains(point)) {
+        return accept();
     }
     if (data_tab_.contains(point) || database_tab_.contains(point)) {
         show(data_tab_.contains(point) ? View::data : View::database);
@@ -117,15 +119,15 @@ Loop_Step Color_Editor::hand_on(const Input_Event& event) {
         data_.handle(event);
         return Loop_Step::go_on;
     }
-    return database_.handle(event) == List_Answer::accepted ? accept(Color_Request::none) : Loop_Step::go_on;
+    return database_.handle(event) == List_Answer::accepted ? accept() : Loop_Step::go_on;
 }
 
 // An unfinished text stays where the reason is seen.
-Loop_Step Color_Editor::accept(Color_Request request) {
+Loop_Step Color_Editor::accept() {
     if (view_ == View::data && !data_.is_complete()) {
         return Loop_Step::go_on;
     }
-    choice_ = {edit_.color(), request};
+    is_accepted_ = true;
     return Loop_Step::end;
 }
 
@@ -136,8 +138,8 @@ void Color_Editor::show(View view) {
 
 } // namespace
 
-Color_Choice edit_color(Color color) {
-    return Color_Editor(color).run();
+std::optional<Color> edit_color(std::string_view what, Color color) {
+    return Color_Editor(what, color).run();
 }
 
 } // namespace quadrelle

@@ -1,24 +1,17 @@
 #pragma once
 
-// The dialog in which one colour is edited: its numbers, and a list of named colours. Knows neither tools nor
-// tiles.
+// The dialog in which one colour is edited: its numbers, and a list of named colours. Knows neither
+// tools nor tiles.
 
 #include "color/color.h"
 
 #include <optional>
+#include <string_view>
 
 namespace quadrelle {
 
-// What else the user wants of the dialog.
-enum class Color_Request { none, adjust_tile };
-
-struct Color_Choice {
-    // None when the colour is to stay as it was.
-    std::optional<Color> color;
-    Color_Request request = Color_Request::none;
-};
-
-// Edits the colour in a dialog beside the canvas.
-[[nodiscard]] Color_Choice edit_color(Color color);
+// Edits the colour in a dialog beside the canvas, which says what it is the colour of. Returns none when it
+// is to stay as it was.
+[[nodiscard]] std::optional<Color> edit_color(std::string_view what, Color color);
 
 } // namespace quadrelle

@@ -175,7 +175,7 @@ TEST_F(Adjust_HSV_Test, keeps_to_the_selection_unless_all_tiles_change) {
     EXPECT_EQ(picture(0), before[0]);
 }
 
-TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_color_editor) {
+TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_selected_pane) {
     const Tile_Picture before = picture();
     execute(Command::horizontal_seam_tool);
     script().click({more_x, value_y}).key(key::enter);
@@ -185,9 +185,13 @@ TEST_F(Adjust_HSV_Test, works_on_a_shifted_tile_and_comes_from_the_color_editor)
     editor->execute(Command::undo);
     EXPECT_EQ(picture(), before);
 
-    script().press({1000, 460});
-    expect_loop("dialog \"Adjust HSV\"").click({more_x, value_y}).key(key::enter);
-    execute(Command::color_editor);
+    const auto press_button = [this] {
+        script().click({190, 619});
+        return &expect_loop("dialog \"Adjust HSV\"").click({more_x, value_y});
+    };
+    play(press_button()->key(key::escape));
+    EXPECT_EQ(picture(), before);
+    play(press_button()->key(key::enter));
     EXPECT_EQ(picture(), changed(before, {.value = 1}));
     EXPECT_EQ(steps(), 2U);
 }

@@ -1,5 +1,6 @@
 #include "color/color_data.h"
 #include "color/color_edit.h"
+#include "color/palette_store.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
@@ -68,6 +69,50 @@ TEST_F(Color_Editor_Test, gives_the_color_back_only_when_accepted) {
     EXPECT_EQ(after([&] { script().quit(); }), start);
     EXPECT_EQ(tools().colors.of(Mouse_Button::right), Color(0, 0, 0));
     EXPECT_FALSE(document().is_modified());
+}
+
+// The picture of the dialog's title bar tells them apart.
+TEST_F(Color_Editor_Test, a_double_click_opens_it_for_that_color) {
+    constexpr Point entry{36 + 2 * 24 + 12, 472 + 20 + 10};
+    constexpr Color changed(98, 18, 124);
+    struct Case {
+        Point point;
+        bool left, right, of_palette;
+    };
+    std::vector<std::vector<Color>> titles;
+    for (const Case& test : {Case{{1100, 70}, true, false, false},
+                             {{1100, 140}, false, true, false},
+                             {{197, 572}, true, false, false},
+                             {{222, 572}, false, true, false},
+                             {entry, true, false, true},
+                             {{55, 607}, false, false, true}}) {
+        SCOPED_TRACE(test.point.x);
+        tools().colors.set(Mouse_Button::left, start);
+        tools().colors.set(Mouse_Button::right, start);
+        palette_store->set_color(0, 10, start);
+        double_click(test.point);
+        expect_loop("dialog \"Color editor\"").check([&] {
+            titles.emplace_back();
+            for (int x = 1000; x < 1218; ++x) {
+                titles.back().push_back(pixel_at({x, 40}));
+            }
+        });
+        script().click(more(Color_Channel::red)).key(key::enter);
+        play();
+        EXPECT_EQ(tools().colors.left == changed, test.left);
+        EXPECT_EQ(tools().colors.right == changed, test.right);
+        EXPECT_EQ(palette_store->color(0, 10) == changed, test.of_palette);
+    }
+    EXPECT_EQ(titles[0], titles[2]);
+    EXPECT_EQ(titles[1], titles[3]);
+    EXPECT_EQ(titles[4], titles[5]);
+    EXPECT_NE(titles[0], titles[1]);
+    EXPECT_NE(titles[1], titles[4]);
+    // Neighbours of the palette clicked quickly are no double click, and neither are two with Shift.
+    play(script().click(entry).second_press({entry.x + 24, entry.y}));
+    hold_shift(true);
+    double_click(entry);
+    play(hold_shift(false).motion(entry));
 }
 
 TEST_F(Color_Editor_Test, steps_drags_and_types_every_number) {

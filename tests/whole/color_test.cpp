@@ -25,7 +25,10 @@ constexpr Point right_panel{1100, 140};
 constexpr Point red_less{1031 + 1 + 135 + 7, 366 + 8};
 constexpr Point red_slider{1031 + 1 + 17, 366 + 8};
 constexpr Point entry_10{36 + 2 * 24 + 12, 472 + 20 + 10};
-constexpr Point set_button{210, 618};
+constexpr Point store_button{110, 619};
+constexpr Point left_swatch{197, 572};
+constexpr Point right_swatch{222, 572};
+constexpr Point transparent_swatch{180, 460};
 
 Point variation(int row, int column) {
     return {1031 + 16 * column + 8, 504 + 14 + 31 * row + 8};
@@ -72,7 +75,7 @@ TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     play(script().click(entry_10, Mouse_Button::right));
     EXPECT_EQ(right(), palette_store->color(0, 10));
     EXPECT_FALSE(palette_store->changed());
-    play(script().click(set_button));
+    play(script().click(store_button));
     EXPECT_EQ(palette_store->color(0, 10), Color(1, 2, 3, 4));
     tools().colors.set(Mouse_Button::right, {5, 6, 7});
     SDL_SetModState(SDL_KMOD_LSHIFT);
@@ -81,6 +84,12 @@ TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     EXPECT_EQ(right(), Color(5, 6, 7));
     play(script().click({entry_10.x, entry_10.y + 20}));
     EXPECT_EQ(palette_store->color(0, 18), Color(1, 2, 3, 4));
+    // The left button stores what Store does.
+    tools().colors.active_side = Mouse_Button::right;
+    play(script().click(entry_10).click({entry_10.x + 24, entry_10.y}, Mouse_Button::right));
+    EXPECT_EQ(palette_store->color(0, 10), Color(5, 6, 7));
+    EXPECT_EQ(palette_store->color(0, 11), Color(1, 2, 3, 4));
+    play(script().click(entry_10, Mouse_Button::right).click({entry_10.x + 24, entry_10.y}));
     const std::string path = folder().data_path("palette.dat");
     EXPECT_TRUE(stored_text(path).empty());
     ASSERT_TRUE(data_directory().enter(Data_Directory::inside));
@@ -89,6 +98,37 @@ TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
     // Entries follow the count, each as four numbers.
     EXPECT_TRUE(stored_text(path).substr(4).starts_with("3,32,255,255,255,255,0,0,0,255,97,18,124"));
     EXPECT_NE(stored_text(path).find(",1,2,3,4,5,6,7,255,"), std::string::npos);
+}
+
+TEST_F(Color_Test, both_colours_are_in_view_and_can_be_lit_whatever_the_tool_is) {
+    tools().colors.set(Mouse_Button::left, {10, 20, 30});
+    tools().colors.set(Mouse_Button::right, {40, 50, 60});
+    for (const Tool_Row& tool : tool_table) {
+        SCOPED_TRACE(tool.name);
+        execute(tool.command);
+        for (const auto& [lit, other, side] : {std::tuple{right_swatch, left_swatch, Mouse_Button::right},
+                                               {left_swatch, right_swatch, Mouse_Button::left}}) {
+            play(script().click(lit));
+            EXPECT_EQ(tools().colors.active_side, side);
+            EXPECT_EQ(pixel_at(lit), tools().colors.of(side));
+            EXPECT_NE(pixel_at(other), pixel_at(lit));
+            EXPECT_NE(pixel_at({lit.x, lit.y - 11}), pixel_at({other.x, other.y - 11}));
+            EXPECT_EQ(pixel_at({103 - 8, 619}), tools().colors.of(side)) << "what Store shows";
+        }
+    }
+}
+
+TEST_F(Color_Test, transparent_swatch_makes_pens_erase) {
+    document().tileset().current_tile()->fill({9, 9, 9});
+    play(script().click(transparent_swatch, Mouse_Button::right).click(cell(3, 3), Mouse_Button::right));
+    EXPECT_EQ(left(), white);
+    EXPECT_EQ(right(), Color(0, 0, 0, 0));
+    EXPECT_EQ(tile_pixel(3, 3), Color(0, 0, 0, 0));
+    // It is no entry: nothing is stored there.
+    SDL_SetModState(SDL_KMOD_LSHIFT);
+    play(script().click(transparent_swatch));
+    EXPECT_EQ(left(), Color(0, 0, 0, 0));
+    EXPECT_FALSE(palette_store->changed());
 }
 
 } // namespace
