@@ -31,6 +31,12 @@ bool is_set(const Brush_Feedback& feedback, int x, int y) {
     return pixel_of(feedback, x, y).has_value();
 }
 
+// The brush's pixel there, as it will be seen in the tile.
+Color shown_pixel(const Brush_Feedback& feedback, Color color, Point cell, int pixel_size) {
+    return blended_over(color, checkerboard_color((cell.x - feedback.tile.x) / pixel_size,
+                                                  (cell.y - feedback.tile.y) / pixel_size, feedback.checker));
+}
+
 void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
     for (int y = 0; y < feedback.brush->size().height; ++y) {
         for (int x = 0; x < feedback.brush->size().width; ++x) {
@@ -38,8 +44,9 @@ void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_R
                 const Color color = feedback.color.value_or(*own);
                 const Rectangle cell{feedback.preview->x + x * pixel_size,
                                      feedback.preview->y + y * pixel_size, pixel_size, pixel_size};
+                const Color shown = shown_pixel(feedback, color, {cell.x, cell.y}, pixel_size);
                 change_pixels(intersection(cell, feedback.tile), target,
-                              [color](Color& pixel) { pixel = blended_over(color, pixel); });
+                              [shown](Color& pixel) { pixel = shown; });
             }
         }
     }

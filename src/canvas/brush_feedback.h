@@ -21,6 +21,8 @@ struct Brush_Feedback {
     std::optional<Color> color = {};
     // The tile in pixels of the picture: beside it nothing is previewed.
     Rectangle tile = {};
+    // In tile pixels: what is painted hides all of the tile, so that the board shows through it.
+    Size checker = {1, 1};
     // What lies there is cut out of a wallpaper of brushes, and this pixel of it comes to lie on the corner.
     Tile_Point wallpaper = {};
     // Marked by a cross of the lines that meet there.

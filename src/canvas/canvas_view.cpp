@@ -278,7 +278,8 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
     const Tile_Point corner = tools.brush_corner(tool_point(hover.position, tools, settings));
     Brush_Feedback feedback{.brush = &brush,
                             .color = tools.brush_color(hover.button),
-                            .tile = {start.x, start.y, tile.width, tile.height}};
+                            .tile = {start.x, start.y, tile.width, tile.height},
+                            .checker = settings.checker};
     if (tools.pen_mode() == Pen_Mode::pattern) {
         feedback.wallpaper = corner;
     }

@@ -1,5 +1,8 @@
 #include "canvas/brush_feedback.h"
 
+#include "color/standard_colors.h"
+#include "color/translucency.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -46,6 +49,25 @@ TEST(Brush_Feedback, preview_fills_the_cells_that_would_be_painted) {
     const std::vector<std::string> expected{"..oo..", "..oo..", "oo..oo", "oo..oo", "..oo..", "..oo.."};
     EXPECT_EQ(painted({.preview = Point{0, 0}, .color = Color(200, 0, 0)}, ring, 2, {6, 6}), expected);
     EXPECT_EQ(painted({.preview = Point{0, 0}}, ring, 2, {6, 6})[0], "..##..") << "its own colour";
+}
+
+// It takes the place of what is there, also where it is translucent.
+TEST(Brush_Feedback, preview_shows_the_checkerboard_through_what_is_painted) {
+    constexpr Size size{6, 6};
+    const Brush square = built_in_brush(Brush_Shape::square, 1, grey);
+    for (const Color color : {Color(200, 0, 0, 0), Color(200, 0, 0, 90)}) {
+        std::vector<Color> pixels(static_cast<std::size_t>(size.width * size.height), Color(0, 200, 0));
+        const Brush_Feedback feedback{.brush = &square,
+                                      .preview = Point{2, 2},
+                                      .color = color,
+                                      .tile = {0, 0, 4, 6},
+                                      .checker = {1, 2}};
+        paint_brush_feedback(feedback, 2, {pixels.data(), size.width * 4, size});
+        const auto at = [&](int x, int y) { return pixels.at(static_cast<std::size_t>(y * size.width + x)); };
+        EXPECT_EQ(at(2, 3), blended_over(color, standard_color(Standard_Color::checker_light)));
+        EXPECT_EQ(at(3, 4), blended_over(color, standard_color(Standard_Color::checker_dark)));
+        EXPECT_EQ(at(4, 4), Color(0, 200, 0)) << "beside the tile";
+    }
 }
 
 TEST(Brush_Feedback, is_cut_to_the_picture) {
