@@ -1,5 +1,6 @@
 #include "pixels/enlarged_picture.h"
 
+#include <algorithm>
 #include <span>
 #include <utility>
 
@@ -40,12 +41,17 @@ Enlarged_Picture::Enlarged_Picture(const Tile& picture)
 }
 
 Tile Enlarged_Picture::framed(const Tile& picture) {
+    const std::ptrdiff_t width = picture.width();
     Tile result(picture.width() + 2 * margin, picture.height() + 2 * margin);
-    for (int y = 0; y < result.height(); ++y) {
-        for (int x = 0; x < result.width(); ++x) {
-            result.set_pixel(x, y, picture.get_pixel_clamped(x - margin, y - margin));
+    result.change_pixels([&](std::span<Color> pixels) {
+        auto target = pixels.begin();
+        for (int y = 0; y < result.height(); ++y) {
+            const Color* const row = pixel_of(picture, 0, std::clamp(y - margin, 0, picture.height() - 1));
+            target = std::fill_n(target, margin, row[0]);
+            target = std::copy_n(row, width, target);
+            target = std::fill_n(target, margin, row[width - 1]);
         }
-    }
+    });
     return result;
 }
 
