@@ -25,16 +25,6 @@ Brush_Source source_of(const Floating_Paste& paste) {
     return source;
 }
 
-// With the selected pixels that are transparent too: the brush makes what it covers transparent there.
-Brush_Source source_of(const Tile& tile, const Selection& selection) {
-    const Rectangle bounds = selection.bounds();
-    const Tile part(bounds.width, bounds.height);
-    Brush_Source source{part, part};
-    tile.paste_into(source.picture, -bounds.x, -bounds.y);
-    selection.mask().paste_into(source.mask, -bounds.x, -bounds.y);
-    return source;
-}
-
 // A paste only while it is to be seen.
 std::optional<Brush_Source> chosen_source(const Editor_Parts& editor) {
     const Canvas_View& canvas = editor.canvas;
@@ -45,11 +35,28 @@ std::optional<Brush_Source> chosen_source(const Editor_Parts& editor) {
         return source_of(*canvas.work_area().paste());
     }
     const Work_Area& work = canvas.work_area();
-    return work.has_selection() ? std::optional(source_of(*canvas.tile(), work.selection())) : std::nullopt;
+    return work.has_selection() ? std::optional(source_of(lifted(*canvas.tile(), work.selection())))
+                                : std::nullopt;
 }
 
 bool uses_stamp_brush() {
     return toolbox->current_tool() == Tool::stamp_brush;
+}
+
+// Which would keep the brush inside of it. After this step the tool is the stamp brush, unless that still has
+// to wait for what floats, which the selection covered.
+void leave_selection(Editor_Parts& editor) {
+    Work_Area& work = editor.canvas.work_area();
+    if (!work.has_selection()) {
+        return;
+    }
+    editor.recorder.step([&work] {
+        work.deselect();
+        if (!work.paste()) {
+            toolbox->select(Command::stamp_brush);
+        }
+        return Command::deselect;
+    });
 }
 
 Outcome refuse(std::string_view reason) {
@@ -67,6 +74,7 @@ Outcome use_as_brush(Editor_Parts& editor) {
     if (!toolbox->use_as_brush(source->picture, source->mask)) {
         return refuse("Unable to add a new brush for some reason.");
     }
+    leave_selection(editor);
     return tool_commands::select_tool(editor, Tool::stamp_brush);
 }
 

@@ -18,12 +18,16 @@ Canvas_Settings canvas_settings(const Options& values) {
 bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {
     const bool leaves_out_brush = settings.brush_outline == Brush_Outline::not_of_one_pixel &&
                                   tools.brush().size() == Size{1, 1} && !tools.is_erasing;
-    return tools.uses_brush() && settings.brush_outline != Brush_Outline::off && !leaves_out_brush;
+    return (tools.uses_brush() || tools.fills_with_brush()) && settings.brush_outline != Brush_Outline::off &&
+           !leaves_out_brush;
 }
 
 // Nothing for brushes that change the colour which is there, nor where the pen erases or paints from the
 // history.
 bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings, Mouse_Button button) {
+    if (tools.fills_with_brush()) {
+        return settings.has_brush_preview;
+    }
     const Brush_Owner owner = tools.brush().owner();
     const bool has_colors = owner == Brush_Owner::pen || owner == Brush_Owner::stamp_brush;
     const bool paints_otherwise = button == Mouse_Button::right && tools.tool == Tool::pen &&
@@ -33,7 +37,7 @@ bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& setting
 }
 
 Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size) {
-    if (!shows_brush_outline(tools, settings)) {
+    if (!tools.uses_brush() || !shows_brush_outline(tools, settings)) {
         return {};
     }
     const Size size = tools.brush().size();

@@ -269,7 +269,7 @@ Point Canvas_View::in_viewport(Tile_Point corner) const {
 }
 
 // The preview lies on the pixels that would be painted; so does an outline that is blocky or of a brush with
-// fixed places. Any other follows the pointer.
+// fixed places, as the first one of a flood fill. Any other follows the pointer.
 Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State& tools,
                                            const Canvas_Settings& settings) const {
     const Brush& brush = tools.brush();
@@ -290,7 +290,8 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
         const Point centred_on_pointer{
             hover.position.x - window_layout::canvas.x - brush.size().width * pixel_size_ / 2,
             hover.position.y - window_layout::canvas.y - brush.size().height * pixel_size_ / 2};
-        const bool is_on_cells = settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush;
+        const bool is_on_cells =
+            settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush || tools.fills_with_brush();
         feedback.outline = is_on_cells ? in_viewport(corner) : centred_on_pointer;
     }
     const Stroke_Row* const stroke = find_stroke(tools.canvas_action());

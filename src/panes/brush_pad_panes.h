@@ -2,11 +2,12 @@
 
 // The panes "Selected" and "Brush pad", which show the brush pad. Know no tool.
 
+#include "pixels/shared_picture.h"
 #include "tools/brush_pad.h"
+#include "tools/chosen_brush.h"
 #include "ui/pane.h"
 #include "ui/shown_tile.h"
 
-#include <memory>
 #include <optional>
 
 namespace quadrelle {
@@ -17,22 +18,24 @@ public:
 
     // Puts the pane "Selected" there and returns the y for what comes below.
     int move_selected(Point position);
-    // Draws both; the frame of the brush under the pointer is red.
-    void draw(const Brush_Pad& pad, Point pointer);
+    // The frame of the brush under the pointer is red.
+    void draw_board(const Brush_Pad& pad, Point pointer);
+    // Shows the brush that is in use: the current one of the pad, or else a built-in one in that colour.
+    void draw_selected(const Brush_Pad& pad, const Chosen_Brush& chosen, Color color);
+    [[nodiscard]] bool has_selected_at(Point point) const { return selected_pane_.area.contains(point); }
     // Returns the board's cell at `point`, or none beside the board.
     [[nodiscard]] std::optional<Tile_Point> cell_at(Point point) const;
     // Returns whether the pane of the board, with its title and border, is at `point`.
     [[nodiscard]] bool has_board_at(Point point) const { return board_pane_.area.contains(point); }
 
 private:
-    void update_pictures(const Brush_Pad& pad, std::uint8_t hovered);
-    void draw_selected();
+    void update_board(const Brush_Pad& pad, std::uint8_t hovered);
 
     Pane selected_pane_;
     Pane board_pane_;
-    // One pixel for each cell of the board, and of the current brush, which may be none.
+    // One pixel for each cell of the board, and of the brush in use.
     Tile board_picture_;
-    std::unique_ptr<Tile> selected_picture_;
+    std::optional<Shared_Picture> selected_picture_;
     Shown_Tile shown_board_;
     Shown_Tile shown_selected_;
     std::optional<int> shown_revision_;

@@ -36,6 +36,7 @@ enum class Place : int {
     variations,
     copy_buffer,
     previous_copies,
+    selected_brush,
     brush_pad,
     eraser,
     count
@@ -69,6 +70,7 @@ constexpr std::array place_table = {
     Place_Row{Place::variations,          "Variations",         "Left or right click: takes the color for that button. The outlined cell is the lit color."},
     Place_Row{Place::copy_buffer,         "Copy buffer",        "What Paste and Clone take."},
     Place_Row{Place::previous_copies,     "Previous copies",    "The last 16 copies, the newest one first. A click makes one what Paste and Clone take, a double click pastes it, a right click removes it."},
+    Place_Row{Place::selected_brush,      "Selected",           "The brush that stamps and fills. A key for a size takes the built-in brush instead; a click here brings the stamp back."},
     Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
     Place_Row{Place::eraser,              "Eraser (e)",         "The pen paints transparent with either button, until another tool is chosen."},
 };

@@ -89,7 +89,7 @@ void Toolbox::lay_out() {
         next.y = brush_selector_.move(next);
     }
     rows_bottom_ = option_panes_.place(state_.tool, next);
-    if (state_.tool == Tool::stamp_brush) {
+    if (shows_selected_brush()) {
         rows_bottom_ = brush_pad_panes_.move_selected({position_.x, rows_bottom_});
     }
 }
@@ -99,6 +99,23 @@ void Toolbox::select(Command command) {
     if (tool_of(command) != Tool::none) {
         lay_out();
     }
+}
+
+bool Toolbox::shows_selected_brush() const {
+    return state_.tool == Tool::stamp_brush || state_.fills_with_brush();
+}
+
+bool Toolbox::click_selected_brush(Point point) {
+    return shows_selected_brush() && brush_pad_panes_.has_selected_at(point) && state_.bring_stamp_back();
+}
+
+// Of the flood fill, one shows the brush and the other one does not.
+bool Toolbox::click_options(Point point) {
+    if (!option_panes_.click(point, state_.options)) {
+        return false;
+    }
+    lay_out();
+    return true;
 }
 
 bool Toolbox::click_brush_pad(Point point) {
@@ -125,8 +142,11 @@ void Toolbox::draw(Point pointer) {
     }
     option_panes_.draw(state_);
     tool_colors->draw(color_panes_of(state_.tool));
+    if (shows_selected_brush()) {
+        brush_pad_panes_.draw_selected(state_.brush_pad, state_.chosen_brush, state_.colors.current());
+    }
     if (state_.tool == Tool::stamp_brush) {
-        brush_pad_panes_.draw(state_.brush_pad, pointer);
+        brush_pad_panes_.draw_board(state_.brush_pad, pointer);
     }
 }
 
@@ -138,6 +158,9 @@ std::optional<Mouse_Button> Toolbox::button_color_at(Point point) const {
 std::optional<Place> Toolbox::place_at(Point point) const {
     if (state_.tool == Tool::stamp_brush && brush_pad_panes_.has_board_at(point)) {
         return Place::brush_pad;
+    }
+    if (shows_selected_brush() && brush_pad_panes_.has_selected_at(point)) {
+        return Place::selected_brush;
     }
     return tool_colors->place_at(point, color_panes_of(state_.tool));
 }
@@ -157,7 +180,8 @@ bool Toolbox::click(const Pointer_State& pointer, const std::function<void()>& r
     const Tool_Row& tool = row_of(state_.tool);
     return (tool.uses_tool_colors && tool_colors->click(pointer, redraw)) ||
            (tool.uses_brush && brush_selector_.click(pointer.point(), state_.chosen_brush)) ||
-           option_panes_.click(pointer.point(), state_.options) || click_brush_pad(pointer.point());
+           click_options(pointer.point()) || click_selected_brush(pointer.point()) ||
+           click_brush_pad(pointer.point());
 }
 
 } // namespace quadrelle

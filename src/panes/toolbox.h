@@ -64,6 +64,10 @@ public:
 
 private:
     void lay_out();
+    // With the tools that lay it, for those whose rows do not show it.
+    [[nodiscard]] bool shows_selected_brush() const;
+    [[nodiscard]] bool click_options(Point point);
+    [[nodiscard]] bool click_selected_brush(Point point);
     [[nodiscard]] bool click_brush_pad(Point point);
     [[nodiscard]] Rectangle entry_area(std::size_t index) const;
 

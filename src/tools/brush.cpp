@@ -48,7 +48,9 @@ Brush stamp_brush(const Tile& picture, const Tile& mask) {
     std::vector<std::optional<Color>> pixels;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            pixels.push_back(mask.is_white_at(x, y) ? std::optional(picture.get_pixel(x, y)) : std::nullopt);
+            const Color color = picture.get_pixel(x, y);
+            const bool paints = mask.is_white_at(x, y) && color.a != 0;
+            pixels.push_back(paints ? std::optional(color) : std::nullopt);
         }
     }
     return {picture.size(), std::move(pixels), Brush_Owner::stamp_brush};

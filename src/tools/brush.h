@@ -52,7 +52,7 @@ private:
 [[nodiscard]] Brush built_in_brush(Brush_Shape shape, int size_index, Color color,
                                    Brush_Owner owner = Brush_Owner::pen);
 
-// The brush is the picture where the mask is white.
+// The brush is the picture where the mask is white. What is transparent in it never paints.
 [[nodiscard]] Brush stamp_brush(const Tile& picture, const Tile& mask);
 
 } // namespace quadrelle

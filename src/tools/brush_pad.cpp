@@ -43,8 +43,15 @@ std::vector<Tile_Point> taken_cells(const Tile& outline) {
     return cells;
 }
 
-bool has_set_pixel(const Tile& mask) {
-    return mask.white_bounds().width > 0;
+bool paints_something(const Brush& brush) {
+    for (int y = 0; y < brush.size().height; ++y) {
+        for (int x = 0; x < brush.size().width; ++x) {
+            if (brush.pixel(x, y)) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 } // namespace
@@ -63,10 +70,14 @@ void Brush_Pad::choose(const Pad_Brush* brush) {
 }
 
 bool Brush_Pad::make_temporary(const Tile& picture, const Tile& mask) {
-    if (!picture.same_size(mask) || !has_set_pixel(mask)) {
+    if (!picture.same_size(mask) || picture.pixel_count() == 0) {
         return false;
     }
-    temporary_ = std::make_unique<Pad_Brush>(picture, mask);
+    auto brush = std::make_unique<Pad_Brush>(picture, mask);
+    if (!paints_something(brush->brush)) {
+        return false;
+    }
+    temporary_ = std::move(brush);
     choose(temporary_.get());
     return true;
 }

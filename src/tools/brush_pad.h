@@ -38,8 +38,8 @@ public:
 
     Brush_Pad();
 
-    // Makes a brush that is not on the board, instead of the one before, and chooses it. Answers false for a
-    // mask without a set pixel.
+    // Makes a brush that is not on the board, instead of the one before, and chooses it. Answers false for
+    // one that would paint nothing.
     bool make_temporary(const Tile& picture, const Tile& mask);
     // Lays the temporary brush on the board, in the first place with room for it. Answers false without
     // such a brush, place or identifier.

@@ -5,19 +5,18 @@ namespace quadrelle {
 Chosen_Brush::Chosen_Brush() : brush_(built_in_brush(shape_, size_index_, Color())) {}
 
 void Chosen_Brush::rebuild() {
-    const bool is_stamp = brush_.owner() == Brush_Owner::stamp_brush;
-    set_owner(is_stamp ? Brush_Owner::pen : brush_.owner());
+    set_owner(is_stamp() ? Brush_Owner::pen : brush_.owner());
 }
 
 void Chosen_Brush::select_size(int size_index) {
-    if (size_index != size_index_) {
+    if (size_index != size_index_ || is_stamp()) {
         size_index_ = size_index;
         rebuild();
     }
 }
 
 void Chosen_Brush::select_shape(Brush_Shape shape) {
-    if (shape != shape_) {
+    if (shape != shape_ || is_stamp()) {
         shape_ = shape;
         rebuild();
     }

@@ -16,7 +16,9 @@ public:
     [[nodiscard]] Brush_Shape shape() const { return shape_; }
     [[nodiscard]] int size_index() const { return size_index_; }
 
-    // Sizes go from 0 to 5, one less than the brush's width. Another size or shape than before ends a stamp.
+    [[nodiscard]] bool is_stamp() const { return brush_.owner() == Brush_Owner::stamp_brush; }
+
+    // Sizes go from 0 to 5, one less than the brush's width. Each choice of a size or shape ends a stamp.
     void select_size(int size_index);
     void select_shape(Brush_Shape shape);
     // Brings the built-in brush back.

@@ -84,6 +84,14 @@ bool Tool_State::choose_from_pad(Tile_Point cell) {
     return true;
 }
 
+bool Tool_State::bring_stamp_back() {
+    if (!brush_pad.has_current() || chosen_brush.is_stamp()) {
+        return false;
+    }
+    take_pad_brush();
+    return true;
+}
+
 Canvas_Action Tool_State::canvas_action() const {
     return canvas_action_of(command, shape_type());
 }

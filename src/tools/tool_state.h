@@ -73,6 +73,8 @@ struct Tool_State {
     bool move_to_pad();
     bool delete_brush();
     bool choose_from_pad(Tile_Point cell);
+    // After a built-in brush took its place; false where there is no brush to bring back, or it is in use.
+    bool bring_stamp_back();
 
     [[nodiscard]] const Brush& brush() const { return chosen_brush.brush(); }
     // What a stroke on the canvas does now.
@@ -87,6 +89,10 @@ struct Tool_State {
     [[nodiscard]] Pen_Mode pen_mode() const;
     // Also for the stamp brush, which has no brush rows.
     [[nodiscard]] bool uses_brush() const;
+    // The flood fill lays the brush side by side.
+    [[nodiscard]] bool fills_with_brush() const {
+        return tool == Tool::flood_fill && options.fill_mode == Fill_Mode::stamp;
+    }
     // The four selectors, and the tool that moves what they selected.
     [[nodiscard]] bool is_in_selection_group() const;
     // Whether a paste that floats over the canvas is to be seen.

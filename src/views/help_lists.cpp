@@ -34,6 +34,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Arrows and marks of a tool's options", "step through the choices, turn them on and off"},
     {"Click on a brush shape or size",       "chooses it"},
     {"Click on a brush of the Brush pad",    "makes it the one that the stamp brush paints with"},
+    {"Click on the brush under Selected",    "brings the stamp back, after a size took the built-in brush"},
     {"Left or right button on the palette",  "takes the color for that button"},
     {"Shift and click on the palette",       "stores the lit color there; a right click stores the other one"},
     {"Double click on a color",              "edits it: a button's, one of the palette, or the one under Selected"},

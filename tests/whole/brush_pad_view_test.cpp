@@ -115,10 +115,11 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     EXPECT_EQ(tools().brush().pixel(0, 0), gradient(2, 2));
     EXPECT_EQ(tools().brush().pixel(1, 0), std::nullopt);
     EXPECT_EQ(tools().brush().pixel(2, 0), Color(9, 9, 9, 100));
-    // A selection takes its transparent pixels along.
+    // And so does a selection.
     select({3, 2}, {5, 3});
     choose_in_edit_menu(Command::use_as_brush);
-    EXPECT_EQ(tools().brush().pixel(0, 0), Color(9, 9, 9, 0));
+    EXPECT_EQ(tools().brush().size(), (Size{2, 1}));
+    EXPECT_EQ(tools().brush().pixel(0, 0), std::nullopt);
     select({3, 2}, {4, 3});
     execute(Command::copy);
     execute(Command::paste);
@@ -128,6 +129,68 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     execute(Command::work_selection);
     expect_note("Unable to add a new brush for some reason.", Command::use_as_brush);
     EXPECT_EQ(tools().tool, Tool::selection);
+}
+
+TEST_F(Brush_Pad_View_Test, a_selection_that_became_a_brush_is_given_up_in_one_step) {
+    paint_gradient();
+    execute(Command::rectangle_selector);
+    select({2, 2}, {5, 3});
+    document().history().reset(document().tileset());
+    choose_in_edit_menu(Command::use_as_brush);
+    EXPECT_FALSE(work().has_selection());
+    EXPECT_EQ(tools().tool, Tool::stamp_brush);
+    execute(Command::undo);
+    EXPECT_EQ(work().selection().bounds(), (Rectangle{2, 2, 3, 1}));
+    EXPECT_EQ(tools().tool, Tool::rectangle_selector);
+    execute(Command::redo);
+    EXPECT_FALSE(work().has_selection());
+    EXPECT_EQ(tools().tool, Tool::stamp_brush);
+}
+
+TEST_F(Brush_Pad_View_Test, a_size_takes_the_built_in_brush_and_a_click_on_it_brings_the_stamp_back) {
+    constexpr Point selected{816 + 101, 451 + 21 + 80};
+    tools().colors.left = red;
+    paint_gradient();
+    select({0, 0}, {3, 3});
+    choose_in_edit_menu(Command::use_as_brush);
+    const int size = tools().chosen_brush.size_index();
+    EXPECT_EQ(pixel_at(selected), gradient(1, 1));
+    for (const Keycode key : {Keycode{'3'}, Keycode{'1'} + static_cast<Keycode>(size)}) {
+        play(script().key(key));
+        EXPECT_EQ(tools().brush().owner(), Brush_Owner::pen);
+        EXPECT_EQ(pixel_at(selected), red);
+        play(script().click(selected));
+        EXPECT_EQ(tools().brush().owner(), Brush_Owner::stamp_brush);
+        EXPECT_EQ(pixel_at(selected), gradient(1, 1));
+    }
+}
+
+// Its first brush lies with its corner on the pixel under the pointer.
+TEST_F(Brush_Pad_View_Test, flood_fill_with_a_brush_shows_and_previews_it) {
+    constexpr Point mode{816 + 34, 32 + 26 * 6 + 4 + 33};
+    constexpr Point selected{816 + 101, 32 + 26 * 6 + 4 + 51 + 21 + 80};
+    tools().colors.left = red;
+    paint_gradient();
+    select({0, 0}, {3, 2});
+    choose_in_edit_menu(Command::use_as_brush);
+    tile().fill(black);
+    execute(Command::flood_fill);
+    const Color list = pixel_at(selected);
+    play(script().motion(cell(7, 8)));
+    EXPECT_EQ(pixel_at(cell(7, 8)), black);
+    play(script().click(mode));
+    EXPECT_EQ(pixel_at(selected), gradient(1, 1));
+    play(script().motion(cell(7, 8)));
+    EXPECT_EQ(pixel_at(cell(7, 8)), gradient(0, 0));
+    EXPECT_EQ(pixel_at(cell(9, 9)), gradient(2, 1));
+    EXPECT_EQ(pixel_at(cell(10, 8)), black);
+    play(script().key('p').key('f').motion(cell(7, 8)));
+    EXPECT_EQ(pixel_at(cell(7, 8)), red);
+    EXPECT_EQ(pixel_at(selected), red);
+    play(script().click(selected).motion(cell(7, 8)));
+    EXPECT_EQ(pixel_at(cell(7, 8)), gradient(0, 0));
+    play(script().click(mode));
+    EXPECT_EQ(pixel_at(selected), list);
 }
 
 TEST_F(Brush_Pad_View_Test, commands_say_why_they_do_nothing) {
