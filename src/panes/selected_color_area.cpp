@@ -14,8 +14,8 @@ namespace {
 
 constexpr int entry_edge = 40;
 constexpr int text_gap = 7;
-constexpr int text_rise = 5; // the letters begin below their position
-constexpr int second_line = 12;
+constexpr int text_rise = 7; // the letters begin five pixels below their position
+constexpr int second_line = 14;
 constexpr int button_height = 16;
 constexpr int button_gap = 3;
 constexpr int store_width = 62;
