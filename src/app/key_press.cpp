@@ -41,6 +41,10 @@ Command press_key(Editor_Parts& editor, const Input_Event& press) {
         return Command::none;
     }
     const Command command = find_command(press.chord);
+    // Escape gave up something else when it went down.
+    if (command == Command::quit && press.is_repeat) {
+        return Command::none;
+    }
     return command == Command::none ? press_further_key(editor, press) : command;
 }
 

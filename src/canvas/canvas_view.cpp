@@ -47,10 +47,19 @@ void Canvas_View::set_tile(Tile* tile) {
     if (is_another) {
         save_history();
         work_area_.leave_tile();
+        stroke_end_.reset();
     }
     if (tile_ != nullptr && work_area_.selection().size() != tile_->size()) {
         work_area_.resize(tile_->size());
     }
+}
+
+std::optional<Tile_Point> Canvas_View::stroke_end(Size reach) const {
+    if (!stroke_end_) {
+        return std::nullopt;
+    }
+    return Tile_Point{stroke_end_->corner.x + (stroke_end_->reach.width - reach.width) / 2,
+                      stroke_end_->corner.y + (stroke_end_->reach.height - reach.height) / 2};
 }
 
 void Canvas_View::save_history() {

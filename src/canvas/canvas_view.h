@@ -66,6 +66,11 @@ public:
     // remembered where it is now. Nothing happens for every other command.
     void transform_history(Command command);
 
+    // Where the last stroke of a brush on this tile ended, for one whose corner lies half of `reach` beside
+    // the pointer; none before the first.
+    void set_stroke_end(Tile_Point corner, Size reach) { stroke_end_ = {corner, reach}; }
+    [[nodiscard]] std::optional<Tile_Point> stroke_end(Size reach) const;
+
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
     // pixels move in the tile itself: `undo_seam_shifts` comes before anything that keeps or leaves it.
     // Returns false without a tile.
@@ -138,6 +143,11 @@ private:
         Tile_Point position;
     };
 
+    struct Stroke_End {
+        Tile_Point corner;
+        Size reach;
+    };
+
     void undo_seam_shift(Seam seam);
     // The pixels of the tile and all that belongs to them, right or down, or back where negative.
     void shift_pixels(Seam seam, int shift);
@@ -167,6 +177,7 @@ private:
     Work_Area work_area_;
     std::optional<Tile_With_Paste> with_paste_;
     std::unique_ptr<Tile> history_;
+    std::optional<Stroke_End> stroke_end_;
     std::optional<Hover> hover_;
     Canvas_Painter painter_;
     Shown_Canvas shown_;

@@ -9,41 +9,83 @@ Stroke::Stroke(Canvas_View& canvas, const Stroke_Row& row, Pointer_State& pointe
       button_(pointer.button), grip_{canvas.handle_at(pointer.point(), tools_.state),
                                      canvas.exact_position(pointer.point())},
       pressed_(point_of(pointer)), start_(pressed_), end_(pressed_), before_(tile_),
-      before_work_(canvas.work_area().state()) {
+      before_work_(canvas.work_area().state()), colors_before_(tools_.state.colors),
+      figures_before_(tools_.state.figures) {
     canvas_.set_hover(Hover{pointer.point(), button_});
 }
 
 void Stroke::press(const Stroke_Moment& moment) {
-    path_.push_back(start_);
+    if (row_.joins_strokes && moment.is_shift_held) {
+        begin_at_last_end();
+    }
+    path_.push_back(pressed_);
     draw_when_due(moment);
+}
+
+// What lies there has its colour already; a press on the very pixel is there to paint it.
+void Stroke::begin_at_last_end() {
+    const std::optional<Tile_Point> end = canvas_.stroke_end(reach());
+    if (end && *end != pressed_) {
+        start_ = *end;
+        next_ = Segment_Start::left_out;
+    }
 }
 
 void Stroke::move_to(const Pointer_State& pointer, const Stroke_Moment& moment) {
     pointer_ = {pointer.x, pointer.y, button_};
-    canvas_.set_hover(Hover{pointer_.point(), button_});
+    canvas_.set_hover(Hover{pointer_.point(), is_taken_back_ ? Mouse_Button::none : button_});
     end_ = point_of(pointer_);
     Stroke_Findings found{tools_.state.figures};
     found.figures.location = canvas_.tile_point(pointer_.point());
     tools_.take(found);
-    if (!row_.draws_while_moving) {
+    if (!row_.draws_while_moving || is_taken_back_) {
         return;
     }
     if (row_.keeps_start) {
-        tile_.copy_from(before_);
-        canvas_.work_area().restore(before_work_);
-        draw(end_, Segment_Start::included, moment);
+        draw_anew(moment);
     } else {
         extend_to(end_, moment);
     }
 }
 
+void Stroke::hold(const Stroke_Moment& moment) {
+    if (row_.keeps_start && !is_taken_back_) {
+        draw_anew(moment);
+    }
+}
+
+void Stroke::draw_anew(const Stroke_Moment& moment) {
+    restore();
+    draw(end_, Segment_Start::included, moment);
+}
+
+void Stroke::restore() {
+    tile_.copy_from(before_);
+    canvas_.work_area().restore(before_work_);
+}
+
 bool Stroke::stay(const Stroke_Moment& moment) {
-    return draw_when_due(moment);
+    return !is_taken_back_ && draw_when_due(moment);
+}
+
+void Stroke::take_back() {
+    restore();
+    path_.clear();
+    for (const Mouse_Button side : {Mouse_Button::left, Mouse_Button::right}) {
+        tools_.take({figures_before_, Picked_Color{side, colors_before_.of(side)}});
+    }
+    is_taken_back_ = true;
 }
 
 void Stroke::finish(const Stroke_Moment& moment) {
+    if (is_taken_back_) {
+        return;
+    }
     if (!path_.empty()) {
         draw_path(moment);
+    }
+    if (row_.joins_strokes) {
+        canvas_.set_stroke_end(end_, reach());
     }
     if (row_.finish != nullptr) {
         Drawing_Target target = canvas_.work_area().target(tile_);
@@ -52,6 +94,9 @@ void Stroke::finish(const Stroke_Moment& moment) {
 }
 
 Stroke_Outcome Stroke::outcome() const {
+    if (is_taken_back_) {
+        return Stroke_Outcome::taken_back;
+    }
     if (has_picked_) {
         return Stroke_Outcome::color_picked;
     }
@@ -103,15 +148,23 @@ Tile_Point Stroke::point_of(const Pointer_State& pointer) const {
     return canvas_.tool_point(pointer.point(), tools_.state, tools_.settings);
 }
 
+// Only a brush that is centred on the pointer reaches beyond it.
+Size Stroke::reach() const {
+    const Size brush = tools_.state.brush().size();
+    return shows_brush_outline(tools_.state, tools_.settings) ? Size{brush.width - 1, brush.height - 1}
+                                                              : Size{};
+}
+
 Stroke_Segment Stroke::segment(Tile_Point from, Tile_Point to, Segment_Start start,
                                const Stroke_Moment& moment) {
+    const Drag drag = shaped({from, to}, row_.shape, moment);
     return {tools_.state,
             canvas_.work_area(),
             canvas_.history(),
             row_.action,
             button_,
-            from,
-            to,
+            drag.from,
+            drag.to,
             start,
             canvas_.tile_point(pointer_.point()),
             moment,

@@ -7,11 +7,12 @@
 #include "canvas/stroke_table.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace quadrelle {
 
-enum class Stroke_Outcome { nothing_changed, something_changed, color_picked };
+enum class Stroke_Outcome { nothing_changed, something_changed, color_picked, taken_back };
 
 // The state of the tools, which `take` changes by what the stroke finds.
 struct Stroke_Tools {
@@ -27,10 +28,14 @@ public:
 
     void press(const Stroke_Moment& moment);
     void move_to(const Pointer_State& pointer, const Stroke_Moment& moment);
+    // Shift or Ctrl may be held now, or no longer: what is drawn from the press on is shaped anew.
+    void hold(const Stroke_Moment& moment);
     // One more application where the pointer is, when it is due; true when something was drawn.
     bool stay(const Stroke_Moment& moment);
     // Not the end of a pick: what was picked stays, but the tool stays too.
     void window_closed() { has_picked_ = false; }
+    // Everything is as it was at the press, colours that were picked too; what follows draws nothing.
+    void take_back();
     // Draws what still waits for its turn, and what comes last.
     void finish(const Stroke_Moment& moment);
 
@@ -38,6 +43,11 @@ public:
 
 private:
     [[nodiscard]] Tile_Point path_end() const { return path_.empty() ? start_ : path_.back(); }
+    void begin_at_last_end();
+    void draw_anew(const Stroke_Moment& moment);
+    void restore();
+    // How far the brush reaches beyond the pointer in half pixels.
+    [[nodiscard]] Size reach() const;
     void extend_to(Tile_Point point, const Stroke_Moment& moment);
     // False when it is too early.
     bool draw_when_due(const Stroke_Moment& moment);
@@ -61,8 +71,11 @@ private:
     std::vector<Tile_Point> path_;
     Segment_Start next_ = Segment_Start::included;
     bool has_picked_ = false; // wherever the pointer went since
+    bool is_taken_back_ = false;
     Tile before_;
     Work_State before_work_;
+    Tool_Colors colors_before_;
+    Tool_Figures figures_before_;
 };
 
 } // namespace quadrelle

@@ -16,7 +16,16 @@ constexpr int tick_milliseconds = 1;
 Stroke_Moment now() {
     using std::chrono::milliseconds;
     const auto time = std::chrono::steady_clock::now().time_since_epoch();
-    return {std::chrono::duration_cast<milliseconds>(time).count(), is_shift_held()};
+    const Held_Modifiers held = held_modifiers();
+    return {std::chrono::duration_cast<milliseconds>(time).count(), held.shift, held.control};
+}
+
+void take_key(Stroke& stroke, const Input_Event& event) {
+    if (event.kind == Input_Kind::key_press && event.chord.key == key::escape) {
+        stroke.take_back();
+    } else {
+        stroke.hold(now());
+    }
 }
 
 void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
@@ -28,6 +37,8 @@ void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void(
                    case Input_Kind::button_release:
                        return event.pointer.button == Mouse_Button::none ? Loop_Step::go_on : Loop_Step::end;
                    case Input_Kind::pointer_motion: stroke.move_to(event.pointer, now()); break;
+                   case Input_Kind::key_press:
+                   case Input_Kind::key_release: take_key(stroke, event); break;
                    default: break;
                    }
                    return Loop_Step::go_on;

@@ -10,8 +10,8 @@
 namespace quadrelle {
 
 // Draws at the pointer and on, along its motions, which `pointer` follows, until a button is released or the
-// window is closed, which ends the stroke only. `redraw` draws and presents the window. The canvas must show
-// a tile.
+// window is closed, which ends the stroke only. Escape takes back what was drawn. `redraw` draws and presents
+// the window. The canvas must show a tile.
 [[nodiscard]] Stroke_Outcome apply_tool(Canvas_View& canvas, const Stroke_Tools& tools,
                                         Pointer_State& pointer, const std::function<void()>& redraw);
 

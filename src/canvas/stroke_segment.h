@@ -12,10 +12,11 @@
 
 namespace quadrelle {
 
-// When an event came, and whether Shift was held then.
+// When an event came, and what was held then.
 struct Stroke_Moment {
     std::int64_t time = 0; // milliseconds
     bool is_shift_held = false;
+    bool is_control_held = false;
 };
 
 // What a drag took hold of, where, and to where it came.

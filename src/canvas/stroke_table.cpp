@@ -116,31 +116,33 @@ constexpr bool keeps_cursor = true;
 constexpr auto pixels = Stroke_Points::pixels;
 constexpr auto corners = Stroke_Points::corners;
 constexpr auto cells = Stroke_Points::cells;
+constexpr bool joins = true;
 constexpr bool _ = false;
+using enum Drag_Shape;
 
 // clang-format off
 constexpr std::array stroke_table = std::to_array<Stroke_Row>({
-    {Canvas_Action::line,                     keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::rectangle_outline,        keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::rectangle_filled,         keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::rectangle_filled_outline, keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::ellipse_outline,          keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::ellipse_filled,           keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::ellipse_filled_outline,   keeps_start, while_moving, _,            pixels,  draw_figure},
-    {Canvas_Action::stamp_brush,              _,           while_moving, _,            pixels,  stamp},
-    {Canvas_Action::pen,                      _,           while_moving, _,            pixels,  draw_pen},
-    {Canvas_Action::colorize_pen,             _,           while_moving, _,            pixels,  colorize},
-    {Canvas_Action::lightness_pen,            _,           while_moving, _,            pixels,  change_lightness, nullptr, is_lightness_step_due},
-    {Canvas_Action::dropper,                  _,           while_moving, keeps_cursor, pixels,  pick_for_button},
-    {Canvas_Action::flood_fill,               _,           _,            keeps_cursor, pixels,  fill},
-    {Canvas_Action::smudge_brush,             _,           while_moving, _,            pixels,  smudge_along},
-    {Canvas_Action::rectangle_selector,       keeps_start, while_moving, _,            corners, mark_rectangle, finish_area},
-    {Canvas_Action::circle_selector,          keeps_start, while_moving, _,            pixels,  mark_circle, finish_area},
-    {Canvas_Action::brush_selector,           _,           while_moving, _,            pixels,  mark_with_brush, finish_marking},
-    {Canvas_Action::wand_selector,            _,           _,            keeps_cursor, pixels,  mark_with_wand, finish_marking},
-    {Canvas_Action::work_selection,           keeps_start, while_moving, keeps_cursor, cells,   move_paste, finish_moving},
-    {Canvas_Action::free_rotate,              keeps_start, while_moving, keeps_cursor, cells,   rotate},
-    {Canvas_Action::scroll,                   keeps_start, while_moving, keeps_cursor, cells,   scroll},
+    {Canvas_Action::line,                     keeps_start, while_moving, _,            pixels,  _,     line,    draw_figure},
+    {Canvas_Action::rectangle_outline,        keeps_start, while_moving, _,            pixels,  _,     box,     draw_figure},
+    {Canvas_Action::rectangle_filled,         keeps_start, while_moving, _,            pixels,  _,     box,     draw_figure},
+    {Canvas_Action::rectangle_filled_outline, keeps_start, while_moving, _,            pixels,  _,     box,     draw_figure},
+    {Canvas_Action::ellipse_outline,          keeps_start, while_moving, _,            pixels,  _,     ellipse, draw_figure},
+    {Canvas_Action::ellipse_filled,           keeps_start, while_moving, _,            pixels,  _,     ellipse, draw_figure},
+    {Canvas_Action::ellipse_filled_outline,   keeps_start, while_moving, _,            pixels,  _,     ellipse, draw_figure},
+    {Canvas_Action::stamp_brush,              _,           while_moving, _,            pixels,  joins, free,    stamp},
+    {Canvas_Action::pen,                      _,           while_moving, _,            pixels,  joins, free,    draw_pen},
+    {Canvas_Action::colorize_pen,             _,           while_moving, _,            pixels,  joins, free,    colorize},
+    {Canvas_Action::lightness_pen,            _,           while_moving, _,            pixels,  joins, free,    change_lightness, nullptr, is_lightness_step_due},
+    {Canvas_Action::dropper,                  _,           while_moving, keeps_cursor, pixels,  _,     free,    pick_for_button},
+    {Canvas_Action::flood_fill,               _,           _,            keeps_cursor, pixels,  _,     free,    fill},
+    {Canvas_Action::smudge_brush,             _,           while_moving, _,            pixels,  joins, free,    smudge_along},
+    {Canvas_Action::rectangle_selector,       keeps_start, while_moving, _,            corners, _,     box,     mark_rectangle, finish_area},
+    {Canvas_Action::circle_selector,          keeps_start, while_moving, _,            pixels,  _,     ellipse, mark_circle, finish_area},
+    {Canvas_Action::brush_selector,           _,           while_moving, _,            pixels,  joins, free,    mark_with_brush, finish_marking},
+    {Canvas_Action::wand_selector,            _,           _,            keeps_cursor, pixels,  _,     free,    mark_with_wand, finish_marking},
+    {Canvas_Action::work_selection,           keeps_start, while_moving, keeps_cursor, cells,   _,     free,    move_paste, finish_moving},
+    {Canvas_Action::free_rotate,              keeps_start, while_moving, keeps_cursor, cells,   _,     free,    rotate},
+    {Canvas_Action::scroll,                   keeps_start, while_moving, keeps_cursor, cells,   _,     free,    scroll},
 });
 // clang-format on
 

@@ -3,6 +3,7 @@
 // What each kind of stroke does to the tile between two positions of the pointer. Each draws on what it is
 // given and answers with what it found.
 
+#include "canvas/drag_shape.h"
 #include "canvas/stroke_segment.h"
 #include "tools/drawing_target.h"
 
@@ -29,6 +30,8 @@ struct Stroke_Row {
     bool draws_while_moving; // or at the press only
     bool keeps_cursor;       // the system's cursor shows during the stroke
     Stroke_Points points;
+    bool joins_strokes; // with Shift it begins where the last stroke on the tile ended
+    Drag_Shape shape;   // what Shift and Ctrl make of it
     Draw_Segment draw_segment;
     // When the button is released, with the segment from the press to there; null for nothing more to do.
     Finish_Stroke finish = nullptr;

@@ -151,5 +151,37 @@ TEST(Every_Tool, without_a_brush_they_act_on_the_pixel_under_the_pointer) {
     }
 }
 
+// With something selected, or with something that floats.
+TEST(Every_Tool, what_is_taken_back_leaves_everything_as_it_was) {
+    Tile before(24, 24);
+    make_colorful(before, 0);
+    for (const Tool_Row& tool : tool_table) {
+        for (const bool floats : {false, true}) {
+            SCOPED_TRACE(tool.name);
+            Drawing_Board board(before);
+            Work_Area& work = board.canvas.work_area();
+            work.select(selected_rectangle({24, 24}, {5, 5}, {15, 15}), Selection_Change::add);
+            if (floats) {
+                work.lift_selection(board.tile);
+            }
+            board.tools.select(tool.command);
+            const Tile_Picture picture = picture_of(board.tile);
+            const Work_State state = work.state();
+            const Tool_Colors colors = board.tools.colors;
+            board.press(board.at({10, 10}));
+            board.move(board.at({12, 14}));
+            board.take_back();
+            board.move(board.at({16, 16}));
+            board.hold();
+            board.pause(50);
+            EXPECT_EQ(board.release(), Stroke_Outcome::taken_back);
+            EXPECT_EQ(picture_of(board.tile), picture);
+            EXPECT_TRUE(work == state);
+            EXPECT_FALSE(work.candidate());
+            EXPECT_EQ(board.tools.colors.left, colors.left);
+        }
+    }
+}
+
 } // namespace
 } // namespace quadrelle::testing

@@ -1,3 +1,4 @@
+#include "commands/command_table.h"
 #include "selection/free_rotation.h"
 #include "tests/support/drawing_board.h"
 #include "tests/support/tiles.h"
@@ -71,6 +72,73 @@ TEST_F(Stroke_On_Board, turns_the_tile_from_what_it_was_at_first) {
     EXPECT_EQ(board.tools.figures.degrees, 15);
 }
 
+struct Shape_Case {
+    Command tool;
+    Tile_Point to; // from 10, 10
+    bool is_shift_held;
+    bool is_control_held;
+    Rectangle drawn; // or selected
+};
+
+// Held from the press on, or only just before the release.
+TEST_F(Stroke_On_Board, shift_and_control_shape_what_is_dragged) {
+    const std::vector<Shape_Case> cases{
+        {Command::line, {17, 12}, true, false, {10, 10, 8, 1}},
+        {Command::line, {9, 3}, true, false, {10, 3, 1, 8}},
+        {Command::line, {15, 13}, true, false, {10, 10, 5, 5}},
+        {Command::line, {6, 13}, true, false, {6, 10, 5, 5}},
+        {Command::line, {13, 11}, false, true, {7, 9, 7, 3}},
+        {Command::rectangle, {7, 12}, true, false, {7, 10, 4, 4}},
+        {Command::rectangle, {10, 8}, true, false, {10, 8, 3, 3}},
+        {Command::rectangle, {12, 13}, false, true, {8, 7, 5, 7}},
+        {Command::rectangle, {12, 13}, true, true, {7, 7, 7, 7}},
+        {Command::circle, {13, 11}, true, false, {7, 7, 7, 7}},
+        {Command::circle, {13, 11}, false, true, {7, 9, 7, 3}},
+        {Command::rectangle_selector, {14, 12}, true, false, {11, 11, 4, 4}},
+        {Command::rectangle_selector, {14, 12}, false, true, {7, 9, 8, 4}},
+        {Command::circle_selector, {13, 11}, true, false, {7, 7, 7, 7}},
+        {Command::scroll, {13, 11}, true, true, {13, 11, 1, 1}},
+    };
+    for (const Shape_Case& test : cases) {
+        for (const bool is_held_at_once : {true, false}) {
+            SCOPED_TRACE(std::string(row_of(test.tool).name) + " to " + std::to_string(test.to.x));
+            const bool scrolls = test.tool == Command::scroll;
+            board.tile.fill(black);
+            board.tile.set_pixel(10, 10, scrolls ? white : black);
+            board.canvas.work_area().deselect();
+            board.tools.select(test.tool);
+            board.is_shift_held = test.is_shift_held && is_held_at_once;
+            board.is_control_held = test.is_control_held && is_held_at_once;
+            board.press(board.at({10, 10}));
+            board.move(board.at({20, 3}));
+            board.move(board.at(test.to));
+            board.is_shift_held = test.is_shift_held;
+            board.is_control_held = test.is_control_held;
+            board.hold();
+            board.release();
+            const bool selects = row_of(test.tool).category == Command_Category::selection;
+            EXPECT_EQ(selects ? board.canvas.work_area().selection().bounds() : board.tile.white_bounds(),
+                      test.drawn);
+        }
+    }
+}
+
+TEST_F(Stroke_On_Board, shift_joins_a_stroke_to_the_last_one_on_the_tile) {
+    board.is_shift_held = true;
+    board.drag({{2, 2}});
+    board.drag({{8, 2}, {8, 4}});
+    EXPECT_EQ(board.tile.white_bounds(), (Rectangle{2, 2, 7, 3}));
+    // From the middle of the brush, whatever its size.
+    board.tile.fill(black);
+    board.tools.chosen_brush.select_size(2);
+    board.drag({{12, 4}});
+    EXPECT_EQ(board.tile.white_bounds(), (Rectangle{8, 3, 6, 3}));
+    Tile other(24, 24);
+    board.canvas.set_tile(&other);
+    board.drag({{20, 20}});
+    EXPECT_EQ(other.white_bounds(), (Rectangle{19, 19, 3, 3}));
+}
+
 // Grey, on which the lightness pen of one pixel draws; how often it touched each pixel of a row or column.
 class Lightness_Stroke : public Stroke_On_Board {
 protected:
@@ -118,6 +186,13 @@ TEST_F(Lightness_Stroke, touches_a_fast_path_once_and_skips_nothing) {
         }
         EXPECT_EQ(touches(9, 7), pause < 30 ? 1 : 2);
     }
+}
+
+TEST_F(Lightness_Stroke, does_not_touch_again_what_it_joins) {
+    board.drag({{2, 3}});
+    board.is_shift_held = true;
+    board.drag({{6, 3}});
+    EXPECT_EQ(touches_of_row(3), "001111100000000000000000");
 }
 
 TEST_F(Lightness_Stroke, quick_strokes_lose_no_pixel) {

@@ -25,22 +25,22 @@ void Drawing_Board::press(Point point, Mouse_Button button) {
     stroke_.emplace(
         canvas, *find_stroke(tools.canvas_action()), pointer_,
         Stroke_Tools{tools, settings, [this](const Stroke_Findings& found) { tools.take(found); }});
-    stroke_->press({time_, is_shift_held});
+    stroke_->press(moment());
 }
 
 void Drawing_Board::move(Point point) {
-    stroke_->move_to(pointer_at(point, Mouse_Button::none), {time_, is_shift_held});
+    stroke_->move_to(pointer_at(point, Mouse_Button::none), moment());
 }
 
 void Drawing_Board::pause(int milliseconds) {
     for (int i = 0; i < milliseconds; ++i) {
         ++time_;
-        stroke_->stay({time_, is_shift_held});
+        stroke_->stay(moment());
     }
 }
 
 Stroke_Outcome Drawing_Board::release() {
-    stroke_->finish({time_, is_shift_held});
+    stroke_->finish(moment());
     return stroke_->outcome();
 }
 

@@ -18,6 +18,9 @@ public:
     [[nodiscard]] Point at(Tile_Point pixel) const;
     void press(Point point, Mouse_Button button = Mouse_Button::left);
     void move(Point point);
+    // What is held may have changed.
+    void hold() { stroke_->hold(moment()); }
+    void take_back() { stroke_->take_back(); }
     // The button is held meanwhile.
     void pause(int milliseconds);
     Stroke_Outcome release();
@@ -29,8 +32,11 @@ public:
     Canvas_View canvas{10};
     Canvas_Settings settings;
     bool is_shift_held = false;
+    bool is_control_held = false;
 
 private:
+    [[nodiscard]] Stroke_Moment moment() const { return {time_, is_shift_held, is_control_held}; }
+
     Pointer_State pointer_;
     std::int64_t time_ = 0;
     std::optional<Stroke> stroke_;

@@ -37,8 +37,21 @@ TEST_F(Stroke_Test, keeps_every_point_of_motions_that_come_at_once) {
     EXPECT_EQ(tile_picture(), one_by_one);
 }
 
+// Escape that stays down until after the release asks nothing.
+TEST_F(Stroke_Test, is_taken_back_by_escape_and_leaves_no_step) {
+    script().press(cell(2, 3)).motion(cell(5, 3)).key(key::escape).check([] {
+        EXPECT_EQ(count_of(white), 0);
+    });
+    script().motion(cell(9, 3)).release(cell(9, 3)).repeated_key(key::escape);
+    expect_loop("main").key_up(key::escape);
+    play();
+    EXPECT_EQ(count_of(white), 0);
+    EXPECT_FALSE(document().is_modified());
+    EXPECT_EQ(document().history().entries().size(), 1U);
+}
+
 TEST_F(Stroke_Test, takes_no_keys_and_wheels_meanwhile) {
-    script().press(cell(2, 3)).key('x').key(key::escape).wheel(1).motion(cell(3, 3)).release(cell(3, 3));
+    script().press(cell(2, 3)).key('x').wheel(1).motion(cell(3, 3)).release(cell(3, 3));
     play();
     EXPECT_EQ(editor->canvas().pixel_size(), 10);
     EXPECT_EQ(tools().colors.of(Mouse_Button::left), white);
