@@ -2,6 +2,7 @@
 
 #include "app/command_handlers.h"
 #include "app/editor_parts.h"
+#include "app/held_keys.h"
 #include "app/hover.h"
 #include "app/key_press.h"
 #include "app/mouse_press.h"
@@ -89,6 +90,7 @@ void Editor::handle_one_event() {
     if (take_button_release()) {
         parts_->panes.release();
     }
+    follow_held_keys(*parts_);
     show_hover(parts_->canvas, parts_->pointer);
     show_pixel_under(parts_->canvas, parts_->pointer);
     show_shape_of_paste(parts_->canvas);

@@ -2,6 +2,7 @@
 
 #include "app/edit_commands.h"
 #include "app/editor_parts.h"
+#include "app/held_keys.h"
 #include "app/hover.h"
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
@@ -19,17 +20,57 @@ bool picks_and_returns() {
            toolbox->state().options.dropper_return == Dropper_Return::on;
 }
 
+Stroke_Outcome run(Editor_Parts& editor, const Stroke_Row& stroke) {
+    const Stroke_Tools tools{toolbox->state(), canvas_settings(*options),
+                             [](const Stroke_Findings& found) { toolbox->take(found); }};
+    return run_stroke(editor.canvas, stroke, tools, editor.pointer,
+                      [&editor] { editor.redraw(Present::yes); });
+}
+
+// In the hands of the tool for what floats; where nothing came to float, the tool before is back.
+Stroke_Outcome move_copy(Editor_Parts& editor) {
+    Tool_State& tools = toolbox->state();
+    const Command command = tools.command;
+    const Command previous = tools.previous_command;
+    if (command != Command::work_selection) {
+        toolbox->select(Command::work_selection);
+    }
+    const Stroke_Outcome outcome = run(editor, copy_stroke());
+    if (outcome != Stroke_Outcome::something_changed && command != Command::work_selection) {
+        toolbox->select(command);
+        tools.previous_command = previous;
+    }
+    return outcome;
+}
+
+Stroke_Outcome draw(Editor_Parts& editor, Press_Meaning meaning) {
+    if (meaning == Press_Meaning::moves_copy) {
+        return move_copy(editor);
+    }
+    const Stroke_Row* const stroke = meaning == Press_Meaning::moves_outline
+                                         ? &outline_stroke()
+                                         : find_stroke(toolbox->state().canvas_action());
+    return stroke == nullptr ? Stroke_Outcome::nothing_changed : run(editor, *stroke);
+}
+
+// Only the dropper has a use for the right button.
+Press_Meaning meaning_for_button(const Editor_Parts& editor) {
+    const Press_Meaning meaning = meaning_of_press(editor);
+    const bool is_right = editor.pointer.button == Mouse_Button::right;
+    return is_right && meaning != Press_Meaning::picks_color ? Press_Meaning::uses_tool : meaning;
+}
+
 void draw_on_canvas(Editor_Parts& editor) {
-    const bool returns = picks_and_returns();
+    follow_held_keys(editor);
+    const Press_Meaning meaning = meaning_for_button(editor);
+    const bool uses_tool = meaning == Press_Meaning::uses_tool;
+    const bool returns = uses_tool && picks_and_returns();
     const Tile_Point pressed = editor.canvas.tile_point(editor.pointer.point());
     Stroke_Outcome outcome = Stroke_Outcome::nothing_changed;
     editor.recorder.step([&] {
-        const Stroke_Tools tools{toolbox->state(), canvas_settings(*options),
-                                 [](const Stroke_Findings& found) { toolbox->take(found); }};
-        outcome =
-            apply_tool(editor.canvas, tools, editor.pointer, [&editor] { editor.redraw(Present::yes); });
+        outcome = draw(editor, meaning);
         const Command tool = row_of(toolbox->current_tool()).command;
-        if (editor.desk.float_wand_area(pressed)) {
+        if (uses_tool && outcome != Stroke_Outcome::taken_back && editor.desk.float_wand_area(pressed)) {
             return Command::paste;
         }
         return outcome == Stroke_Outcome::something_changed ? tool : Command::none;

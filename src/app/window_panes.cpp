@@ -78,7 +78,7 @@ void Window_Panes::draw_panes() {
 
 // Rectangle and circle have an icon for each of two types.
 bool Window_Panes::is_lit(Command icon) const {
-    const Command current = toolbox->current_command();
+    const Command current = toolbox->state().command_in_use();
     const bool is_filled = toolbox->state().shape_type() == Shape_Type::filled;
     switch (icon) {
     case Command::rectangle:
@@ -110,7 +110,8 @@ Pointed Window_Panes::pointed(Point point) const {
 }
 
 Pointed Window_Panes::tool_in_use() {
-    return toolbox->state().is_erasing ? Pointed(Place::eraser) : Pointed(toolbox->current_command());
+    const Command command = toolbox->state().command_in_use();
+    return command == Command::pen && toolbox->state().is_erasing ? Pointed(Place::eraser) : Pointed(command);
 }
 
 // Of a tab also the whole path, which the tab itself has no room for.

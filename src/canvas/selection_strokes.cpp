@@ -17,10 +17,6 @@ Selection_Change change_by(Mouse_Button button) {
     return button == Mouse_Button::right ? Selection_Change::remove : Selection_Change::add;
 }
 
-bool is_in_picture(const Floating_Paste& paste, Tile_Point pixel) {
-    return !paste.picture->is_outside(pixel.x - paste.position.x, pixel.y - paste.position.y);
-}
-
 constexpr int shift_step = 15; // degrees
 
 // By the drag of a segment, on from what was turned so far.
@@ -154,11 +150,35 @@ Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment
     }
     // A selection over it is what the stroke is about.
     const bool is_about_paste = work.paste() && !work.has_selection();
-    if (has_moved && is_about_paste && is_in_picture(*work.paste(), segment.from)) {
+    if (has_moved && is_about_paste && work.paste()->contains(segment.from)) {
         const Tile_Point start = work.paste()->position;
         work.move_paste_to(
             {start.x + segment.to.x - segment.from.x, start.y + segment.to.y - segment.from.y});
     }
+    return segment.no_findings();
+}
+
+Stroke_Findings move_copy(Drawing_Target& target, const Stroke_Segment& segment) {
+    Work_Area& work = segment.work;
+    if (segment.from == segment.to) {
+        return segment.no_findings();
+    }
+    if (work.has_selection()) {
+        work.copy_selection(target.tile());
+    } else {
+        work.plot_paste(target, Selection_Mode::persistent);
+    }
+    const Tile_Point start = work.paste()->position;
+    work.move_paste_to({start.x + segment.to.x - segment.from.x, start.y + segment.to.y - segment.from.y});
+    return segment.no_findings();
+}
+
+Stroke_Findings move_outline(Drawing_Target& /*target*/, const Stroke_Segment& segment) {
+    segment.work.mutable_selection().change([&segment](Tile& mask) {
+        const Tile before(mask);
+        mask.fill(Selection::unselected_color);
+        before.paste_into(mask, segment.to.x - segment.from.x, segment.to.y - segment.from.y);
+    });
     return segment.no_findings();
 }
 
@@ -169,7 +189,7 @@ void finish_moving(Drawing_Target& target, const Stroke_Segment& segment) {
         return;
     }
     if (work.paste() && !work.has_selection()) {
-        if (is_click && !is_in_picture(*work.paste(), segment.from)) {
+        if (is_click && !work.paste()->contains(segment.from)) {
             work.plot_paste(target, segment.tools.options.selection_mode);
         }
     } else if (is_click && !work.selection().contains(segment.from)) {

@@ -22,6 +22,11 @@ void finish_marking(Drawing_Target& target, const Stroke_Segment& segment);
 Stroke_Findings move_paste(Drawing_Target& target, const Stroke_Segment& segment);
 void finish_moving(Drawing_Target& target, const Stroke_Segment& segment);
 
+// Drags a copy of the selected pixels, which then floats. Of what floats already it leaves a copy behind.
+Stroke_Findings move_copy(Drawing_Target& target, const Stroke_Segment& segment);
+// Drags the selection and leaves the pixels; what leaves the tile is not selected any more.
+Stroke_Findings move_outline(Drawing_Target& target, const Stroke_Segment& segment);
+
 // Turns what floats, or lifts the selected pixels and turns them, or else turns the whole tile; always from
 // what was there before it was turned first. To multiples of 15 degrees while Shift is held.
 Stroke_Findings rotate(Drawing_Target& target, const Stroke_Segment& segment);

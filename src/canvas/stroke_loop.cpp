@@ -28,7 +28,7 @@ void take_key(Stroke& stroke, const Input_Event& event) {
     }
 }
 
-void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
+void follow_events(Stroke& stroke, const Loop_Tick& tick, const std::function<void()>& redraw) {
     stroke.press(now());
     run_modal({"stroke", redraw,
                [&](const Input_Event& event) {
@@ -49,26 +49,22 @@ void run_stroke(Stroke& stroke, const Loop_Tick& tick, const std::function<void(
 
 } // namespace
 
-Stroke_Outcome apply_tool(Canvas_View& canvas, const Stroke_Tools& tools, Pointer_State& pointer,
-                          const std::function<void()>& redraw) {
-    const Stroke_Row* const row = find_stroke(tools.state.canvas_action());
-    if (row == nullptr) {
-        return Stroke_Outcome::nothing_changed;
-    }
+Stroke_Outcome run_stroke(Canvas_View& canvas, const Stroke_Row& row, const Stroke_Tools& tools,
+                          Pointer_State& pointer, const std::function<void()>& redraw) {
     // After the first frame: the window system takes longer to hide the cursor for the first time.
     std::optional<Hidden_Cursor> hidden_cursor;
     const auto draw = [&] {
         redraw();
-        if (!row->keeps_cursor && !hidden_cursor) {
+        if (!row.keeps_cursor && !hidden_cursor) {
             hidden_cursor.emplace();
         }
     };
-    Stroke stroke(canvas, *row, pointer, tools);
+    Stroke stroke(canvas, row, pointer, tools);
     Loop_Tick tick;
-    if (row->is_due != nullptr) {
+    if (row.is_due != nullptr) {
         tick = {tick_milliseconds, [&stroke] { return stroke.stay(now()); }};
     }
-    run_stroke(stroke, tick, draw);
+    follow_events(stroke, tick, draw);
     return stroke.outcome();
 }
 

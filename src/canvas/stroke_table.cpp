@@ -148,6 +148,18 @@ constexpr std::array stroke_table = std::to_array<Stroke_Row>({
 
 } // namespace
 
+const Stroke_Row& copy_stroke() {
+    static constexpr Stroke_Row row{
+        Canvas_Action::work_selection, keeps_start, while_moving, keeps_cursor, cells, _, free, move_copy};
+    return row;
+}
+
+const Stroke_Row& outline_stroke() {
+    static constexpr Stroke_Row row{
+        Canvas_Action::work_selection, keeps_start, while_moving, keeps_cursor, cells, _, free, move_outline};
+    return row;
+}
+
 const Stroke_Row* find_stroke(Canvas_Action action) {
     const auto row = std::ranges::find(stroke_table, action, &Stroke_Row::action);
     return row == stroke_table.end() ? nullptr : &*row;

@@ -40,6 +40,10 @@ struct Stroke_Row {
     Is_Due is_due = nullptr;
 };
 
+// With a modifier a drag inside the selection moves a copy of it, or only where is selected.
+[[nodiscard]] const Stroke_Row& copy_stroke();
+[[nodiscard]] const Stroke_Row& outline_stroke();
+
 // Null for an action that no stroke runs.
 [[nodiscard]] const Stroke_Row* find_stroke(Canvas_Action action);
 

@@ -36,6 +36,10 @@ struct Floating_Paste {
 
     // Returns none outside the picture; what is there counts as transparent.
     [[nodiscard]] std::optional<Color> pixel_over(Tile_Point tile_pixel) const;
+    // Also where it is transparent.
+    [[nodiscard]] bool contains(Tile_Point tile_pixel) const {
+        return !picture->is_outside(tile_pixel.x - position.x, tile_pixel.y - position.y);
+    }
     // Returns where it lies in the tile, cut to it.
     [[nodiscard]] Selection area(Size tile) const;
     void plot(Drawing_Target& target) const;

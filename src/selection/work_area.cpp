@@ -82,6 +82,14 @@ void Work_Area::scroll(Tile_Point offset) {
     }
 }
 
+void Work_Area::copy_selection(Tile& tile) {
+    if (paste_) {
+        Drawing_Target target(tile);
+        plot_paste(target, Selection_Mode::standard);
+    }
+    float_paste(lifted(tile, *selection_));
+}
+
 void Work_Area::update_paste_area() {
     if (paste_) {
         paste_area_.emplace(paste_->area(selection_->size()));

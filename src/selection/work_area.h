@@ -80,6 +80,8 @@ public:
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
     // floated before becomes a part of the tile. The selection is not empty.
     void lift_selection(Tile& tile);
+    // The same, but the pixels stay in the tile and a copy of them floats.
+    void copy_selection(Tile& tile);
 
     // Changes the colours of the paste, which is there.
     void recolor_paste(const std::function<void(Tile& picture)>& change);

@@ -93,7 +93,7 @@ bool Tool_State::bring_stamp_back() {
 }
 
 Canvas_Action Tool_State::canvas_action() const {
-    return canvas_action_of(command, shape_type());
+    return canvas_action_of(command_in_use(), shape_type());
 }
 
 Shape_Type Tool_State::shape_type() const {
@@ -109,7 +109,7 @@ Pen_Mode Tool_State::pen_mode() const {
 }
 
 bool Tool_State::uses_brush() const {
-    return row_of(row_of(tool).command).has(Command_Trait::brush);
+    return !is_picking && row_of(row_of(tool).command).has(Command_Trait::brush);
 }
 
 bool Tool_State::is_in_selection_group() const {

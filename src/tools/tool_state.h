@@ -56,6 +56,8 @@ struct Tool_State {
     Tool tool = Tool::pen;
     // The pen makes pixels transparent with either button, until a tool is selected.
     bool is_erasing = false;
+    // The dropper takes the place of the tool for a while.
+    bool is_picking = false;
     Tool_Options options;
     Tool_Colors colors;
     Chosen_Brush chosen_brush;
@@ -77,6 +79,8 @@ struct Tool_State {
     bool bring_stamp_back();
 
     [[nodiscard]] const Brush& brush() const { return chosen_brush.brush(); }
+    // The command of the tool, or of the one that takes its place.
+    [[nodiscard]] Command command_in_use() const { return is_picking ? Command::dropper : command; }
     // What a stroke on the canvas does now.
     [[nodiscard]] Canvas_Action canvas_action() const;
     // Of the tool in use, for rectangles and ellipses.

@@ -2,6 +2,8 @@
 #include "commands/key_table.h"
 #include "tests/whole/program_test.h"
 
+#include <SDL3/SDL.h>
+
 namespace quadrelle::testing {
 namespace {
 
@@ -10,6 +12,11 @@ class Key_Test : public Program_Test {
 protected:
     static int selected() { return editor->canvas().work_area().selection().count(); }
     static int current_tile() { return document().tileset().current_index(); }
+    void TearDown() override {
+        hold(SDL_KMOD_NONE);
+        Program_Test::TearDown();
+    }
+    static void hold(SDL_Keymod keys) { SDL_SetModState(keys); }
     static std::string report() { return editor->panes().hint_lines().lines().at(1); }
     void press(Keycode key, Modifier modifier = Modifier::none) {
         play(script().key(key, modifier).key_up(key, modifier));
@@ -168,6 +175,88 @@ TEST_F(Key_Test, zoom_and_tools_stand_on_the_main_keys) {
             EXPECT_EQ(tools().command, row.command);
         }
     }
+}
+
+// While Alt is held, whatever the tool.
+TEST_F(Key_Test, alt_picks_and_gives_the_tool_back) {
+    document().tileset().current_tile()->set_pixel(5, 6, red);
+    tools().chosen_brush.select_size(2);
+    press('e');
+    const auto shows_brush = [] { return editor->canvas().shows_brush(tools(), canvas_settings(*options)); };
+    play(script().motion(cell(5, 6)));
+    EXPECT_TRUE(shows_brush());
+    hold(SDL_KMOD_LALT);
+    play(script().key(key::left_alt, Modifier::alt));
+    EXPECT_FALSE(shows_brush());
+    play(script().motion({300, 100}));
+    EXPECT_EQ(editor->panes().hint_lines().lines().at(0), "Dropper (d)");
+    play(script().click(cell(5, 6), Mouse_Button::right));
+    EXPECT_EQ(tools().colors.right, red);
+    EXPECT_EQ(tile_pixel(5, 6), red);
+    hold(SDL_KMOD_NONE);
+    play(script().key_up(key::left_alt).click(cell(5, 6)));
+    EXPECT_EQ(tile_pixel(5, 6), clear);
+}
+
+class Dragged_Selection : public Key_Test {
+protected:
+    void SetUp() override {
+        Key_Test::SetUp();
+        play(script().click(cell(3, 3)).key('s').drag({cell(1, 1), cell(4, 4)}));
+        before_ = tile_picture();
+        steps_ = document().history().entries().size();
+    }
+    static const Work_Area& work() { return editor->canvas().work_area(); }
+    static Rectangle bounds() { return work().selection().bounds(); }
+    [[nodiscard]] std::size_t new_steps() const { return document().history().entries().size() - steps_; }
+    void drag(SDL_Keymod held, Tile_Point from, Tile_Point to) {
+        hold(held);
+        play(script().drag({cell(from.x, from.y), cell(to.x, to.y)}));
+        hold(SDL_KMOD_NONE);
+    }
+
+    Tile_Picture before_;
+    std::size_t steps_ = 0;
+};
+
+TEST_F(Dragged_Selection, with_control_a_copy_of_it_floats) {
+    drag(SDL_KMOD_LCTRL, {3, 3}, {3, 3});
+    EXPECT_EQ(tools().tool, Tool::rectangle_selector);
+    script().check([this] { hold(SDL_KMOD_LCTRL); }).press(cell(3, 3)).motion(cell(9, 9));
+    play(script().key(key::escape).release(cell(9, 9)));
+    EXPECT_EQ(tools().tool, Tool::rectangle_selector);
+    EXPECT_EQ(new_steps(), 0U);
+    drag(SDL_KMOD_LCTRL, {3, 3}, {10, 5});
+    EXPECT_EQ(tools().tool, Tool::selection);
+    ASSERT_TRUE(work().paste());
+    EXPECT_EQ(work().paste()->position, (Tile_Point{9, 4}));
+    EXPECT_EQ(tile_picture(), before_);
+    EXPECT_EQ(new_steps(), 1U);
+    // Of what floats already a copy stays behind.
+    drag(SDL_KMOD_LCTRL, {10, 5}, {10, 8});
+    EXPECT_EQ(tile_pixel(10, 5), white);
+    EXPECT_EQ(work().paste()->position, (Tile_Point{9, 7}));
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    EXPECT_EQ(tools().tool, Tool::rectangle_selector);
+    EXPECT_EQ(bounds(), (Rectangle{2, 2, 3, 3}));
+    EXPECT_EQ(tile_picture(), before_);
+}
+
+TEST_F(Dragged_Selection, with_alt_its_outline_moves_alone) {
+    drag(SDL_KMOD_LALT, {3, 3}, {8, 4});
+    EXPECT_EQ(bounds(), (Rectangle{7, 3, 3, 3}));
+    EXPECT_EQ(tile_picture(), before_);
+    EXPECT_EQ(new_steps(), 1U);
+    drag(SDL_KMOD_LALT, {8, 4}, {23, 4});
+    EXPECT_EQ(bounds(), (Rectangle{22, 3, 2, 3}));
+    // Beside the selection Alt picks.
+    document().tileset().current_tile()->set_pixel(5, 6, red);
+    drag(SDL_KMOD_LALT, {5, 6}, {5, 6});
+    EXPECT_EQ(tools().colors.left, red);
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    EXPECT_EQ(bounds(), (Rectangle{2, 2, 3, 3}));
 }
 
 struct Report_Case {
