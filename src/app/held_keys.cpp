@@ -15,9 +15,10 @@ bool is_over_selection(const Editor_Parts& editor) {
 }
 
 bool is_over_paste(const Editor_Parts& editor) {
+    const Point point = editor.pointer.point();
     const bool is_in_hand = toolbox->current_tool() == Tool::selection && editor.desk.shows_paste();
-    return is_in_hand &&
-           editor.canvas.work_area().paste()->contains(editor.canvas.tile_point(editor.pointer.point()));
+    return is_in_hand && editor.canvas.handle_at(point, toolbox->state()) == Paste_Handle::none &&
+           editor.canvas.work_area().paste()->contains(editor.canvas.tile_point(point));
 }
 
 } // namespace
