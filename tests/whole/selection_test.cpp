@@ -189,6 +189,19 @@ TEST_F(Selection_Test, turning_what_is_selected_and_not_square_lifts_it) {
     }
 }
 
+TEST_F(Selection_Test, what_floats_is_turned_on_from_the_pixels_as_they_were_taken_after_undo_and_redo) {
+    const Floating_Paste taken{random_tile({9, 6}), {8, 9}};
+    execute(Command::free_rotate);
+    work().float_paste(taken);
+    play(script().drag({cell(20, 12), cell(20, 15)}));
+    play(script().drag({cell(20, 12), cell(20, 15)}));
+    execute(Command::undo);
+    execute(Command::undo);
+    execute(Command::redo);
+    play(script().drag({cell(20, 15), cell(20, 12)}));
+    EXPECT_EQ(*work().paste(), taken);
+}
+
 // Until the tool is left; undo and redo go there too.
 TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_was_taken) {
     paint_noise(6);

@@ -135,7 +135,7 @@ private:
         select_tool(Tool::selection);
         const Tile_Point from = some_pixel();
         const Tile_Point to = some_pixel();
-        if (from == to) {
+        if (from == to || is_at_handle(from)) {
             return;
         }
         drag(from, to, some_button());
@@ -151,7 +151,11 @@ private:
     void click_with_selection_tool() {
         select_tool(Tool::selection);
         const Tile_Point at = some_pixel();
+        const bool is_on_handle = is_at_handle(at);
         click(window_point(at), some_button());
+        if (is_on_handle) {
+            return;
+        }
         model_.edit([&] {
             if (model_.shows_paste() && !is_in_paste(at)) {
                 model_.plot();
@@ -159,6 +163,10 @@ private:
                 model_.deselect();
             }
         });
+    }
+    // What those do is another matter.
+    static bool is_at_handle(Tile_Point at) {
+        return editor->canvas().handle_at(window_point(at), tools()) != Paste_Handle::none;
     }
     // Also where its picture is transparent.
     bool is_in_paste(Tile_Point at) const {
