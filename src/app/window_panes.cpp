@@ -24,12 +24,11 @@ int fitting_repeat(int tile_extent, int repeat) {
     return tile_extent * repeat > 191 ? 192 / tile_extent : repeat;
 }
 
-// The filled icon of a shape sets its type by its command. The plain one stands for both types that have an
-// outline: it leaves the filled type only.
-void leave_filled_type(Command icon) {
+// The filled icon of a shape sets its type by its command. The plain one shares its command with the list of
+// tools, where the type stays.
+void set_outline_type(Command icon) {
     if (icon == Command::rectangle || icon == Command::circle) {
-        Shape_Type& type = toolbox->state().shape_type_of(tool_of(icon));
-        type = type == Shape_Type::filled ? Shape_Type::outline : type;
+        toolbox->state().shape_type_of(tool_of(icon)) = Shape_Type::outline;
     }
 }
 
@@ -296,7 +295,9 @@ bool Window_Panes::take_copy_click(const Pointer_State& pointer) {
 
 // With other tools they are not there.
 std::optional<std::size_t> Window_Panes::copy_at(Point point) const {
-    return toolbox->state().is_in_selection_group() ? copy_panes_.copy_at(point) : std::nullopt;
+    const std::optional<std::size_t> cell =
+        toolbox->state().is_in_selection_group() ? copy_panes_.cell_at(point) : std::nullopt;
+    return cell && *cell < copies_.copies().size() ? cell : std::nullopt;
 }
 
 // The tools of the list and the buttons of the navigation take either button, all else the left one.
@@ -313,7 +314,7 @@ Command Window_Panes::click_buttons(const Pointer_State& pointer) {
         size_preview();
         return Command::change_tile;
     }
-    leave_filled_type(icon_bar_.command_at(point));
+    set_outline_type(icon_bar_.command_at(point));
     return command_at(point);
 }
 

@@ -133,7 +133,7 @@ void Copy_Panes::draw_picture(const Tile& picture, Shown_Tile& shown, const Rect
     }
 }
 
-std::optional<std::size_t> Copy_Panes::copy_at(Point point) const {
+std::optional<std::size_t> Copy_Panes::cell_at(Point point) const {
     for (std::size_t i = 0; i < Copy_Buffer::capacity; ++i) {
         if (cell(i).contains(point)) {
             return i;

@@ -27,8 +27,8 @@ public:
 
     [[nodiscard]] const Pane& current() const { return current_; }
     [[nodiscard]] const Pane& previous() const { return previous_; }
-    // Returns the index of the previous copy at `point`, if there are so many; the newest one is 0.
-    [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
+    // Returns the cell for a previous copy at `point`, which may be empty; that of the newest one is 0.
+    [[nodiscard]] std::optional<std::size_t> cell_at(Point point) const;
     // Returns the command whose button is at `point`, or none.
     [[nodiscard]] Command command_at(Point point) const;
 

@@ -8,12 +8,14 @@
 
 namespace quadrelle {
 
-Text_Input::Text_Input() {
+Text_Input::Text_Input() : was_active_(SDL_TextInputActive(screen->window())) {
     SDL_StartTextInput(screen->window());
 }
 
 Text_Input::~Text_Input() {
-    SDL_StopTextInput(screen->window());
+    if (!was_active_) {
+        SDL_StopTextInput(screen->window());
+    }
 }
 
 std::string clipboard_text() {

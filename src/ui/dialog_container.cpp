@@ -118,8 +118,8 @@ Loop_Step Dialog_Container::handle(const Input_Event& event) {
         return press(event.pointer);
     }
     if (event.kind == Input_Kind::wheel && event.moved.y != 0) {
-        rows_.notify({event.moved.y > 0 ? Dialog_Event_Kind::increase : Dialog_Event_Kind::decrease,
-                      rows_.stepped_at(event.pointer.point())});
+        rows_.step_at(event.pointer.point(),
+                      event.moved.y > 0 ? Dialog_Event_Kind::increase : Dialog_Event_Kind::decrease);
     }
     return Loop_Step::go_on;
 }

@@ -2,6 +2,7 @@
 
 // What a dialog item answers to a click: a kind, and the item that it is meant for.
 
+#include "base/cyclic_int.h"
 #include "base/table.h"
 
 #include <array>
@@ -67,6 +68,12 @@ struct Dialog_Event {
         return kind == Dialog_Event_Kind::accept || kind == Dialog_Event_Kind::cancel;
     }
 };
+
+// Whether that event moves the number without taking it around from one bound to the other.
+[[nodiscard]] constexpr bool can_step(const Cyclic_Int& number, Dialog_Event_Kind kind) {
+    return kind == Dialog_Event_Kind::increase ? number.value() < number.high()
+                                               : number.value() > number.low();
+}
 
 // For whoever debugs a dialog: the event in words, and these shown in the window's corner.
 [[nodiscard]] std::string trace_text(const Dialog_Event& event);

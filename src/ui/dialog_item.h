@@ -30,8 +30,8 @@ public:
     [[nodiscard]] virtual int value() const { return -1; }
     // Takes the value; one that the item cannot have changes nothing.
     virtual void set_value(int /*value*/) {}
-    // Whether it goes up and down by steps.
-    [[nodiscard]] virtual bool has_steps() const { return false; }
+    // Whether it can be increased or decreased without wrapping around.
+    [[nodiscard]] virtual bool has_step(Dialog_Event_Kind /*kind*/) const { return false; }
     // Takes on the size of what it shows, where that can change.
     virtual void measure() {}
     // The item compares the point with its own area. The base class logs that nobody answers.

@@ -36,17 +36,17 @@ Dialog_Event Dialog_Rows::item_at(Point point) {
     return answer;
 }
 
-int Dialog_Rows::stepped_at(Point point) const {
+void Dialog_Rows::step_at(Point point, Dialog_Event_Kind kind) {
     for (const Dialog_Row& row : rows_) {
         for (const auto& item : row.items()) {
-            if (item->area.contains(point)) {
-                const int id = item->host == no_id ? item->id : item->host;
-                const Dialog_Item* const stepped = row.item(id);
-                return stepped != nullptr && stepped->has_steps() ? id : no_target;
+            const int id = item->host == no_id ? item->id : item->host;
+            const Dialog_Item* const stepped = item->area.contains(point) ? row.item(id) : nullptr;
+            if (stepped != nullptr && stepped->has_step(kind)) {
+                notify({kind, id});
+                return;
             }
         }
     }
-    return no_target;
 }
 
 Dialog_Item* Dialog_Rows::item(int id) const {

@@ -21,8 +21,9 @@ public:
 
     // Returns the answer of the first row that contains the point. An item may change, or ask for a number.
     Dialog_Event item_at(Point point);
-    // Returns the id of what is stepped under the point: a number, a choice, or what goes with it in its row.
-    [[nodiscard]] int stepped_at(Point point) const;
+    // Increases or decreases the number or choice under the point, also by what belongs to it in its row. It
+    // stops at the bounds.
+    void step_at(Point point, Dialog_Event_Kind kind);
     // Returns the first item with that id, or null.
     [[nodiscard]] Dialog_Item* item(int id) const;
     // Passes the event on to the item that it is meant for, if there is one.

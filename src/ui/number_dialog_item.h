@@ -12,7 +12,7 @@ public:
     Number_Dialog_Item(Item_Id ids, const Cyclic_Int& number, Font item_font = Font::regular);
 
     [[nodiscard]] int value() const override { return number_.value(); }
-    [[nodiscard]] bool has_steps() const override { return true; }
+    [[nodiscard]] bool has_step(Dialog_Event_Kind kind) const override { return can_step(number_, kind); }
     void measure() override;
     Dialog_Event click(Point point) override;
     void notify(Dialog_Event_Kind kind) override;

@@ -21,7 +21,7 @@ public:
 
     [[nodiscard]] int value() const override { return index_.value(); }
     void set_value(int value) override;
-    [[nodiscard]] bool has_steps() const override { return true; }
+    [[nodiscard]] bool has_step(Dialog_Event_Kind kind) const override { return can_step(index_, kind); }
     [[nodiscard]] const std::vector<std::string>& entries() const { return entries_; }
     // Makes the item as wide as the widest entry.
     void measure() override;

@@ -1,6 +1,7 @@
 #include "views/ask_for_file.h"
 
 #include "base/file_names.h"
+#include "base/platform_files.h"
 #include "base/table.h"
 #include "ui/dialogs.h"
 #include "ui/modal_dialog.h"
@@ -82,8 +83,15 @@ bool choose_file(File_Dialog_Kind kind, std::string& path) {
     if (answer.state != File_Answer_State::chosen) {
         return false;
     }
-    const std::string_view forced = request_of(kind).forced_extension;
-    path = forced.empty() ? answer.path : with_extension(answer.path, std::string(forced));
+    const File_Request& request = request_of(kind);
+    const std::string forced = request.forced_extension;
+    const std::string named = forced.empty() ? answer.path : with_extension(answer.path, forced);
+    // The dialog has asked about the name that it knew of.
+    if (named != answer.path && path_kind(named) != Path_Kind::nothing &&
+        !dialogs->ask(request.title, "Save over existing file?")) {
+        return false;
+    }
+    path = named;
     return true;
 }
 

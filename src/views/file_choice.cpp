@@ -28,4 +28,14 @@ std::string fault_of_choice(const File_Request& request, const std::string& path
     return kind == Path_Kind::folder || kind == Path_Kind::other ? "A folder or a device has this name." : "";
 }
 
+std::string fault_of_folder_name(const std::string& name) {
+    if (name.find_first_not_of(' ') == std::string::npos) {
+        return "A folder needs a name.";
+    }
+    // It would be hidden, or lie elsewhere.
+    const bool is_hidden = name.front() == '.';
+    return is_hidden || folder_part(name) != "" ? "A folder's name has no dot in front and no separator."
+                                                : "";
+}
+
 } // namespace quadrelle

@@ -12,5 +12,7 @@ namespace quadrelle {
 [[nodiscard]] std::string final_path(const File_Request& request, const std::string& path);
 // Returns why the file cannot be opened or saved to, as a sentence; empty where it can.
 [[nodiscard]] std::string fault_of_choice(const File_Request& request, const std::string& path);
+// Returns why a folder of that name would be no good, as a sentence; empty where it would.
+[[nodiscard]] std::string fault_of_folder_name(const std::string& name);
 
 } // namespace quadrelle

@@ -94,7 +94,8 @@ private:
     Button_Dialog_Item ok_{Item_Id{}, Button_Type::ok};
     Button_Dialog_Item cancel_{Item_Id{}, Button_Type::cancel};
     Part focus_;
-    std::string note_; // why the last attempt led nowhere
+    bool is_row_chosen_ = false; // by the user, who may mean it by Ok
+    std::string note_;           // why the last attempt led nowhere
     File_Answer answer_{File_Answer_State::cancelled, {}};
 };
 
@@ -140,7 +141,7 @@ void Own_Chooser::draw() const {
     frame_.draw();
     const Point path{layout_.path.x, layout_.path.y};
     screen->draw_text(font, path, fitted_text(font, listing_.folder(), layout_.path.width, Left_Out::start));
-    list_.draw(focus_ == Part::list ? Focus::yes : Focus::no);
+    list_.draw(focus_ == Part::list && is_row_chosen_ ? Focus::yes : Focus::no);
     const std::string_view note = note_.empty() ? request_.filter_label : note_.c_str();
     screen->draw_text(font, {layout_.note.x, layout_.note.y},
                       fitted_text(font, note, layout_.note.width, Left_Out::middle));
@@ -200,6 +201,7 @@ void Own_Chooser::handle_list_key(Keycode pressed) {
 
 void Own_Chooser::move_to(int rows) {
     focus_ = Part::list;
+    is_row_chosen_ = true;
     list_.move_selection(rows);
     show_selection();
 }
@@ -244,7 +246,10 @@ Loop_Step Own_Chooser::press_list(Point point) {
     focus_ = Part::list;
     switch (list_.press(point)) {
     case File_List::Press::opens: return open_selected();
-    case File_List::Press::selects: show_selection(); break;
+    case File_List::Press::selects:
+        is_row_chosen_ = true;
+        show_selection();
+        break;
     case File_List::Press::nothing: break;
     }
     return Loop_Step::go_on;
@@ -265,6 +270,8 @@ void Own_Chooser::enter(const std::string& folder) {
         static_cast<void>(listing_.open_nearest(left));
     }
     list_.reset();
+    // What is saved goes into the folder that is shown, not back into the one that is lit.
+    is_row_chosen_ = request_.direction == File_Direction::open;
     // On the way up, the folder that one comes from.
     if (parent_folder(left) == listing_.folder()) {
         if (const auto row = listing_.find(left.substr(folder_part(left).size()))) {
@@ -275,7 +282,7 @@ void Own_Chooser::enter(const std::string& folder) {
 
 Loop_Step Own_Chooser::accept() {
     note_.clear();
-    return focus_ == Part::list && list_.selected() ? open_selected() : accept_name();
+    return focus_ == Part::list && is_row_chosen_ && list_.selected() ? open_selected() : accept_name();
 }
 
 Loop_Step Own_Chooser::open_selected() {
@@ -319,17 +326,19 @@ Loop_Step Own_Chooser::choose(const std::string& path) {
 
 // Enters the folder that was made, so that what is saved next goes there.
 void Own_Chooser::make_folder_here() {
-    const std::string folder = listing_.folder();
     const std::optional<std::string> name = ask_name("New folder", "");
-    if (!name || name->empty()) {
+    if (!name) {
         return;
     }
-    const std::string path = resolved_path(folder, *name);
-    if (path_kind(path) != Path_Kind::nothing) {
+    const std::string path = joined_path(listing_.folder(), *name);
+    note_ = fault_of_folder_name(*name);
+    if (note_.empty() && path_kind(path) != Path_Kind::nothing) {
         note_ = "There is a file or folder of this name already.";
-    } else if (!make_folder(path)) {
+    }
+    if (note_.empty() && !make_folder(path)) {
         note_ = "The folder cannot be made.";
-    } else {
+    }
+    if (note_.empty()) {
         enter(path);
     }
 }

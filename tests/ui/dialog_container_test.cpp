@@ -81,6 +81,14 @@ TEST_F(Dialog_Container_Test, the_wheel_steps_what_is_under_the_pointer) {
     script.wheel(1, tick()).wheel(1, ok()).wheel(1).key(key::enter);
     EXPECT_TRUE(dialog->run());
     expect_values(25, 1, 0);
+
+    // It stops where the arrows would go around.
+    for (int i = 0; i < 50; ++i) {
+        script.wheel(1, middle_of(0, 3)).wheel(-1, middle_of(1, 2));
+    }
+    script.key(key::enter);
+    EXPECT_TRUE(dialog->run());
+    expect_values(64, 0, 0);
 }
 
 TEST_F(Dialog_Container_Test, cancel_restores_numbers_and_choices_but_not_ticks) {

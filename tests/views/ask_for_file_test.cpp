@@ -1,6 +1,7 @@
 #include "views/ask_for_file.h"
 
 #include "base/file_names.h"
+#include "tests/support/files.h"
 #include "tests/support/window_test.h"
 
 namespace quadrelle::testing {
@@ -48,6 +49,21 @@ TEST_F(File_Dialog_Test, forces_the_extension_only_where_something_is_saved) {
     EXPECT_EQ(choose(File_Dialog_Kind::open_any, answer), "/a/b.c.txt");
     EXPECT_EQ(choose(File_Dialog_Kind::import_bitmap, answer), "/a/b.c.txt");
     EXPECT_EQ(choose(File_Dialog_Kind::export_bitmap, answer), "/a/b.c.bmp");
+}
+
+// The dialog has asked about the name that was typed, if it has asked at all.
+TEST_F(File_Dialog_Test, asks_before_a_file_is_replaced_whose_extension_was_forced) {
+    const Temporary_Folder folder;
+    store(folder.path("hero.qdl"), {});
+    Script script;
+    script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Save\""); }).key(key::escape);
+    script.key(key::enter);
+    const File_Answer answer{File_Answer_State::chosen, folder.path("hero")};
+    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, answer), std::nullopt);
+    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, answer), folder.path("hero.qdl"));
+    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, {File_Answer_State::chosen, folder.path("hero.qdl")}),
+              folder.path("hero.qdl"));
+    EXPECT_TRUE(script.is_played());
 }
 
 TEST_F(File_Dialog_Test, is_silent_when_cancelled_and_tells_of_an_error) {

@@ -4,6 +4,8 @@
 #include "tests/whole/program_test.h"
 #include "tileset/tileset_file.h"
 
+#include <SDL3/SDL_keyboard.h>
+
 namespace quadrelle::testing {
 namespace {
 
@@ -105,13 +107,31 @@ TEST_F(File_Chooser_Test, proposes_a_name_and_makes_folders) {
     press({key::end, key::left, key::left, key::left, key::left}).text("2").key(key::enter);
     EXPECT_EQ(ask(File_Dialog_Kind::save_tileset, "tiles.qdl"), folder().path("other/tiles2.qdl"));
 
-    // One that is there already is not made, and the dialog stays where it is.
+    // What will not do as a name is not made, and the dialog stays where it is.
     const Point new_folder{616, 580};
-    text("deep").click(new_folder).text("..").key(key::enter);
-    script().click(new_folder).text("given up").key(key::escape).click(new_folder).key(key::enter);
-    script().click(new_folder).text("one/two").key(key::enter).key(key::enter);
+    text("deep");
+    for (const std::string name : {"", " ", ".hidden", "../up", "/tmp/absolute"}) {
+        script().click(new_folder).text(name).key(key::enter);
+    }
+    script().click(new_folder).text("given up").key(key::escape);
+    script().click(new_folder).text("one").key(key::enter);
+    script().check([] { EXPECT_TRUE(SDL_TextInputActive(screen->window())); });
+    // One that is there already is not made again.
+    script()
+        .click(row(0))
+        .click(row(0))
+        .click(new_folder)
+        .text("one")
+        .key(key::enter)
+        .click(row(1))
+        .click(row(1));
+    script().click(new_folder).text("two").key(key::enter).key(key::enter);
     EXPECT_EQ(ask(File_Dialog_Kind::save_tileset, "tiles.qdl"), folder().path("other/one/two/deep.qdl"));
-    EXPECT_FALSE(std::filesystem::exists(folder().native_path() / "other" / "given up"));
+    const std::filesystem::directory_iterator other(folder().native_path() / "other");
+    EXPECT_EQ(std::distance(begin(other), end(other)), 1);
+    // On the way up the folder is lit that one comes from, but what is saved goes into the one that is shown.
+    script().click(row(0)).click(row(0)).press(ok_button);
+    EXPECT_EQ(ask(File_Dialog_Kind::save_tileset, "up.qdl"), folder().path("other/one/up.qdl"));
     // There is nothing to make where something is loaded.
     script().click(new_folder).key(key::escape);
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset, "tiles.qdl"), "cancelled");

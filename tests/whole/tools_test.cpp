@@ -25,7 +25,7 @@ TEST_F(Tools_Test, icons_and_list_select_through_the_command) {
                                         {filled_icon, filled},
                                         {more, both},
                                         {entry, both},
-                                        {icon, both},
+                                        {icon, outline},
                                         {filled_icon, filled}}) {
         play(script().click(point));
         EXPECT_EQ(tools().command, Command::rectangle);
