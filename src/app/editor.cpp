@@ -13,8 +13,10 @@
 #include "screen/screen.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
+#include "ui/held_button.h"
 #include "ui/modal_dialog.h"
 
+#include <optional>
 #include <string>
 
 namespace quadrelle {
@@ -109,7 +111,7 @@ void Editor::handle(const Input_Event& event) {
         parts_->pointer = event.pointer;
         parts_->clicks = event.clicks;
         parts_->panes.hint_lines().end_report();
-        execute_if_any(press_mouse(*parts_));
+        press(press_mouse(*parts_));
         break;
     case Input_Kind::pointer_left: parts_->pointer = pointer_nowhere; break;
     case Input_Kind::wheel:
@@ -119,6 +121,19 @@ void Editor::handle(const Input_Event& event) {
         break;
     default: break;
     }
+}
+
+void Editor::press(Command command) {
+    execute_if_any(command);
+    const std::optional<Rectangle> button = parts_->panes.held_button();
+    if (command == Command::none || !button) {
+        return;
+    }
+    Point pointer = parts_->pointer.point();
+    repeat_while_held(
+        {*button, [this] { redraw(Present::yes); }, [this, command] { execute(command, Held::yes); }},
+        pointer);
+    parts_->pointer = {static_cast<float>(pointer.x), static_cast<float>(pointer.y), parts_->pointer.button};
 }
 
 void Editor::execute_if_any(Command command, Held held) {

@@ -43,6 +43,8 @@ private:
     enum class Held { no, yes };
 
     void handle(const Input_Event& event);
+    // What a press of the mouse leads to, again and again on a button that is held.
+    void press(Command command);
     void execute_if_any(Command command, Held held = Held::no);
     void execute(Command command, Held held);
     // Carries the command out. Returns the command to record, or none when it failed or was refused.

@@ -2,6 +2,7 @@
 
 #include "app/documents.h"
 #include "canvas/canvas_view.h"
+#include "color/hex_color.h"
 #include "color/standard_colors.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
@@ -203,6 +204,11 @@ Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count)
     return is_second ? target.meaning : Double_Click::none;
 }
 
+void Window_Panes::store_color(Color color) {
+    palette_.store(color);
+    hint_lines_.report({"Palette", hex_text(color) + " is stored there, also for the next start."});
+}
+
 // With Shift a click on the palette stores.
 Window_Panes::Click_Target Window_Panes::target_at(const Pointer_State& pointer) const {
     const Point point = pointer.point();
@@ -258,7 +264,7 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
         return true;
     }
     if (selected_color_.store_button().contains(point)) {
-        palette_.store(tool_colors->current_color());
+        store_color(tool_colors->current_color());
         return true;
     }
     return take_palette_click(pointer) || take_copy_click(pointer);
@@ -271,8 +277,8 @@ bool Window_Panes::take_palette_click(const Pointer_State& pointer) {
     }
     const std::optional<Color> color = palette_.click(pointer.point());
     if (color && is_shift_held()) {
-        palette_.store(pointer.button == Mouse_Button::left ? tool_colors->current_color()
-                                                            : tool_colors->other_color());
+        store_color(pointer.button == Mouse_Button::left ? tool_colors->current_color()
+                                                         : tool_colors->other_color());
     } else if (color) {
         tool_colors->set_color(pointer.button, *color);
     }

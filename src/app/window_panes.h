@@ -55,6 +55,8 @@ public:
     [[nodiscard]] static Pointed tool_in_use();
     // Lets the pane that was hit answer. `count` is 2 or more when clicks follow each other quickly.
     [[nodiscard]] Pane_Click click(Pointer_State& pointer, int count);
+    // Returns the area of a button that goes on acting while it is held, if one is.
+    [[nodiscard]] std::optional<Rectangle> held_button() const { return navigation_.held_area(); }
     // To be called when no button of the mouse is held any more.
     void release() { navigation_.release(); }
 
@@ -88,6 +90,7 @@ private:
     [[nodiscard]] bool take_click(const Pointer_State& pointer);
     [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
     [[nodiscard]] bool take_palette_click(const Pointer_State& pointer);
+    void store_color(Color color);
     [[nodiscard]] bool take_copy_click(const Pointer_State& pointer);
     [[nodiscard]] Command click_buttons(const Pointer_State& pointer);
 

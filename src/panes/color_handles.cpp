@@ -3,6 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "ui/held_button.h"
 #include "ui/swatch.h"
 #include "ui/window_layout.h"
 
@@ -173,6 +174,9 @@ std::optional<int> Color_Handles::button_at(Point point) const {
 bool Color_Handles::click(Point point, const std::function<void()>& redraw) {
     if (const std::optional<int> button = button_at(point)) {
         press(*button);
+        repeat_while_held({step_buttons_.at(static_cast<std::size_t>(*button))->area, redraw,
+                           [this, button] { press(*button); }},
+                          point);
         return true;
     }
     for (int row = 0; row < row_count; ++row) {

@@ -24,8 +24,9 @@ public:
     void draw() const override;
     // Takes the colour to change, when it became another one elsewhere.
     void set_color(Color color);
-    // Answers a press on a step button, or on a slider, which then follows the pointer until a button is
-    // released. Returns false where there is neither. `redraw` draws and presents the window.
+    // Answers a press on a step button, which acts on while it is held, or on a slider, which then follows
+    // the pointer until a button is released. Returns false where there is neither. `redraw` draws and
+    // presents the window.
     bool click(Point point, const std::function<void()>& redraw);
 
 private:

@@ -24,6 +24,10 @@ public:
     // Returns the same; the button is held from now on.
     Command click(Point point);
     void release() { held_.reset(); }
+    // Returns the area of the button that is held, if any.
+    [[nodiscard]] std::optional<Rectangle> held_area() const {
+        return held_ ? std::optional(area_of(*held_)) : std::nullopt;
+    }
 
 private:
     [[nodiscard]] std::optional<std::size_t> button_at(Point point) const;

@@ -101,15 +101,19 @@ void run_modal(const Modal_Loop& loop) {
     }
 }
 
+bool ends_hold(const Input_Event& event) {
+    const bool is_release =
+        event.kind == Input_Kind::button_release && event.pointer.button != Mouse_Button::none;
+    return is_release || event.kind == Input_Kind::quit;
+}
+
 void follow_pointer(std::string_view loop, const std::function<void()>& draw,
                     const std::function<void(const Input_Event& motion)>& follow) {
     run_modal({loop, draw, [&follow](const Input_Event& event) {
                    if (event.kind == Input_Kind::pointer_motion) {
                        follow(event);
                    }
-                   const bool is_released =
-                       event.kind == Input_Kind::button_release && event.pointer.button != Mouse_Button::none;
-                   return is_released || event.kind == Input_Kind::quit ? Loop_Step::end : Loop_Step::go_on;
+                   return ends_hold(event) ? Loop_Step::end : Loop_Step::go_on;
                }});
 }
 

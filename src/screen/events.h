@@ -38,6 +38,9 @@ struct Modal_Loop {
 };
 void run_modal(const Modal_Loop& loop);
 
+// Whether the event ends what goes on while a button of the mouse is held.
+[[nodiscard]] bool ends_hold(const Input_Event& event);
+
 // Draws, and again after each event, and hands on the pointer's motions, until a button is released or the
 // window is to be closed.
 void follow_pointer(std::string_view loop, const std::function<void()>& draw,

@@ -5,6 +5,7 @@
 #include "base/data_stream.h"
 #include "screen/screen.h"
 #include "ui/button_dialog_item.h"
+#include "ui/held_button.h"
 #include "ui/modal_dialog.h"
 #include "ui/text_dialog.h"
 
@@ -130,7 +131,24 @@ Loop_Step Dialog_Container::press(const Pointer_State& pointer) {
     }
     result_ = rows_.item_at(pointer.point());
     rows_.notify(result_);
+    hold_step(pointer.point());
     return result_.closes() ? Loop_Step::end : Loop_Step::go_on;
+}
+
+// Not around from one bound to the other, as a single step may.
+void Dialog_Container::hold_step(Point point) {
+    const bool is_step =
+        result_.kind == Dialog_Event_Kind::increase || result_.kind == Dialog_Event_Kind::decrease;
+    const Dialog_Item* const number = rows_.item(result_.target);
+    const Dialog_Item* const button = rows_.item_under(point);
+    if (is_step && number != nullptr && button != nullptr && number->is_stepped_on()) {
+        const auto step = [this, number] {
+            if (number->has_step(result_.kind)) {
+                rows_.notify(result_);
+            }
+        };
+        repeat_while_held({button->area, show_backdrop, step}, point);
+    }
 }
 
 void Dialog_Container::draw() const {

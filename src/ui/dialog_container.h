@@ -48,6 +48,8 @@ private:
     Loop_Step accept();
     Loop_Step handle(const Input_Event& event);
     Loop_Step press(const Pointer_State& pointer);
+    // A number goes on stepping while the button beside it is held.
+    void hold_step(Point point);
 
     std::string data_file_;
     Dialog_Frame frame_;

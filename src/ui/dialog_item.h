@@ -32,6 +32,8 @@ public:
     virtual void set_value(int /*value*/) {}
     // Whether it can be increased or decreased without wrapping around.
     [[nodiscard]] virtual bool has_step(Dialog_Event_Kind /*kind*/) const { return false; }
+    // Whether the buttons that step it go on while they are held.
+    [[nodiscard]] virtual bool is_stepped_on() const { return false; }
     // Takes on the size of what it shows, where that can change.
     virtual void measure() {}
     // The item compares the point with its own area. The base class logs that nobody answers.

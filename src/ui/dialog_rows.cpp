@@ -49,6 +49,17 @@ void Dialog_Rows::step_at(Point point, Dialog_Event_Kind kind) {
     }
 }
 
+const Dialog_Item* Dialog_Rows::item_under(Point point) const {
+    for (const Dialog_Row& row : rows_) {
+        for (const auto& item : row.items()) {
+            if (item->area.contains(point)) {
+                return item.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
 Dialog_Item* Dialog_Rows::item(int id) const {
     for (const Dialog_Row& row : rows_) {
         if (Dialog_Item* const found = row.item(id)) {

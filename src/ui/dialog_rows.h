@@ -24,6 +24,8 @@ public:
     // Increases or decreases the number or choice under the point, also by what belongs to it in its row. It
     // stops at the bounds.
     void step_at(Point point, Dialog_Event_Kind kind);
+    // Returns the item there without a click, or null.
+    [[nodiscard]] const Dialog_Item* item_under(Point point) const;
     // Returns the first item with that id, or null.
     [[nodiscard]] Dialog_Item* item(int id) const;
     // Passes the event on to the item that it is meant for, if there is one.

@@ -13,6 +13,7 @@ public:
 
     [[nodiscard]] int value() const override { return number_.value(); }
     [[nodiscard]] bool has_step(Dialog_Event_Kind kind) const override { return can_step(number_, kind); }
+    [[nodiscard]] bool is_stepped_on() const override { return true; }
     void measure() override;
     Dialog_Event click(Point point) override;
     void notify(Dialog_Event_Kind kind) override;

@@ -2,6 +2,8 @@
 
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "ui/held_button.h"
+#include "ui/modal_dialog.h"
 #include "ui/number_prompt.h"
 
 #include <algorithm>
@@ -71,12 +73,18 @@ Event_Use Slider_Panel::act(std::size_t index, Slider_Part part) {
         dragged_ = index;
         numbers_.set_number(index, slider.number_at(pointer_.x));
         break;
-    case Slider_Part::less: numbers_.step(index, -step_size()); break;
-    case Slider_Part::more: numbers_.step(index, step_size()); break;
+    case Slider_Part::less: hold_step(index, part, -1); break;
+    case Slider_Part::more: hold_step(index, part, 1); break;
     case Slider_Part::middle: numbers_.set_number(index, slider.row().middle.value_or(0)); break;
     case Slider_Part::number: ask(index); break;
     }
     return Event_Use::taken;
+}
+
+void Slider_Panel::hold_step(std::size_t index, Slider_Part part, int direction) {
+    const auto step = [this, index, direction] { numbers_.step(index, direction * step_size()); };
+    step();
+    repeat_while_held({sliders_[index].part_area(part), show_backdrop, step}, pointer_);
 }
 
 void Slider_Panel::ask(std::size_t index) {

@@ -48,6 +48,8 @@ public:
 private:
     Event_Use press(const Pointer_State& pointer);
     Event_Use act(std::size_t index, Slider_Part part);
+    // Again and again while the button is held.
+    void hold_step(std::size_t index, Slider_Part part, int direction);
     void ask(std::size_t index);
     Event_Use move(Point point);
     Event_Use release(const Pointer_State& pointer);

@@ -59,6 +59,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Click in Previous copies",             "makes a copy the one that is pasted; a double click pastes it, a right click removes it"},
     {"Click on a menu",                      "opens it; a click elsewhere, or any key, closes it"},
     {"Click on a number in a dialog",        "lets you type it; the arrows beside it and the wheel change it by one"},
+    {"Arrows of numbers, handles, navigation", "go on while they are held"},
     {"Hold a button on a slot of Versions",  "shows that version in large"},
     {"Drag or wheel in Export as .bmp",      "shows the rest of a picture that is larger than the view"},
 });

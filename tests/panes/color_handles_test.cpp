@@ -13,9 +13,15 @@ protected:
     static Point button(int row, int column) {
         return {position.x + 5 + 1 + 135 + 20 * column + 7, position.y + 26 + 1 + 17 * row + 8};
     }
+    // Released at once.
+    bool click(Point point) {
+        Script script;
+        script.release(point);
+        return handles_.click(point, [] {});
+    }
     [[nodiscard]] Color after_press(Color from, int row, int column) {
         handles_.set_color(from);
-        EXPECT_TRUE(handles_.click(button(row, column), [] {}));
+        EXPECT_TRUE(click(button(row, column)));
         return handed_on_.back();
     }
 
@@ -28,7 +34,7 @@ TEST_F(Color_Handles_Test, rows_begin_a_pixel_below_the_client_area_s_top_17_pix
         const int top = handles_.client_area().y + 1 + 17 * row;
         for (const auto& [y, is_hit] :
              {std::pair{top - 1, false}, {top, true}, {top + 14, true}, {top + 15, false}}) {
-            EXPECT_EQ(handles_.click({button(row, 0).x, y}, [] {}), is_hit) << row << ", " << y;
+            EXPECT_EQ(click({button(row, 0).x, y}), is_hit) << row << ", " << y;
         }
     }
 }

@@ -60,6 +60,22 @@ TEST_F(Dialog_Container_Test, is_sized_by_its_rows_and_centred) {
     EXPECT_EQ(narrow.frame().area(), (Rectangle{(1232 - 114) / 2, (664 - height) / 2, 114, height}));
 }
 
+// Its arrows would move on while it is stepped, were they right of it.
+TEST_F(Dialog_Container_Test, a_number_goes_on_while_its_arrow_is_held) {
+    make();
+    Script script;
+    const auto expect_loop = [&script](const std::string& name) {
+        script.check_loop([name](std::string_view loop) { EXPECT_EQ(loop, name); });
+    };
+    script.press(more(1));
+    expect_loop("dialog \"Dialog\"");
+    script.release(more(1)).press(more(0)).pause(310).check(
+        [this] { EXPECT_EQ(dialog->value(number_id), 26); });
+    expect_loop("held button");
+    script.release(more(0)).key(key::enter);
+    EXPECT_TRUE(dialog->run());
+}
+
 TEST_F(Dialog_Container_Test, enter_y_and_ok_accept) {
     make();
     Script script;

@@ -53,7 +53,7 @@ TEST_F(Options_Test, accepted_changes_are_kept_between_runs) {
     Own_Options some;
     some.values.load();
     Script script;
-    const auto press = [&](Option option, std::size_t item) { script.press(middle_of(some, option, item)); };
+    const auto press = [&](Option option, std::size_t item) { script.click(middle_of(some, option, item)); };
     press(Option::precise_brush, 1);
     press(Option::show_shadow_brush, 0);
     press(Option::editor_pixel_size, 0);

@@ -17,6 +17,10 @@ protected:
         Program_Test::TearDown();
     }
     static void hold(SDL_Keymod keys) { SDL_SetModState(keys); }
+    std::string hint_at(Point point) {
+        play(script().motion(point));
+        return editor->panes().hint_lines().lines().at(0);
+    }
     static std::string report() { return editor->panes().hint_lines().lines().at(1); }
     void press(Keycode key, Modifier modifier = Modifier::none) {
         play(script().key(key, modifier).key_up(key, modifier));
@@ -138,6 +142,25 @@ TEST_F(Key_Test, a_walk_on_a_held_key_is_one_step) {
     play(script().key(key::page_down).click(cell(10, 10)).repeated_key(key::page_down));
     press('z', Modifier::control);
     EXPECT_EQ(document().tileset().tile_at(1).get_pixel(2, 2), white);
+}
+
+TEST_F(Key_Test, buttons_that_step_go_on_while_they_are_held) {
+    make_set({8, 8}, 40, [](int, Point) { return black; });
+    const std::size_t steps = document().history().entries().size();
+    const Point next_tile{162, 347};
+    ASSERT_EQ(hint_at(next_tile), "Next tile");
+    script().press(next_tile).pause(310).check([] { EXPECT_GE(current_tile(), 2); });
+    expect_loop("held button").release(next_tile);
+    play();
+    EXPECT_EQ(document().history().entries().size(), steps + 1);
+    const Point more_red{1026 + 5 + 1 + 175 + 7, 339 + 26 + 1 + 8};
+    script().press(more_red);
+    expect_loop("held button").release(more_red);
+    play();
+    const Point more_hue{1210, 74};
+    script().press(more_hue);
+    expect_loop("held button").release(more_hue).key(key::escape);
+    execute(Command::adjust_hsv);
 }
 
 TEST_F(Key_Test, next_set_comes_after_the_last_the_first) {
@@ -287,6 +310,10 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
     answer_files(File_Answer_State::chosen, path);
     expect_reports(
         {{Command::save, "Saved in " + path}, {Command::save, "Nothing has changed since it was saved."}});
+    execute(Command::pen);
+    const Point store_button{110, 619};
+    play(script().click(store_button));
+    EXPECT_EQ(report(), "#000000 is stored there, also for the next start.");
     make_set({8, 9}, 1, [](int, Point) { return black; });
     expect_reports({{Command::rotate, "Only what is as wide as high can be turned."}});
     // A report ends with the next press of a button too.
