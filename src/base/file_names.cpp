@@ -150,8 +150,9 @@ std::vector<std::string> short_names(std::span<const std::string> paths) {
         }
         alike.clear();
         for (const auto& [name, group] : groups) {
+            const std::string& first = paths[group.front()];
             const bool can_differ =
-                std::ranges::any_of(group, [&](std::size_t i) { return paths[i] != paths[group.front()]; });
+                std::ranges::any_of(group, [&](std::size_t place) { return paths[place] != first; });
             if (can_differ) {
                 alike.insert(alike.end(), group.begin(), group.end());
             }
