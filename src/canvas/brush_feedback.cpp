@@ -31,22 +31,31 @@ bool is_set(const Brush_Feedback& feedback, int x, int y) {
     return pixel_of(feedback, x, y).has_value();
 }
 
-// The brush's pixel there, as it will be seen in the tile.
-Color shown_pixel(const Brush_Feedback& feedback, Color color, Point cell, int pixel_size) {
-    return blended_over(color, checkerboard_color((cell.x - feedback.tile.x) / pixel_size,
-                                                  (cell.y - feedback.tile.y) / pixel_size, feedback.checker));
+// Of a cell that is not left of the tile or above it.
+Tile_Point tile_pixel(const Brush_Feedback& feedback, const Rectangle& cell) {
+    return {(cell.x - feedback.tile.x) / cell.width, (cell.y - feedback.tile.y) / cell.height};
+}
+
+bool is_painted(const Brush_Feedback& feedback, const Rectangle& cell) {
+    return !intersection(cell, feedback.tile).is_empty() &&
+           (feedback.selection == nullptr || feedback.selection->contains(tile_pixel(feedback, cell)));
+}
+
+// As it will be seen in the tile.
+Color shown_pixel(const Brush_Feedback& feedback, Color color, const Rectangle& cell) {
+    const Tile_Point pixel = tile_pixel(feedback, cell);
+    return blended_over(color, checkerboard_color(pixel.x, pixel.y, feedback.checker));
 }
 
 void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
     for (int y = 0; y < feedback.brush->size().height; ++y) {
         for (int x = 0; x < feedback.brush->size().width; ++x) {
-            if (const std::optional<Color> own = pixel_of(feedback, x, y)) {
-                const Color color = feedback.color.value_or(*own);
-                const Rectangle cell{feedback.preview->x + x * pixel_size,
-                                     feedback.preview->y + y * pixel_size, pixel_size, pixel_size};
-                const Color shown = shown_pixel(feedback, color, {cell.x, cell.y}, pixel_size);
-                change_pixels(intersection(cell, feedback.tile), target,
-                              [shown](Color& pixel) { pixel = shown; });
+            const Rectangle cell{feedback.preview->x + x * pixel_size, feedback.preview->y + y * pixel_size,
+                                 pixel_size, pixel_size};
+            const std::optional<Color> own = pixel_of(feedback, x, y);
+            if (own && is_painted(feedback, cell)) {
+                const Color shown = shown_pixel(feedback, feedback.color.value_or(*own), cell);
+                change_pixels(cell, target, [shown](Color& pixel) { pixel = shown; });
             }
         }
     }
@@ -97,6 +106,20 @@ Rectangle cells_of(const Brush& brush, Point corner, int pixel_size) {
     return {corner.x, corner.y, brush.size().width * pixel_size, brush.size().height * pixel_size};
 }
 
+// Empty where nothing is selected.
+Rectangle preview_area(const Brush_Feedback& feedback, int pixel_size) {
+    const Rectangle area =
+        intersection(cells_of(*feedback.brush, *feedback.preview, pixel_size), feedback.tile);
+    for (int y = area.y; y < area.bottom(); y += pixel_size) {
+        for (int x = area.x; x < area.right(); x += pixel_size) {
+            if (is_painted(feedback, {x, y, pixel_size, pixel_size})) {
+                return area;
+            }
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 Brush_Feedback seen_from(Point start, Brush_Feedback feedback) {
@@ -115,7 +138,7 @@ Brush_Feedback seen_from(Point start, Brush_Feedback feedback) {
 Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size) {
     Rectangle area;
     if (feedback.preview) {
-        area = intersection(cells_of(*feedback.brush, *feedback.preview, pixel_size), feedback.tile);
+        area = preview_area(feedback, pixel_size);
     }
     if (feedback.outline) {
         const Rectangle cells = cells_of(*feedback.brush, *feedback.outline, pixel_size);

@@ -6,6 +6,7 @@
 #include "base/geometry.h"
 #include "color/color.h"
 #include "color/pixel_rows.h"
+#include "selection/selection.h"
 #include "tools/brush.h"
 
 #include <optional>
@@ -21,6 +22,8 @@ struct Brush_Feedback {
     std::optional<Color> color = {};
     // The tile in pixels of the picture: beside it nothing is previewed.
     Rectangle tile = {};
+    // Only what is selected is painted; null for all of the tile.
+    const Selection* selection = nullptr;
     // In tile pixels: what is painted hides all of the tile, so that the board shows through it.
     Size checker = {1, 1};
     // What lies there is cut out of a wallpaper of brushes, and this pixel of it comes to lie on the corner.

@@ -288,6 +288,7 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
     Brush_Feedback feedback{.brush = &brush,
                             .color = tools.brush_color(hover.button),
                             .tile = {start.x, start.y, tile.width, tile.height},
+                            .selection = work_area_.has_selection() ? &work_area_.selection() : nullptr,
                             .checker = settings.checker};
     if (tools.pen_mode() == Pen_Mode::pattern) {
         feedback.wallpaper = corner;

@@ -51,6 +51,20 @@ TEST(Brush_Feedback, preview_fills_the_cells_that_would_be_painted) {
     EXPECT_EQ(painted({.preview = Point{0, 0}}, ring, 2, {6, 6})[0], "..##..") << "its own colour";
 }
 
+TEST(Brush_Feedback, preview_keeps_to_what_is_selected) {
+    const Brush square = built_in_brush(Brush_Shape::square, 1, Color(200, 0, 0));
+    Selection selection(Size{3, 3});
+    selection.draw([](Drawing_Target& mask) { mask.plot({2, 1}, Selection::selected_color); });
+    Brush_Feedback feedback{.preview = Point{2, 2}, .selection = &selection};
+    const std::vector<std::string> expected{"......", "......", "....oo", "....oo", "......", "......"};
+    EXPECT_EQ(painted(feedback, square, 2, {6, 6}), expected);
+    feedback.brush = &square;
+    feedback.tile = {0, 0, 6, 6};
+    EXPECT_FALSE(feedback_area(feedback, 2).is_empty());
+    feedback.preview = Point{0, 0};
+    EXPECT_TRUE(feedback_area(feedback, 2).is_empty());
+}
+
 // It takes the place of what is there, also where it is translucent.
 TEST(Brush_Feedback, preview_shows_the_checkerboard_through_what_is_painted) {
     constexpr Size size{6, 6};
