@@ -66,9 +66,7 @@ void scale_paste(const Stroke_Segment& segment) {
     if (segment.moment.is_shift_held) {
         factors = {std::max(factors.x, factors.y), std::max(factors.x, factors.y)};
     }
-    if (factors != shape_of(paste).factors) {
-        segment.work.change_paste(scaled(paste, factors, fixed));
-    }
+    segment.work.change_paste(scaled(paste, factors, fixed));
 }
 
 // Brushes paint the mask in its own colour.

@@ -43,9 +43,29 @@ bool is_bottom(Corner corner) {
     return corner == Corner::bottom_left || corner == Corner::bottom_right;
 }
 
+// Of a picture that was scaled, in pixels.
+constexpr int largest_scaled_area = 1024 * 1024;
+
 int as_factor(double wanted, int extent) {
     const int most = std::max(largest_picture_edge / std::max(extent, 1), 1);
     return static_cast<int>(std::clamp(std::round(wanted), 1.0, static_cast<double>(most)));
+}
+
+// What is turned is made anew at each motion of the pointer.
+Factors within_area(Factors factors, Size taken) {
+    const double most =
+        std::max(static_cast<double>(largest_scaled_area) / (taken.width * taken.height), 1.0);
+    const double too_many = std::max(factors.x * factors.y / most, 1.0);
+    const auto limited = [](double factor, double limit) {
+        return static_cast<int>(std::max(std::min(factor, limit), 1.0));
+    };
+    const int x = limited(factors.x / std::sqrt(too_many), most);
+    const int y = limited(factors.y / std::sqrt(too_many), most / x);
+    return {x, y};
+}
+
+Factors allowed(Factors factors, Size taken) {
+    return within_area({as_factor(factors.x, taken.width), as_factor(factors.y, taken.height)}, taken);
 }
 
 // Nearer to lying on its side than to standing upright: then its width is what is seen as its height.
@@ -73,7 +93,10 @@ Floating_Paste turned(const Floating_Paste& paste, int degrees) {
 
 Floating_Paste scaled(const Floating_Paste& paste, Factors factors, Corner fixed) {
     Paste_Shape shape = shape_of(paste);
-    shape.factors = {as_factor(factors.x, shape.taken->width()), as_factor(factors.y, shape.taken->height())};
+    const Factors before_scaling = std::exchange(shape.factors, allowed(factors, shape.taken->size()));
+    if (shape.factors == before_scaling) {
+        return paste;
+    }
     const Shared_Picture picture = picture_of(shape);
     const Size before = paste.picture->size();
     return {picture,

@@ -64,6 +64,8 @@ TEST(Paste_Shape, is_scaled_by_whole_factors_from_the_corner_that_stays) {
         expect_same(scaled(result, {1, 1}, row.fixed), paste);
     }
     EXPECT_EQ(scaled(paste, {0, 9999}, Corner::top_left).picture->size(), (Size{2, largest_picture_edge}));
+    EXPECT_EQ(scaled({Tile(10, 10), {}}, {999, 999}, Corner::top_left).picture->size(), (Size{1020, 1020}));
+    EXPECT_EQ(scaled({Tile(300, 4), {}}, {1, 9999}, Corner::top_left).picture->size(), (Size{300, 3492}));
 }
 
 TEST(Paste_Shape, what_is_mirrored_or_turned_by_a_quarter_goes_on_from_there) {
