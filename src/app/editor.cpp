@@ -157,7 +157,7 @@ Command Editor::perform(Command command) {
     hide_hover(parts_->canvas);
     parts_->panes.hint_lines().end_report();
     if (row_of(command).has(Command_Trait::tileset_level)) {
-        parts_->canvas.undo_seam_shifts();
+        parts_->undo_seam_shifts();
     }
     const Outcome outcome = carry_out(*parts_, command);
     if (outcome == Outcome::unknown) {

@@ -32,14 +32,16 @@ void hide_hover(Canvas_View& canvas) {
     set_cursor(Cursor::shown);
 }
 
-void show_shape_of_paste(const Canvas_View& canvas) {
-    if (toolbox->current_tool() != Tool::selection) {
-        return;
-    }
+void show_shape(const Canvas_View& canvas) {
+    const Work_Area& work = canvas.work_area();
     const bool is_shown = canvas.shows_paste(toolbox->state());
     Tool_Figures& figures = toolbox->figures();
-    figures.size = is_shown ? canvas.work_area().paste()->picture->size() : Size{};
-    figures.degrees = is_shown ? shape_of(*canvas.work_area().paste()).degrees : 0;
+    if (toolbox->current_tool() == Tool::selection) {
+        figures.size = is_shown ? work.paste()->picture->size() : Size{};
+        figures.degrees = is_shown ? shape_of(*work.paste()).degrees : 0;
+    } else if (toolbox->current_tool() == Tool::rotate && canvas.tile() != nullptr) {
+        figures.degrees = is_shown ? shape_of(*work.paste()).degrees : work.degrees_turned(*canvas.tile());
+    }
 }
 
 void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer) {
@@ -49,7 +51,7 @@ void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer) {
     const Tile_Point pixel = canvas.tile_point(pointer.point());
     toolbox->figures().location = pixel;
     if (!canvas.tile()->is_outside(pixel.x, pixel.y)) {
-        toolbox->figures().dropper_color = canvas.tile()->get_pixel(pixel.x, pixel.y);
+        toolbox->figures().dropper_color = canvas.seen_pixel(pixel, toolbox->state());
     }
 }
 

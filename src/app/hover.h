@@ -14,8 +14,8 @@ void show_hover(Canvas_View& canvas, const Pointer_State& pointer);
 // Shows the cursor alone, while a command runs, which may show a dialog over the canvas.
 void hide_hover(Canvas_View& canvas);
 
-// Let the toolbox say what is there, and how large what floats is and how far it was turned.
+// Let the toolbox say what is there, and how large what floats is and how far it, or the tile, was turned.
 void show_pixel_under(const Canvas_View& canvas, const Pointer_State& pointer);
-void show_shape_of_paste(const Canvas_View& canvas);
+void show_shape(const Canvas_View& canvas);
 
 } // namespace quadrelle

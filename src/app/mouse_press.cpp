@@ -118,6 +118,7 @@ Command press_mouse(Editor_Parts& editor) {
     if (editor.is_control_held && button == Mouse_Button::right) {
         editor.canvas.pan(editor.pointer, [&editor] {
             show_hover(editor.canvas, editor.pointer);
+            show_pixel_under(editor.canvas, editor.pointer);
             editor.redraw(Present::yes);
         });
         editor.is_control_held = false;

@@ -140,7 +140,7 @@ std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {
     if (canvas_.tile()->is_outside(pixel.x, pixel.y)) {
         return std::nullopt;
     }
-    return Pointed_Pixel{pixel, canvas_.tile()->get_pixel(pixel.x, pixel.y)};
+    return Pointed_Pixel{pixel, canvas_.seen_pixel(pixel, toolbox->state())};
 }
 
 Command Window_Panes::command_at(Point point) const {

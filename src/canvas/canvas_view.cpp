@@ -1,6 +1,7 @@
 #include "canvas/canvas_view.h"
 
 #include "base/fatal.h"
+#include "canvas/paste_in_view.h"
 #include "canvas/stroke_table.h"
 #include "color/standard_colors.h"
 #include "screen/events.h"
@@ -73,7 +74,11 @@ void Canvas_View::transform_history(Command command) {
 }
 
 bool Canvas_View::shows_paste(const Tool_State& tools) const {
-    return work_area_.paste() && !work_area_.has_selection() && tools.shows_floating_paste();
+    return paste_in_view(work_area_, tools) != nullptr;
+}
+
+Color Canvas_View::seen_pixel(Tile_Point pixel, const Tool_State& tools) const {
+    return quadrelle::seen_pixel(*tile_, pixel, paste_in_view(work_area_, tools));
 }
 
 const Tile* Canvas_View::shown_tile(const Tool_State& tools) {

@@ -52,11 +52,12 @@ public:
     // What is selected on the tile and floats over it. Stays when another tile of the same size comes.
     [[nodiscard]] Work_Area& work_area() { return work_area_; }
     [[nodiscard]] const Work_Area& work_area() const { return work_area_; }
-    // Something floats, the tool in use shows it, and no selection takes its place.
     [[nodiscard]] bool shows_paste(const Tool_State& tools) const;
     // Returns the tile as the canvas shows it, with what floats in view; null without a tile. To be used
     // before anything changes.
     [[nodiscard]] const Tile* shown_tile(const Tool_State& tools);
+    // Returns one pixel of that; there is a tile.
+    [[nodiscard]] Color seen_pixel(Tile_Point pixel, const Tool_State& tools) const;
 
     // What the pen's history mode draws from: the tile as it was when it came into view, or when this was
     // called.
@@ -76,6 +77,9 @@ public:
     // Returns false without a tile.
     bool toggle_seam_shift(Seam seam);
     void undo_seam_shifts();
+    [[nodiscard]] bool is_shifted() const {
+        return horizontal_seam_shift_ != no_seam_shift || vertical_seam_shift_ != no_seam_shift;
+    }
     // Does the work on the tile as it really is; the work leaves its size and keeps it on view.
     void with_tile_in_place(const std::function<void()>& work);
     // Return the shift in pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small

@@ -1,5 +1,6 @@
 #include "canvas/stroke_table.h"
 
+#include "canvas/paste_in_view.h"
 #include "canvas/selection_strokes.h"
 #include "tools/flood_fill.h"
 #include "tools/line.h"
@@ -11,12 +12,13 @@ namespace quadrelle {
 
 namespace {
 
-// Outside the tile there is no colour to pick.
+// Outside the tile there is no colour to pick; what floats in view hides that of the tile.
 Stroke_Findings pick(const Drawing_Target& target, const Stroke_Segment& segment, Mouse_Button side) {
     Stroke_Findings found = segment.no_findings();
     if (target.contains(segment.pointer)) {
-        found.figures.dropper_color = target.get(segment.pointer);
-        found.picked = Picked_Color{side, target.get(segment.pointer)};
+        const Floating_Paste* const paste = paste_in_view(segment.work, segment.tools);
+        found.figures.dropper_color = seen_pixel(target.tile(), segment.pointer, paste);
+        found.picked = Picked_Color{side, found.figures.dropper_color};
     }
     return found;
 }

@@ -58,6 +58,7 @@ TEST_F(View_Test, brush_and_hint_go_with_the_pointer_that_pans) {
         script().check([pointer] {
             EXPECT_EQ(pixel_at(pointer), white);
             const Tile_Point pixel = canvas().tile_point(pointer);
+            EXPECT_EQ(tools().figures.location, pixel);
             EXPECT_EQ(editor->panes().hint_lines().lines().at(0),
                       "Pixel " + std::to_string(pixel.x) + ", " + std::to_string(pixel.y));
         });
