@@ -90,8 +90,13 @@ Outcome turn(Editor_Parts& editor, Command command) {
     } else {
         editor.canvas.with_tile_in_place([&] { outcome = transform(editor, command); });
     }
-    return outcome == Outcome::refused ? editor.refuse(command, "Only what is as wide as high can be turned.")
-                                       : outcome;
+    if (outcome != Outcome::refused) {
+        return outcome;
+    }
+    const Size size = editor.canvas.tile()->size();
+    const bool is_too_wide_or_high = !editor.desk.has_something() && size.width != size.height;
+    return editor.refuse(command, is_too_wide_or_high ? "Only what is as wide as high can be turned."
+                                                      : "It looks the same as before.");
 }
 
 Outcome adjust_hsv(Editor_Parts& editor) {

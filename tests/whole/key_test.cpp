@@ -316,9 +316,12 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
     EXPECT_EQ(report(), "#000000 is stored there, also for the next start.");
     make_set({8, 9}, 1, [](int, Point) { return black; });
     expect_reports({{Command::rotate, "Only what is as wide as high can be turned."}});
+    editor->canvas().work_area().float_paste({Tile(3, 2), {1, 1}});
+    execute(Command::work_selection);
+    expect_reports({{Command::mirror, "It looks the same as before."}});
     // A report ends with the next press of a button too.
     play(script().click(cell(10, 10)));
-    EXPECT_NE(report(), "Only what is as wide as high can be turned.");
+    EXPECT_NE(report(), "It looks the same as before.");
 }
 
 } // namespace
