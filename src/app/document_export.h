@@ -7,10 +7,13 @@
 
 namespace quadrelle {
 
+class Selection_Desk;
 class Tileset_Document;
 
-// Shows the picture, asks for a name and writes the file; the user is told what failed. Returns the
-// path of the file when there is a new one.
-[[nodiscard]] std::optional<std::string> export_bitmap(const Tileset_Document& document);
+// Shows the picture, asks for a name and writes the file; the user is told what failed. What floats over the
+// current tile is in the picture, and settles when the name is given. Returns the path of the file when there
+// is a new one.
+[[nodiscard]] std::optional<std::string> export_bitmap(const Tileset_Document& document,
+                                                       Selection_Desk& desk);
 
 } // namespace quadrelle

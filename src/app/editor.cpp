@@ -95,7 +95,7 @@ void Editor::handle_one_event() {
     follow_held_keys(*parts_);
     show_hover(parts_->canvas, parts_->pointer);
     show_pixel_under(parts_->canvas, parts_->pointer);
-    show_shape_of_paste(parts_->canvas);
+    show_shape(parts_->canvas);
 }
 
 void Editor::handle(const Input_Event& event) {

@@ -23,10 +23,16 @@ void Editor_Parts::show_current_tile() {
     }
 }
 
-// Put right first: of what hangs over the edge of the shifted tile nothing is to be lost.
 void Editor_Parts::leave_tile() {
-    canvas.undo_seam_shifts();
     desk.drop_lifted();
+    canvas.undo_seam_shifts();
+}
+
+void Editor_Parts::undo_seam_shifts() {
+    if (canvas.is_shifted()) {
+        desk.drop_lifted();
+        canvas.undo_seam_shifts();
+    }
 }
 
 void Editor_Parts::leave_selection() {

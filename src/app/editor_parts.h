@@ -25,6 +25,9 @@ struct Editor_Parts {
     void show_current_tile();
     // What was lifted off the current tile drops into it, before another one comes into view.
     void leave_tile();
+    // The tile is as it really is. What was lifted off it drops where it is seen, before it would come to lie
+    // across the edge.
+    void undo_seam_shifts();
     // Another tile comes into view: nothing is selected on it, where the options say so.
     void leave_selection();
     // Brings into view what a command did that was carried out.

@@ -21,8 +21,8 @@ Outcome save_document(Editor_Parts& editor, Save_As save_as) {
     if (!path) {
         return Outcome::refused;
     }
+    editor.desk.settle_to_save();
     editor.canvas.undo_seam_shifts();
-    editor.desk.settle_before_leaving();
     if (!editor.documents.save_document(*path)) {
         return Outcome::refused;
     }
@@ -76,7 +76,7 @@ Outcome save_as(Editor_Parts& editor) {
 }
 
 Outcome export_picture(Editor_Parts& editor) {
-    const std::optional<std::string> path = export_bitmap(editor.documents.current());
+    const std::optional<std::string> path = export_bitmap(editor.documents.current(), editor.desk);
     if (!path) {
         return Outcome::refused;
     }

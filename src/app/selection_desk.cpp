@@ -153,6 +153,11 @@ Picture_Fault Selection_Desk::take_clipboard() {
     return taken.fault;
 }
 
+void Selection_Desk::keep(const Tile& picture) {
+    static_cast<void>(take_clipboard());
+    copies_.add({picture, {0, 0}});
+}
+
 Outcome Selection_Desk::paste() {
     const Floating_Paste* const copy = copies_.current();
     if (copy == nullptr) {
@@ -273,26 +278,43 @@ void Selection_Desk::settle_before_leaving() {
     }
 }
 
-// What goes on floating may look as if it were a part of the tile already.
-bool Selection_Desk::has_to_settle() const {
-    if (!settles_before_leaving() || canvas_.tile() == nullptr) {
-        return false;
+std::optional<Tile> Selection_Desk::settled_tile() const {
+    const Work_Area& work = canvas_.work_area();
+    const bool is_to_plot = work.has_lifted() || (settles_before_leaving() && !work.is_plotted());
+    if (!is_to_plot || canvas_.tile() == nullptr) {
+        return std::nullopt;
     }
     Tile settled(*canvas_.tile());
     Drawing_Target target(settled);
-    canvas_.work_area().paste()->plot(target);
-    return toolbox_.state().options.selection_mode == Selection_Mode::standard ||
-           (!canvas_.work_area().is_plotted() && !settled.same_pixels(*canvas_.tile()));
+    work.paste()->plot(target);
+    return settled;
+}
+
+// What goes on floating may look as if it were a part of the tile already.
+bool Selection_Desk::has_to_settle() const {
+    const bool is_let_go = canvas_.tile() != nullptr && settles_before_leaving() &&
+                           toolbox_.state().options.selection_mode == Selection_Mode::standard;
+    const std::optional<Tile> settled = settled_tile();
+    return is_let_go || (settled && !settled->same_pixels(*canvas_.tile()));
+}
+
+void Selection_Desk::settle_to_save() {
+    plot_lifted(toolbox_.state().options.selection_mode);
+    settle_before_leaving();
+}
+
+void Selection_Desk::drop_lifted() {
+    plot_lifted(Selection_Mode::standard);
 }
 
 // Wherever a selection lies.
-void Selection_Desk::drop_lifted() {
+void Selection_Desk::plot_lifted(Selection_Mode mode) {
     if (!canvas_.work_area().has_lifted()) {
         return;
     }
-    recorder_.step([this] {
+    recorder_.step([this, mode] {
         Drawing_Target target(*canvas_.tile());
-        canvas_.work_area().plot_paste(target, toolbox_.state().options.selection_mode);
+        canvas_.work_area().plot_paste(target, mode);
         return Command::plot_paste;
     });
 }

@@ -46,8 +46,9 @@ public:
     // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
     Outcome copy();
     Outcome cut();
-    // Makes a picture that the user loses the current copy, without offering it to other programs.
-    void keep(const Tile& picture) { copies_.add({picture, {0, 0}}); }
+    // Makes a picture that the user loses the current copy, without offering it to other programs. What one
+    // of them put on the clipboard comes after it. The canvas shows a tile.
+    void keep(const Tile& picture);
     // Makes a picture that another program put on the clipboard the current copy. The canvas shows a tile.
     Picture_Fault take_clipboard();
     // Float the current copy; refused without one. What is selected is copied before it is cloned.
@@ -68,13 +69,16 @@ public:
     Outcome transform(Command command);
     // Draws what floats into the tile. Refused when that changed nothing.
     Outcome plot();
-    // Settles what floats, as a step of its own, before another tool is taken or the tile is saved. What is
-    // fixed floats on.
+    // Settles what floats, as a step of its own, before another tool is taken. What is fixed floats on.
     void settle_before_leaving();
+    // The same before the tile is written; but what was lifted off the tile is plotted in every mode.
+    void settle_to_save();
     // Returns whether that would change something.
     [[nodiscard]] bool has_to_settle() const;
-    // Plots what was lifted off the tile, as a step of its own, before another tile comes into view. Copies
-    // float on there.
+    // Returns the tile with what would be plotted then; none if that is nothing.
+    [[nodiscard]] std::optional<Tile> settled_tile() const;
+    // Plots what was lifted off the tile, as a step of its own, before another tile comes into view or this
+    // one is shifted. It floats no longer, whatever the mode; copies float on.
     void drop_lifted();
 
 private:
@@ -85,6 +89,7 @@ private:
     void lift_and_transform(Command command);
     [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
     void plot_paste();
+    void plot_lifted(Selection_Mode mode);
     [[nodiscard]] bool is_to_settle() const;
     [[nodiscard]] bool settles_before_leaving() const;
     void settle();

@@ -2,6 +2,7 @@
 
 #include "app/editor_parts.h"
 #include "app/tileset_commands.h"
+#include "panes/toolbox.h"
 #include "tools/hsv_adjustment.h"
 #include "ui/dialogs.h"
 #include "views/adjust_hsv.h"
@@ -113,7 +114,9 @@ Outcome adjust_hsv(Editor_Parts& editor) {
                                                 : adjust_current(editor, wanted->change);
 }
 
+// What was lifted drops first: across the edge it would be cut.
 Outcome shift_to_seam(Editor_Parts& editor, Seam seam) {
+    editor.desk.drop_lifted();
     return editor.canvas.toggle_seam_shift(seam) ? Outcome::done : Outcome::refused;
 }
 
@@ -124,14 +127,16 @@ Outcome save_history_buffer(Editor_Parts& editor) {
     return Outcome::done;
 }
 
-// Without pixels there is nothing to keep. What is taken back is a paste like others from there on.
+// Without pixels there is nothing to keep. What is seen is stored, with what floats over the tile. What is
+// taken back is a paste like others from there on.
 Outcome versions(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     const Tile* const tile = document.tileset().current_tile();
     if (tile == nullptr || tile->pixel_count() == 0) {
         return Outcome::refused;
     }
-    if (const std::optional<int> slot = show_versions(document.versions(), *tile)) {
+    const Tile seen(*editor.canvas.shown_tile(toolbox->state()));
+    if (const std::optional<int> slot = show_versions(document.versions(), seen)) {
         editor.recorder.step([&] {
             editor.desk.float_picture({document.versions().copy(*slot, tile->size()), {0, 0}});
             return Command::paste;

@@ -94,7 +94,7 @@ Outcome arrange_select(Editor_Parts& editor) {
     return Outcome::done;
 }
 
-// A click is the command "Change tile". After a mere look the seam tools stand as before.
+// A click is the command "Change tile", which leaves the tile as it is seen: the seam tools stand as before.
 Outcome view_tile_array(Editor_Parts& editor) {
     Tileset& tileset = editor.documents.current().tileset();
     Canvas_View& canvas = editor.canvas;
@@ -102,19 +102,18 @@ Outcome view_tile_array(Editor_Parts& editor) {
     const bool has_vertical_shift = canvas.vertical_seam_shift() != no_seam_shift;
     canvas.undo_seam_shifts();
     const std::optional<int> clicked = show_tile_array(tileset);
+    if (has_horizontal_shift) {
+        canvas.toggle_seam_shift(Seam::horizontal);
+    }
+    if (has_vertical_shift) {
+        canvas.toggle_seam_shift(Seam::vertical);
+    }
     if (clicked && *clicked != tileset.current_index()) {
         editor.recorder.step([&] {
             editor.documents.go_to_tile(*clicked);
             editor.follow_up(Command::change_tile);
             return Command::change_tile;
         });
-        return Outcome::done;
-    }
-    if (has_horizontal_shift) {
-        canvas.toggle_seam_shift(Seam::horizontal);
-    }
-    if (has_vertical_shift) {
-        canvas.toggle_seam_shift(Seam::vertical);
     }
     return Outcome::done;
 }

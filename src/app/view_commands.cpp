@@ -1,6 +1,7 @@
 #include "app/view_commands.h"
 
 #include "app/editor_parts.h"
+#include "panes/toolbox.h"
 #include "views/real_size.h"
 
 namespace quadrelle::view_commands {
@@ -15,7 +16,7 @@ Outcome centre(Editor_Parts& editor) {
 }
 
 Outcome view_in_real_size(Editor_Parts& editor) {
-    show_real_size(editor.canvas.tile());
+    show_real_size(editor.canvas.shown_tile(toolbox->state()));
     return Outcome::done;
 }
 

@@ -55,7 +55,7 @@ constexpr std::array place_table = {
     Place_Row{Place::canvas_without_tile, "No tile",            "This set has no tile yet: Tileset, Add new tile makes one."},
     Place_Row{Place::scaling_handle,      "What floats: scale",  "A drag makes it 1, 2, 3 and more times as large, always from the pixels as they were taken. Shift: by the same factor both ways."},
     Place_Row{Place::turning_handle,      "What floats: turn",   "A drag turns it, always from the pixels as they were taken. Shift: to multiples of 15 degrees."},
-    Place_Row{Place::preview,             "Preview",            "The current tile in real size, repeated as often as the options say."},
+    Place_Row{Place::preview,             "Preview",            "The current tile in real size with what floats over it, repeated as often as the options say."},
     Place_Row{Place::magnification,       "Magnification",      "How large a pixel of the tile is shown. The wheel zooms."},
     Place_Row{Place::navigation,          "Tileset navigation", "Steps to the previous and the next tile, and pages through the tiles along the bottom."},
     Place_Row{Place::strip,               "Tiles of the set",   "A click goes to that tile. Tab shows the whole set."},

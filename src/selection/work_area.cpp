@@ -11,7 +11,14 @@
 namespace quadrelle {
 
 std::size_t Work_State::memory_size() const {
-    return (selection ? selection->mask().memory_size() : 0) + (paste ? paste->picture->memory_size() : 0);
+    std::size_t size = selection ? selection->mask().memory_size() : 0;
+    if (paste) {
+        size += paste->picture->memory_size() + (paste->shape ? paste->shape->taken->memory_size() : 0);
+    }
+    if (turn) {
+        size += turn->original->memory_size() + turn->result->memory_size();
+    }
+    return size;
 }
 
 void Work_Area::resize(Size tile) {
@@ -30,7 +37,8 @@ void Work_Area::float_paste(const Floating_Paste& paste, Paste_Source source) {
 }
 
 void Work_Area::change_paste(const Floating_Paste& paste) {
-    if (is_plotted() && !(*paste_ == paste)) {
+    const bool is_in_a_tile = is_plotted() || paste_source_ == Paste_Source::plotted_elsewhere;
+    if (is_in_a_tile && !(*paste_ == paste)) {
         paste_source_ = Paste_Source::copy;
     }
     paste_ = paste;
@@ -58,11 +66,16 @@ void Work_Area::plot_paste(Drawing_Target& target, Selection_Mode mode) {
     }
 }
 
-void Work_Area::lift_selection(Tile& tile) {
-    if (paste_ && !is_plotted()) {
+void Work_Area::make_room(Tile& tile) const {
+    const bool is_in_none = paste_source_ == Paste_Source::copy || paste_source_ == Paste_Source::tile;
+    if (paste_ && is_in_none) {
         Drawing_Target target(tile);
         paste_->plot(target);
     }
+}
+
+void Work_Area::lift_selection(Tile& tile) {
+    make_room(tile);
     const Floating_Paste paste = lifted(tile, *selection_);
     clear_selected(tile, *selection_);
     float_paste(paste, Paste_Source::tile);
@@ -70,7 +83,7 @@ void Work_Area::lift_selection(Tile& tile) {
 
 void Work_Area::leave_tile() {
     if (is_plotted()) {
-        paste_source_ = Paste_Source::copy;
+        paste_source_ = Paste_Source::plotted_elsewhere;
     }
 }
 
@@ -83,10 +96,7 @@ void Work_Area::scroll(Tile_Point offset) {
 }
 
 void Work_Area::copy_selection(Tile& tile) {
-    if (paste_) {
-        Drawing_Target target(tile);
-        plot_paste(target, Selection_Mode::standard);
-    }
+    make_room(tile);
     float_paste(lifted(tile, *selection_));
 }
 

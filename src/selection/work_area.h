@@ -15,8 +15,9 @@
 namespace quadrelle {
 
 // Where what floats is from: a copy can be pasted once more, but what was lifted off the tile is nowhere else
-// until it is plotted. What was plotted is in the tile too, until it is moved or changed.
-enum class Paste_Source { copy, tile, plotted };
+// until it is plotted. What was plotted is in the tile too, or in another one that was left since, until it
+// is moved or changed.
+enum class Paste_Source { copy, tile, plotted, plotted_elsewhere };
 
 // The tile before it was turned by so many degrees, and what it became.
 struct Tile_Turn {
@@ -78,7 +79,7 @@ public:
     // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What
-    // floated before becomes a part of the tile. The selection is not empty.
+    // floated before becomes a part of the tile, if it is in none yet. The selection is not empty.
     void lift_selection(Tile& tile);
     // The same, but the pixels stay in the tile and a copy of them floats.
     void copy_selection(Tile& tile);
@@ -106,6 +107,8 @@ public:
 
 private:
     void update_paste_area();
+    // Draws what floats and is in no tile yet into this one, where something else will float.
+    void make_room(Tile& tile) const;
 
     std::optional<Selection> selection_; // always there; replaced for another size
     std::optional<Selection> candidate_;

@@ -7,12 +7,13 @@
 
 namespace quadrelle {
 
-Tile export_picture(const Tileset& tileset) {
+Tile export_picture(const Tileset& tileset, const std::optional<Tile>& current) {
     const Size tile = tileset.tile_size();
     Tile picture(export_columns * tile.width, export_rows * tile.height);
     for (int i = 0; i < std::min(tileset.count(), exported_tiles); ++i) {
-        tileset.tile_at(i).paste_into(picture, i % export_columns * tile.width,
-                                      i / export_columns * tile.height);
+        const bool is_given = current && i == tileset.current_index();
+        (is_given ? *current : tileset.tile_at(i))
+            .paste_into(picture, i % export_columns * tile.width, i / export_columns * tile.height);
     }
     return picture;
 }

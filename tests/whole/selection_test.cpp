@@ -1,8 +1,13 @@
+#include "app/window_panes.h"
 #include "canvas/stroke_table.h"
 #include "commands/command_table.h"
+#include "screen/screen.h"
+#include "screen/surface.h"
 #include "selection/copy_buffer.h"
 #include "selection/picture_formats.h"
 #include "tests/whole/program_test.h"
+#include "tileset/tileset_file.h"
+#include "views/versions_layout.h"
 
 #include <SDL3/SDL_clipboard.h>
 
@@ -198,8 +203,23 @@ TEST_F(Selection_Test, what_floats_is_turned_on_from_the_pixels_as_they_were_tak
     execute(Command::undo);
     execute(Command::undo);
     execute(Command::redo);
+    EXPECT_EQ(work().state().memory_size(),
+              work().paste()->picture->memory_size() + taken.picture->memory_size());
     play(script().drag({cell(20, 15), cell(20, 12)}));
     EXPECT_EQ(*work().paste(), taken);
+}
+
+TEST_F(Selection_Test, what_floats_in_view_is_the_color_that_is_told_and_picked) {
+    tools().options.selection_mode = Selection_Mode::fixed;
+    execute(Command::dropper);
+    Tile picture(2, 2);
+    picture.fill(red);
+    work().float_paste({picture, {5, 5}});
+    play(script().motion(cell(5, 5)));
+    EXPECT_EQ(tools().figures.dropper_color, red);
+    EXPECT_EQ(editor->panes().pointed(cell(6, 6)), Pointed(Pointed_Pixel{{6, 6}, red}));
+    click({5, 6});
+    EXPECT_EQ(tools().colors.of(Mouse_Button::left), red);
 }
 
 // Until the tool is left; undo and redo go there too.
@@ -216,6 +236,7 @@ TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_wa
         execute(Command::free_rotate);
         turn(start, end);
         const Tile_Picture turned_once = tile_picture();
+        EXPECT_EQ(work().state().memory_size(), 2 * tile().memory_size());
         turn(start, end);
         execute(Command::undo);
         EXPECT_EQ(tile_picture(), turned_once);
@@ -223,6 +244,8 @@ TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_wa
             execute(Command::pen);
             execute(Command::free_rotate);
         }
+        play(script().motion({5, 5}));
+        EXPECT_EQ(tools().figures.degrees != 0, !leaves);
         turn(end, start);
         EXPECT_EQ(tile_picture() == before, !leaves);
         execute(Command::undo);
@@ -267,6 +290,107 @@ TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_co
         EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(10, 10), red);
         EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(3, 3), clear);
     }
+}
+
+// Also fixed, or below a selection.
+TEST_F(Selection_Test, what_was_lifted_is_in_every_file_that_is_written) {
+    const std::string file = folder().path("set.qdl");
+    for (const Selection_Mode mode :
+         {Selection_Mode::standard, Selection_Mode::persistent, Selection_Mode::fixed}) {
+        for (const bool is_below_selection : {false, true}) {
+            SCOPED_TRACE(static_cast<int>(mode) * 10 + is_below_selection);
+            make_set({24, 24}, 1, [](int, Point pixel) { return pixel == Point{3, 3} ? red : black; });
+            tools().options.selection_mode = mode;
+            select_rectangle({2, 2}, {5, 5});
+            execute(Command::work_selection);
+            drag({3, 3}, {10, 10});
+            if (is_below_selection) {
+                work().select(selected_rectangle({24, 24}, {20, 20}, {22, 22}), Selection_Change::add);
+            }
+            answer_files(File_Answer_State::chosen, file);
+            execute(Command::save_as);
+            EXPECT_EQ(load_tileset(file).tileset->tile_at(0).get_pixel(10, 10), red);
+            EXPECT_EQ(work().paste().has_value(), mode != Selection_Mode::standard);
+            EXPECT_FALSE(document().is_modified());
+        }
+    }
+}
+
+// What was lifted, or is pasted: it settles when the file is written, and not when that is given up.
+TEST_F(Selection_Test, pictures_that_are_taken_show_what_floats) {
+    execute(Command::work_selection);
+    Tile picture(2, 2);
+    picture.fill(red);
+    work().float_paste({picture, {3, 4}});
+    const Rectangle store = versions_layout({24, 24}, screen->size()).store_button;
+    script().key('v').key('1').click({store.x + 5, store.y + 5}).key(key::escape);
+    play();
+    EXPECT_EQ(document().versions().copy(0, {24, 24}).get_pixel(4, 5), red);
+    script().check([] { EXPECT_EQ(pixel_at({24 + 4, 24 + 5}), red); }).key(key::escape);
+    execute(Command::view_in_real_size);
+    const std::string file = folder().path("set.bmp");
+    for (const File_Answer_State answer : {File_Answer_State::cancelled, File_Answer_State::chosen}) {
+        const bool is_given_up = answer == File_Answer_State::cancelled;
+        answer_files(answer, file);
+        script().key(key::enter);
+        execute(Command::export_bitmap);
+        EXPECT_EQ(work().paste().has_value(), is_given_up);
+        EXPECT_EQ(count(red), is_given_up ? 0 : 4);
+    }
+    EXPECT_EQ(Surface(file).get_pixel(4, 5), to_rgba(red));
+}
+
+// The shift brought that edge of the tile into the middle.
+TEST_F(Selection_Test, what_was_lifted_across_the_seam_drops_whole_before_the_tile_is_shifted_back) {
+    const std::vector<std::function<void()>> ways{
+        [this] {
+            answer_files(File_Answer_State::chosen, folder().path("set.qdl"));
+            execute(Command::save_as);
+        },
+        [this] { execute(Command::next_tile); },
+        [this] {
+            play(script().key(key::tab).press({16 + 32 + 16, 32}));
+        },
+        [this] { execute(Command::horizontal_seam_tool); },
+        [this] { execute(Command::export_bitmap); },
+    };
+    for (std::size_t i = 0; i < ways.size(); ++i) {
+        SCOPED_TRACE(i);
+        make_set({24, 24}, 2, [](int, Point pixel) { return pixel.y == 4 ? red : black; });
+        const Tile& before = tile();
+        execute(Command::horizontal_seam_tool);
+        select_rectangle({8, 4}, {16, 5});
+        execute(Command::work_selection);
+        drag({9, 4}, {9, 6});
+        answer_files(File_Answer_State::cancelled);
+        script().set_afterwards([this](std::string_view) { script().key(key::escape); });
+        ways[i]();
+        script().set_afterwards({});
+        EXPECT_FALSE(editor->canvas().is_shifted());
+        EXPECT_EQ(std::ranges::count(before.pixels(), red), 24);
+        EXPECT_EQ(before.get_pixel(20, 6), red);
+        EXPECT_EQ(before.get_pixel(3, 6), red);
+    }
+}
+
+TEST_F(Selection_Test, only_what_is_wanted_there_is_plotted_on_another_tile) {
+    tools().options.selection_mode = Selection_Mode::persistent;
+    make_set({24, 24}, 2, [](int, Point) { return black; });
+    Tile picture(2, 2);
+    picture.fill(red);
+    work().float_paste({picture, {15, 15}});
+    execute(Command::work_selection);
+    execute(Command::rectangle_selector);
+    EXPECT_EQ(count(red), 4);
+    // It was plotted where it was seen.
+    execute(Command::next_tile);
+    select_rectangle({2, 2}, {5, 5});
+    execute(Command::work_selection);
+    drag({3, 3}, {6, 6});
+    EXPECT_EQ(count(red), 0);
+    // And what was lifted does not go on to other tiles.
+    execute(Command::previous_tile);
+    EXPECT_FALSE(work().paste());
 }
 
 TEST_F(Selection_Test, stays_for_the_tile_of_another_set_or_not_as_the_option_says) {
@@ -443,6 +567,15 @@ TEST_F(Clipboard_Test, pictures_of_others_are_pasted_once_and_then_are_copies_li
         EXPECT_EQ(work().paste()->picture->size(), (Size{10, 4}));
         execute(Command::deselect);
     }
+}
+
+TEST_F(Clipboard_Test, a_deleted_tile_comes_back_before_the_picture_of_another_program) {
+    make_set({24, 24}, 2, [](int, Point) { return red; });
+    const Other_Program other("image/bmp", encode_bitmap(picture({10, 4}, black)));
+    execute(Command::delete_tile);
+    execute(Command::paste);
+    EXPECT_EQ(work().paste()->picture->get_pixel(20, 20), red);
+    EXPECT_EQ(editor->copies().copies().at(1).picture->size(), (Size{10, 4}));
 }
 
 TEST_F(Clipboard_Test, of_a_picture_larger_than_the_tile_nothing_is_lost) {

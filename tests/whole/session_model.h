@@ -70,13 +70,12 @@ inline Area area_of(Size size, const std::function<void(Drawing_Target&)>& draw)
 struct Work {
     Area area;
     Paste paste;
-    bool is_lifted = false;  // off the tile, and not plotted yet
-    bool is_plotted = false; // and neither moved nor changed since
+    Paste_Source source = Paste_Source::copy;
 
     [[nodiscard]] Work scrolled(int dx, int dy) const {
         const auto mask = std::make_shared<Selection>(*area);
         mask->change([&](Tile& tile) { tile.copy_from(*testing::scrolled(Tile(tile), dx, dy)); });
-        return {mask, moved_paste(dx, dy), is_lifted, is_plotted};
+        return {mask, moved_paste(dx, dy), source};
     }
     [[nodiscard]] Paste moved_paste(int dx, int dy) const {
         return paste ? std::make_shared<Floating_Paste>(
@@ -87,8 +86,9 @@ struct Work {
         const bool has_same_paste = paste && other.paste && paste->position == other.paste->position &&
                                     same(paste->picture, other.paste->picture);
         return *area == *other.area && ((!paste && !other.paste) || has_same_paste) &&
-               is_lifted == other.is_lifted;
+               is_lifted() == other.is_lifted();
     }
+    [[nodiscard]] bool is_lifted() const { return source == Paste_Source::tile; }
 };
 
 struct State {
@@ -218,30 +218,42 @@ public:
     }
     void deselect() { work.area = std::make_shared<Selection>(size()); }
     void plot() {
-        if (work.paste && !work.is_plotted) {
+        if (work.paste && work.source != Paste_Source::plotted) {
             draw([this](Drawing_Target& target) { work.paste->plot(target); });
         }
-        work.is_lifted = false;
-        work.is_plotted = work.paste != nullptr;
+        work.source = Paste_Source::plotted;
         if (mode == Selection_Mode::standard) {
             drop_paste();
         }
     }
     void drop_paste() {
         work.paste.reset();
-        work.is_lifted = false;
-        work.is_plotted = false;
+        work.source = Paste_Source::copy;
     }
-    // What was lifted drops wherever a selection lies; copies float on.
-    void leave() {
-        end_shifts();
-        if (work.is_lifted) {
+    // Wherever a selection lies.
+    void plot_lifted() {
+        if (work.is_lifted()) {
             edit([this] {
                 const Area area = std::exchange(work.area, std::make_shared<Selection>(size()));
                 plot();
                 work.area = area;
             });
         }
+    }
+    // It does not float on in any mode.
+    void drop_lifted() {
+        const Selection_Mode chosen = std::exchange(mode, Selection_Mode::standard);
+        plot_lifted();
+        mode = chosen;
+    }
+    void leave() {
+        drop_lifted();
+        end_shifts();
+    }
+    void settle_to_save() {
+        plot_lifted();
+        settle_to_leave();
+        end_shifts();
     }
     void fill(Color color) {
         if (!shows_paste()) {
@@ -270,11 +282,15 @@ public:
     }
     void move_paste(int dx, int dy) {
         work.paste = work.moved_paste(dx, dy);
-        work.is_plotted = work.is_plotted && dx == 0 && dy == 0;
+        if (!work.is_lifted() && (dx != 0 || dy != 0)) {
+            work.source = Paste_Source::copy;
+        }
     }
     // The middle stays, or nearly so.
     void change_paste(const Picture& picture) {
-        work.is_plotted = work.is_plotted && same(work.paste->picture, *picture);
+        if (!work.is_lifted() && !same(work.paste->picture, *picture)) {
+            work.source = Paste_Source::copy;
+        }
         const Floating_Paste& before = *work.paste;
         work.paste = std::make_shared<Floating_Paste>(
             Floating_Paste{*picture,
@@ -297,18 +313,18 @@ public:
         settle();
         tool = Tool::selection;
         work.paste = std::make_shared<Floating_Paste>(paste);
-        work.is_lifted = false;
-        work.is_plotted = false;
+        work.source = Paste_Source::copy;
     }
-    // What floated before is plotted wherever it is.
+    // What floated before and is in no tile yet is plotted wherever it is.
     void lift() {
         const Area area = work.area;
         deselect();
-        plot();
+        if (work.source != Paste_Source::plotted_elsewhere) {
+            plot();
+        }
         work.area = area;
         work.paste = lifted_area();
-        work.is_lifted = true;
-        work.is_plotted = false;
+        work.source = Paste_Source::tile;
         fill_tile(testing::clear);
         deselect();
     }
@@ -386,23 +402,30 @@ public:
         look();
         if (one != other) {
             history = picture();
-            work.is_plotted = false;
+            leave_plotted();
             start_history();
             set().is_modified = true;
         }
     }
     void toggle_shift(int Tile_Point::*way) {
         const int half = (way == &Tile_Point::x ? size().width : size().height) / 2;
+        drop_lifted();
         Tile_Point shift = shift_;
         shift.*way = shift.*way == 0 ? half - half % 2 : 0;
         shift_to(shift);
     }
-    void end_shifts() { shift_to({}); }
+    // What was lifted drops where it is seen.
+    void end_shifts() {
+        if (shift_ != Tile_Point{}) {
+            drop_lifted();
+            shift_to({});
+        }
+    }
     // Deliberately about the middle of the tile that is not shifted.
     void transform(const Source& source) {
         const Tile_Point shift = shift_;
         const auto change = [&] {
-            end_shifts();
+            shift_to({});
             picture() = moved(*picture(), source);
             history = moved(*history, source);
             shift_to(shift);
@@ -423,8 +446,15 @@ private:
     // Another tile is in view, or this one is another since it was seen last.
     void look() {
         history = seen_ == set().tile().number ? history : picture();
-        work.is_plotted = work.is_plotted && seen_ == set().tile().number;
+        if (seen_ != set().tile().number) {
+            leave_plotted();
+        }
         seen_ = set().tile().number;
+    }
+    void leave_plotted() {
+        if (work.source == Paste_Source::plotted) {
+            work.source = Paste_Source::plotted_elsewhere;
+        }
     }
     [[nodiscard]] Set_Model::Numbered blank(Size size) {
         return {next_number_++, std::make_shared<Tile>(size.width, size.height)};
@@ -482,7 +512,7 @@ private:
         set().position = position;
         const State& state = set().states[position];
         const Tile_Point shift = state.tile == set().tile().number ? shift_ : Tile_Point{};
-        end_shifts();
+        shift_to({});
         if (state.tile != set().tile().number) {
             const auto tile = std::ranges::find(set().tiles, state.tile, &Set_Model::Numbered::number);
             set().show(static_cast<std::size_t>(tile - set().tiles.begin()));

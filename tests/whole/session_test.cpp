@@ -94,7 +94,9 @@ private:
                 model_.clear();
             }
             model_.floats(*model_.copies[0]);
-            model_.work.is_lifted = mode == Wand_Mode::quick_cut;
+            if (mode == Wand_Mode::quick_cut) {
+                model_.work.source = Paste_Source::tile;
+            }
         };
         model_.edit(float_area, true);
     }
@@ -298,8 +300,7 @@ private:
             return;
         }
         answer_files(File_Answer_State::chosen, "saved.qdl");
-        perform(Command::save_as, &Session_Model::end_shifts);
-        model_.settle_to_leave();
+        perform(Command::save_as, &Session_Model::settle_to_save);
         model_.set().name = "saved.qdl";
         model_.set().is_modified = false;
         const Loaded_Tileset loaded = load_tileset("saved.qdl");
