@@ -3,6 +3,7 @@
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
 #include "screen/cursor.h"
+#include "screen/events.h"
 #include "selection/paste_shape.h"
 #include "tools/options.h"
 #include "ui/window_layout.h"
@@ -21,7 +22,8 @@ bool is_over_tile(const Canvas_View& canvas, Point point) {
 
 void show_hover(Canvas_View& canvas, const Pointer_State& pointer) {
     const Point point = pointer.point();
-    canvas.set_hover(is_over_tile(canvas, point) ? std::optional(Hover{point}) : std::nullopt);
+    const Hover hover{point, Mouse_Button::none, is_shift_held()};
+    canvas.set_hover(is_over_tile(canvas, point) ? std::optional(hover) : std::nullopt);
     const bool is_replaced = options->is_ticked(Option::hide_or_show_cursor) &&
                              canvas.shows_brush(toolbox->state(), canvas_settings(*options));
     set_cursor(is_replaced ? Cursor::hidden : Cursor::shown);

@@ -1,6 +1,7 @@
 #include "canvas/brush_feedback.h"
 
 #include "color/translucency.h"
+#include "tools/line.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -47,11 +48,15 @@ Color shown_pixel(const Brush_Feedback& feedback, Color color, const Rectangle& 
     return blended_over(color, checkerboard_color(pixel.x, pixel.y, feedback.checker));
 }
 
-void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
+Point preview_corner(const Brush_Feedback& feedback, Tile_Point offset, int pixel_size) {
+    return {feedback.preview->x + offset.x * pixel_size, feedback.preview->y + offset.y * pixel_size};
+}
+
+void paint_brush(const Brush_Feedback& feedback, Point corner, int pixel_size, const Pixel_Rows& target) {
     for (int y = 0; y < feedback.brush->size().height; ++y) {
         for (int x = 0; x < feedback.brush->size().width; ++x) {
-            const Rectangle cell{feedback.preview->x + x * pixel_size, feedback.preview->y + y * pixel_size,
-                                 pixel_size, pixel_size};
+            const Rectangle cell{corner.x + x * pixel_size, corner.y + y * pixel_size, pixel_size,
+                                 pixel_size};
             const std::optional<Color> own = pixel_of(feedback, x, y);
             if (own && is_painted(feedback, cell)) {
                 const Color shown = shown_pixel(feedback, feedback.color.value_or(*own), cell);
@@ -59,6 +64,12 @@ void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_R
             }
         }
     }
+}
+
+void paint_preview(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
+    walk_line(feedback.line_start.value_or(Tile_Point{}), {}, [&](Tile_Point offset) {
+        paint_brush(feedback, preview_corner(feedback, offset, pixel_size), pixel_size, target);
+    });
 }
 
 // Whatever lies below, the line stands out.
@@ -108,8 +119,10 @@ Rectangle cells_of(const Brush& brush, Point corner, int pixel_size) {
 
 // Empty where nothing is selected.
 Rectangle preview_area(const Brush_Feedback& feedback, int pixel_size) {
-    const Rectangle area =
-        intersection(cells_of(*feedback.brush, *feedback.preview, pixel_size), feedback.tile);
+    const Point start = preview_corner(feedback, feedback.line_start.value_or(Tile_Point{}), pixel_size);
+    const Rectangle area = intersection(bounds_of(cells_of(*feedback.brush, *feedback.preview, pixel_size),
+                                                  cells_of(*feedback.brush, start, pixel_size)),
+                                        feedback.tile);
     for (int y = area.y; y < area.bottom(); y += pixel_size) {
         for (int x = area.x; x < area.right(); x += pixel_size) {
             if (is_painted(feedback, {x, y, pixel_size, pixel_size})) {

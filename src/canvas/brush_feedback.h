@@ -18,6 +18,8 @@ struct Brush_Feedback {
     const Brush* brush = nullptr;
     std::optional<Point> outline = {};
     std::optional<Point> preview = {};
+    // So many cells beside the preview begins a straight line of them, which ends with it.
+    std::optional<Tile_Point> line_start = {};
     // Instead of the brush's own colours.
     std::optional<Color> color = {};
     // The tile in pixels of the picture: beside it nothing is previewed.

@@ -15,17 +15,25 @@ Canvas_Settings canvas_settings(const Options& values) {
             values.is_ticked(Option::show_shadow_brush)};
 }
 
+namespace {
+
+bool fills_with_brush(const Tool_State& tools) {
+    return tools.fills_with_brush() && !tools.is_picking;
+}
+
+} // namespace
+
 bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& settings) {
     const bool leaves_out_brush = settings.brush_outline == Brush_Outline::not_of_one_pixel &&
                                   tools.brush().size() == Size{1, 1} && !tools.is_erasing;
-    return (tools.uses_brush() || tools.fills_with_brush()) && settings.brush_outline != Brush_Outline::off &&
+    return (tools.uses_brush() || fills_with_brush(tools)) && settings.brush_outline != Brush_Outline::off &&
            !leaves_out_brush;
 }
 
 // Nothing for brushes that change the colour which is there, nor where the pen erases or paints from the
 // history.
 bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings, Mouse_Button button) {
-    if (tools.fills_with_brush()) {
+    if (fills_with_brush(tools)) {
         return settings.has_brush_preview;
     }
     const Brush_Owner owner = tools.brush().owner();
@@ -36,12 +44,15 @@ bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& setting
            settings.has_brush_preview;
 }
 
-Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size) {
-    if (!tools.uses_brush() || !shows_brush_outline(tools, settings)) {
-        return {};
-    }
+Size brush_reach(const Tool_State& tools, const Canvas_Settings& settings) {
     const Size size = tools.brush().size();
-    return {(size.width - 1) * pixel_size / 2, (size.height - 1) * pixel_size / 2};
+    const bool is_centred = tools.uses_brush() && shows_brush_outline(tools, settings);
+    return is_centred ? Size{size.width - 1, size.height - 1} : Size{};
+}
+
+Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size) {
+    const Size reach = brush_reach(tools, settings);
+    return {reach.width * pixel_size / 2, reach.height * pixel_size / 2};
 }
 
 } // namespace quadrelle

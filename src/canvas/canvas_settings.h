@@ -27,6 +27,8 @@ struct Canvas_Settings {
 // While that button is held or none is.
 [[nodiscard]] bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings,
                                        Mouse_Button button = Mouse_Button::none);
+// How far the brush reaches beyond the pointer, in half pixels: not at all unless it is centred on that.
+[[nodiscard]] Size brush_reach(const Tool_State& tools, const Canvas_Settings& settings);
 // From the brush's corner to the pointer in window pixels: half the brush while it is centred on the pointer.
 [[nodiscard]] Point pointer_offset(const Tool_State& tools, const Canvas_Settings& settings, int pixel_size);
 

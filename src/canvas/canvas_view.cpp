@@ -310,10 +310,23 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
         feedback.outline = is_on_cells ? in_viewport(corner) : centred_on_pointer;
     }
     const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
+    if (hover.joins_strokes && stroke != nullptr && stroke->joins_strokes) {
+        feedback.line_start = line_start(corner, tools, settings);
+    }
     if (stroke != nullptr && stroke->points == Stroke_Points::corners) {
         feedback.taken_corner = in_viewport(corner_point(hover.position));
     }
     return feedback;
+}
+
+// Not where the brush keeps to places of its own.
+std::optional<Tile_Point> Canvas_View::line_start(Tile_Point corner, const Tool_State& tools,
+                                                  const Canvas_Settings& settings) const {
+    const std::optional<Tile_Point> end = stroke_end(brush_reach(tools, settings));
+    if (!end || tools.pen_mode() != Pen_Mode::brush) {
+        return std::nullopt;
+    }
+    return Tile_Point{end->x - corner.x, end->y - corner.y};
 }
 
 bool Canvas_View::shows_brush(const Tool_State& tools, const Canvas_Settings& settings) const {

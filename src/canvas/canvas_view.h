@@ -34,10 +34,12 @@ enum class Zoom_Step : int { out = -1, in = 1 };
 
 constexpr int no_seam_shift = -1;
 
-// The pointer over the viewport, and the button of the stroke that it makes, if any.
+// The pointer over the viewport, and the button of the stroke that it makes, if any; or whether the next
+// stroke will be joined to the last one.
 struct Hover {
     Point position;
     Mouse_Button button = Mouse_Button::none;
+    bool joins_strokes = false;
 };
 
 class Canvas_View {
@@ -168,6 +170,9 @@ private:
     void check_painted(const Canvas_Picture& picture, const Brush_Feedback& feedback);
     // Where the corner of a cell lies, in pixels of the viewport.
     [[nodiscard]] Point in_viewport(Tile_Point corner) const;
+    // Where the line from the last stroke to the brush there begins, from that on.
+    [[nodiscard]] std::optional<Tile_Point> line_start(Tile_Point corner, const Tool_State& tools,
+                                                       const Canvas_Settings& settings) const;
     [[nodiscard]] Brush_Feedback brush_feedback(const Hover& hover, const Tool_State& tools,
                                                 const Canvas_Settings& settings) const;
 

@@ -24,7 +24,7 @@ void Stroke::press(const Stroke_Moment& moment) {
 
 // What lies there has its colour already; a press on the very pixel is there to paint it.
 void Stroke::begin_at_last_end() {
-    const std::optional<Tile_Point> end = canvas_.stroke_end(reach());
+    const std::optional<Tile_Point> end = canvas_.stroke_end(brush_reach(tools_.state, tools_.settings));
     if (end && *end != pressed_) {
         start_ = *end;
         next_ = Segment_Start::left_out;
@@ -85,7 +85,7 @@ void Stroke::finish(const Stroke_Moment& moment) {
         draw_path(moment);
     }
     if (row_.joins_strokes) {
-        canvas_.set_stroke_end(end_, reach());
+        canvas_.set_stroke_end(end_, brush_reach(tools_.state, tools_.settings));
     }
     if (row_.finish != nullptr) {
         Drawing_Target target = canvas_.work_area().target(tile_);
@@ -146,13 +146,6 @@ Tile_Point Stroke::point_of(const Pointer_State& pointer) const {
     case Stroke_Points::pixels: break;
     }
     return canvas_.tool_point(pointer.point(), tools_.state, tools_.settings);
-}
-
-// Only a brush that is centred on the pointer reaches beyond it.
-Size Stroke::reach() const {
-    const Size brush = tools_.state.brush().size();
-    return shows_brush_outline(tools_.state, tools_.settings) ? Size{brush.width - 1, brush.height - 1}
-                                                              : Size{};
 }
 
 Stroke_Segment Stroke::segment(Tile_Point from, Tile_Point to, Segment_Start start,

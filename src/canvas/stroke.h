@@ -46,8 +46,6 @@ private:
     void begin_at_last_end();
     void draw_anew(const Stroke_Moment& moment);
     void restore();
-    // How far the brush reaches beyond the pointer in half pixels.
-    [[nodiscard]] Size reach() const;
     void extend_to(Tile_Point point, const Stroke_Moment& moment);
     // False when it is too early.
     bool draw_when_due(const Stroke_Moment& moment);

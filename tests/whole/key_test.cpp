@@ -219,6 +219,31 @@ TEST_F(Key_Test, alt_picks_and_gives_the_tool_back) {
     hold(SDL_KMOD_NONE);
     play(script().key_up(key::left_alt).click(cell(5, 6)));
     EXPECT_EQ(tile_pixel(5, 6), clear);
+    // The flood fill shows a brush too.
+    tools().options.fill_mode = Fill_Mode::stamp;
+    press('f');
+    play(script().motion(cell(12, 12)));
+    EXPECT_NE(pixel_at(cell(13, 13)), black);
+    hold(SDL_KMOD_LALT);
+    play(script().key(key::left_alt, Modifier::alt));
+    EXPECT_EQ(pixel_at(cell(13, 13)), black);
+}
+
+// Where a press would draw it, and before it does.
+TEST_F(Key_Test, shift_shows_the_line_from_the_last_stroke) {
+    play(script().click(cell(2, 2)));
+    const Tile_Picture before = tile_picture();
+    play(script().motion(cell(8, 5)));
+    EXPECT_EQ(pixel_at(cell(6, 4)), black);
+    hold(SDL_KMOD_LSHIFT);
+    play(script().key(key::left_shift, Modifier::shift));
+    EXPECT_EQ(pixel_at(cell(6, 4)), white);
+    EXPECT_EQ(tile_picture(), before);
+    play(script().click(cell(8, 5)));
+    EXPECT_EQ(tile_pixel(6, 4), white);
+    hold(SDL_KMOD_NONE);
+    play(script().key_up(key::left_shift).motion(cell(8, 20)));
+    EXPECT_EQ(pixel_at(cell(8, 12)), black);
 }
 
 class Dragged_Selection : public Key_Test {
