@@ -33,9 +33,8 @@ std::string fault_of_folder_name(const std::string& name) {
         return "A folder needs a name.";
     }
     // It would be hidden, or lie elsewhere.
-    const bool is_hidden = name.front() == '.';
-    return is_hidden || folder_part(name) != "" ? "A folder's name has no dot in front and no separator."
-                                                : "";
+    const bool will_do = name.front() != '.' && folder_part(name).empty();
+    return will_do ? "" : "A folder's name has no dot in front and no separator.";
 }
 
 } // namespace quadrelle
