@@ -57,8 +57,13 @@ void Recorder::step(const Edit& edit, Merge merge) {
 }
 
 void Recorder::record(Command kind) {
-    canvas_.with_tile_in_place(
-        [&] { documents_.current().record(kind, toolbox_.current_tool(), canvas_.work_area().state()); });
+    canvas_.with_tile_in_place([&] { documents_.current().record(kind, toolbox_.current_tool(), work()); });
+}
+
+Work_State Recorder::work() const {
+    Work_State state = canvas_.work_area().state();
+    state.seam_shift = canvas_.seam_shifts();
+    return state;
 }
 
 bool Recorder::undo() {
@@ -89,8 +94,7 @@ std::optional<Undo_Entry> Recorder::missing_floor() {
         const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
                               canvas_.work_area() == entry->work;
         if (!is_known) {
-            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox_.current_tool(),
-                                  canvas_.work_area().state());
+            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox_.current_tool(), work());
         }
     });
     return floor;
@@ -124,6 +128,10 @@ bool Recorder::restore(const Undo_Entry* entry, Command transform) {
         canvas_.work_area().restore(entry->work);
         canvas_.transform_history(transform);
     });
+    // What was lifted is seen, and drops, as it was: whole.
+    if (canvas_.work_area().has_lifted()) {
+        canvas_.restore_seam_shifts(entry->work.seam_shift);
+    }
     if (entry->tool != toolbox_.current_tool()) {
         toolbox_.select(row_of(entry->tool).command);
     }

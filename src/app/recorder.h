@@ -39,6 +39,7 @@ public:
     bool redo();
 
 private:
+    [[nodiscard]] Work_State work() const;
     [[nodiscard]] std::optional<Undo_Entry> missing_floor();
     [[nodiscard]] bool stands_on_merged_step();
     [[nodiscard]] bool is_merged(Merge merge, Command kind);

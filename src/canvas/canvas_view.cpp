@@ -130,6 +130,15 @@ void Canvas_View::undo_seam_shifts() {
     undo_seam_shift(Seam::vertical);
 }
 
+void Canvas_View::restore_seam_shifts(Tile_Point shifts) {
+    if (shifts.x != seam_shifts().x) {
+        toggle_seam_shift(Seam::horizontal);
+    }
+    if (shifts.y != seam_shifts().y) {
+        toggle_seam_shift(Seam::vertical);
+    }
+}
+
 // Backwards, not on: where half of the tile is odd, twice the shift would not lead around it.
 void Canvas_View::undo_seam_shift(Seam seam) {
     const int shift = std::exchange(seam_shift(seam), no_seam_shift);
@@ -146,8 +155,7 @@ void Canvas_View::shift_pixels(Seam seam, int shift) {
 }
 
 void Canvas_View::with_tile_in_place(const std::function<void()>& work) {
-    const int horizontal = std::max(horizontal_seam_shift_, 0);
-    const int vertical = std::max(vertical_seam_shift_, 0);
+    const auto [horizontal, vertical] = seam_shifts();
     if (tile_ == nullptr || (horizontal == 0 && vertical == 0)) {
         work();
         return;

@@ -15,6 +15,7 @@
 #include "selection/work_area.h"
 #include "ui/window_layout.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -82,6 +83,12 @@ public:
     [[nodiscard]] bool is_shifted() const {
         return horizontal_seam_shift_ != no_seam_shift || vertical_seam_shift_ != no_seam_shift;
     }
+    // Returns how far the pixels stand right of and below where they really are.
+    [[nodiscard]] Tile_Point seam_shifts() const {
+        return {std::max(horizontal_seam_shift_, 0), std::max(vertical_seam_shift_, 0)};
+    }
+    // Makes the shifts what they were once, for a tile of the same size.
+    void restore_seam_shifts(Tile_Point shifts);
     // Does the work on the tile as it really is; the work leaves its size and keeps it on view.
     void with_tile_in_place(const std::function<void()>& work);
     // Return the shift in pixels, or -1 when the tile is not shifted; 0 is a shift too, that of a very small

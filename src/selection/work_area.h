@@ -32,6 +32,8 @@ struct Work_State {
     std::shared_ptr<const Floating_Paste> paste;
     Paste_Source paste_source = Paste_Source::copy;
     std::shared_ptr<const Tile_Turn> turn = {};
+    // How far the seam tools had shifted the tile. What was lifted then may lie across its edge without that.
+    Tile_Point seam_shift = {};
 
     [[nodiscard]] std::size_t memory_size() const;
 };

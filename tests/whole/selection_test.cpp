@@ -371,6 +371,10 @@ TEST_F(Selection_Test, what_was_lifted_across_the_seam_drops_whole_before_the_ti
         EXPECT_EQ(before.get_pixel(20, 6), red);
         EXPECT_EQ(before.get_pixel(3, 6), red);
     }
+    // The last one left the tile.
+    execute(Command::undo);
+    EXPECT_TRUE(editor->canvas().is_shifted());
+    EXPECT_EQ(work().paste()->position, (Tile_Point{8, 6}));
 }
 
 TEST_F(Selection_Test, only_what_is_wanted_there_is_plotted_on_another_tile) {

@@ -97,6 +97,7 @@ struct State {
     Work work;
     Tool tool = Tool::pen;
     int nudge = 0;
+    Tile_Point shift = {};
     Source transform = {}; // of the whole tile from the state before, if that is what was done
 };
 
@@ -490,8 +491,12 @@ private:
         }
     }
     [[nodiscard]] State state() {
-        return {set().tile().number, scrolled(*picture(), -shift_.x, -shift_.y),
-                work.scrolled(-shift_.x, -shift_.y), tool};
+        return {set().tile().number,
+                scrolled(*picture(), -shift_.x, -shift_.y),
+                work.scrolled(-shift_.x, -shift_.y),
+                tool,
+                0,
+                shift_};
     }
     void start_history() {
         set().states = {{set().tile().number, picture(), {std::make_shared<Selection>(size()), {}}}};
@@ -522,7 +527,7 @@ private:
         work = state.work;
         tool = state.tool;
         history = transform ? transformed(*history, transform) : history;
-        shift_to(shift);
+        shift_to(work.is_lifted() ? state.shift : shift);
         set().is_modified = true;
     }
 
