@@ -142,15 +142,15 @@ void Editor::execute_if_any(Command command, Held held) {
     }
 }
 
-// A walk through the tiles on one held key or button is one step, or it would push all others out of the
+// What one held key or button does again and again is one step, or it would push all others out of the
 // history.
 void Editor::execute(Command command, Held held) {
     if (!row_of(command).has(Command_Trait::step)) {
         static_cast<void>(perform(command));
         return;
     }
-    const bool is_walk = held == Held::yes && row_of(command).category == Command_Category::tile_switch;
-    parts_->recorder.step([&] { return perform(command); }, is_walk ? Merge::with_same_kind : Merge::no);
+    parts_->recorder.step([&] { return perform(command); },
+                          held == Held::yes ? Merge::with_same_kind : Merge::no);
 }
 
 Command Editor::perform(Command command) {

@@ -2,6 +2,7 @@
 
 #include "app/editor_parts.h"
 #include "app/key_actions.h"
+#include "commands/command_table.h"
 #include "commands/key_table.h"
 
 namespace quadrelle {
@@ -41,11 +42,12 @@ Command press_key(Editor_Parts& editor, const Input_Event& press) {
         return Command::none;
     }
     const Command command = find_command(press.chord);
-    // Escape gave up something else when it went down.
-    if (command == Command::quit && press.is_repeat) {
-        return Command::none;
+    if (command == Command::none) {
+        return press_further_key(editor, press);
     }
-    return command == Command::none ? press_further_key(editor, press) : command;
+    // What is held was often meant for something that is over: a stroke that was given up, a view that was
+    // closed.
+    return press.is_repeat && !row_of(command).has(Command_Trait::repeats) ? Command::none : command;
 }
 
 } // namespace quadrelle

@@ -7,6 +7,7 @@
 #include "selection/transform_table.h"
 #include "selection/transforms.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quadrelle {
@@ -23,16 +24,23 @@ bool has_same_paste(const Work_State& one, const Work_State& other) {
 }
 
 // The command that turned, mirrored or scrolled the whole tile between two states, or none: it may have been
-// only what was selected, or floated.
-Command transform_between(const Undo_Entry& before, const Undo_Entry& after) {
+// only what was selected, or floated. One step may hold several scrolls.
+Tile_Transform transform_between(const Undo_Entry& before, const Undo_Entry& after) {
     const bool is_of_tile = before.tile_index == after.tile_index && before.work.selection == nullptr &&
                             has_same_paste(before.work, after.work);
-    if (!is_of_tile || find_transform(after.kind) == nullptr) {
-        return Command::none;
+    const Transform_Row* const row = find_transform(after.kind);
+    if (!is_of_tile || row == nullptr) {
+        return {};
     }
     Tile transformed(before.snapshot->tile);
-    static_cast<void>(transform_tile(&transformed, after.kind));
-    return transformed.same_pixels(after.snapshot->tile) ? after.kind : Command::none;
+    const int most = row->placement == nullptr ? std::max(transformed.width(), transformed.height()) : 1;
+    for (int times = 1; times <= most; ++times) {
+        static_cast<void>(transform_tile(&transformed, after.kind));
+        if (transformed.same_pixels(after.snapshot->tile)) {
+            return {after.kind, times};
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -70,15 +78,18 @@ bool Recorder::undo() {
     Undo_History& history = documents_.current().history();
     const Undo_Entry* const left = history.current();
     const Undo_Entry* const entry = history.undo();
-    const Command transform = entry == nullptr ? Command::none : transform_between(*entry, *left);
-    return restore(entry, transform == Command::none ? transform : row_of(transform).inverse);
+    Tile_Transform transform = entry == nullptr ? Tile_Transform{} : transform_between(*entry, *left);
+    if (transform.times > 0) {
+        transform.command = row_of(transform.command).inverse;
+    }
+    return restore(entry, transform);
 }
 
 bool Recorder::redo() {
     Undo_History& history = documents_.current().history();
     const Undo_Entry* const left = history.current();
     const Undo_Entry* const entry = history.redo();
-    return restore(entry, entry == nullptr ? Command::none : transform_between(*left, *entry));
+    return restore(entry, entry == nullptr ? Tile_Transform{} : transform_between(*left, *entry));
 }
 
 // The current state, when the history stands on another tile, on nothing, or on another work area: adding
@@ -115,7 +126,7 @@ bool Recorder::is_merged(Merge merge, Command kind) {
     return false;
 }
 
-bool Recorder::restore(const Undo_Entry* entry, Command transform) {
+bool Recorder::restore(const Undo_Entry* entry, const Tile_Transform& transform) {
     if (entry == nullptr) {
         return false;
     }
@@ -126,7 +137,9 @@ bool Recorder::restore(const Undo_Entry* entry, Command transform) {
     canvas_.with_tile_in_place([&] {
         entry->snapshot->tile.copy_to(*tileset.current_tile());
         canvas_.work_area().restore(entry->work);
-        canvas_.transform_history(transform);
+        for (int i = 0; i < transform.times; ++i) {
+            canvas_.transform_history(transform.command);
+        }
     });
     // What was lifted is seen, and drops, as it was: whole.
     if (canvas_.work_area().has_lifted()) {

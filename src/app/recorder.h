@@ -23,6 +23,12 @@ using Edit = std::function<Command()>;
 // between, or if it was of the same kind.
 enum class Merge { no, with_last, with_same_kind };
 
+// What turned, mirrored or scrolled a whole tile, and how often; zero times for nothing of the kind.
+struct Tile_Transform {
+    Command command = Command::none;
+    int times = 0;
+};
+
 class Recorder {
 public:
     // Borrows all three.
@@ -44,7 +50,7 @@ private:
     [[nodiscard]] bool stands_on_merged_step();
     [[nodiscard]] bool is_merged(Merge merge, Command kind);
     // `transform` leads from the tile that is left to this one, if the whole of it was transformed.
-    bool restore(const Undo_Entry* entry, Command transform);
+    bool restore(const Undo_Entry* entry, const Tile_Transform& transform);
 
     Documents& documents_;
     Canvas_View& canvas_;

@@ -206,7 +206,7 @@ Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count)
 
 void Window_Panes::store_color(Color color) {
     palette_.store(color);
-    hint_lines_.report({"Palette", hex_text(color) + " is stored there, also for the next start."});
+    hint_lines_.report({"Palette", hex_text(color) + " is stored there."});
 }
 
 // With Shift a click on the palette stores.

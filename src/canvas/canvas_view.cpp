@@ -56,7 +56,7 @@ void Canvas_View::set_tile(Tile* tile) {
 }
 
 std::optional<Tile_Point> Canvas_View::stroke_end(Size reach) const {
-    if (!stroke_end_) {
+    if (!stroke_end_ || stroke_end_->tile_version != tile_->version()) {
         return std::nullopt;
     }
     return Tile_Point{stroke_end_->corner.x + (stroke_end_->reach.width - reach.width) / 2,

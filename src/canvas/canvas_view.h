@@ -71,8 +71,8 @@ public:
     void transform_history(Command command);
 
     // Where the last stroke of a brush on this tile ended, for one whose corner lies half of `reach` beside
-    // the pointer; none before the first.
-    void set_stroke_end(Tile_Point corner, Size reach) { stroke_end_ = {corner, reach}; }
+    // the pointer; none before the first, and once the tile was changed otherwise.
+    void set_stroke_end(Tile_Point corner, Size reach) { stroke_end_ = {corner, reach, tile_->version()}; }
     [[nodiscard]] std::optional<Tile_Point> stroke_end(Size reach) const;
 
     // Shifts the tile by about half of its size, an even number of pixels, or gives it back as it was. The
@@ -159,6 +159,7 @@ private:
     struct Stroke_End {
         Tile_Point corner;
         Size reach;
+        std::uint64_t tile_version;
     };
 
     void undo_seam_shift(Seam seam);

@@ -84,7 +84,7 @@ void Stroke::finish(const Stroke_Moment& moment) {
     if (!path_.empty()) {
         draw_path(moment);
     }
-    if (row_.joins_strokes) {
+    if (row_.joins_strokes && !has_picked_) {
         canvas_.set_stroke_end(end_, brush_reach(tools_.state, tools_.settings));
     }
     if (row_.finish != nullptr) {

@@ -29,22 +29,27 @@ public:
     Dialog_Layer& operator=(const Dialog_Layer&) = delete;
 };
 
-bool accepts(Dialog_Keys keys, Keycode pressed) {
-    const bool is_enter = pressed == key::enter || pressed == key::keypad_enter;
-    return is_enter || (pressed == 'y' && keys == Dialog_Keys::enter_or_y);
+bool accepts(Dialog_Keys keys, const Key_Chord& chord) {
+    const bool is_enter = chord.key == key::enter || chord.key == key::keypad_enter;
+    return is_enter || (chord == Key_Chord{'y', Modifier::none} && keys == Dialog_Keys::enter_or_y);
 }
 
 Loop_Step answer(const Modal_Dialog& dialog, const Input_Event& event) {
-    const Keycode pressed = event.kind == Input_Kind::key_press ? event.chord.key : key::none;
-    if (event.kind == Input_Kind::quit || pressed == key::escape) {
+    const Key_Chord chord = event.kind == Input_Kind::key_press ? event.chord : Key_Chord{};
+    const bool ends = chord.key == key::escape || accepts(dialog.keys, chord);
+    // It was meant for what was there when it went down, maybe a dialog that is gone.
+    if (ends && event.is_repeat) {
+        return Loop_Step::go_on;
+    }
+    if (event.kind == Input_Kind::quit || chord.key == key::escape) {
         return Loop_Step::end;
     }
     if (event.kind == Input_Kind::typed_text && shown().has_taken_letter) {
         return Loop_Step::go_on;
     }
-    const bool is_accepted = accepts(dialog.keys, pressed);
+    const bool is_accepted = accepts(dialog.keys, chord);
     if (event.kind == Input_Kind::key_press) {
-        shown().has_taken_letter = is_accepted && pressed == 'y';
+        shown().has_taken_letter = is_accepted && chord.key == 'y';
     }
     return is_accepted ? dialog.accept() : dialog.handle(event);
 }

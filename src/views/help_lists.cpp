@@ -31,7 +31,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Ctrl with shapes and selectors",       "draws from the middle"},
     {"Escape while the button is held",      "takes the stroke back"},
     {"Alt on the canvas",                    "picks a color, whatever the tool"},
-    {"Ctrl and drag in a selection",         "moves a copy of it"},
+    {"Ctrl and drag in a selection",         "moves a copy of it, with a selector or Selection"},
     {"Alt and drag in a selection",          "moves its outline alone, with a selector"},
     {"Ctrl and drag with the right button",  "moves the tile in the view"},
     {"Handles around what floats",           "at the corners: scale it; above it: turn it, with Shift to multiples of 15 degrees"},

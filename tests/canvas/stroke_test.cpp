@@ -129,10 +129,11 @@ TEST_F(Stroke_On_Board, shift_joins_a_stroke_to_the_last_one_on_the_tile) {
     board.drag({{8, 2}, {8, 4}});
     EXPECT_EQ(board.tile.white_bounds(), (Rectangle{2, 2, 7, 3}));
     // From the middle of the brush, whatever its size.
-    board.tile.fill(black);
     board.tools.chosen_brush.select_size(2);
     board.drag({{12, 4}});
-    EXPECT_EQ(board.tile.white_bounds(), (Rectangle{8, 3, 6, 3}));
+    EXPECT_EQ(board.tile.white_bounds(), (Rectangle{2, 2, 12, 4}));
+    EXPECT_EQ(pixel(7, 3), black);
+    EXPECT_EQ(pixel(9, 5), white);
     Tile other(24, 24);
     board.canvas.set_tile(&other);
     board.drag({{20, 20}});

@@ -246,6 +246,51 @@ TEST_F(Key_Test, shift_shows_the_line_from_the_last_stroke) {
     EXPECT_EQ(pixel_at(cell(8, 12)), black);
 }
 
+// A line goes on from what is there: not from a stroke that was undone, or where the tile was moved since.
+TEST_F(Key_Test, shift_joins_nothing_once_the_tile_was_changed_otherwise) {
+    const auto join_after = [this](const std::function<void()>& change) {
+        hold(SDL_KMOD_NONE);
+        play(script().click(cell(2, 2)));
+        change();
+        hold(SDL_KMOD_LSHIFT);
+        play(script().click(cell(12, 2)));
+        return tile_pixel(8, 2) == white;
+    };
+    EXPECT_TRUE(join_after([] {}));
+    press('z', Modifier::control);
+    press('z', Modifier::control);
+    EXPECT_FALSE(join_after([this] { press('z', Modifier::control); }));
+    EXPECT_FALSE(join_after([this] { press(key::down); }));
+    // A color that was picked leaves the end of the stroke where it is.
+    tools().options.right_button_mode = Right_Button_Mode::dropper;
+    press('z', Modifier::control);
+    hold(SDL_KMOD_NONE);
+    play(script().click(cell(20, 20)));
+    EXPECT_TRUE(join_after([this] { play(script().click(cell(20, 20), Mouse_Button::right)); }));
+    hold(SDL_KMOD_NONE);
+}
+
+TEST_F(Key_Test, a_held_key_is_one_step_and_asks_nothing_twice) {
+    play(script().click(cell(10, 10)));
+    const std::size_t steps = document().history().entries().size();
+    script().key(key::left);
+    for (int i = 0; i < 30; ++i) {
+        script().repeated_key(key::left).repeated_key('r');
+    }
+    play(script().key_up(key::left));
+    EXPECT_EQ(document().history().entries().size(), steps + 1);
+    EXPECT_EQ(tile_pixel((10 + 24 * 2 - 31) % 24, 10), white);
+    const Tile* const remembered = editor->canvas().history();
+    press('z', Modifier::control);
+    EXPECT_EQ(tile_pixel(10, 10), white);
+    EXPECT_EQ(remembered->get_pixel(10, 10), black) << "what the pen draws from was before the dot";
+    // Return and Escape that are held, or `y` with another key, answer no question.
+    script().repeated_key(key::enter).repeated_key(key::escape).key('y', Modifier::control).key('n');
+    expect_question("Quit", "Quit Quadrelle without saving tiles?\r(Progress will be lost.)")
+        .key(key::escape);
+    execute(Command::quit);
+}
+
 class Dragged_Selection : public Key_Test {
 protected:
     void SetUp() override {
@@ -338,7 +383,7 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
     execute(Command::pen);
     const Point store_button{110, 619};
     play(script().click(store_button));
-    EXPECT_EQ(report(), "#000000 is stored there, also for the next start.");
+    EXPECT_EQ(report(), "#000000 is stored there.");
     make_set({8, 9}, 1, [](int, Point) { return black; });
     expect_reports({{Command::rotate, "Only what is as wide as high can be turned."}});
     editor->canvas().work_area().float_paste({Tile(3, 2), {1, 1}});
