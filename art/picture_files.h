@@ -12,7 +12,7 @@ namespace quadrelle {
 // sheets give equal files.
 bool write_bmp(const Sheet_Picture& sheet, const std::filesystem::path& path);
 
-// A PNG for looking at: twice the size, transparent places as a checkerboard. Never written without libpng.
+// A PNG for looking at: twice the size, transparent places as a checkerboard.
 bool write_enlarged_png(const Sheet_Picture& sheet, const std::filesystem::path& path);
 
 } // namespace quadrelle

@@ -1,7 +1,5 @@
 #include "picture_files.h"
 
-#ifdef QUADRELLE_HAS_PNG
-
 #include <png.h>
 
 #include <cstdint>
@@ -50,11 +48,3 @@ bool write_enlarged_png(const Sheet_Picture& sheet, const std::filesystem::path&
 }
 
 } // namespace quadrelle
-
-#else
-
-bool quadrelle::write_enlarged_png(const Sheet_Picture&, const std::filesystem::path&) {
-    return false;
-}
-
-#endif

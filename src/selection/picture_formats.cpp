@@ -7,9 +7,7 @@
 #include <memory>
 #include <utility>
 
-#ifdef QUADRELLE_HAS_PNG
 #include <png.h>
-#endif
 
 namespace quadrelle {
 
@@ -104,8 +102,6 @@ std::vector<std::uint8_t> encode_bitmap(const Tile& picture) {
     return bytes;
 }
 
-#ifdef QUADRELLE_HAS_PNG
-
 namespace {
 
 // Of libpng, which may keep memory of its own until it is released.
@@ -154,7 +150,5 @@ std::vector<std::uint8_t> encode_png(const Tile& picture) {
     bytes.resize(is_written ? size : 0);
     return bytes;
 }
-
-#endif
 
 } // namespace quadrelle

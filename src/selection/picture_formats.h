@@ -34,16 +34,12 @@ struct Picture_Format {
 
 [[nodiscard]] Decoded_Picture decode_bitmap(Picture_Bytes bytes);
 [[nodiscard]] std::vector<std::uint8_t> encode_bitmap(const Tile& picture);
-#ifdef QUADRELLE_HAS_PNG
 [[nodiscard]] Decoded_Picture decode_png(Picture_Bytes bytes);
 [[nodiscard]] std::vector<std::uint8_t> encode_png(const Tile& picture);
-#endif
 
 // The best format comes first.
 constexpr std::array picture_formats = std::to_array<Picture_Format>({
-#ifdef QUADRELLE_HAS_PNG
     {"image/png", decode_png, encode_png},
-#endif
     {"image/bmp", decode_bitmap, encode_bitmap},
 });
 

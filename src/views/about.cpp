@@ -13,7 +13,9 @@ namespace quadrelle {
 namespace {
 
 constexpr const char* licences =
-    "Window, drawing and events: SDL, under the zlib licence\r\r"
+    "Window, drawing and events: SDL, under the zlib licence\r"
+    "PNG pictures: libpng, under the PNG Reference Library License version 2, and zlib, under the\r"
+    "zlib licence\r\r"
     "Letters: modified from the 75dpi Helvetica bitmaps\r"
     "Copyright 1984-1989, 1994 Adobe Systems Incorporated.\r"
     "Copyright 1988, 1994 Digital Equipment Corporation.\r"

@@ -1,0 +1,41 @@
+# SDL3 and libpng: a build of scripts/library in the user's cache folder, else whatever the system has.
+if(DEFINED ENV{XDG_CACHE_HOME} AND NOT "$ENV{XDG_CACHE_HOME}" STREQUAL "")
+    set(cache_folder $ENV{XDG_CACHE_HOME}/quadrelle)
+else()
+    set(cache_folder $ENV{HOME}/.cache/quadrelle)
+endif()
+
+# Sets `result` to the folders of these builds for this target, the newest first.
+function(find_builds library result)
+    file(GLOB builds LIST_DIRECTORIES true ${cache_folder}/${library}-*)
+    if(WIN32)
+        list(FILTER builds INCLUDE REGEX "/${library}-[0-9.]+-windows$")
+    else()
+        list(FILTER builds INCLUDE REGEX "/${library}-[0-9.]+$")
+    endif()
+    list(SORT builds COMPARE NATURAL ORDER DESCENDING)
+    set(${result} ${builds} PARENT_SCOPE)
+endfunction()
+
+find_builds(sdl3 sdl3_builds)
+if(sdl3_builds)
+    find_package(SDL3 3.2 QUIET CONFIG PATHS ${sdl3_builds} NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH)
+endif()
+if(NOT SDL3_FOUND)
+    find_package(SDL3 3.2 REQUIRED CONFIG)
+endif()
+
+# libpng and its zlib are linked into the program where there are archives of them, so that it needs no library beside
+# it.
+find_builds(libpng libpng_builds)
+if(CMAKE_CROSSCOMPILING)
+    list(PREPEND CMAKE_FIND_ROOT_PATH ${libpng_builds})
+else()
+    list(PREPEND CMAKE_PREFIX_PATH ${libpng_builds})
+endif()
+set(library_suffixes ${CMAKE_FIND_LIBRARY_SUFFIXES})
+if(NOT APPLE)
+    list(PREPEND CMAKE_FIND_LIBRARY_SUFFIXES .a)
+endif()
+find_package(PNG 1.6 REQUIRED)
+set(CMAKE_FIND_LIBRARY_SUFFIXES ${library_suffixes})
