@@ -2,17 +2,17 @@
 
 #include "base/platform_files.h"
 
-#include <random>
+#include <cstdio>
 #include <utility>
 
 namespace quadrelle {
 
 namespace {
 
-// Short whatever the target is called, so that it fits wherever the target's name does.
-std::string unlikely_name(const std::string& folder) {
-    std::random_device random;
-    return folder + ".quadrelle-" + std::to_string(random()) + ".tmp";
+// No other running program has it. Short whatever the target is called, so that it fits wherever the target's
+// name does.
+std::string name_of_our_own(const std::string& folder, int attempt) {
+    return folder + ".quadrelle-" + std::to_string(process_number()) + "-" + std::to_string(attempt) + ".tmp";
 }
 
 } // namespace
@@ -23,8 +23,12 @@ Atomic_File::Atomic_File(const std::string& path) : target_(resolve_links(path))
     }
     constexpr int most_attempts = 20;
     for (int i = 0; i < most_attempts && !file_; ++i) {
-        temporary_ = unlikely_name(folder_part(target_));
+        temporary_ = name_of_our_own(folder_part(target_), i);
         file_ = open_file(temporary_, File_Mode::create);
+    }
+    if (file_) {
+        // Blocks come as large as they are to be written.
+        std::setvbuf(file_.get(), nullptr, _IONBF, 0);
     }
 }
 

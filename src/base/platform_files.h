@@ -56,6 +56,8 @@ struct Folder_Entry {
 extern const char path_separator;
 [[nodiscard]] std::string current_directory();
 [[nodiscard]] bool change_directory(const std::string& name);
+// The number of this process; no other one that runs on the machine has it.
+[[nodiscard]] unsigned long process_number();
 
 // A hook for tests: it is asked before every operation that can fail while a file is written (creating,
 // writing, flushing, closing, replacing); the answer true makes it fail. Null, the default, asks nobody.

@@ -121,6 +121,10 @@ bool change_directory(const std::string& name) {
     return chdir(name.c_str()) == 0;
 }
 
+unsigned long process_number() {
+    return static_cast<unsigned long>(getpid());
+}
+
 } // namespace quadrelle
 
 #endif

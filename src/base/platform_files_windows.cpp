@@ -125,6 +125,10 @@ bool change_directory(const std::string& name) {
     return SetCurrentDirectoryW(wide(name).c_str()) != 0;
 }
 
+unsigned long process_number() {
+    return GetCurrentProcessId();
+}
+
 } // namespace quadrelle
 
 #endif
