@@ -5,7 +5,7 @@ file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS tests/*.cpp tests/*.h)
 if(test_sources)
     add_executable(quadrelle_tests ${test_sources})
     target_include_directories(quadrelle_tests PRIVATE ${CMAKE_SOURCE_DIR})
-    target_link_libraries(quadrelle_tests PRIVATE quadrelle_core GTest::gmock GTest::gtest_main)
+    target_link_libraries(quadrelle_tests PRIVATE quadrelle_core PNG::PNG GTest::gmock GTest::gtest_main)
     # The paths reach one file only, so that the others compile alike in every folder.
     set_source_files_properties(tests/support/project_paths.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON
         COMPILE_DEFINITIONS "QUADRELLE_SOURCE_DIR=\"${CMAKE_SOURCE_DIR}\";QUADRELLE_PROGRAM=\"$<TARGET_FILE:quadrelle>\"")

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <limits>
 #include <stdexcept>
+#include <utility>
 
 namespace quadrelle {
 
@@ -24,6 +25,13 @@ std::size_t checked_pixel_count(int width, int height) {
 
 Tile::Tile(int width, int height)
     : width_(width), height_(height), pixels_(checked_pixel_count(width, height)) {}
+
+Tile::Tile(Size size, std::vector<Color> pixels)
+    : width_(size.width), height_(size.height), pixels_(std::move(pixels)) {
+    if (pixels_.size() != checked_pixel_count(width_, height_)) {
+        throw std::length_error("tile pixels");
+    }
+}
 
 std::uint64_t Tile::version() const {
     static std::uint64_t last_version = unknown_version;

@@ -17,6 +17,8 @@ class Tile {
 public:
     // Makes it opaque black. Throws std::length_error for a negative size or more pixels than an int counts.
     Tile(int width, int height);
+    // Throws the same when there are not as many pixels as the size says.
+    Tile(Size size, std::vector<Color> pixels);
     Tile(const Tile&) = default;
     // Nothing may be done any more with a tile that was moved from.
     Tile(Tile&&) = default;

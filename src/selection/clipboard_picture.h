@@ -4,7 +4,7 @@
 // others copied can be taken. SDL's video must be there.
 
 #include "pixels/shared_picture.h"
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 
 #include <cstddef>
 #include <optional>

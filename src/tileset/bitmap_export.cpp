@@ -1,7 +1,7 @@
 #include "tileset/bitmap_export.h"
 
 #include "base/block_file.h"
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "base/platform_files.h"
 #include "screen/screen.h"
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 #include "tests/support/files.h"
 
 #include <SDL3/SDL_stdinc.h>

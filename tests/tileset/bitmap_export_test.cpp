@@ -1,6 +1,6 @@
 #include "tileset/bitmap_export.h"
 
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 #include "tests/support/files.h"
 #include "tests/support/tiles.h"
 

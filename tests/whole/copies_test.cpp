@@ -1,7 +1,7 @@
 // The panes of the copies, and the clipboard that is shared with other programs.
 
 #include "selection/copy_buffer.h"
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 #include "tests/whole/selection_scene.h"
 
 #include <SDL3/SDL_clipboard.h>

@@ -1,4 +1,4 @@
-#include "selection/picture_formats.h"
+#include "pixels/picture_formats.h"
 
 #include "tests/support/tiles.h"
 
