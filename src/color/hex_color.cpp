@@ -1,5 +1,7 @@
 #include "color/hex_color.h"
 
+#include "base/text_lines.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -11,7 +13,6 @@ namespace quadrelle {
 namespace {
 
 constexpr std::string_view digits = "0123456789abcdefABCDEF";
-constexpr std::string_view blanks = " \t\r\n";
 
 std::string doubled(std::string_view text) {
     std::string result;
@@ -32,12 +33,6 @@ Color color_of(std::string text) {
     return Color::from_word(word >> 8U | word << 24U);
 }
 
-std::string_view without_blanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(blanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
-
 } // namespace
 
 std::string hex_text(Color color) {
@@ -48,7 +43,7 @@ std::string hex_text(Color color) {
 }
 
 Hex_Reading read_hex(std::string_view text) {
-    text = without_blanks(text);
+    text = trimmed(text);
     if (text.starts_with('#')) {
         text.remove_prefix(1);
     }

@@ -75,9 +75,6 @@ void write_palette(Data_Stream& record, Palette& palette) {
 
 } // namespace
 
-Palette::Palette(std::string palette_name, int count)
-    : name(std::move(palette_name)), colors(static_cast<std::size_t>(count)) {}
-
 Palette_Store::Palette_Store(std::string file_name) : file_name_(std::move(file_name)) {
     load();
     if (palettes_.empty()) {

@@ -2,20 +2,13 @@
 
 // The named palettes and their file. Draws nothing.
 
-#include "color/color.h"
+#include "color/palette.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace quadrelle {
-
-struct Palette {
-    std::string name;
-    std::vector<Color> colors;
-
-    Palette(std::string palette_name, int count);
-};
 
 // The store is never without a palette; a palette that was read has 0 to 1024 entries. Palettes and entries
 // outside of the store read as "" and opaque black, and are not set.
@@ -33,6 +26,10 @@ public:
     [[nodiscard]] int size() const { return static_cast<int>(palettes_.size()); }
     [[nodiscard]] int count(int palette) const;
     [[nodiscard]] std::string name(int palette) const;
+    // The palette is there.
+    [[nodiscard]] const Palette& palette(int index) const {
+        return palettes_.at(static_cast<std::size_t>(index));
+    }
     [[nodiscard]] Color color(int palette, int entry) const;
     void set_color(int palette, int entry, Color color);
     [[nodiscard]] bool changed() const { return changed_; }
