@@ -6,6 +6,7 @@
 #include "app/hover.h"
 #include "app/key_press.h"
 #include "app/mouse_press.h"
+#include "color/palette_list.h"
 #include "commands/command_table.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
@@ -18,6 +19,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace quadrelle {
 
@@ -69,6 +71,9 @@ bool Editor::show_first_frame() {
     }
     parts_->panes.size_preview();
     tool_colors->reset();
+    if (const std::vector<std::string> notes = palette_list->take_notes(); !notes.empty()) {
+        parts_->panes.hint_lines().report({"Palettes", notes.front()});
+    }
     redraw(Present::yes);
     return true;
 }

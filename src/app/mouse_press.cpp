@@ -4,6 +4,7 @@
 #include "app/editor_parts.h"
 #include "app/held_keys.h"
 #include "app/hover.h"
+#include "app/palette_menu.h"
 #include "app/tool_commands.h"
 #include "canvas/stroke_loop.h"
 #include "panes/tool_color_panel.h"
@@ -82,7 +83,7 @@ void draw_on_canvas(Editor_Parts& editor) {
 
 // The first of two clicks took the palette's colour for that button already: it has it as it is now.
 void edit_palette_color(Editor_Parts& editor, Mouse_Button taken_for) {
-    tool_commands::edit_palette_color(editor.panes.palette());
+    tool_commands::edit_palette_color(editor);
     tool_colors->set_color(taken_for, editor.panes.palette().selected_color());
 }
 
@@ -97,7 +98,7 @@ void answer_double_click(Editor_Parts& editor, Double_Click twice) {
     case Double_Click::edit_left_color: tool_commands::edit_button_color(Mouse_Button::left); break;
     case Double_Click::edit_right_color: tool_commands::edit_button_color(Mouse_Button::right); break;
     case Double_Click::edit_palette_color: edit_palette_color(editor, editor.pointer.button); break;
-    case Double_Click::edit_selected_color: tool_commands::edit_palette_color(editor.panes.palette()); break;
+    case Double_Click::edit_selected_color: tool_commands::edit_palette_color(editor); break;
     }
 }
 
@@ -108,6 +109,9 @@ Command press_beside_canvas(Editor_Parts& editor) {
     }
     const Pane_Click click = editor.panes.click(editor.pointer, editor.clicks);
     answer_double_click(editor, click.twice);
+    if (click.popup != Pane_Popup::none) {
+        palette_menu::open(editor, click.popup);
+    }
     return click.command;
 }
 

@@ -5,6 +5,7 @@
 #include "base/debug_monitor.h"
 #include "base/fatal.h"
 #include "color/color_data.h"
+#include "color/palette_list.h"
 #include "color/palette_store.h"
 #include "panes/toolbox.h"
 #include "screen/screen.h"
@@ -46,6 +47,7 @@ void start_application() {
     dialogs = std::make_unique<Dialogs>();
     toolbox = std::make_unique<Toolbox>(corner_of(window_layout::tool_list));
     data_directory().leave();
+    palette_list = std::make_unique<Palette_List>(*palette_store, data_directory().path("palettes"));
     color_data = std::make_unique<Color_Data>();
     new_tileset_dialog = std::make_unique<New_Tileset_Dialog>();
     options = std::make_unique<Options>(std::make_unique<Options_Dialog>());
@@ -58,6 +60,7 @@ void shut_down_application() {
     editor.reset();
     new_tileset_dialog.reset();
     color_data.reset();
+    palette_list.reset();
     data_directory().enter(Data_Directory::inside);
     palette_store.reset();
     toolbox.reset();

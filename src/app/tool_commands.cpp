@@ -66,11 +66,11 @@ void edit_button_color(Mouse_Button button) {
     }
 }
 
-void edit_palette_color(Palette_Area& palette) {
+void edit_palette_color(Editor_Parts& editor) {
     const std::optional<Color> edited =
-        quadrelle::edit_color("Selected color of the palette", palette.selected_color());
+        quadrelle::edit_color("Selected color of the palette", editor.panes.palette().selected_color());
     if (edited) {
-        palette.store(*edited);
+        editor.panes.store_color(*edited);
     }
 }
 

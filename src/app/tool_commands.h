@@ -9,7 +9,6 @@
 
 namespace quadrelle {
 
-class Palette_Area;
 struct Editor_Parts;
 
 namespace tool_commands {
@@ -28,7 +27,7 @@ Outcome edit_color(Editor_Parts& editor);
 
 // Let the user edit the colour of that button, or the selected one of the palette.
 void edit_button_color(Mouse_Button button);
-void edit_palette_color(Palette_Area& palette);
+void edit_palette_color(Editor_Parts& editor);
 
 } // namespace tool_commands
 

@@ -39,7 +39,7 @@ Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffe
     : canvas_(canvas), documents_(documents), copies_(copies), redraw_(std::move(redraw)),
       preview_(below_title(window_layout::preview)),
       magnification_(below_title(window_layout::magnification), "Magnification", "x"),
-      palette_(corner_of(window_layout::palette), *palette_store),
+      palette_(corner_of(window_layout::palette), *palette_list, toolbox->state().colors),
       selected_color_(corner_of(window_layout::selected_color), palette_, toolbox->state().colors),
       history_(corner_of(window_layout::history)), navigation_(corner_of(window_layout::navigation)),
       menu_bar_([this] { redraw_(Present::no); }) {}
@@ -163,6 +163,9 @@ std::optional<Place> Window_Panes::place_at(Point point) const {
     if (palette_.has_transparent_at(point)) {
         return Place::transparent;
     }
+    if (const Pane_Popup popup = popup_at(point); popup != Pane_Popup::none) {
+        return popup == Pane_Popup::palette_menu ? Place::palette_menu : Place::palette_name;
+    }
     if (const std::optional<Place> place = pane_at(point)) {
         return place;
     }
@@ -205,8 +208,19 @@ Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count)
 }
 
 void Window_Panes::store_color(Color color) {
+    const int before = palette_.index();
     palette_.store(color);
-    hint_lines_.report({"Palette", hex_text(color) + " is stored there."});
+    const bool is_copy = palette_.index() != before;
+    report_palette(hex_text(color) + (is_copy ? " is stored in a copy of it: " + palette_.palette().name + "."
+                                              : " is stored there. Menu, Undo takes it back."));
+}
+
+void Window_Panes::report_palette(std::string_view what) {
+    std::string text;
+    for (const std::string& note : palette_.list().take_notes()) {
+        text += note + " ";
+    }
+    hint_lines_.report({"Palette", text.empty() ? std::string(what) : text});
 }
 
 // With Shift a click on the palette stores.
@@ -237,6 +251,9 @@ std::optional<Mouse_Button> Window_Panes::button_color_at(Point point) const {
 Pane_Click Window_Panes::click(Pointer_State& pointer, int count) {
     if (const Double_Click twice = double_click(pointer, count); twice != Double_Click::none) {
         return {.twice = twice};
+    }
+    if (const Pane_Popup popup = popup_at(pointer.point()); popup != Pane_Popup::none) {
+        return {.popup = popup};
     }
     if (take_click(pointer)) {
         return {};
@@ -270,6 +287,13 @@ bool Window_Panes::take_click(const Pointer_State& pointer) {
     return take_palette_click(pointer) || take_copy_click(pointer);
 }
 
+Pane_Popup Window_Panes::popup_at(Point point) const {
+    if (palette_.menu_button().contains(point)) {
+        return Pane_Popup::palette_menu;
+    }
+    return palette_.name_area().contains(point) ? Pane_Popup::palette_names : Pane_Popup::none;
+}
+
 bool Window_Panes::take_palette_click(const Pointer_State& pointer) {
     if (palette_.has_transparent_at(pointer.point())) {
         tool_colors->set_color(pointer.button, standard_color(Standard_Color::transparent));
@@ -282,7 +306,18 @@ bool Window_Panes::take_palette_click(const Pointer_State& pointer) {
     } else if (color) {
         tool_colors->set_color(pointer.button, *color);
     }
+    if (color && !is_shift_held() && pointer.button == Mouse_Button::left) {
+        drag_palette_entry();
+    }
     return color.has_value();
+}
+
+void Window_Panes::drag_palette_entry() {
+    const int entry = palette_.entry();
+    palette_.drag([this] { redraw_(Present::yes); });
+    if (palette_.entry() != entry) {
+        report_palette("The color is moved in " + palette_.palette().name + ". Menu, Undo takes it back.");
+    }
 }
 
 // The left button chooses a copy, the right one removes it.

@@ -19,6 +19,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string_view>
 
 namespace quadrelle {
 
@@ -38,10 +39,14 @@ enum class Double_Click {
     edit_selected_color
 };
 
+// What a click on a pane opens.
+enum class Pane_Popup { none, palette_menu, palette_names };
+
 // What is still to be done after a click on a pane.
 struct Pane_Click {
     Command command = Command::none;
     Double_Click twice = Double_Click::none;
+    Pane_Popup popup = Pane_Popup::none;
 };
 
 class Window_Panes {
@@ -64,6 +69,11 @@ public:
     void size_preview();
 
     [[nodiscard]] Palette_Area& palette() { return palette_; }
+    [[nodiscard]] const Palette_Area& palette() const { return palette_; }
+    // Makes the colour that of the palette's selected entry, and tells it.
+    void store_color(Color color);
+    // Tells what was done with the palettes, or what went wrong with their files.
+    void report_palette(std::string_view what);
     [[nodiscard]] const Preview_Pane& preview() const { return preview_; }
     [[nodiscard]] Hint_Lines& hint_lines() { return hint_lines_; }
     [[nodiscard]] const Hint_Lines& hint_lines() const { return hint_lines_; }
@@ -90,7 +100,8 @@ private:
     [[nodiscard]] bool take_click(const Pointer_State& pointer);
     [[nodiscard]] std::optional<std::size_t> copy_at(Point point) const;
     [[nodiscard]] bool take_palette_click(const Pointer_State& pointer);
-    void store_color(Color color);
+    void drag_palette_entry();
+    [[nodiscard]] Pane_Popup popup_at(Point point) const;
     [[nodiscard]] bool take_copy_click(const Pointer_State& pointer);
     [[nodiscard]] Command click_buttons(const Pointer_State& pointer);
 

@@ -220,11 +220,6 @@ Palette_Reading read_hex_text(Text_Lines lines, std::string name, Alpha_Place al
     return palette_of(std::move(name), std::move(colors));
 }
 
-std::string name_of_file(const std::string& file_name) {
-    const std::string name = file_part(file_name);
-    return name.substr(0, name.rfind('.') == 0 ? std::string::npos : name.rfind('.'));
-}
-
 // A text that begins with such a comment is of the kind that has alpha in front.
 Alpha_Place alpha_place(std::string_view text, const std::string& file_name) {
     const bool has_comment = trimmed(text).starts_with(';');
@@ -232,6 +227,12 @@ Alpha_Place alpha_place(std::string_view text, const std::string& file_name) {
 }
 
 } // namespace
+
+std::string name_of_file(const std::string& path) {
+    const std::string name = file_part(path);
+    const std::size_t dot = name.rfind('.');
+    return dot == 0 ? name : name.substr(0, dot);
+}
 
 Palette_Reading read_palette(std::span<const std::uint8_t> content, const std::string& file_name) {
     std::string name = name_of_file(file_name);

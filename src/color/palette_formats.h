@@ -26,6 +26,8 @@ struct Palette_Reading {
                                            const std::string& file_name);
 // Reads that file, unless it is too large for any palette.
 [[nodiscard]] Palette_Reading read_palette_file(const std::string& path);
+// Returns the file's name without folders and extension, as palettes from it are called.
+[[nodiscard]] std::string name_of_file(const std::string& path);
 // Takes colours in hexadecimal digits with blanks, commas or semicolons between them.
 [[nodiscard]] Palette_Reading read_hex_colors(std::string_view text);
 

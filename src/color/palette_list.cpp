@@ -18,6 +18,8 @@ std::unique_ptr<Palette_List> palette_list;
 namespace {
 
 constexpr std::string_view extension = "gpl";
+constexpr const char* first_shown_file = "shown.txt";
+constexpr std::size_t longest_name = 1000;
 constexpr std::size_t most_files = 1000;
 constexpr std::size_t most_steps = 100;
 constexpr std::size_t longest_stem = 80; // in bytes
@@ -67,6 +69,7 @@ std::span<const std::uint8_t> bytes_of(const std::string& text) {
 Palette_List::Palette_List(const Palette_Store& store, std::string folder)
     : store_(store), folder_(std::move(folder)) {
     read_folder();
+    read_first_shown();
 }
 
 void Palette_List::read_folder() {
@@ -117,6 +120,7 @@ std::optional<int> Palette_List::find(std::string_view name) const {
 
 int Palette_List::add(Palette palette) {
     palette.name = free_name(clean_name(palette.name), -1);
+    palette.colors.resize(std::min(palette.colors.size(), most_palette_colors));
     Kept_Palette kept{std::move(palette), {}};
     write(kept);
     return insert(std::move(kept));
@@ -130,17 +134,12 @@ int Palette_List::insert(Kept_Palette kept) {
     return store_.size() + static_cast<int>(inserted - kept_.begin());
 }
 
-int Palette_List::make_copy(int index) {
-    Palette copy = palette(index);
-    copy.colors.resize(std::min(copy.colors.size(), most_palette_colors));
-    return add(std::move(copy));
-}
-
 int Palette_List::change(int index, std::vector<Color> colors) {
     if (colors == palette(index).colors) {
         return index;
     }
-    const int changed = is_kept(index) ? index : make_copy(index);
+    colors.resize(std::min(colors.size(), most_palette_colors));
+    const int changed = is_kept(index) ? index : add(palette(index));
     Kept_Palette& kept_one = kept(changed);
     kept_one.before.push_back(std::exchange(kept_one.palette.colors, std::move(colors)));
     kept_one.after.clear();
@@ -153,7 +152,7 @@ int Palette_List::change(int index, std::vector<Color> colors) {
 
 // The old file goes when the new one is there.
 int Palette_List::rename(int index, const std::string& name) {
-    const int renamed = is_kept(index) ? index : make_copy(index);
+    const int renamed = is_kept(index) ? index : add(palette(index));
     Kept_Palette taken = kept(renamed);
     taken.palette.name = free_name(clean_name(name), renamed);
     const std::string old_file = std::exchange(taken.file_name, {});
@@ -232,6 +231,22 @@ std::string Palette_List::free_file_name(const std::string& palette_name) const 
 
 std::string Palette_List::path_of(const std::string& file_name) const {
     return joined_path(folder_, file_name);
+}
+
+// It is no loss when it cannot be written.
+void Palette_List::set_first_shown(int index) {
+    first_shown_ = index;
+    if (!kept_.empty()) {
+        static_cast<void>(write_file(path_of(first_shown_file), bytes_of(palette(index).name)));
+    }
+}
+
+void Palette_List::read_first_shown() {
+    std::string name(longest_name, ' ');
+    if (const File_Handle file = open_file(path_of(first_shown_file), File_Mode::read)) {
+        name.resize(read_bytes(file.get(), {reinterpret_cast<std::uint8_t*>(name.data()), name.size()}));
+        first_shown_ = find(name).value_or(0);
+    }
 }
 
 std::vector<std::string> Palette_List::take_notes() {

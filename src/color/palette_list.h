@@ -25,8 +25,8 @@ public:
     [[nodiscard]] bool is_kept(int index) const { return index >= store_.size(); }
     [[nodiscard]] std::optional<int> find(std::string_view name) const;
 
-    // Keeps it under a name that no other one has. It has a colour, and no more than the most. Returns its
-    // index.
+    // Keeps it, which has a colour, under a name that no other one has, and returns its index. There and in
+    // changes what is beyond the most colours is cut off.
     int add(Palette palette);
     // These return the index of the palette that has it then: one of the store stays, and a copy is kept.
     int change(int index, std::vector<Color> colors);
@@ -39,6 +39,10 @@ public:
     // There is something to undo, or to redo.
     void undo(int index);
     void redo(int index);
+
+    // Which palette is shown first at the next start; that is kept only beside palettes that are kept.
+    [[nodiscard]] int first_shown() const { return first_shown_; }
+    void set_first_shown(int index);
 
     // Hands over what went wrong since the last time, as sentences.
     [[nodiscard]] std::vector<std::string> take_notes();
@@ -55,8 +59,8 @@ private:
     [[nodiscard]] const Kept_Palette& kept(int index) const;
     void read_folder();
     void read_file(const std::string& name);
+    void read_first_shown();
     int insert(Kept_Palette kept);
-    int make_copy(int index);
     void write(Kept_Palette& kept);
     void step(int index, std::vector<std::vector<Color>>& from, std::vector<std::vector<Color>>& to);
     [[nodiscard]] std::string free_name(const std::string& wanted, int own) const;
@@ -67,6 +71,7 @@ private:
     std::string folder_;
     std::vector<Kept_Palette> kept_; // by name
     std::vector<std::string> notes_;
+    int first_shown_ = 0;
 };
 
 // Built at start-up after the store, destroyed before it.

@@ -1,10 +1,17 @@
 #include "panes/palette_area.h"
 
 #include "color/standard_colors.h"
+#include "screen/events.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/shown_text.h"
 #include "ui/swatch.h"
+#include "ui/text_button.h"
 #include "ui/window_layout.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
 
 namespace quadrelle {
 
@@ -17,6 +24,11 @@ constexpr int coarse_rows = 4;
 constexpr int button_gap = 4;
 constexpr int swatch_width = 24;
 constexpr int swatch_gap = 8;
+constexpr Size menu_button_size{62, 16};
+constexpr int menu_button_drop = 2;
+constexpr int menu_text_rise = 3;
+constexpr int cell_mark_width = 2;
+constexpr int corner_edge = 7; // of the mark of a colour in use
 
 static_assert(window_layout::palette.height == window_layout::pane_height(name_height + grid_size.height));
 
@@ -27,14 +39,14 @@ Rectangle button_at(const Rectangle& client, Sprite sprite, int right) {
 
 } // namespace
 
-Palette_Area::Palette_Area(Point position, Palette_Store& store)
+Palette_Area::Palette_Area(Point position, Palette_List& list, const Tool_Colors& colors)
     : Pane(below_title({position.x, position.y, window_layout::palette.width, window_layout::palette.height}),
            "Palette"),
-      store_(store) {}
+      list_(list), colors_(colors), palette_(list.first_shown()) {}
 
 int Palette_Area::divisions() const {
     int divisions = 1;
-    while (divisions * divisions * coarse_columns * coarse_rows < store_.count(palette_)) {
+    while (divisions * divisions * coarse_columns * coarse_rows < count()) {
         ++divisions;
     }
     return divisions;
@@ -54,6 +66,11 @@ Rectangle Palette_Area::cell(int entry) const {
             client_area().y + name_height + entry / columns() * size.height, size.width, size.height};
 }
 
+Rectangle Palette_Area::menu_button() const {
+    return {area.right() - menu_button_size.width, area.y + menu_button_drop, menu_button_size.width,
+            menu_button_size.height};
+}
+
 Rectangle Palette_Area::more_button() const {
     return button_at(client_area(), Sprite::button_more, client_area().right());
 }
@@ -67,38 +84,69 @@ Rectangle Palette_Area::transparent_swatch() const {
     return {button.x - swatch_gap - swatch_width, button.y, swatch_width, button.height};
 }
 
-// A palette from a file may have any name: what has no room is left out.
+Rectangle Palette_Area::name_area() const {
+    const Rectangle client = client_area();
+    return {client.x, client.y, transparent_swatch().x - client.x - button_gap, less_button().height};
+}
+
 std::string Palette_Area::shown_name() const {
-    std::string name = store_.name(palette_).substr(0, static_cast<std::size_t>(grid_size.width));
-    std::erase_if(name, [](char letter) { return letter == '\r'; });
-    const int room = transparent_swatch().x - client_area().x - button_gap;
-    while (screen->text_width(Font::pane, name) > room) {
-        name.pop_back();
-    }
-    return name;
+    return fitted_text(Font::pane, palette().name, name_area().width, Left_Out::middle);
 }
 
 void Palette_Area::draw() const {
     Pane::draw();
     const Rectangle client = client_area();
+    draw_button(menu_button(), Font::pane, "Menu", -menu_text_rise);
     screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
     screen->draw_sprite(Sprite::button_less, {less_button().x, less_button().y});
     screen->draw_sprite(Sprite::button_more, {more_button().x, more_button().y});
     draw_swatch(transparent_swatch(), standard_color(Standard_Color::transparent));
     screen->draw_outline(transparent_swatch(), standard_color(Standard_Color::dark_frame));
-    for (int entry = 0; entry < store_.count(palette_); ++entry) {
-        draw_swatch(cell(entry), store_.color(palette_, entry));
+    draw_entries();
+}
+
+// While an entry is dragged, they stand as they would if it was let go.
+void Palette_Area::draw_entries() const {
+    const std::vector<Color> colors = with_moved_entry(drop_.value_or(entry_));
+    for (int entry = 0; entry < count(); ++entry) {
+        draw_swatch(cell(entry), colors[static_cast<std::size_t>(entry)]);
     }
     if (has_entries()) {
-        draw_cell_mark(cell(entry_));
+        draw_cell_mark(cell(drop_.value_or(entry_)));
+    }
+    if (!drop_) {
+        draw_color_in_use(Mouse_Button::left);
+        draw_color_in_use(Mouse_Button::right);
+    }
+}
+
+// In the upper corner at that button's side, as far as the cells have room for it. Of several that are equal
+// the selected one has the mark, or else the first one.
+void Palette_Area::draw_color_in_use(Mouse_Button button) const {
+    const std::vector<Color>& colors = palette().colors;
+    const Color color = colors_.of(button);
+    const auto found = std::ranges::find(colors, color);
+    if (found == colors.end()) {
+        return;
+    }
+    const bool is_selected = selected_color() == color;
+    const Rectangle place =
+        is_selected ? cell(entry_).inset(cell_mark_width) : cell(static_cast<int>(found - colors.begin()));
+    const int edge = std::min({corner_edge, place.width / 2, place.height});
+    for (int row = 0; row < edge; ++row) {
+        const int length = edge - row;
+        const int x = button == Mouse_Button::left ? place.x : place.right() - length;
+        const int end = button == Mouse_Button::left ? x + length - 1 : x;
+        screen->fill_rect({x, place.y + row, length, 1}, standard_color(Standard_Color::white));
+        screen->fill_rect({end, place.y + row, 1, 1}, standard_color(Standard_Color::black));
     }
 }
 
 std::optional<Color> Palette_Area::click(Point point) {
-    if (less_button().contains(point)) {
-        step_palette(-1);
-    } else if (more_button().contains(point)) {
-        step_palette(1);
+    const int step = less_button().contains(point) ? -1 : more_button().contains(point) ? 1 : 0;
+    if (step != 0) {
+        show((palette_ + step + list_.size()) % list_.size());
+        select(0);
     }
     const std::optional<int> entry = entry_at(point);
     if (!entry) {
@@ -108,8 +156,30 @@ std::optional<Color> Palette_Area::click(Point point) {
     return selected_color();
 }
 
+void Palette_Area::drag(const std::function<void()>& redraw) {
+    follow_pointer("palette", redraw,
+                   [this](const Input_Event& motion) { drop_ = entry_at(motion.pointer.point()); });
+    const std::optional<int> target = std::exchange(drop_, std::nullopt);
+    if (target && *target != entry_) {
+        change(with_moved_entry(*target));
+        select(*target);
+    }
+}
+
+std::vector<Color> Palette_Area::with_moved_entry(int target) const {
+    std::vector<Color> colors = palette().colors;
+    const auto from = colors.begin() + entry_;
+    const auto to = colors.begin() + target;
+    if (from < to) {
+        std::rotate(from, from + 1, to + 1);
+    } else if (to < from) {
+        std::rotate(to, from, from + 1);
+    }
+    return colors;
+}
+
 std::optional<int> Palette_Area::entry_at(Point point) const {
-    for (int entry = 0; entry < store_.count(palette_); ++entry) {
+    for (int entry = 0; entry < count(); ++entry) {
         if (cell(entry).contains(point)) {
             return entry;
         }
@@ -117,15 +187,50 @@ std::optional<int> Palette_Area::entry_at(Point point) const {
     return std::nullopt;
 }
 
-void Palette_Area::step_palette(int step) {
-    palette_ = (palette_ + step + store_.size()) % store_.size();
-    entry_ = 0;
+void Palette_Area::show(int index) {
+    palette_ = std::clamp(index, 0, list_.size() - 1);
+    if (list_.first_shown() != palette_) {
+        list_.set_first_shown(palette_);
+    }
+    select(entry_);
+}
+
+void Palette_Area::select(int entry) {
+    entry_ = std::clamp(entry, 0, std::max(count() - 1, 0));
+}
+
+Color Palette_Area::selected_color() const {
+    return has_entries() ? palette().colors.at(static_cast<std::size_t>(entry_)) : Color();
+}
+
+void Palette_Area::store(Color color) {
+    std::vector<Color> colors = palette().colors;
+    if (has_entries()) {
+        colors.at(static_cast<std::size_t>(entry_)) = color;
+        change(std::move(colors));
+    }
+}
+
+void Palette_Area::change(std::vector<Color> colors) {
+    show(list_.change(palette_, std::move(colors)));
+}
+
+void Palette_Area::insert(const std::vector<Color>& inserted) {
+    std::vector<Color> colors = palette().colors;
+    colors.insert(colors.begin() + entry_ + 1, inserted.begin(), inserted.end());
+    change(std::move(colors));
+    select(entry_ + static_cast<int>(inserted.size()));
+}
+
+void Palette_Area::add(Palette palette) {
+    show(list_.add(std::move(palette)));
+    select(0);
 }
 
 Color Palette_Area::move_selection(int dx, int dy) {
     const int column = entry_ % columns() + dx;
     const int entry = entry_ + dx + dy * columns();
-    if (column >= 0 && column < columns() && entry >= 0 && entry < store_.count(palette_)) {
+    if (column >= 0 && column < columns() && entry >= 0 && entry < count()) {
         entry_ = entry;
     }
     return selected_color();

@@ -22,13 +22,17 @@ struct File_Dialog_Row {
 };
 
 // clang-format off
-constexpr std::array<File_Dialog_Row, 6> file_dialog_table{{
+constexpr std::array<File_Dialog_Row, 10> file_dialog_table{{
     {File_Dialog_Kind::load_tileset,    {"Load",   File_Direction::open, "Quadrelle file (*.qdl)", "qdl", ""}},
     {File_Dialog_Kind::save_tileset,    {"Save",   File_Direction::save, "Quadrelle file (*.qdl)", "qdl", "qdl"}},
     {File_Dialog_Kind::open_any,        {"Open",   File_Direction::open, "All files (*.*)",        "*",   ""}},
     {File_Dialog_Kind::open_any_second, {"Open",   File_Direction::open, "All files (*.*)",        "*",   ""}},
     {File_Dialog_Kind::import_bitmap,   {"Import", File_Direction::open, "Bitmap file (*.bmp)",    "bmp", ""}},
     {File_Dialog_Kind::export_bitmap,   {"Export", File_Direction::save, "Bitmap file (*.bmp)",    "bmp", "bmp"}},
+    {File_Dialog_Kind::import_palette,  {"Import palette", File_Direction::open, "All files (*.*)", "*", ""}},
+    {File_Dialog_Kind::export_gpl,      {"Export palette", File_Direction::save, "Palette file (*.gpl)", "gpl", "gpl"}},
+    {File_Dialog_Kind::export_hex,      {"Export palette", File_Direction::save, "Hexadecimal colors (*.hex)", "hex", "hex"}},
+    {File_Dialog_Kind::export_png_palette, {"Export palette", File_Direction::save, "Picture (*.png)", "png", "png"}},
 }};
 // clang-format on
 

@@ -17,6 +17,10 @@ enum class File_Dialog_Kind : std::int32_t {
     open_any_second,
     import_bitmap,
     export_bitmap,
+    import_palette,
+    export_gpl,
+    export_hex,
+    export_png_palette,
     count
 };
 

@@ -44,6 +44,8 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Click on the brush under Selected",    "brings the stamp back, after a size took the built-in brush"},
     {"Left or right button on the palette",  "takes the color for that button"},
     {"Shift and click on the palette",       "stores the lit color there; a right click stores the other one"},
+    {"Drag in the palette",                  "moves the color to another place"},
+    {"Menu and name of the palette",         "open all that can be done with palettes, and the list of them"},
     {"Double click on a color",              "edits it: a button's, one of the palette, or the one under Selected"},
     {"Drag in HSV Selector",                 "picks a hue from the bar, or a color from the square for that button"},
     {"Drag or click in Handles",             "changes the lit color"},

@@ -25,11 +25,14 @@ protected:
         return {area.client_area().right() - 5, area.client_area().y + 5};
     }
     static Point less(const Palette_Area& area) { return {more(area).x - 19, more(area).y}; }
+
+    Tool_Colors colors_;
 };
 
 TEST_F(Palette_Area_Test, shows_and_selects_the_entries) {
     Palette_Store store("missing.dat");
-    Palette_Area area(position, store);
+    Palette_List list(store, folder().path("palettes"));
+    Palette_Area area(position, list, colors_);
     area.draw();
     for (const Point entry : {Point{0, 0}, {7, 0}, {3, 2}, {7, 3}}) {
         const Color color = store.color(0, entry.y * 8 + entry.x);
@@ -47,7 +50,8 @@ TEST_F(Palette_Area_Test, shows_and_selects_the_entries) {
 
 TEST_F(Palette_Area_Test, buttons_step_through_the_palettes_and_around) {
     Palette_Store store("missing.dat");
-    Palette_Area area(position, store);
+    Palette_List list(store, folder().path("palettes"));
+    Palette_Area area(position, list, colors_);
     area.click(cell(area, 4, 1));
     EXPECT_EQ(area.click(more(area)), std::nullopt);
     EXPECT_EQ(area.selected_color(), store.color(1, 0));
@@ -67,7 +71,8 @@ TEST_F(Palette_Area_Test, every_number_of_entries_has_its_room) {
     for (const Case& test : {Case{1, 24, 20}, {32, 24, 20}, {33, 12, 10}, {1024, 4, 3}}) {
         Palette_Store store = store_with(test.entries);
         ASSERT_EQ(store.count(0), test.entries);
-        Palette_Area area(position, store);
+        Palette_List list(store, folder().path("palettes"));
+    Palette_Area area(position, list, colors_);
         area.draw();
         const Rectangle client = area.client_area();
         int hits = 0;

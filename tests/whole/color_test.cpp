@@ -1,7 +1,6 @@
 // The column of colour panes and the palette in the whole program.
 
-#include "base/data_directory.h"
-#include "color/palette_store.h"
+#include "color/palette_list.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL_keyboard.h>
@@ -68,36 +67,32 @@ TEST_F(Color_Test, handles_and_variations_are_about_the_active_side) {
     EXPECT_EQ(right(), Color(253, 255, 255));
 }
 
-TEST_F(Color_Test, tool_colours_are_stored_in_the_palette_and_its_file) {
+TEST_F(Color_Test, tool_colours_are_stored_in_a_palette_that_is_kept) {
+    const auto entry = [](int index) {
+        return palette_list->palette(3).colors.at(static_cast<std::size_t>(index));
+    };
     tools().colors.set(Mouse_Button::left, {1, 2, 3, 4});
     tools().colors.set(Mouse_Button::right, {5, 6, 7});
     // Without shift the entry's colour is taken, and nothing stored.
     play(script().click(entry_10, Mouse_Button::right));
     EXPECT_EQ(right(), palette_store->color(0, 10));
-    EXPECT_FALSE(palette_store->changed());
+    EXPECT_EQ(palette_list->size(), 3);
     play(script().click(store_button));
-    EXPECT_EQ(palette_store->color(0, 10), Color(1, 2, 3, 4));
+    EXPECT_EQ(entry(10), Color(1, 2, 3, 4));
     tools().colors.set(Mouse_Button::right, {5, 6, 7});
     SDL_SetModState(SDL_KMOD_LSHIFT);
     play(script().click({entry_10.x + 24, entry_10.y}, Mouse_Button::right));
-    EXPECT_EQ(palette_store->color(0, 11), Color(5, 6, 7));
+    EXPECT_EQ(entry(11), Color(5, 6, 7));
     EXPECT_EQ(right(), Color(5, 6, 7));
     play(script().click({entry_10.x, entry_10.y + 20}));
-    EXPECT_EQ(palette_store->color(0, 18), Color(1, 2, 3, 4));
+    EXPECT_EQ(entry(18), Color(1, 2, 3, 4));
     // The left button stores what Store does.
     tools().colors.active_side = Mouse_Button::right;
     play(script().click(entry_10).click({entry_10.x + 24, entry_10.y}, Mouse_Button::right));
-    EXPECT_EQ(palette_store->color(0, 10), Color(5, 6, 7));
-    EXPECT_EQ(palette_store->color(0, 11), Color(1, 2, 3, 4));
-    play(script().click(entry_10, Mouse_Button::right).click({entry_10.x + 24, entry_10.y}));
-    const std::string path = folder().data_path("palette.dat");
-    EXPECT_TRUE(stored_text(path).empty());
-    ASSERT_TRUE(data_directory().enter(Data_Directory::inside));
-    palette_store.reset();
-    data_directory().leave();
-    // Entries follow the count, each as four numbers.
-    EXPECT_TRUE(stored_text(path).substr(4).starts_with("3,32,255,255,255,255,0,0,0,255,97,18,124"));
-    EXPECT_NE(stored_text(path).find(",1,2,3,4,5,6,7,255,"), std::string::npos);
+    EXPECT_EQ(entry(10), Color(5, 6, 7));
+    EXPECT_EQ(entry(11), Color(1, 2, 3, 4));
+    EXPECT_EQ(palette_list->size(), 4);
+    EXPECT_FALSE(palette_store->changed());
 }
 
 TEST_F(Color_Test, both_colours_are_in_view_and_can_be_lit_whatever_the_tool_is) {
@@ -128,7 +123,7 @@ TEST_F(Color_Test, transparent_swatch_makes_pens_erase) {
     SDL_SetModState(SDL_KMOD_LSHIFT);
     play(script().click(transparent_swatch));
     EXPECT_EQ(left(), Color(0, 0, 0, 0));
-    EXPECT_FALSE(palette_store->changed());
+    EXPECT_EQ(palette_list->size(), 3);
 }
 
 } // namespace

@@ -383,7 +383,7 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
     execute(Command::pen);
     const Point store_button{110, 619};
     play(script().click(store_button));
-    EXPECT_EQ(report(), "#000000 is stored there.");
+    EXPECT_EQ(report(), "#000000 is stored in a copy of it: Default 2.");
     make_set({8, 9}, 1, [](int, Point) { return black; });
     expect_reports({{Command::rotate, "Only what is as wide as high can be turned."}});
     editor->canvas().work_area().float_paste({Tile(3, 2), {1, 1}});
