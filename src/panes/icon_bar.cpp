@@ -65,16 +65,33 @@ void for_each_icon(Use use) {
     }
 }
 
-// The smallest of the icons has no plate of its own.
+struct Placed_Sprite {
+    Sprite sprite;
+    Point place; // in the icon
+};
+
+// The one icon without a plate of its own: the tile in the middle, and four arrows that point at it.
+constexpr std::array centring_icon = std::to_array<Placed_Sprite>({
+    {Sprite::background_aligner, {8, 8}},
+    {Sprite::seam_arrow_down, {6, 2}},
+    {Sprite::seam_arrow_up, {6, 10}},
+    {Sprite::seam_arrow_right, {2, 6}},
+    {Sprite::seam_arrow_left, {10, 6}},
+});
+
+void draw_centring_icon(const Rectangle& area) {
+    screen->draw_panel(area, standard_color(Standard_Color::pane_background));
+    for (const Placed_Sprite& part : centring_icon) {
+        screen->draw_sprite(part.sprite, {area.x + part.place.x, area.y + part.place.y});
+    }
+}
+
 void draw_icon(Sprite icon, const Rectangle& area, bool is_lit) {
     if (icon == Sprite::background_aligner) {
-        const Rectangle sprite = sprite_rect(icon);
-        screen->draw_panel(area, standard_color(Standard_Color::pane_background));
-        const Rectangle middle = centred({sprite.width, sprite.height}, area);
-        screen->draw_sprite(icon, {middle.x, middle.y});
-        return;
+        draw_centring_icon(area);
+    } else {
+        screen->draw_sprite(is_lit ? lit_twin(icon) : icon, {area.x, area.y});
     }
-    screen->draw_sprite(is_lit ? lit_twin(icon) : icon, {area.x, area.y});
 }
 
 } // namespace
