@@ -3,6 +3,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 namespace quadrelle {
@@ -64,6 +65,14 @@ Point icons_position(const Pane& row) {
     return {row.client_area().x, row.client_area().y - 1};
 }
 
+void draw_icons(const Pane& row, const Texture& icons, int count) {
+    const Point corner = icons_position(row);
+    screen->draw_texture(icons, corner);
+    for (int i = 0; i < count; ++i) {
+        draw_answer({corner.x + i * icon_edge, corner.y, icon_edge, icon_edge});
+    }
+}
+
 int icon_at(const Pane& row, Point point, int count) {
     const Point corner = icons_position(row);
     const Rectangle icons{corner.x, corner.y, count * icon_edge, icon_edge};
@@ -96,8 +105,8 @@ void Brush_Selector::draw(const Chosen_Brush& chosen) {
     update_icons(chosen);
     shape_row_.draw();
     size_row_.draw();
-    screen->draw_texture(*shape_icons_, icons_position(shape_row_));
-    screen->draw_texture(*size_icons_, icons_position(size_row_));
+    draw_icons(shape_row_, *shape_icons_, brush_shape_count);
+    draw_icons(size_row_, *size_icons_, brush_size_count);
 }
 
 bool Brush_Selector::click(Point point, Chosen_Brush& chosen) const {

@@ -4,6 +4,7 @@
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "ui/held_button.h"
+#include "ui/control.h"
 #include "ui/swatch.h"
 #include "ui/window_layout.h"
 
@@ -62,6 +63,10 @@ constexpr int middle_channel = 128;
 
 constexpr bool is_hsl(int row) {
     return row >= first_hsl_row;
+}
+
+constexpr double middle_of(int row) {
+    return is_hsl(row) ? 0.5 : middle_channel / 255.0;
 }
 
 } // namespace
@@ -160,9 +165,19 @@ void Color_Handles::press(int button) {
     switch (step_row.at(static_cast<std::size_t>(button % buttons_in_row)).type) {
     case Button_Type::less: result = step(row, -1); break;
     case Button_Type::more: result = step(row, 1); break;
-    default: set_fraction(row, is_hsl(row) ? 0.5 : middle_channel / 255.0); break;
+    default: set_fraction(row, middle_of(row)); break;
     }
     take(row, result);
+}
+
+// Where the button leads to is not where the row is already.
+bool Color_Handles::changes_by(int button) const {
+    const int row = button / buttons_in_row;
+    switch (step_row.at(static_cast<std::size_t>(button % buttons_in_row)).type) {
+    case Button_Type::less: return fraction(row) > 0;
+    case Button_Type::more: return fraction(row) < 1;
+    default: return fraction(row) != middle_of(row);
+    }
 }
 
 std::optional<int> Color_Handles::button_at(Point point) const {
@@ -245,6 +260,9 @@ void Color_Handles::draw() const {
     picture_.draw_at({first.x, first.y});
     for (int row = 0; row < row_count; ++row) {
         draw_row(row);
+    }
+    for (const auto& button : step_buttons_) {
+        draw_answer(button->area, usable_if(changes_by(button->id)));
     }
 }
 

@@ -38,6 +38,7 @@ private:
     int step(int row, int amount);
     void set_fraction(int row, double fraction);
     void press(int button);
+    [[nodiscard]] bool changes_by(int button) const;
     void drag(int row, Point point, const std::function<void()>& redraw);
     void take(int row, int result);
     [[nodiscard]] std::optional<int> button_at(Point point) const;

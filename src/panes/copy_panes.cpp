@@ -5,6 +5,7 @@
 #include "commands/command_table.h"
 #include "screen/screen.h"
 #include "ui/checkerboard.h"
+#include "ui/control.h"
 #include "ui/swatch.h"
 #include "ui/text_button.h"
 #include "ui/window_layout.h"
@@ -94,7 +95,7 @@ Rectangle Copy_Panes::cell(std::size_t index) const {
     return {client.x + column * cell_edge, client.y + row * cell_edge, cell_edge, cell_edge};
 }
 
-void Copy_Panes::draw(const Copy_Buffer& copies) {
+void Copy_Panes::draw(const Copy_Buffer& copies, const std::function<bool(Command)>& can_do) {
     draw_current(copies);
     previous_.draw();
     previous_.clear(standard_color(Standard_Color::frame));
@@ -103,7 +104,8 @@ void Copy_Panes::draw(const Copy_Buffer& copies) {
     }
     commands_.draw();
     for (std::size_t i = 0; i < button_count; ++i) {
-        draw_button(buttons_.at(i), Font::pane, label(button_commands.at(i)), 0);
+        const Command command = button_commands.at(i);
+        draw_button(buttons_.at(i), {Font::pane, label(command)}, usable_if(can_do(command)));
     }
 }
 
@@ -121,6 +123,7 @@ void Copy_Panes::draw_copy(const Copy_Buffer& copies, std::size_t index) {
     if (index == copies.current_index()) {
         draw_mark_around(picture);
     }
+    draw_outlined_answer(picture);
 }
 
 void Copy_Panes::draw_picture(const Tile& picture, Shown_Tile& shown, const Rectangle& area) const {

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -23,7 +24,8 @@ public:
 
     // Puts the panes into their column from `top` down, or higher where they would leave it.
     void place(int top);
-    void draw(const Copy_Buffer& copies);
+    // `can_do` tells which commands would do something.
+    void draw(const Copy_Buffer& copies, const std::function<bool(Command)>& can_do);
 
     [[nodiscard]] const Pane& current() const { return current_; }
     [[nodiscard]] const Pane& previous() const { return previous_; }

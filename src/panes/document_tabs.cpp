@@ -3,6 +3,7 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "screen/texture.h"
+#include "ui/control.h"
 #include "ui/shown_text.h"
 #include "ui/window_layout.h"
 
@@ -24,6 +25,15 @@ std::unique_ptr<Texture> make_label(const std::string& title, bool is_current) {
     // The end of a long path says more than its start.
     return screen->make_header(fitted_text(Font::pane_header, title, longest_title, Left_Out::start),
                                is_current ? Header_Style::active : Header_Style::passive);
+}
+
+// Up to the slant at its right end, which goes one pixel to the right in each row.
+void draw_answer_on_tab(const Rectangle& tab) {
+    const Control_State state = control_state(tab);
+    const int slant = tab.right() - sprite_rect(Sprite::pane_header_end).width + 2;
+    for (int y = 1; state != Control_State::idle && y + 1 < tab.height; ++y) {
+        screen->fill_rect({tab.x + 1, tab.y + y, slant + y - tab.x - 1, 1}, answer_tint(state));
+    }
 }
 
 } // namespace
@@ -79,12 +89,15 @@ bool Document_Tabs::hides_last() const {
 void Document_Tabs::draw() const {
     for (const Tab& tab : tabs_) {
         screen->draw_texture(*tab.label, {tab.area.x, tab.area.y});
+        draw_answer_on_tab(tab.area);
     }
     if (hides_first()) {
         screen->draw_sprite(Sprite::button_less, {left_arrow.x, left_arrow.y});
+        draw_answer(left_arrow);
     }
     if (hides_last()) {
         screen->draw_sprite(Sprite::button_more, {right_arrow.x, right_arrow.y});
+        draw_answer(right_arrow);
     }
 }
 

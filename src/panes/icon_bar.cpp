@@ -4,6 +4,7 @@
 #include "panes/command_icons.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 #include <algorithm>
@@ -102,6 +103,7 @@ void Icon_Bar::draw(const std::function<bool(Command)>& is_pressed) const {
             screen->draw_sprite(Sprite::verti_icon_separator, {area.x, area.y - separator_height});
         }
         draw_icon(icon_of(icon.command), area, is_pressed(icon.command));
+        draw_answer(area);
     });
 }
 

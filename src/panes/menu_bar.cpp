@@ -4,6 +4,7 @@
 #include "commands/command_table.h"
 #include "commands/menu_table.h"
 #include "screen/screen.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 #include <algorithm>
@@ -134,13 +135,19 @@ Command Menu_Bar::click(Pointer_State& pointer) {
     Command chosen = Command::none;
     run_modal({"menu",
                [&] {
-                   redraw_behind_();
+                   draw_behind();
                    draw_open_menu(pointer);
                    screen->present();
                },
                [&](const Input_Event& event) { return handle(event, pointer, chosen); }});
     open_menu_ = -1;
+    forget_press();
     return chosen;
+}
+
+void Menu_Bar::draw_behind() const {
+    const Behind the_menu;
+    redraw_behind_();
 }
 
 Loop_Step Menu_Bar::handle(const Input_Event& event, Pointer_State& pointer, Command& chosen) {

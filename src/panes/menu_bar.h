@@ -49,6 +49,7 @@ private:
 
     void add_menu(std::size_t column);
     void draw_header(const Menu& menu, bool is_highlighted) const;
+    void draw_behind() const;
     void draw_open_menu(const Pointer_State& pointer) const;
     // Returns null while none is open.
     [[nodiscard]] const Menu* open_menu() const;

@@ -4,6 +4,7 @@
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/control.h"
 #include "ui/shown_text.h"
 #include "ui/swatch.h"
 #include "ui/text_button.h"
@@ -96,12 +97,13 @@ std::string Palette_Area::shown_name() const {
 void Palette_Area::draw() const {
     Pane::draw();
     const Rectangle client = client_area();
-    draw_button(menu_button(), Font::pane, "Menu", -menu_text_rise);
+    draw_button(menu_button(), {Font::pane, "Menu", -menu_text_rise});
     screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
-    screen->draw_sprite(Sprite::button_less, {less_button().x, less_button().y});
-    screen->draw_sprite(Sprite::button_more, {more_button().x, more_button().y});
+    draw_step_button(Sprite::button_less, less_button());
+    draw_step_button(Sprite::button_more, more_button());
     draw_swatch(transparent_swatch(), standard_color(Standard_Color::transparent));
     screen->draw_outline(transparent_swatch(), standard_color(Standard_Color::dark_frame));
+    draw_outlined_answer(transparent_swatch());
     draw_entries();
 }
 
@@ -117,6 +119,9 @@ void Palette_Area::draw_entries() const {
     if (!drop_) {
         draw_color_in_use(Mouse_Button::left);
         draw_color_in_use(Mouse_Button::right);
+    }
+    for (int entry = 0; entry < count(); ++entry) {
+        draw_outlined_answer(cell(entry));
     }
 }
 
@@ -140,6 +145,11 @@ void Palette_Area::draw_color_in_use(Mouse_Button button) const {
         screen->fill_rect({x, place.y + row, length, 1}, standard_color(Standard_Color::white));
         screen->fill_rect({end, place.y + row, 1, 1}, standard_color(Standard_Color::black));
     }
+}
+
+void Palette_Area::draw_step_button(Sprite sprite, const Rectangle& place) const {
+    screen->draw_sprite(sprite, {place.x, place.y});
+    draw_answer(place, usable_if(list_.size() > 1));
 }
 
 std::optional<Color> Palette_Area::click(Point point) {

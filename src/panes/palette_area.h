@@ -5,6 +5,7 @@
 
 #include "base/input.h"
 #include "color/palette_list.h"
+#include "screen/sprite_table.h"
 #include "tools/tool_state.h"
 #include "ui/pane.h"
 
@@ -76,6 +77,7 @@ private:
     [[nodiscard]] std::string shown_name() const;
     void draw_entries() const;
     void draw_color_in_use(Mouse_Button button) const;
+    void draw_step_button(Sprite sprite, const Rectangle& place) const;
 
     Palette_List& list_;
     const Tool_Colors& colors_;

@@ -4,6 +4,7 @@
 #include "color/hex_color.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
+#include "ui/control.h"
 #include "ui/swatch.h"
 #include "ui/text_button.h"
 #include "ui/window_layout.h"
@@ -85,16 +86,18 @@ void Selected_Color_Area::draw() const {
         if (button == colors_.active_side) {
             screen->draw_outline(swatch.inset(-2), standard_color(Standard_Color::highlight));
         }
+        draw_outlined_answer(swatch);
     }
     draw_entry();
     draw_store_button();
-    draw_button(adjust_button(), Font::pane, "Adjust HSV", -button_text_rise);
+    draw_button(adjust_button(), {Font::pane, "Adjust HSV", -button_text_rise});
 }
 
 void Selected_Color_Area::draw_entry() const {
     const Rectangle client = client_area();
     const Rectangle swatch{client.x, client.y, entry_edge, entry_edge};
     draw_outlined_swatch(swatch.inset(1), palette_.selected_color());
+    draw_outlined_answer(swatch.inset(1));
     const Point text{swatch.right() + text_gap, client.y - text_rise};
     screen->draw_text(Font::pane, text, color_numbers(palette_.selected_color()));
     screen->draw_text(Font::pane, {text.x, text.y + second_line}, hex_text(palette_.selected_color()));
@@ -102,10 +105,11 @@ void Selected_Color_Area::draw_entry() const {
 
 void Selected_Color_Area::draw_store_button() const {
     const Rectangle button = store_button();
-    draw_button(button, Font::pane, "", 0);
+    screen->draw_panel(button, standard_color(Standard_Color::pane_frame));
     const Rectangle stored{button.x + stored_inset, button.y + stored_inset, stored_edge, stored_edge};
     draw_outlined_swatch(stored, colors_.current());
     screen->draw_text(Font::pane, {button.x + stored_text_x, button.y - button_text_rise}, "Store");
+    draw_answer(button, usable_if(palette_.has_entries()));
 }
 
 } // namespace quadrelle

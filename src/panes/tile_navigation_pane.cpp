@@ -4,6 +4,7 @@
 #include "screen/sprite_sheet.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tileset.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 #include <array>
@@ -83,6 +84,10 @@ void Tile_Navigation_Pane::draw(const Tile_Strip& strip) const {
         const Rectangle area_here = area_of(i);
         const Sprite enabled = held_ == i ? button.held : button.normal;
         screen->draw_sprite(button.is_enabled(strip) ? enabled : button.disabled, {area_here.x, area_here.y});
+        // The sprites show by themselves what is held.
+        if (button.is_enabled(strip) && control_state(area_here) == Control_State::hovered) {
+            draw_answer(area_here);
+        }
         if (button.normal == Sprite::current_tile_id && strip.tileset().has_tiles()) {
             draw_number(strip.tileset().current_index(), area_here);
         }

@@ -4,6 +4,7 @@
 #include "pixels/thumbnail.h"
 #include "screen/screen.h"
 #include "tileset/tileset.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 #include <algorithm>
@@ -53,6 +54,9 @@ void Tile_Strip_Picture::draw(const Tile_Strip& strip) {
     const int current = strip.cell_of_current();
     if (current >= 0) {
         screen->draw_sprite(Sprite::first_marker, {place.x + current * cell_size, place.y});
+    }
+    for (int cell = 0; cell < Tile_Strip::visible_cells && strip.tile_in(cell) >= 0; ++cell) {
+        draw_outlined_answer({place.x + cell * cell_size, place.y, cell_size, cell_size});
     }
 }
 

@@ -15,6 +15,8 @@ public:
     Tool_Color(Point position, std::string_view title, Color color);
 
     void draw() const override;
+    // To be called where a click on the pane does something.
+    void draw_answer() const;
 
     [[nodiscard]] Color color() const { return color_; }
     void set_color(Color color) { color_ = color; }
@@ -22,6 +24,8 @@ public:
     void set_lit(bool is_lit) { is_lit_ = is_lit; }
 
 private:
+    [[nodiscard]] Rectangle swatch() const;
+
     Color color_;
     bool is_lit_ = false;
 };

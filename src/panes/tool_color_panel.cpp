@@ -44,6 +44,7 @@ void Tool_Color_Panel::draw(Tool_Color_Panes shown) {
         pane.set_color(colors_.of(button));
         pane.set_lit(button == colors_.active_side);
         pane.draw();
+        pane.draw_answer();
     }
     if (shown == Tool_Color_Panes::all) {
         selector_.draw();

@@ -7,6 +7,7 @@
 #include "panes/command_icons.h"
 #include "panes/tool_color_panel.h"
 #include "screen/screen.h"
+#include "ui/control.h"
 #include "ui/window_layout.h"
 
 #include <algorithm>
@@ -32,6 +33,7 @@ void draw_entry(const Tool_Row& tool, std::string_view name, const Rectangle& ar
     screen->draw_box(area, standard_color(fill));
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, name);
+    draw_answer(area);
 }
 
 // The dropper takes no clicks on the panes below the two colours.

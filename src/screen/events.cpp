@@ -25,9 +25,34 @@ void tell_watcher(std::string_view loop) {
 bool key_was_released = false;
 bool button_was_released = false;
 
+// Not on the window.
+constexpr Point nowhere{-1, -1};
+Followed_Pointer pointer{nowhere, std::nullopt};
+
+void note_release() {
+    button_was_released = true;
+    pointer.pressed_at.reset();
+}
+
+void note_press(const SDL_MouseButtonEvent& event) {
+    const Pointer_State press{event.x, event.y, mouse_button(event.button)};
+    pointer.position = press.point();
+    if (press.button != Mouse_Button::none) {
+        pointer.pressed_at = press.point();
+    }
+}
+
 void note(const SDL_Event& event) {
-    key_was_released = key_was_released || event.type == SDL_EVENT_KEY_UP;
-    button_was_released = button_was_released || event.type == SDL_EVENT_MOUSE_BUTTON_UP;
+    switch (event.type) {
+    case SDL_EVENT_KEY_UP: key_was_released = true; break;
+    case SDL_EVENT_MOUSE_BUTTON_UP: note_release(); break;
+    case SDL_EVENT_MOUSE_BUTTON_DOWN: note_press(event.button); break;
+    case SDL_EVENT_MOUSE_MOTION:
+        pointer.position = Pointer_State{event.motion.x, event.motion.y, Mouse_Button::none}.point();
+        break;
+    case SDL_EVENT_WINDOW_MOUSE_LEAVE: pointer.position = nowhere; break;
+    default: break;
+    }
 }
 
 } // namespace
@@ -38,6 +63,21 @@ bool take_key_release() {
 
 bool take_button_release() {
     return std::exchange(button_was_released, false);
+}
+
+const Followed_Pointer& followed_pointer() {
+    return pointer;
+}
+
+// A place that nothing is at: until the release, nothing answers.
+void forget_press() {
+    if (pointer.pressed_at) {
+        pointer.pressed_at = nowhere;
+    }
+}
+
+void forget_pointer() {
+    pointer = {nowhere, std::nullopt};
 }
 
 void set_wait_watcher(Wait_Watcher new_watcher) {
@@ -132,7 +172,9 @@ Idle_Outcome idle(std::string_view loop) {
 void discard_events() {
     SDL_PumpEvents();
     key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
-    button_was_released = button_was_released || SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP);
+    if (SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP)) {
+        note_release();
+    }
     SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_QUIT - 1);
     SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);
 }

@@ -2,9 +2,11 @@
 
 // The one place where events are taken, and the one loop that every modal view runs.
 
+#include "base/geometry.h"
 #include "base/input.h"
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 union SDL_Event;
@@ -54,6 +56,18 @@ Idle_Outcome idle(std::string_view loop);
 // Whether a key, or a mouse button, was released since the last call, in whichever loop that was.
 [[nodiscard]] bool take_key_release();
 [[nodiscard]] bool take_button_release();
+
+// Where the pointer was last, and where a button of the mouse was pressed that is still held, in whichever
+// loop that was.
+struct Followed_Pointer {
+    Point position;
+    std::optional<Point> pressed_at;
+};
+[[nodiscard]] const Followed_Pointer& followed_pointer();
+// What comes into view under a held button, or was under one, has not been pressed itself.
+void forget_press();
+// A new window does not know of any pointer.
+void forget_pointer();
 
 // Drops every event that waits but the request to quit.
 void discard_events();

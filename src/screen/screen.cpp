@@ -3,6 +3,7 @@
 #include "base/fatal.h"
 #include "base/version.h"
 #include "color/standard_colors.h"
+#include "screen/events.h"
 #include "screen/image.h"
 #include "screen/raster.h"
 #include "screen/sprite_sheet.h"
@@ -41,6 +42,7 @@ Screen::Screen(Size size)
     : size_(size), window_(size), sprites_(std::make_unique<Sprite_Sheet>()), frame_(size), shown_(size),
       changes_(size) {
     set_active_frame(&frame_);
+    forget_pointer();
     show_cursor(true);
 }
 

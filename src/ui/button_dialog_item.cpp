@@ -35,9 +35,13 @@ void Button_Dialog_Item::set_position(Point position) {
 void Button_Dialog_Item::draw() const {
     if (row().has_sprite()) {
         screen->draw_sprite(row().sprite, {area.x, area.y});
+        draw_answer(area, usable);
         return;
     }
-    draw_button(area, font, row().label, label_drop);
+    draw_button(area, {font, row().label, label_drop}, usable);
+    if (type_ == Button_Type::ok) {
+        draw_default_mark(area);
+    }
 }
 
 void Button_Dialog_Item::save(Data_Stream& stream) const {

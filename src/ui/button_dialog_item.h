@@ -79,6 +79,7 @@ public:
     [[nodiscard]] Button_Type type() const { return type_; }
 
     Dialog_Event click(Point point) override;
+    [[nodiscard]] Dialog_Event_Kind event() const override { return row().event; }
     // Puts all but four kinds two pixels lower than the text beside them.
     void set_position(Point position) override;
     void draw() const override;

@@ -4,6 +4,7 @@
 
 #include "base/geometry.h"
 #include "screen/font_table.h"
+#include "ui/control.h"
 #include "ui/dialog_event.h"
 
 #include <cstdint>
@@ -38,6 +39,9 @@ public:
     virtual void measure() {}
     // The item compares the point with its own area. The base class logs that nobody answers.
     virtual Dialog_Event click(Point point);
+    // What a click answers, where that is always the same, and whether the item would change by an event.
+    [[nodiscard]] virtual Dialog_Event_Kind event() const { return Dialog_Event_Kind::unknown; }
+    [[nodiscard]] virtual bool changes_by(Dialog_Event_Kind /*kind*/) const { return true; }
     virtual void notify(Dialog_Event_Kind kind);
     virtual void set_position(Point position);
     virtual void draw() const {}
@@ -55,6 +59,7 @@ public:
     std::int32_t id;
     std::int32_t host;
     std::int32_t saved = 0;
+    Usable usable = Usable::yes;
     Font font;
 };
 

@@ -40,9 +40,15 @@ Dialog_Event Dialog_Row::click(Point point) {
 }
 
 void Dialog_Row::draw() const {
-    for (const auto& item : items_) {
-        item->draw();
+    for (const auto& each : items_) {
+        each->usable = usable_if(is_usable(*each));
+        each->draw();
     }
+}
+
+bool Dialog_Row::is_usable(const Dialog_Item& stepping) const {
+    const Dialog_Item* const stepped = stepping.host == no_id ? nullptr : item(stepping.host);
+    return stepped == nullptr || stepped->changes_by(stepping.event());
 }
 
 Dialog_Item* Dialog_Row::item(int id) const {

@@ -30,6 +30,7 @@ public:
     void measure();
     // Returns the first known answer of an item, in order.
     Dialog_Event click(Point point);
+    // A step that leads nowhere is shown as one that cannot be made.
     void draw() const;
 
     // Returns the first item with that id, or null.
@@ -39,6 +40,8 @@ public:
     Rectangle area;
 
 private:
+    [[nodiscard]] bool is_usable(const Dialog_Item& stepping) const;
+
     std::vector<std::unique_ptr<Dialog_Item>> items_;
 };
 

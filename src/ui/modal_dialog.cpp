@@ -1,6 +1,7 @@
 #include "ui/modal_dialog.h"
 
 #include "screen/screen.h"
+#include "ui/control.h"
 
 #include <utility>
 #include <vector>
@@ -23,8 +24,14 @@ Shown& shown() {
 
 class Dialog_Layer {
 public:
-    explicit Dialog_Layer(Draw_Function draw) { shown().dialogs.push_back(std::move(draw)); }
-    ~Dialog_Layer() { shown().dialogs.pop_back(); }
+    explicit Dialog_Layer(Draw_Function draw) {
+        shown().dialogs.push_back(std::move(draw));
+        forget_press();
+    }
+    ~Dialog_Layer() {
+        shown().dialogs.pop_back();
+        forget_press();
+    }
     Dialog_Layer(const Dialog_Layer&) = delete;
     Dialog_Layer& operator=(const Dialog_Layer&) = delete;
 };
@@ -60,14 +67,26 @@ void set_backdrop(Draw_Function draw) {
     shown().window = std::move(draw);
 }
 
-void show_backdrop() {
+namespace {
+
+void draw_behind_dialog() {
+    const Behind all_of_it;
     if (shown().window) {
         shown().window();
     } else {
         screen->clear();
     }
-    for (const Draw_Function& draw_dialog : shown().dialogs) {
-        draw_dialog();
+    for (std::size_t i = 0; i + 1 < shown().dialogs.size(); ++i) {
+        shown().dialogs[i]();
+    }
+}
+
+} // namespace
+
+void show_backdrop() {
+    draw_behind_dialog();
+    if (!shown().dialogs.empty()) {
+        shown().dialogs.back()();
     }
     screen->present();
 }

@@ -3,6 +3,7 @@
 #include "base/data_stream.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/control.h"
 #include "ui/number_prompt.h"
 
 #include <optional>
@@ -33,16 +34,23 @@ Dialog_Event Number_Dialog_Item::click(Point point) {
 }
 
 void Number_Dialog_Item::notify(Dialog_Event_Kind kind) {
-    if (kind == Dialog_Event_Kind::increase) {
-        number_.increase();
-    } else if (kind == Dialog_Event_Kind::decrease) {
-        number_.decrease();
-    }
+    number_ = stepped(kind);
     measure();
+}
+
+Cyclic_Int Number_Dialog_Item::stepped(Dialog_Event_Kind kind) const {
+    Cyclic_Int number = number_;
+    if (kind == Dialog_Event_Kind::increase) {
+        number.increase();
+    } else if (kind == Dialog_Event_Kind::decrease) {
+        number.decrease();
+    }
+    return number;
 }
 
 void Number_Dialog_Item::draw() const {
     screen->draw_text(font, {area.x, area.y}, std::to_string(value()));
+    draw_answer(area);
 }
 
 void Number_Dialog_Item::revert() {

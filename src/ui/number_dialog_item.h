@@ -17,6 +17,9 @@ public:
     void measure() override;
     Dialog_Event click(Point point) override;
     void notify(Dialog_Event_Kind kind) override;
+    [[nodiscard]] bool changes_by(Dialog_Event_Kind kind) const override {
+        return stepped(kind).value() != value();
+    }
     void draw() const override;
     void begin() override { saved = number_.value(); }
     void revert() override;
@@ -26,6 +29,8 @@ public:
 
 private:
     void set(int value);
+
+    [[nodiscard]] Cyclic_Int stepped(Dialog_Event_Kind kind) const;
 
     Cyclic_Int number_;
 };

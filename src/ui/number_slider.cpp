@@ -4,6 +4,7 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "ui/checkerboard.h"
+#include "ui/control.h"
 #include "ui/swatch.h"
 
 #include <algorithm>
@@ -92,6 +93,16 @@ void Number_Slider::draw(int number, Focus focus, const std::function<Color(int)
         screen->draw_sprite(Sprite::button_middle, {middle_.x, middle_.y});
     }
     screen->draw_sprite(Sprite::button_more, {more_.x, more_.y});
+    draw_answers(number);
+}
+
+void Number_Slider::draw_answers(int number) const {
+    draw_answer(less_, usable_if(row_.wraps || number > row_.low));
+    draw_answer(number_);
+    if (row_.middle) {
+        draw_answer(middle_, usable_if(number != row_.middle));
+    }
+    draw_answer(more_, usable_if(row_.wraps || number < row_.high));
 }
 
 void Number_Slider::draw_bar(const std::function<Color(int)>& color_of) const {

@@ -20,6 +20,8 @@ struct Number_Slider_Row {
     std::string_view unit = {};
     // A button goes there, if there is such a number.
     std::optional<int> middle = {};
+    // Beyond each bound comes the other one.
+    bool wraps = false;
 };
 
 enum class Slider_Part { none, bar, less, number, middle, more };
@@ -46,6 +48,7 @@ public:
 private:
     void draw_bar(const std::function<Color(int)>& color_of) const;
     void draw_number(int number) const;
+    void draw_answers(int number) const;
 
     Number_Slider_Row row_;
     Rectangle area_;

@@ -17,22 +17,23 @@ void draw_label(const Rectangle& area, Font label_font, std::string_view label, 
 
 } // namespace
 
-void draw_button(const Rectangle& area, Font label_font, std::string_view label, int drop) {
+void draw_button(const Rectangle& area, const Button_Label& label, Usable usable) {
     screen->draw_panel(area, standard_color(Standard_Color::pane_frame));
-    draw_label(area, label_font, label, drop);
+    draw_label(area, label.font, label.text, label.drop);
+    draw_answer(area, usable);
 }
 
-// What lies behind all buttons shines through.
-void draw_veil(const Rectangle& area) {
-    Color veil = standard_color(Standard_Color::pane_background);
-    veil.a = 180;
-    screen->fill_rect(area, veil);
+void draw_default_mark(const Rectangle& button) {
+    screen->draw_outline(button.inset(-2), standard_color(Standard_Color::highlight));
 }
 
 void Text_Button::draw(Button_Look look) const {
     const int drop = (area_.height - line_height(font)) / 2;
-    if (look == Button_Look::plain) {
-        draw_button(area_, font, label_, drop);
+    if (look != Button_Look::chosen) {
+        draw_button(area_, {font, label_, drop});
+        if (look == Button_Look::by_default) {
+            draw_default_mark(area_);
+        }
         return;
     }
     const Color fill = standard_color(Standard_Color::list_active);
@@ -41,6 +42,7 @@ void Text_Button::draw(Button_Look look) const {
     screen->fill_rect({area_.x + 4, area_.bottom() - 3, area_.width - 8, 2},
                       standard_color(Standard_Color::highlight));
     draw_label(area_, font, label_, drop);
+    draw_answer(area_);
 }
 
 } // namespace quadrelle

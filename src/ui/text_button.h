@@ -4,6 +4,7 @@
 
 #include "base/geometry.h"
 #include "screen/font_table.h"
+#include "ui/control.h"
 
 #include <string_view>
 
@@ -11,13 +12,18 @@ namespace quadrelle {
 
 constexpr int text_button_height = 27;
 
-enum class Button_Look { plain, chosen };
+enum class Button_Look { plain, chosen, by_default };
 
-// Draws a raised button with its label in the middle of its width and `drop` pixels below its top.
-void draw_button(const Rectangle& area, Font font, std::string_view label, int drop);
+struct Button_Label {
+    Font font = Font::regular;
+    std::string_view text;
+    int drop = 0; // below the button's top; it stands in the middle of its width
+};
+// Draws a raised button, which answers the pointer.
+void draw_button(const Rectangle& area, const Button_Label& label, Usable usable = Usable::yes);
 
-// Makes a button that is drawn there look as if it could not be used.
-void draw_veil(const Rectangle& area);
+// Draws the ring around the button that Return stands for.
+void draw_default_mark(const Rectangle& button);
 
 // A button of a dialog that lays out itself.
 class Text_Button {

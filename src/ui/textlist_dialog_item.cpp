@@ -46,11 +46,17 @@ void Textlist_Dialog_Item::set_value(int value) {
 }
 
 void Textlist_Dialog_Item::notify(Dialog_Event_Kind kind) {
+    index_ = stepped(kind);
+}
+
+Cyclic_Int Textlist_Dialog_Item::stepped(Dialog_Event_Kind kind) const {
+    Cyclic_Int index = index_;
     if (kind == Dialog_Event_Kind::increase) {
-        index_.increase();
+        index.increase();
     } else if (kind == Dialog_Event_Kind::decrease) {
-        index_.decrease();
+        index.decrease();
     }
+    return index;
 }
 
 void Textlist_Dialog_Item::draw() const {

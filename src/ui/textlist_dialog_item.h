@@ -26,6 +26,9 @@ public:
     // Makes the item as wide as the widest entry.
     void measure() override;
     void notify(Dialog_Event_Kind kind) override;
+    [[nodiscard]] bool changes_by(Dialog_Event_Kind kind) const override {
+        return stepped(kind).value() != value();
+    }
     void draw() const override;
     void begin() override { saved = index_.value(); }
     void revert() override { index_.set(saved); }
@@ -34,6 +37,8 @@ public:
     void load(Data_Stream& stream) override;
 
 private:
+    [[nodiscard]] Cyclic_Int stepped(Dialog_Event_Kind kind) const;
+
     std::vector<std::string> entries_;
     Cyclic_Int index_;
 };

@@ -5,6 +5,7 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "tools/hsv_adjustment.h"
+#include "ui/control.h"
 #include "ui/dialog_frame.h"
 #include "ui/modal_dialog.h"
 #include "ui/slider_panel.h"
@@ -146,7 +147,7 @@ void Adjust_HSV::draw() const {
         draw_tick();
     }
     draw_note();
-    ok_.draw(Button_Look::plain);
+    ok_.draw(Button_Look::by_default);
     cancel_.draw(Button_Look::plain);
 }
 
@@ -156,6 +157,7 @@ void Adjust_HSV::draw_tick() const {
     const Rectangle mark = sprite_rect(sprite);
     screen->draw_sprite(sprite, {tick_.x, tick_.y + (tick_.height - mark.height) / 2});
     screen->draw_text(Font::pane, {tick_.x + mark.width + gap, tick_.y + 1}, "All tiles (a)");
+    draw_answer(tick_);
 }
 
 void Adjust_HSV::draw_note() const {

@@ -26,6 +26,7 @@ constexpr std::array<Number_Slider_Row, color_channels.size()> slider_rows = [] 
     std::array<Number_Slider_Row, color_channels.size()> rows;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         rows[i] = {color_channels[i].name, 0, color_channels[i].high, color_channels[i].unit};
+        rows[i].wraps = color_channels[i].end == Channel_End::wraps;
     }
     return rows;
 }();

@@ -4,6 +4,7 @@
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
+#include "ui/control.h"
 
 #include <algorithm>
 
@@ -51,6 +52,7 @@ void Color_Database_View::draw_row(std::size_t index) const {
     if (is_current) {
         screen->draw_outline(box, standard_color(Standard_Color::white));
     }
+    draw_answer(box);
     const Rectangle swatch{box.x + inset, box.y + inset, box.height - 2 * inset, box.height - 2 * inset};
     screen->fill_rect(swatch, standard_color(Standard_Color::black));
     screen->fill_rect(swatch.inset(1), colors_[index].color);

@@ -82,7 +82,7 @@ void Color_Editor::draw() const {
     } else {
         database_.draw();
     }
-    ok_.draw(Button_Look::plain);
+    ok_.draw(Button_Look::by_default);
     cancel_.draw(Button_Look::plain);
 }
 

@@ -2,6 +2,7 @@
 
 #include "color/standard_colors.h"
 #include "screen/screen.h"
+#include "ui/control.h"
 #include "ui/shown_text.h"
 
 #include <algorithm>
@@ -118,6 +119,7 @@ void File_List::draw(Focus focus) const {
     if (has_bar()) {
         screen->fill_rect(bar(), standard_color(Standard_Color::frame));
         screen->draw_panel(thumb(), standard_color(Standard_Color::pane_background));
+        draw_answer(thumb());
     }
     screen->draw_outline(
         area_, standard_color(focus == Focus::yes ? Standard_Color::highlight : Standard_Color::frame));
@@ -130,6 +132,7 @@ void File_List::draw_row(std::size_t row, Focus focus) const {
         screen->fill_rect(place, standard_color(focus == Focus::yes ? Standard_Color::list_active
                                                                     : Standard_Color::list_passive));
     }
+    draw_answer(place);
     if (listed.kind != Listed_Kind::file) {
         draw_folder_icon({place.x + icon_offset, place.y});
     }

@@ -149,7 +149,7 @@ void Own_Chooser::draw() const {
     name_.draw(focus_ == Part::name ? Focus::yes : Focus::no);
     ok_.draw();
     if (request_.direction == File_Direction::save) {
-        draw_button(layout_.new_folder, font, "New folder", text_drop);
+        draw_button(layout_.new_folder, {font, "New folder", text_drop});
     }
     cancel_.draw();
 }

@@ -6,6 +6,7 @@
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "tileset/tileset.h"
+#include "ui/control.h"
 
 #include <algorithm>
 #include <utility>
@@ -121,9 +122,18 @@ void Tile_Grid::draw(std::string_view text) {
     screen->draw_panel(panel.inset(-panel_margin), standard_color(Standard_Color::frame));
     screen->draw_outline(area_.inset(-1), standard_color(Standard_Color::black));
     picture_->draw_at({area_.x, area_.y});
+    draw_answers();
     text_.draw();
     const Rectangle client = text_.client_area();
     screen->draw_text(Font::pane, {client.x, client.y}, text);
+}
+
+void Tile_Grid::draw_answers() const {
+    const int shown = std::min(tileset_.count() - page_ * page_size(), page_size());
+    for (int i = 0; i < shown; ++i) {
+        draw_outlined_answer({area_.x + i % cells_.width * cell_.width,
+                              area_.y + i / cells_.width * cell_.height, cell_.width, cell_.height});
+    }
 }
 
 void Tile_Grid::draw_marker(Sprite marker, int column, int row) const {

@@ -51,6 +51,7 @@ private:
     // Composes the picture anew if the page's tiles are no longer those that it shows.
     void update_picture();
     [[nodiscard]] std::vector<std::uint64_t> versions_on_page() const;
+    void draw_answers() const;
     void paint_cells(const Pixel_Rows& target) const;
 
     const Tileset& tileset_;

@@ -5,6 +5,7 @@
 #include "screen/screen.h"
 #include "ui/button_dialog_item.h"
 #include "ui/checkerboard.h"
+#include "ui/control.h"
 #include "ui/dialog_frame.h"
 #include "ui/modal_dialog.h"
 #include "ui/shown_tile.h"
@@ -20,13 +21,6 @@
 namespace quadrelle {
 
 namespace {
-
-void draw_button(const Button_Dialog_Item& button, bool is_usable) {
-    button.draw();
-    if (!is_usable) {
-        draw_veil(button.area);
-    }
-}
 
 void draw_label(int slot, const Rectangle& area) {
     const std::string text = std::to_string(slot + 1);
@@ -92,8 +86,13 @@ void Versions_Dialog::draw() {
     for (int slot = 0; slot < Tile_Versions::slot_count; ++slot) {
         draw_slot(slot);
     }
-    draw_button(store_button_, can_store());
-    draw_button(take_button_, can_take());
+    store_button_.usable = usable_if(can_store());
+    store_button_.draw();
+    take_button_.usable = usable_if(can_take());
+    take_button_.draw();
+    if (can_take()) {
+        draw_default_mark(layout_.take_button);
+    }
 }
 
 void Versions_Dialog::draw_view(const Tile& tile, Shown_Tile& shown, const Rectangle& area) const {
@@ -116,6 +115,7 @@ void Versions_Dialog::draw_slot(int slot) {
         draw_mark_around(area);
     }
     draw_label(slot, layout_.labels.at(index));
+    draw_outlined_answer(area);
 }
 
 Loop_Step Versions_Dialog::handle(const Input_Event& event) {

@@ -249,7 +249,9 @@ TEST_F(Color_Editor_Test, lists_the_named_colors_and_takes_one) {
     const auto is_marked = [](int row) {
         return pixel_at({named(row).x, named(row).y + 10}) == standard_color(Standard_Color::list_active);
     };
-    script().key(key::tab).click(named(3)).check([&] { EXPECT_TRUE(is_marked(3) && !is_marked(4)); });
+    script().key(key::tab).click(named(3)).motion(database_tab).check([&] {
+        EXPECT_TRUE(is_marked(3) && !is_marked(4));
+    });
     script().key(key::escape);
     EXPECT_EQ(edited(), start);
 }
