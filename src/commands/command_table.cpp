@@ -28,11 +28,11 @@ constexpr std::array descriptions = std::to_array<Description>({
      "Option 'Select previous tool' will switch back to the\r"
      "previous tool when color is selected."},
     {Command::lightness_pen,
-     "Darken or lighten Command::Pixels. There are three options for this tool:\r\r"
+     "Darken or lighten pixels. There are three options for this tool:\r\r"
      "Mode: Linear will grow or reduce lightness in uniform manner. Perception\r"
      "mode emphasizes warmness of colors.\r\r"
-     "Speed: Overall speed in which Command::Pixels are changed.\r\r"
-     "Brush size compensation: Since bigger brushes create more Command::Pixels it makes changes\r"
+     "Speed: Overall speed in which pixels are changed.\r\r"
+     "Brush size compensation: Since bigger brushes create more pixels it makes changes\r"
      "faster. This option is slowing down bigger brushes for rough compensation and tries\r"
      "to make all brush sizes work the same speed."},
     {Command::colorize_pen,
@@ -54,7 +54,7 @@ constexpr std::array descriptions = std::to_array<Description>({
      "When the brush is selected you can move it to the pad from Edit -> Move to pad\r"
      "to use it later."},
     {Command::smudge_brush,
-     "Drag and smudge Command::Pixels with this tool."},
+     "Drag and smudge pixels with this tool."},
     {Command::save_history_buffer,
      "Save current tile to undo buffer for the history brush mode in pen tool."},
     {Command::rectangle_selector,
@@ -90,7 +90,7 @@ constexpr std::array descriptions = std::to_array<Description>({
      "Offset the tile by half of its size to edit the edge of the tile. Yellow edge markers\r"
      "show where the seam is."},
     {Command::scroll,
-     "Scroll the canvas. Command::Pixels that go over the edge appear at the other side."},
+     "Scroll the canvas. Pixels that go over the edge appear at the other side."},
     {Command::free_rotate,
      "Rotate tile or selection."},
     {Command::next_tile,

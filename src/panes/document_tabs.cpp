@@ -1,5 +1,6 @@
 #include "panes/document_tabs.h"
 
+#include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
 #include "screen/texture.h"
@@ -87,6 +88,7 @@ bool Document_Tabs::hides_last() const {
 }
 
 void Document_Tabs::draw() const {
+    screen->draw_panel(window_layout::tab_rail, standard_color(Standard_Color::pane_frame));
     for (const Tab& tab : tabs_) {
         screen->draw_texture(*tab.label, {tab.area.x, tab.area.y});
         draw_answer_on_tab(tab.area);

@@ -44,7 +44,7 @@ void Pane::draw_around(const Rectangle& covered) const {
 }
 
 void Pane::set_title(std::string_view title) {
-    title_ = screen->make_header(title, Header_Style::active);
+    title_ = screen->make_header(title, Header_Style::passive);
 }
 
 Rectangle Pane::title_area() const {

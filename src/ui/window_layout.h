@@ -35,12 +35,13 @@ constexpr int column_width = 202;
 }
 // The panes that hold one row of text or controls.
 constexpr int row_pane_height = pane_height(16);
-// Where the columns on both sides of the canvas end.
+// Where the columns on both sides of the canvas begin and end.
+constexpr int columns_top = 32;
 constexpr int columns_bottom = 632;
 
 constexpr Rectangle menu_bar{0, 0, window.width, 25};
 
-constexpr Rectangle preview{31, 32, column_width, pane_height(192)};
+constexpr Rectangle preview{31, columns_top, column_width, pane_height(192)};
 constexpr Rectangle magnification{31, 259, column_width, row_pane_height};
 constexpr Rectangle navigation{31, 310, column_width, pane_height(23)};
 constexpr Rectangle history{31, 368, 194, pane_height(24)};
@@ -49,23 +50,25 @@ constexpr Rectangle selected_color{31, palette.bottom() + element_gap, column_wi
 
 constexpr Rectangle canvas{264, 64, 512, 512};
 // Leaves room for an arrow at the canvas's right end.
-constexpr Rectangle tabs{canvas.x, 43, 496, 21};
+constexpr Rectangle tabs{canvas.x, columns_top, 496, 21};
+// What the tabs stand on: the rest down to the canvas.
+constexpr Rectangle tab_rail{canvas.x, tabs.bottom(), canvas.width, canvas.y - tabs.bottom()};
 constexpr Rectangle hint_lines{canvas.x, canvas.bottom() + element_gap, canvas.width, 52};
 constexpr Rectangle tile_strip{4, 636, 51 * 24, 24};
 
-constexpr Rectangle icon_bar{784, 32, 24, 563};
+constexpr Rectangle icon_bar{784, columns_top, 24, 563};
 // The list, and the rows of the chosen tool over a part of it.
-constexpr Rectangle tool_list{816, 32, column_width, columns_bottom - 32};
+constexpr Rectangle tool_list{816, columns_top, column_width, columns_bottom - columns_top};
 
 // The column at the right side shows one of three: the tool colours, the brush pad, or the copies.
-constexpr Rectangle left_color{1026, 32, column_width, pane_height(36)};
+constexpr Rectangle left_color{1026, columns_top, column_width, pane_height(36)};
 constexpr Rectangle right_color{1026, left_color.bottom() + element_gap, column_width, pane_height(36)};
 constexpr Rectangle hsv_selector{1026, right_color.bottom() + element_gap, column_width, pane_height(130)};
 constexpr Rectangle handles{1026, hsv_selector.bottom() + element_gap, column_width, pane_height(104)};
 constexpr Rectangle variations{1026, handles.bottom() + element_gap, column_width,
                                columns_bottom - handles.bottom() - element_gap};
-constexpr Rectangle brush_pad{1023, 32, column_width, pane_height(521)};
-constexpr Rectangle copies{1023, 32, column_width, columns_bottom - 32};
+constexpr Rectangle brush_pad{1023, columns_top, column_width, pane_height(521)};
+constexpr Rectangle copies{1023, columns_top, column_width, columns_bottom - columns_top};
 
 // The dialogs that change what the canvas and the preview show cover the panes right of the canvas instead.
 constexpr Rectangle beside_canvas{784, 28, 444, columns_bottom - 28};
@@ -97,8 +100,8 @@ constexpr bool fit_into_window(const std::array<Rectangle, count>& areas) {
 template <typename... Areas>
 constexpr bool fit_together(const Areas&... column) {
     return fit_into_window(std::array{menu_bar, preview, magnification, navigation, history, palette,
-                                      selected_color, canvas, tabs, hint_lines, tile_strip, icon_bar,
-                                      tool_list, column...});
+                                      selected_color, canvas, tabs, tab_rail, hint_lines, tile_strip,
+                                      icon_bar, tool_list, column...});
 }
 
 static_assert(fit_together(left_color, right_color, hsv_selector, handles, variations));

@@ -36,7 +36,7 @@ protected:
         for (const std::string& title : titles) {
             x += screen->make_header(title, Header_Style::passive)->size().width;
         }
-        return {x + 3, 50};
+        return {x + 3, 42};
     }
 };
 
@@ -337,15 +337,15 @@ TEST_F(Documents_Test, tab_shows_the_name_and_the_hint_the_whole_path) {
 }
 
 TEST_F(Documents_Test, arrows_lead_to_the_tabs_that_have_no_room) {
-    constexpr Point left_arrow{255, 53};
-    constexpr Point right_arrow{768, 53};
+    constexpr Point left_arrow{255, 42};
+    constexpr Point right_arrow{768, 42};
     for (int i = 0; i < 11; ++i) {
         documents().new_document({8, 8});
     }
     play(script().click(left_arrow));
     const std::string hidden = name();
     // A tab that shows stays in its place when it is chosen.
-    play(script().click({500, 53}).click(tab_after({})));
+    play(script().click({500, 42}).click(tab_after({})));
     EXPECT_EQ(name(), hidden);
     EXPECT_NE(hidden, "untitled11.qdl");
     // That tab is the first one in the row now, and others are hidden behind it.

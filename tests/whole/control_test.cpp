@@ -31,7 +31,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(
     Controls, Control_Answer_Test,
     ::testing::Values(Control{"icon", {784, 32, 24, 24}}, Control{"tool", {816, 266, 202, 26}},
-                      Control{"tab", {265, 44, 60, 19}}, Control{"step of an option", {843, 190, 15, 15}},
+                      Control{"tab", {265, 33, 60, 19}}, Control{"step of an option", {843, 190, 15, 15}},
                       Control{"step of the palettes", {213, 453, 15, 15}},
                       Control{"color of the palette", {108, 512, 24, 20}},
                       Control{"color of the left button", {1031, 58, 17, 17}},

@@ -96,7 +96,7 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
         {{1100, 60}, "Left button color", "What the left"},
         {{1100, 130}, "Right button color", "What the right"},
         {{50, 12}, "Menus", "A click opens"},
-        {{290, 54}, "Open tilesets", "A click goes"},
+        {{290, 42}, "Open tilesets", "A click goes"},
         {{700, 20}, "Pen (p)", pen},
         {{270, 70}, "Pen (p)", pen},
     };

@@ -228,7 +228,7 @@ TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_wa
 TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_comes) {
     constexpr Point second_in_strip{4 + 24 + 12, 648};
     constexpr Point second_in_grid{16 + 32 + 16, 32};
-    constexpr Point first_tab{270, 53};
+    constexpr Point first_tab{270, 42};
     const std::vector<std::function<void()>> ways{
         [this] { execute(Command::next_tile); },
         [this] { execute(Command::insert_new_tile); },
@@ -373,7 +373,7 @@ TEST_F(Selection_Test, stays_for_the_tile_of_another_set_or_not_as_the_option_sa
     const std::vector<std::function<void()>> ways{
         [this] { execute(Command::load); },
         [this] {
-            play(script().click({270, 53}));
+            play(script().click({270, 42}));
         },
         [this] {
             script().press({16 + 32 + 16, 32}).key(key::space);

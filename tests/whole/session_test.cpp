@@ -322,7 +322,7 @@ private:
     void show_next_set() {
         const std::size_t next = (model_.shown + 1) % shown_sets_.size();
         for (int x = 270; x < 770 && &document() != shown_sets_.at(next); x += 30) {
-            click({x, 53});
+            click({x, 42});
             const auto now = std::ranges::find(shown_sets_, &document()) - shown_sets_.begin();
             if (static_cast<std::size_t>(now) != model_.shown) {
                 model_.show_set(static_cast<std::size_t>(now));
