@@ -28,6 +28,10 @@ bool Documents::has_unsaved() const {
     return std::ranges::any_of(documents_, [](const auto& document) { return document->is_modified(); });
 }
 
+bool Documents::is_untouched() const {
+    return count() == 1 && !current().is_modified() && !current().is_named();
+}
+
 bool Documents::new_document(Size tile_size) {
     if (untitled_counter_ > last_untitled) {
         return false;

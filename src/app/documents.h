@@ -27,6 +27,8 @@ public:
     [[nodiscard]] Tileset_Document& current() { return *documents_.at(current_); }
     [[nodiscard]] const Tileset_Document& current() const { return *documents_.at(current_); }
     [[nodiscard]] bool has_unsaved() const;
+    // Returns whether there is nothing but one new set.
+    [[nodiscard]] bool is_untouched() const;
     [[nodiscard]] int count() const { return static_cast<int>(documents_.size()); }
 
     // An untitled tileset of one tile. False, with nothing done, after 1000 of them.

@@ -61,7 +61,8 @@ void Window_Panes::draw(const Pointer_State& pointer) {
         copy_panes_.draw(copies_, [this](Command command) { return can_do(command); });
     }
     hint_lines_.set_hint(hint_at(pointer.point()), pointer.point());
-    hint_lines_.draw();
+    const Tile* const tile = canvas_.tile();
+    hint_lines_.draw(tile == nullptr ? std::nullopt : std::optional(tile->size()));
 }
 
 void Window_Panes::draw_panes() {
@@ -103,6 +104,10 @@ bool Window_Panes::can_do(Command command) const {
 }
 
 Pointed Window_Panes::pointed(Point point) const {
+    return thing_at(point).value_or(tool_in_use());
+}
+
+std::optional<Pointed> Window_Panes::thing_at(Point point) const {
     // An open menu covers what else is there.
     if (menu_bar_.contains(point)) {
         const Command row = menu_bar_.command_at(point);
@@ -117,7 +122,7 @@ Pointed Window_Panes::pointed(Point point) const {
     if (const std::optional<Place> place = place_at(point)) {
         return *place;
     }
-    return tool_in_use();
+    return std::nullopt;
 }
 
 Pointed Window_Panes::tool_in_use() {
@@ -125,9 +130,12 @@ Pointed Window_Panes::tool_in_use() {
     return command == Command::pen && toolbox->state().is_erasing ? Pointed(Place::eraser) : Pointed(command);
 }
 
-// Of a tab also the whole path, which the tab itself has no room for.
+// Of a tab also the whole path, which the tab itself has no room for. Before anything was done, what can be
+// done is more than the tool.
 Hint Window_Panes::hint_at(Point point) const {
-    const Pointed thing = pointed(point);
+    const bool is_untouched = documents_.is_untouched() && tool_in_use() == Pointed(Command::pen);
+    const Pointed at_rest = is_untouched ? Pointed(Place::first_steps) : tool_in_use();
+    const Pointed thing = thing_at(point).value_or(at_rest);
     Hint hint = hint_of(thing);
     const Tileset_Document* const document = documents_.document_at(point);
     if (thing == Pointed(Place::tabs) && document->is_named()) {

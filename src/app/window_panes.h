@@ -91,6 +91,7 @@ private:
     [[nodiscard]] bool is_lit(Command icon) const;
     [[nodiscard]] bool can_do(Command command) const;
     [[nodiscard]] Hint hint_at(Point point) const;
+    [[nodiscard]] std::optional<Pointed> thing_at(Point point) const;
     [[nodiscard]] std::optional<Pointed> pointed_on_canvas(Point point) const;
     [[nodiscard]] Command command_at(Point point) const;
     [[nodiscard]] std::optional<Place> place_at(Point point) const;

@@ -33,7 +33,7 @@ void draw_marker(const Cell_Marker& marker, Point corner, const Pixel_Rows& targ
 }
 
 // Over the pixels that are not selected.
-constexpr Color dimming(104, 112, 128, 112);
+constexpr Color dimming(28, 28, 30, 150);
 
 // Of the cell in that column or row, in checker squares of that width or height.
 const Cell_Marker& marker_of(const std::array<Cell_Marker, 2>& markers, int cell, int checker) {

@@ -13,6 +13,7 @@ namespace {
 constexpr int cell_edge = 3;
 constexpr Rectangle selected_area{0, 0, window_layout::column_width, window_layout::pane_height(150)};
 constexpr int largest_cell_edge = 6; // of the current brush; as much larger as it may be
+constexpr int frame_distance = 3;
 constexpr int text_margin = 2;
 constexpr int text_height = 18;
 constexpr Size checker{2, 2};
@@ -40,6 +41,11 @@ void paint_brush(Tile& target, const Pad_Brush& brush, Tile_Point corner, Color 
         }
     }
     paint_pixels(target, brush.brush, {corner.x + 1, corner.y + 1});
+}
+
+// In the border of the pane, so that no brush touches it.
+void draw_frame_around(const Rectangle& client) {
+    screen->draw_outline(client.inset(-frame_distance), standard_color(Standard_Color::pane_frame));
 }
 
 Tile empty_picture(Size size) {
@@ -97,8 +103,8 @@ void Brush_Pad_Panes::draw_board(const Brush_Pad& pad, Point pointer) {
     const std::optional<Tile_Point> cell = cell_at(pointer);
     update_board(pad, cell ? pad.identifier_at(*cell) : std::uint8_t{0});
     board_pane_.draw();
-    board_pane_.draw_frame();
     const Rectangle client = board_pane_.client_area();
+    draw_frame_around(client);
     shown_board_.draw(board_picture_, {client.x, client.y, cell_edge * board_picture_.width(),
                                        cell_edge * board_picture_.height()});
 }
@@ -111,8 +117,8 @@ void Brush_Pad_Panes::draw_selected(const Brush_Pad& pad, const Chosen_Brush& ch
         selected_picture_ = picture;
     }
     selected_pane_.draw();
-    selected_pane_.draw_frame();
     const Rectangle area = selected_pane_.client_area();
+    draw_frame_around(area);
     const Size size = fitted((*selected_picture_)->size(), {area.width, area.height}, {largest_cell_edge});
     shown_selected_.draw(*selected_picture_, centred(size, area));
     if (!is_stamp) {

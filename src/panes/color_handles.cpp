@@ -54,11 +54,13 @@ static_assert(window_layout::handles.height == window_layout::pane_height(row_co
 constexpr int track_left = 17;
 constexpr Size track_size{113, 15};
 constexpr int picture_width = step_row.back().x + sprite_rect(Sprite::button_more).width;
+// The tails of the letters end above the strip of colours. Their heads need a pixel above the row.
 constexpr int strip_top = 11;
-constexpr Point label_offset{4, -4};
-// Around the strip of colours, below the letters.
-constexpr Size marker_size{5, 7};
-constexpr int marker_top = 9;
+constexpr Point label_offset{4, -6};
+constexpr int room_for_heads = 1;
+// Around the strip; its middle goes from one end to the other as far as it stays within the track.
+constexpr Size marker_size{5, 6};
+constexpr int marker_top = track_size.height - marker_size.height;
 constexpr int middle_channel = 128;
 
 constexpr bool is_hsl(int row) {
@@ -75,7 +77,7 @@ Color_Handles::Color_Handles(Point position, std::function<void(Color)> hand_on)
     : Pane(below_title({position.x, position.y, window_layout::handles.width, window_layout::handles.height}),
            "Handles"),
       hand_on_(std::move(hand_on)), hsl_(color_, color_),
-      picture_({picture_width, (row_count - 1) * row_step + track_size.height}) {
+      picture_({picture_width, (row_count - 1) * row_step + track_size.height + room_for_heads}) {
     for (const Handle_Row& row : handle_rows) {
         icons_.push_back(std::make_unique<Button_Dialog_Item>(Item_Id{}, row.icon));
         for (const Step_Button& button : step_row) {
@@ -235,16 +237,18 @@ void Color_Handles::paint_buttons() {
     for (const auto* buttons : {&icons_, &step_buttons_}) {
         for (const auto& button : *buttons) {
             const Sprite sprite = button_table.at(static_cast<std::size_t>(button->type())).sprite;
-            picture_.draw_sprite(sprite, {button->area.x - first.x, button->area.y - first.y});
+            picture_.draw_sprite(sprite,
+                                 {button->area.x - first.x, button->area.y - first.y + room_for_heads});
         }
     }
 }
 
 void Color_Handles::paint_tracks() {
     for (int row = 0; row < row_count; ++row) {
-        const Rectangle bar{track_left, row * row_step, track_size.width, track_size.height};
+        const Rectangle bar{track_left, row * row_step, track_size.width, track_size.height + room_for_heads};
         picture_.fill_rect(bar, standard_color(Standard_Color::dark_frame));
-        const Rectangle strip{bar.x, bar.y + strip_top, bar.width, bar.height - strip_top};
+        const int top = strip_top + room_for_heads;
+        const Rectangle strip{bar.x, bar.y + top, bar.width, bar.height - top};
         picture_.fill_checkers(strip);
         for (int x = 0; x < strip.width; ++x) {
             picture_.fill_rect({strip.x + x, strip.y, 1, strip.height},
@@ -255,9 +259,9 @@ void Color_Handles::paint_tracks() {
 }
 
 void Color_Handles::draw() const {
-    const Rectangle first = icons_.front()->area;
-    draw_around({first.x, first.y, picture_.size().width, picture_.size().height});
-    picture_.draw_at({first.x, first.y});
+    const Point corner{icons_.front()->area.x, icons_.front()->area.y - room_for_heads};
+    draw_around({corner.x, corner.y, picture_.size().width, picture_.size().height});
+    picture_.draw_at(corner);
     for (int row = 0; row < row_count; ++row) {
         draw_row(row);
     }
@@ -275,8 +279,9 @@ void Color_Handles::draw_row(int row) const {
     screen->draw_text(Font::pane, {bar.x + label_offset.x, text_y}, handle_rows.at(index).label);
     screen->draw_text(
         Font::pane, {bar.right() - label_offset.x - screen->text_width(Font::pane, number), text_y}, number);
-    const int x = bar.x + static_cast<int>(std::lround(fraction(row) * (track_size.width - 1)));
-    draw_mark({x - marker_size.width / 2, bar.y + marker_top, marker_size.width, marker_size.height});
+    const int x =
+        bar.x + static_cast<int>(std::lround(fraction(row) * (track_size.width - marker_size.width)));
+    draw_mark({x, bar.y + marker_top, marker_size.width, marker_size.height});
 }
 
 } // namespace quadrelle

@@ -18,15 +18,18 @@ namespace {
 
 constexpr int client_width = window_layout::copies.width - 2 * pane_border;
 
-constexpr int current_height = 120;
+constexpr int current_height = 91;
 constexpr int cell_edge = 32;
 constexpr std::size_t cells_in_row = client_width / cell_edge;
 constexpr std::size_t cell_rows = (Copy_Buffer::capacity + cells_in_row - 1) / cells_in_row;
 static_assert(cells_in_row * cell_edge == client_width);
 
-constexpr int button_height = 21;
+constexpr int button_height = 18;
+constexpr int label_drop = -1;
 constexpr int button_gap = 2;
-constexpr std::size_t buttons_in_row = 4;
+constexpr std::size_t buttons_in_row = 2;
+constexpr int button_width =
+    (client_width - (static_cast<int>(buttons_in_row) - 1) * button_gap) / static_cast<int>(buttons_in_row);
 constexpr std::array button_commands{Command::copy,
                                      Command::cut,
                                      Command::paste,
@@ -65,27 +68,13 @@ void Copy_Panes::place(int top) {
 }
 
 void Copy_Panes::place_buttons() {
-    Point position{commands_.client_area().x, commands_.client_area().y};
-    for (std::size_t first = 0; first < button_count; first += buttons_in_row) {
-        position = place_button_row(first, position);
+    const Rectangle client = commands_.client_area();
+    for (std::size_t i = 0; i < button_count; ++i) {
+        const auto column = static_cast<int>(i % buttons_in_row);
+        const auto row = static_cast<int>(i / buttons_in_row);
+        buttons_.at(i) = {client.x + column * (button_width + button_gap),
+                          client.y + row * (button_height + button_gap), button_width, button_height};
     }
-}
-
-// Each as wide as its label, and what is left of the row is shared out.
-Point Copy_Panes::place_button_row(std::size_t first, Point position) {
-    const Point next{position.x, position.y + button_height + button_gap};
-    int rest = client_width - (static_cast<int>(buttons_in_row) - 1) * button_gap;
-    for (std::size_t i = first; i < first + buttons_in_row; ++i) {
-        rest -= screen->text_width(Font::pane, label(button_commands.at(i)));
-    }
-    for (std::size_t i = first; i < first + buttons_in_row; ++i) {
-        const int share = rest / static_cast<int>(first + buttons_in_row - i);
-        const int width = screen->text_width(Font::pane, label(button_commands.at(i))) + share;
-        buttons_.at(i) = {position.x, position.y, width, button_height};
-        position.x += width + button_gap;
-        rest -= share;
-    }
-    return next;
 }
 
 Rectangle Copy_Panes::cell(std::size_t index) const {
@@ -105,7 +94,7 @@ void Copy_Panes::draw(const Copy_Buffer& copies, const std::function<bool(Comman
     commands_.draw();
     for (std::size_t i = 0; i < button_count; ++i) {
         const Command command = button_commands.at(i);
-        draw_button(buttons_.at(i), {Font::pane, label(command)}, usable_if(can_do(command)));
+        draw_button(buttons_.at(i), {Font::pane, label(command), label_drop}, usable_if(can_do(command)));
     }
 }
 

@@ -42,8 +42,6 @@ private:
     void draw_picture(const Tile& picture, Shown_Tile& shown, const Rectangle& area) const;
     [[nodiscard]] Rectangle cell(std::size_t index) const;
     void place_buttons();
-    // Returns where the next row begins.
-    Point place_button_row(std::size_t first, Point position);
 
     Pane current_;
     Pane previous_;

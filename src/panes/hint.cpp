@@ -10,10 +10,14 @@ namespace quadrelle {
 
 namespace {
 
-// In one line: where it breaks depends on the room.
+// In one line: where it breaks depends on the room. A sentence that announces what comes after it is left
+// out.
 std::string first_paragraph(std::string_view text) {
     std::string paragraph(text.substr(0, text.find("\r\r")));
     std::ranges::replace(paragraph, '\r', ' ');
+    if (const std::size_t end = paragraph.rfind(". "); paragraph.ends_with(':') && end != std::string::npos) {
+        paragraph.resize(end + 1);
+    }
     return paragraph;
 }
 

@@ -41,6 +41,7 @@ enum class Place : int {
     selected_brush,
     brush_pad,
     eraser,
+    first_steps,
     count
 };
 
@@ -77,6 +78,7 @@ constexpr std::array place_table = {
     Place_Row{Place::selected_brush,      "Selected",           "The brush that stamps and fills. A key for a size takes the built-in brush instead; a click here brings the stamp back."},
     Place_Row{Place::brush_pad,           "Brush pad",          "A click chooses that brush. Edit, Move to pad keeps the selected one here; Edit, Delete brush takes it away."},
     Place_Row{Place::eraser,              "Eraser (e)",         "The pen paints transparent with either button, until another tool is chosen."},
+    Place_Row{Place::first_steps,         "A new set of tiles: what next?", "Draw with the left or the right button. File, New makes tiles of another size; File, Load opens a set. Tileset, Add new tile gives it one more."},
 };
 // clang-format on
 

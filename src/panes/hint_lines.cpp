@@ -16,6 +16,7 @@ constexpr Font font = Font::pane;
 // A little less than the letters' cells, whose lowest rows are empty.
 constexpr int line_step = 17;
 constexpr Rectangle area = window_layout::hint_lines;
+constexpr int room_for_size = 110;
 constexpr std::size_t most_lines = area.height / line_step;
 
 } // namespace
@@ -39,13 +40,18 @@ void Hint_Lines::show(const Hint& hint) {
         return;
     }
     hint_ = hint;
-    lines_ = first_lines(title_font, wrapped_text(title_font, hint.title, area.width), 1, area.width);
+    constexpr int title_width = area.width - room_for_size;
+    lines_ = first_lines(title_font, wrapped_text(title_font, hint.title, title_width), 1, title_width);
     const std::vector<std::string> text =
         first_lines(font, wrapped_text(font, hint.text, area.width), most_lines - 1, area.width);
     lines_.insert(lines_.end(), text.begin(), text.end());
 }
 
-void Hint_Lines::draw() const {
+void Hint_Lines::draw(std::optional<Size> tile) const {
+    if (tile) {
+        const std::string text = "Tile " + std::to_string(tile->width) + " x " + std::to_string(tile->height);
+        screen->draw_text(font, {area.right() - screen->text_width(font, text), area.y}, text);
+    }
     Point position = corner_of(area);
     for (const std::string& line : lines_) {
         screen->draw_text(position.y == area.y ? title_font : font, position, line);

@@ -24,7 +24,8 @@ public:
 
     // Takes the hint for what is under the pointer there.
     void set_hint(const Hint& hint, Point pointer);
-    void draw() const;
+    // At the right end of the title's line stands how large the tile is, unless there is none.
+    void draw(std::optional<Size> tile) const;
 
     // Returns the lines from the top, as they are drawn; the first one is the title.
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }

@@ -113,6 +113,9 @@ void Palette_Area::draw_entries() const {
     for (int entry = 0; entry < count(); ++entry) {
         draw_swatch(cell(entry), colors[static_cast<std::size_t>(entry)]);
     }
+    if (!list_.is_kept(palette_) && !drop_) {
+        draw_empty_entries();
+    }
     if (has_entries()) {
         draw_cell_mark(cell(drop_.value_or(entry_)));
     }
@@ -122,6 +125,18 @@ void Palette_Area::draw_entries() const {
     }
     for (int entry = 0; entry < count(); ++entry) {
         draw_outlined_answer(cell(entry));
+    }
+}
+
+// Black up to the last one is how a palette of the store begins that has not all its colours yet.
+void Palette_Area::draw_empty_entries() const {
+    const std::vector<Color>& colors = palette().colors;
+    const Color black = standard_color(Standard_Color::black);
+    for (int entry = count() - 1; entry >= 0 && colors[static_cast<std::size_t>(entry)] == black; --entry) {
+        const Rectangle empty = cell(entry);
+        screen->fill_rect(empty, standard_color(Standard_Color::dark_frame));
+        screen->draw_line({empty.x, empty.bottom() - 1}, {empty.right() - 1, empty.y},
+                          standard_color(Standard_Color::frame));
     }
 }
 

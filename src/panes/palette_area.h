@@ -77,6 +77,7 @@ private:
     [[nodiscard]] std::string shown_name() const;
     void draw_entries() const;
     void draw_color_in_use(Mouse_Button button) const;
+    void draw_empty_entries() const;
     void draw_step_button(Sprite sprite, const Rectangle& place) const;
 
     Palette_List& list_;

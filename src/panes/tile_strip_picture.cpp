@@ -69,6 +69,7 @@ void Tile_Strip_Picture::update_cell(const Tile_Strip& strip, int cell) {
     texture_.update_part({cell * cell_size, 0, cell_size, cell_size}, [&](const Pixel_Rows& target) {
         if (index >= 0) {
             paint_thumbnail(strip.tileset().tile_at(index), {0, 0}, target);
+            paint_edge({thumbnail_edge - 1, 0, 1, thumbnail_edge}, target);
         } else {
             paint_free_place(target);
         }

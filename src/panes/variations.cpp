@@ -17,9 +17,14 @@ constexpr std::array<std::string_view, ramp_kind_count> labels{"Lightness", "Sat
                                                                "Cool to warm"};
 
 constexpr int cell_edge = 16;
+constexpr int hatch_step = 4;
 constexpr int label_height = 14;
 constexpr int row_step = 31;
 constexpr int label_y = -3; // the letters begin five pixels below their position
+
+bool varies(const Color_Ramp& ramp) {
+    return std::ranges::any_of(ramp.colors, [&](Color color) { return color != ramp.colors.front(); });
+}
 
 // Its own place first: greys and black may stand at several.
 std::optional<int> place_of(Color color, const Color_Ramp& ramp) {
@@ -77,8 +82,21 @@ void Color_Variations::paint_ramps() {
             image_.fill_rect(swatch, color);
             swatch.x += cell_edge;
         }
+        if (!varies(ramps_.at(static_cast<std::size_t>(row)))) {
+            hatch({0, row * row_step, ramp_size * cell_edge, cell_edge});
+        }
     }
     image_.upload();
+}
+
+// A ramp of one colour offers nothing to choose.
+void Color_Variations::hatch(const Rectangle& ramp) {
+    for (int y = 0; y < ramp.height; ++y) {
+        for (int x = y % hatch_step; x < ramp.width; x += hatch_step) {
+            image_.fill_rect({ramp.x + x, ramp.y + ramp.height - 1 - y, 1, 1},
+                             standard_color(Standard_Color::pane_background));
+        }
+    }
 }
 
 void Color_Variations::draw() const {

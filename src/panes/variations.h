@@ -25,6 +25,7 @@ public:
 private:
     [[nodiscard]] Rectangle cell(int row, int column) const;
     void paint_ramps();
+    void hatch(const Rectangle& ramp);
 
     Color color_;                    // on every ramp
     Color last_with_hue_{255, 0, 0}; // gives greys their hue

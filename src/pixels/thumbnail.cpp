@@ -40,4 +40,14 @@ void paint_thumbnail(const Tile& tile, Point position, const Pixel_Rows& target)
     }
 }
 
+void paint_edge(const Rectangle& line, const Pixel_Rows& target) {
+    constexpr double contrast = 48;
+    for (int y = line.y; y < line.bottom(); ++y) {
+        for (int x = line.x; x < line.right(); ++x) {
+            Color& color = target.row(y)[x];
+            color.brighten(color.is_dark() ? contrast : -contrast);
+        }
+    }
+}
+
 } // namespace quadrelle

@@ -92,6 +92,27 @@ std::int64_t save_tileset(const Tileset& tileset, const std::string& path) {
     return file.commit() ? tileset_header_size + tileset.total_bytes() : -1;
 }
 
+std::unique_ptr<Tile> load_first_tile(const std::string& path) {
+    Block_File file(path);
+    if (!file.open_read() || file.remaining() < tileset_header_size) {
+        return nullptr;
+    }
+    Header_Bytes bytes = {};
+    file.read_block(bytes);
+    const Header header = unpacked(bytes);
+    const Tileset empty(header.tile_size);
+    const bool holds_tile =
+        header.count > 0 && empty.tile_bytes() > 0 && file.remaining() >= empty.tile_bytes();
+    if (!has_magic(bytes) || !holds_tile) {
+        return nullptr;
+    }
+    std::vector<std::uint8_t> buffer(static_cast<std::size_t>(empty.tile_bytes()));
+    file.read_block(buffer);
+    auto tile = std::make_unique<Tile>(empty.tile_width(), empty.tile_height());
+    tile->read_pixels(buffer);
+    return tile;
+}
+
 Loaded_Tileset load_tileset(const std::string& path) {
     Block_File file(path);
     if (!file.open_read()) {

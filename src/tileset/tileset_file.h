@@ -24,6 +24,9 @@ struct Loaded_Tileset {
     std::unique_ptr<Tileset> tileset;
 };
 
+// Returns the first tile of such a file; null where there is none, or the file is no tileset or too short.
+[[nodiscard]] std::unique_ptr<Tile> load_first_tile(const std::string& path);
+
 // A file that cannot be opened is no tileset; one that ends before its last tile does is a fatal error.
 [[nodiscard]] Loaded_Tileset load_tileset(const std::string& path);
 

@@ -27,6 +27,7 @@ void Undo_History::add(Undo_Entry entry) {
 void Undo_History::clear() {
     entries_.clear();
     position_ = -1;
+    forgotten_ = 0;
 }
 
 void Undo_History::reset(const Tileset& tileset) {

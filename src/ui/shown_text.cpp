@@ -3,6 +3,7 @@
 #include "screen/screen.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quadrelle {
 
@@ -44,10 +45,52 @@ std::vector<std::string> characters_of(std::string_view text) {
     return characters;
 }
 
+namespace {
+
+// The character's number; it must be whole.
+char32_t code_point(std::string_view character) {
+    constexpr std::array<unsigned, 5> lead_bits{0, 0x7f, 0x1f, 0x0f, 0x07};
+    char32_t code = static_cast<unsigned char>(character.front()) & lead_bits.at(character.size());
+    for (const char byte : character.substr(1)) {
+        code = code << 6U | (static_cast<unsigned char>(byte) & 0x3fU);
+    }
+    return code;
+}
+
+struct Letters {
+    char32_t first;
+    std::string_view nearest; // of the characters from there on
+};
+
+// clang-format off
+constexpr std::array<Letters, 4> nearest_letters{{
+    {0x00a0, " !cL??|?\"ca<--R-o+23'u?.,1o>????"
+             "AAAAAAACEEEEIIIIDNOOOOOxOUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty"},
+    {0x0100, "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlL"
+             "lLlNnNnNnnNnOoOoOoOoRrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs"},
+    {0x0218, "SsTt"},
+    {0x2010, "------||'','\"\"\"\"++.>..."},
+}};
+// clang-format on
+
+char nearest_letter(char32_t code) {
+    for (const Letters& letters : nearest_letters) {
+        if (code >= letters.first && code - letters.first < letters.nearest.size()) {
+            return letters.nearest[code - letters.first];
+        }
+    }
+    return '?';
+}
+
+} // namespace
+
 char shown_letter(std::string_view character) {
     constexpr char last_letter = '~';
     const char first = character.front();
-    return character.size() == 1 && first >= first_character && first <= last_letter ? first : '?';
+    if (character.size() > 1) {
+        return nearest_letter(code_point(character));
+    }
+    return first >= first_character && first <= last_letter ? first : '?';
 }
 
 std::string shown_text(std::string_view text) {

@@ -13,7 +13,8 @@ namespace quadrelle {
 // Returns the characters of a UTF-8 text. A byte that belongs to no character is one by itself.
 [[nodiscard]] std::vector<std::string> characters_of(std::string_view text);
 
-// Returns what is drawn for a character: itself, or "?" where the fonts have no letter for it.
+// Returns what is drawn for a character: itself, or where the fonts have no letter for it the nearest one,
+// such as that without its accent, or "?".
 [[nodiscard]] char shown_letter(std::string_view character);
 [[nodiscard]] std::string shown_text(std::string_view text);
 

@@ -43,6 +43,20 @@ void append_wrapped(std::vector<std::string>& lines, Font font, std::string_view
     } while (!paragraph.empty());
 }
 
+// Without the word that has no room, or a part of it where it is the only one, and no comma or colon behind
+// it.
+std::string cut_at_word(Font font, const std::string& line, int room) {
+    std::string cut = line;
+    while (!cut.empty() && screen->text_width(font, cut) > room) {
+        cut.pop_back();
+    }
+    if (cut.size() < line.size() && line[cut.size()] != ' ' && cut.find(' ') != std::string::npos) {
+        cut.resize(cut.rfind(' '));
+    }
+    cut.resize(cut.find_last_not_of(" ,:;.") + 1);
+    return cut;
+}
+
 } // namespace
 
 std::vector<std::string> wrapped_text(Font font, std::string_view text, int width) {
@@ -64,11 +78,7 @@ std::vector<std::string> first_lines(Font font, std::vector<std::string> lines, 
     }
     lines.resize(count);
     std::string& last = lines.back();
-    const int room = width - screen->text_width(font, dots);
-    while (!last.empty() && screen->text_width(font, last) > room) {
-        last.pop_back();
-    }
-    last += dots;
+    last = cut_at_word(font, last, width - screen->text_width(font, dots)).append(dots);
     return lines;
 }
 

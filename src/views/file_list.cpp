@@ -1,7 +1,10 @@
 #include "views/file_list.h"
 
+#include "base/fitting.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
+#include "tileset/tileset_file.h"
+#include "ui/checkerboard.h"
 #include "ui/control.h"
 #include "ui/shown_text.h"
 
@@ -18,13 +21,31 @@ constexpr int border = 1;
 constexpr int bar_width = 14;
 constexpr int shortest_thumb = 20;
 constexpr int icon_offset = 8;
-constexpr int text_offset = 32;
+constexpr int picture_edge = 20;
+constexpr int text_offset = 36;
 constexpr int text_drop = 1;
 
+// Lit from above, with a dark outline, as the icons are.
 void draw_folder_icon(Point position) {
+    const Color black = standard_color(Standard_Color::black);
     const Color color = standard_color(Standard_Color::orange);
-    screen->fill_rect({position.x, position.y + 6, 7, 2}, color);
-    screen->draw_box({position.x, position.y + 8, 16, 11}, color);
+    Color light = color;
+    light.brighten(50);
+    const Rectangle tab{position.x, position.y + 4, 8, 4};
+    const Rectangle body{position.x, position.y + 6, 18, 13};
+    for (const Rectangle& part : {tab, body}) {
+        screen->fill_rect(part, black);
+    }
+    for (const Rectangle& part : {tab, body}) {
+        screen->fill_rect(part.inset(1), color);
+        screen->fill_rect({part.x + 1, part.y + 1, part.width - 2, 1}, light);
+    }
+}
+
+void draw_page_icon(Point position) {
+    const Rectangle page{position.x + 2, position.y + 4, 13, 16};
+    screen->fill_rect(page, standard_color(Standard_Color::black));
+    screen->fill_rect(page.inset(1), standard_color(Standard_Color::light_grey));
 }
 
 } // namespace
@@ -44,6 +65,7 @@ void File_List::reset() {
     clicked_.reset();
     first_ = 0;
     is_dragging_ = false;
+    first_tiles_.clear();
 }
 
 void File_List::scroll(int rows) {
@@ -110,7 +132,7 @@ Rectangle File_List::thumb() const {
     return {track.x + 1, track.y + offset, track.width - 1, height};
 }
 
-void File_List::draw(Focus focus) const {
+void File_List::draw(Focus focus) {
     screen->fill_rect(area_, standard_color(Standard_Color::dark_frame));
     const int end = std::min(count(), first_ + page());
     for (int row = first_; row < end; ++row) {
@@ -125,7 +147,33 @@ void File_List::draw(Focus focus) const {
         area_, standard_color(focus == Focus::yes ? Standard_Color::highlight : Standard_Color::frame));
 }
 
-void File_List::draw_row(std::size_t row, Focus focus) const {
+File_List::First_Tile& File_List::first_tile(std::size_t row) {
+    const auto [place, is_new] = first_tiles_.try_emplace(row);
+    if (is_new) {
+        place->second.tile = load_first_tile(listing_->path_of(row));
+    }
+    return place->second;
+}
+
+void File_List::draw_icon(std::size_t row, Point position) {
+    if (listing_->rows()[row].kind != Listed_Kind::file) {
+        draw_folder_icon(position);
+        return;
+    }
+    First_Tile& first = first_tile(row);
+    if (first.tile == nullptr) {
+        draw_page_icon(position);
+        return;
+    }
+    const Rectangle room{position.x - 1, position.y + (row_height - picture_edge) / 2, picture_edge,
+                         picture_edge};
+    const Rectangle place = centred(fitted(first.tile->size(), {room.width, room.height}), room);
+    draw_checkerboard(place);
+    first.shown.draw(*first.tile, place);
+    screen->draw_outline(place.inset(-1), standard_color(Standard_Color::black));
+}
+
+void File_List::draw_row(std::size_t row, Focus focus) {
     const Rectangle place = row_area(row);
     const Listed_Row& listed = listing_->rows()[row];
     if (selected_ == row) {
@@ -133,9 +181,7 @@ void File_List::draw_row(std::size_t row, Focus focus) const {
                                                                     : Standard_Color::list_passive));
     }
     draw_answer(place);
-    if (listed.kind != Listed_Kind::file) {
-        draw_folder_icon({place.x + icon_offset, place.y});
-    }
+    draw_icon(row, {place.x + icon_offset, place.y});
     const int room = place.width - text_offset - icon_offset;
     screen->draw_text(font, {place.x + text_offset, place.y + text_drop},
                       fitted_text(font, listed.name, room, Left_Out::middle));

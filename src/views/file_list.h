@@ -4,8 +4,13 @@
 
 #include "base/folder_listing.h"
 #include "base/geometry.h"
+#include "pixels/tile.h"
 #include "ui/focus.h"
+#include "ui/shown_tile.h"
 
+#include <cstddef>
+#include <map>
+#include <memory>
 #include <optional>
 
 namespace quadrelle {
@@ -35,14 +40,22 @@ public:
     void drag(Point point);
     void release() { is_dragging_ = false; }
 
-    void draw(Focus focus) const;
+    // A set of tiles has its first one before its name.
+    void draw(Focus focus);
 
 private:
     [[nodiscard]] int count() const { return static_cast<int>(listing_->rows().size()); }
     [[nodiscard]] bool has_bar() const { return count() > page(); }
     [[nodiscard]] Rectangle bar() const;
     [[nodiscard]] Rectangle thumb() const;
-    void draw_row(std::size_t row, Focus focus) const;
+    void draw_row(std::size_t row, Focus focus);
+    struct First_Tile {
+        std::unique_ptr<Tile> tile; // null of what is no set
+        Shown_Tile shown;
+    };
+    // Reads the file when its row is shown first.
+    [[nodiscard]] First_Tile& first_tile(std::size_t row);
+    void draw_icon(std::size_t row, Point position);
 
     Rectangle area_;
     const Folder_Listing* listing_;
@@ -50,6 +63,7 @@ private:
     std::optional<std::size_t> clicked_;
     int first_ = 0;
     bool is_dragging_ = false;
+    std::map<std::size_t, First_Tile> first_tiles_; // by row
 };
 
 } // namespace quadrelle

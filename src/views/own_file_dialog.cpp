@@ -68,7 +68,7 @@ private:
     enum class Part { list, name };
 
     [[nodiscard]] bool open_start(const std::string& proposed);
-    void draw() const;
+    void draw();
     Loop_Step handle(const Input_Event& event);
     void handle_key(const Input_Event& event);
     void handle_list_key(Keycode pressed);
@@ -137,7 +137,7 @@ File_Answer Own_Chooser::run(const std::string& proposed) {
     return answer_;
 }
 
-void Own_Chooser::draw() const {
+void Own_Chooser::draw() {
     frame_.draw();
     const Point path{layout_.path.x, layout_.path.y};
     screen->draw_text(font, path, fitted_text(font, listing_.folder(), layout_.path.width, Left_Out::start));

@@ -2,6 +2,7 @@
 
 #include "base/fitting.h"
 #include "color/translucency.h"
+#include "pixels/thumbnail.h"
 #include "screen/opaque_texture.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
@@ -111,6 +112,8 @@ void Tile_Grid::paint_cells(const Pixel_Rows& target) const {
         const Rectangle cell{i % cells_.width * cell_.width, i / cells_.width * cell_.height, cell_.width,
                              cell_.height};
         paint_tile(tileset_.tile_at(first + i), centred(shown, cell), target);
+        paint_edge({cell.right() - 1, cell.y, 1, cell.height}, target);
+        paint_edge({cell.x, cell.bottom() - 1, cell.width - 1, 1}, target);
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -25,24 +26,42 @@ constexpr int room_above_rows = 4;
 constexpr int thumbnail_inset = 2;
 constexpr int thumbnail_edge = row_size.height - 2 * thumbnail_inset;
 constexpr int label_offset = thumbnail_edge + 12;
+constexpr int name_offset = 32; // behind an icon
+constexpr int margin = 8;
 constexpr int text_drop = 3;
 
-void draw_label(Command kind, Point position) {
-    const Tool tool = kind == Command::none ? Tool::none : tool_of(kind);
-    if (tool != Tool::none) {
-        screen->draw_sprite(icon_of(kind), position);
-        return;
+// Nothing was done to what there was at the start, whatever it is labelled as.
+std::string_view name_of(const Undo_History& history, std::size_t entry) {
+    const Command kind = history.entries()[entry].kind;
+    if (kind == Command::none) {
+        return "-empty-";
     }
-    const std::string_view text = kind == Command::none ? "-empty-" : row_of(kind).name;
-    screen->draw_text(Font::pane, {position.x, position.y + text_drop}, text);
+    return entry == 0 && history.forgotten() == 0 ? "At the start" : row_of(kind).name;
 }
 
-void draw_row(const Undo_Entry& entry, Shown_Tile& thumbnail, const Rectangle& area, bool is_current) {
+// What a tool did has its icon too.
+void draw_label(Command kind, std::string_view name, Point position) {
+    if (kind != Command::none && tool_of(kind) != Tool::none) {
+        screen->draw_sprite(icon_of(kind), position);
+    }
+    screen->draw_text(Font::pane, {position.x + name_offset, position.y + text_drop}, name);
+}
+
+void draw_tile_number(int tile, const Rectangle& row) {
+    const std::string text = "Tile " + std::to_string(tile);
+    const int width = screen->text_width(Font::pane, text);
+    screen->draw_text(Font::pane, {row.right() - margin - width, row.y + thumbnail_inset + text_drop}, text);
+}
+
+void draw_row(const Undo_History& history, std::size_t index, Shown_Tile& thumbnail, const Rectangle& area) {
+    const Undo_Entry& entry = history.entries()[index];
+    const bool is_current = static_cast<int>(index) == history.position();
     screen->draw_box(area,
                      standard_color(is_current ? Standard_Color::list_active : Standard_Color::list_passive));
     const int y = area.y + thumbnail_inset;
     thumbnail.draw(entry.snapshot->tile, {area.x + thumbnail_inset, y, thumbnail_edge, thumbnail_edge});
-    draw_label(entry.kind, {area.x + label_offset, y});
+    draw_label(entry.kind, name_of(history, index), {area.x + label_offset, y});
+    draw_tile_number(entry.tile_index, area);
 }
 
 // Each entry keeps its thumbnail.
@@ -52,7 +71,7 @@ void draw_list(const Undo_History& history, std::span<Shown_Tile> thumbnails, co
                   row_size.height};
     for (int i = static_cast<int>(history.entries().size()) - 1; i >= 0; --i) {
         const auto entry = static_cast<std::size_t>(i);
-        draw_row(history.entries()[entry], thumbnails[entry], row, i == history.position());
+        draw_row(history, entry, thumbnails[entry], row);
         row.y += row_step;
     }
 }

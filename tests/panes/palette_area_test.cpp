@@ -48,6 +48,21 @@ TEST_F(Palette_Area_Test, shows_and_selects_the_entries) {
     EXPECT_EQ(area.selected_color(), selected);
 }
 
+TEST_F(Palette_Area_Test, entries_after_the_last_colour_do_not_look_black) {
+    Palette_Store store("missing.dat");
+    Palette_List list(store, folder().path("palettes"));
+    Palette_Area area(position, list, colors_);
+    const auto looks_black = [&](int column, int row) {
+        return pixel_at(cell(area, column, row)) == Color() &&
+               pixel_at({cell(area, column, row).x - 6, cell(area, column, row).y}) == Color();
+    };
+    store.set_color(0, 31, Color());
+    store.set_color(0, 30, Color());
+    area.draw();
+    EXPECT_TRUE(looks_black(1, 0));
+    EXPECT_FALSE(looks_black(6, 3) || looks_black(7, 3));
+}
+
 TEST_F(Palette_Area_Test, buttons_step_through_the_palettes_and_around) {
     Palette_Store store("missing.dat");
     Palette_List list(store, folder().path("palettes"));

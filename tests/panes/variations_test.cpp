@@ -129,5 +129,17 @@ TEST_F(Variations_Test, every_cell_gives_the_colour_it_shows_and_the_own_one_is_
     EXPECT_EQ(pane.area.bottom(), 632);
 }
 
+TEST_F(Variations_Test, a_ramp_of_one_colour_is_hatched) {
+    Color_Variations pane({1026, 478, 202, 133});
+    pane.set_color(Color(255, 255, 255));
+    pane.draw();
+    const Rectangle client = pane.client_area();
+    const auto is_plain = [&](int row) {
+        return !has_picture({client.x + 16 * 5, client.y + 14 + row * 31, 16, 16});
+    };
+    EXPECT_TRUE(is_plain(0) && is_plain(1));
+    EXPECT_FALSE(is_plain(2)) << "white has no other hues";
+}
+
 } // namespace
 } // namespace quadrelle::testing

@@ -104,6 +104,24 @@ TEST(Tileset_File, every_truncation_is_fatal) {
     }
 }
 
+TEST(Tileset_File, first_tile_is_there_where_the_file_holds_it_whole) {
+    const Temporary_Folder folder;
+    const std::string path = folder.path("tiles.qdl");
+    EXPECT_EQ(load_first_tile(path), nullptr);
+    for (std::size_t length = 0; length <= small_file.size(); ++length) {
+        store(path, Bytes(small_file.begin(), small_file.begin() + static_cast<std::ptrdiff_t>(length)));
+        const std::unique_ptr<Tile> tile = load_first_tile(path);
+        ASSERT_EQ(tile != nullptr, length >= 11 + 8) << length;
+        EXPECT_TRUE(tile == nullptr || tile->same_pixels(small_tileset().tile_at(0)));
+    }
+    Bytes other = small_file;
+    other[0] = 'q';
+    store(path, other);
+    EXPECT_EQ(load_first_tile(path), nullptr);
+    store(path, header(0, 5, 1));
+    EXPECT_EQ(load_first_tile(path), nullptr);
+}
+
 // What each header says decides alone; whatever follows the last tile is not looked at.
 TEST(Tileset_File, every_flipped_bit_has_its_expected_outcome) {
     const Temporary_Folder folder;

@@ -45,7 +45,10 @@ TEST_F(Wrapped_Text_Test, shows_that_lines_are_left_out) {
     EXPECT_EQ(first_lines(font, {"one", "two"}, 1, width), Lines{"one..."});
     const Lines cut = first_lines(font, {"wide enough", "two"}, 1, width);
     EXPECT_LE(screen->text_width(font, cut.front()), width);
-    EXPECT_TRUE(cut.front().starts_with("wide e") && cut.front().ends_with("...")) << cut.front();
+    EXPECT_EQ(cut.front(), "wide...") << "whole words only";
+    EXPECT_EQ(first_lines(font, {"options:", "two"}, 1, width), Lines{"options..."});
+    const Lines one_word = first_lines(font, {"wideenoughh", "two"}, 1, width);
+    EXPECT_TRUE(one_word.front().starts_with("wideen") && one_word.front().ends_with("..."));
     EXPECT_EQ(joined_lines({"", "a", "", "b"}), "\ra\r\rb");
 }
 

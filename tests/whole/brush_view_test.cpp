@@ -133,7 +133,7 @@ TEST_F(Brush_View_Test, cursor_is_hidden_over_the_canvas_only_where_a_brush_show
     // A dialog shows it, wherever the pointer was.
     Cursor in_dialog = Cursor::hidden;
     script().check([&] { in_dialog = current_cursor(); });
-    script().check([] { EXPECT_TRUE(has_picture({395, 115, 200, 30})) << "the logo"; }).key(key::escape);
+    script().check([] { EXPECT_TRUE(has_picture({560, 285, 100, 20})) << "the logo"; }).key(key::escape);
     execute(Command::about);
     EXPECT_EQ(in_dialog, Cursor::shown);
     EXPECT_EQ(current_cursor(), Cursor::hidden);

@@ -12,7 +12,7 @@ namespace {
 // The panes lie beside the entry of the tool; the grid's cells are 32 pixels apart.
 class Copy_Panes_Test : public Selection_Test {
 protected:
-    static constexpr Point first_copy{1028 + 16, 266 + 151 + 4 + 26 + 16};
+    static constexpr Point first_copy{1028 + 16, 266 + 122 + 4 + 26 + 16};
     static constexpr Point next(Point point, int columns) { return {point.x + 32 * columns, point.y}; }
 
     // Newest first: five, four, three, two pixels wide.
@@ -62,22 +62,22 @@ TEST_F(Copy_Panes_Test, a_double_click_pastes_that_copy_and_a_right_click_remove
 }
 
 TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
-    // Two rows of four: Copy, Cut, Paste, Clone; Clear, Fill, Invert, Deselect.
+    // Four rows of two: Copy, Cut; Paste, Clone; Clear, Fill; Invert, Deselect.
     const auto press = [&](int column, int row) {
-        play(script().click({1028 + 20 + column * 50, 266 + 361 - 5 - 44 + 10 + row * 23}));
+        play(script().click({1028 + 20 + column * 97, 549 + 10 + row * 20}));
     };
     select_rectangle({0, 0}, {4, 4});
-    press(1, 1);
+    press(1, 2);
     EXPECT_EQ(count(tools().colors.of(Mouse_Button::left)), 16);
     press(0, 0);
     EXPECT_EQ(editor->copies().copies().size(), 1U);
-    press(0, 1);
+    press(0, 2);
     EXPECT_EQ(count(clear), 16);
-    press(2, 1);
+    press(0, 3);
     EXPECT_EQ(work().selection().count(), 576 - 16);
-    press(3, 1);
+    press(1, 3);
     EXPECT_FALSE(work().has_selection());
-    press(2, 0);
+    press(0, 1);
     EXPECT_TRUE(work().paste());
 }
 

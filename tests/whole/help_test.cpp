@@ -79,6 +79,7 @@ struct Hint_Case {
 
 TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
     const std::string pen = std::string(description(Command::pen));
+    execute(Command::mirror);
     const std::vector<Hint_Case> cases{
         {{796, 44}, "Pen (p)", pen},
         {{796, 68}, "Lightness pen (L)", "Darken or lighten"},
@@ -124,6 +125,17 @@ TEST_F(Help_Test, hints_and_context_info_tell_what_is_under_the_pointer) {
     script().motion(cell(3, 4)).key(key::f1);
     expect_message("Pen (p)", pen).key(key::escape);
     play();
+}
+
+TEST_F(Help_Test, hint_tells_what_can_be_done_first_until_something_is_done) {
+    const Point nothing{270, 70};
+    const auto title = [&] { return hint_at(nothing, script()).at(0); };
+    EXPECT_EQ(title(), "A new set of tiles: what next?");
+    EXPECT_EQ(hint_at({796, 44}, script()).at(0), "Pen (p)");
+    // What announces a list is left out together with it.
+    EXPECT_EQ(hint_at({796, 68}, script()).at(1), "Darken or lighten pixels.");
+    execute(Command::mirror);
+    EXPECT_EQ(title(), "Pen (p)");
 }
 
 TEST_F(Help_Test, hints_over_the_canvas_tell_pixel_and_colour) {
