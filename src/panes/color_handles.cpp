@@ -3,8 +3,8 @@
 #include "color/standard_colors.h"
 #include "screen/events.h"
 #include "screen/screen.h"
-#include "ui/held_button.h"
 #include "ui/control.h"
+#include "ui/held_button.h"
 #include "ui/swatch.h"
 #include "ui/window_layout.h"
 

@@ -19,6 +19,8 @@ constexpr Rectangle row = window_layout::tabs;
 constexpr int longest_title = 320;
 constexpr Rectangle arrow = sprite_rect(Sprite::button_less);
 constexpr int arrow_gap = 1;
+// Over the tabs of the documents that are not the current one.
+constexpr Color step_back{112, 112, 112, 110};
 constexpr Rectangle left_arrow{row.x - arrow_gap - arrow.width, row.y + 3, arrow.width, arrow.height};
 constexpr Rectangle right_arrow{row.right() + arrow_gap, row.y + 3, arrow.width, arrow.height};
 
@@ -29,11 +31,10 @@ std::unique_ptr<Texture> make_label(const std::string& title, bool is_current) {
 }
 
 // Up to the slant at its right end, which goes one pixel to the right in each row.
-void draw_answer_on_tab(const Rectangle& tab) {
-    const Control_State state = control_state(tab);
+void draw_tint(const Rectangle& tab, Color tint) {
     const int slant = tab.right() - sprite_rect(Sprite::pane_header_end).width + 2;
-    for (int y = 1; state != Control_State::idle && y + 1 < tab.height; ++y) {
-        screen->fill_rect({tab.x + 1, tab.y + y, slant + y - tab.x - 1, 1}, answer_tint(state));
+    for (int y = 1; tint.a > 0 && y + 1 < tab.height; ++y) {
+        screen->fill_rect({tab.x + 1, tab.y + y, slant + y - tab.x - 1, 1}, tint);
     }
 }
 
@@ -47,6 +48,7 @@ Document_Tabs::~Document_Tabs() = default;
 void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t current) {
     tabs_.clear();
     document_count_ = static_cast<int>(titles.size());
+    current_ = static_cast<int>(current);
     int room = row.width;
     const auto add = [&](std::size_t place, std::size_t document) {
         auto label = make_label(titles[document], document == current);
@@ -91,7 +93,10 @@ void Document_Tabs::draw() const {
     screen->draw_panel(window_layout::tab_rail, standard_color(Standard_Color::pane_frame));
     for (const Tab& tab : tabs_) {
         screen->draw_texture(*tab.label, {tab.area.x, tab.area.y});
-        draw_answer_on_tab(tab.area);
+        if (tab.document != current_) {
+            draw_tint(tab.area, step_back);
+        }
+        draw_tint(tab.area, answer_tint(control_state(tab.area)));
     }
     if (hides_first()) {
         screen->draw_sprite(Sprite::button_less, {left_arrow.x, left_arrow.y});

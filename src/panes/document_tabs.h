@@ -38,6 +38,7 @@ private:
     std::vector<Tab> tabs_; // those that show
     std::size_t first_shown_ = 0;
     int document_count_ = 0;
+    int current_ = 0;
 };
 
 } // namespace quadrelle

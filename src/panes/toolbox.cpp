@@ -31,6 +31,9 @@ void draw_entry(const Tool_Row& tool, std::string_view name, const Rectangle& ar
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
     const Sprite icon = is_chosen ? lit_twin(icon_of(tool.command)) : icon_of(tool.command);
     screen->draw_box(area, standard_color(fill));
+    if (is_chosen) {
+        screen->draw_outline(area, standard_color(Standard_Color::highlight));
+    }
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, name);
     draw_answer(area);

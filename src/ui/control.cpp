@@ -41,7 +41,9 @@ Control_State control_state(const Rectangle& area, Usable usable) {
         return Control_State::disabled;
     }
     const Followed_Pointer& pointer = followed_pointer();
-    if (layers_in_front > 0 || !area.contains(pointer.pressed_at.value_or(pointer.position))) {
+    const bool is_meant =
+        area.contains(pointer.position) && area.contains(pointer.pressed_at.value_or(pointer.position));
+    if (layers_in_front > 0 || !is_meant) {
         return Control_State::idle;
     }
     return pointer.pressed_at ? Control_State::held : Control_State::hovered;

@@ -16,7 +16,7 @@ enum class Usable { no, yes };
     return is_usable ? Usable::yes : Usable::no;
 }
 
-// While a button is held, nothing but what it was pressed on answers.
+// While a button is held, nothing but what it was pressed on answers, and that while the pointer is on it.
 [[nodiscard]] Control_State control_state(const Rectangle& area, Usable usable = Usable::yes);
 
 // These draw the answer over a control that is drawn there: a button, an icon or a row gets lighter, is

@@ -25,12 +25,14 @@ protected:
 
 } // namespace
 
-TEST_F(Control_Test, is_hovered_under_the_pointer_and_held_until_the_release) {
+TEST_F(Control_Test, is_hovered_under_the_pointer_and_held_on_it_until_the_release) {
     Script script;
     script.check([] { expect(Control_State::idle); });
     script.motion(inside).check([] { expect(Control_State::hovered); });
     script.press(inside).check([] { expect(Control_State::held); });
-    script.motion(outside).check([] { expect(Control_State::held); });
+    script.motion(outside).check([] { expect(Control_State::idle); });
+    script.motion(inside).check([] { expect(Control_State::held); });
+    script.motion(outside);
     script.release(outside).check([] { expect(Control_State::idle); });
     script.press(outside).motion(inside).check([] { expect(Control_State::idle); });
     script.release(inside).check([] { expect(Control_State::hovered); });
