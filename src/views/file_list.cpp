@@ -132,19 +132,19 @@ Rectangle File_List::thumb() const {
     return {track.x + 1, track.y + offset, track.width - 1, height};
 }
 
-void File_List::draw(Focus focus) {
+void File_List::draw(Focused focused) {
     screen->fill_rect(area_, standard_color(Standard_Color::dark_frame));
     const int end = std::min(count(), first_ + page());
     for (int row = first_; row < end; ++row) {
-        draw_row(static_cast<std::size_t>(row), focus);
+        draw_row(static_cast<std::size_t>(row), focused.row);
     }
     if (has_bar()) {
         screen->fill_rect(bar(), standard_color(Standard_Color::frame));
         screen->draw_panel(thumb(), standard_color(Standard_Color::pane_background));
         draw_answer(thumb());
     }
-    screen->draw_outline(
-        area_, standard_color(focus == Focus::yes ? Standard_Color::highlight : Standard_Color::frame));
+    screen->draw_outline(area_, standard_color(focused.list == Focus::yes ? Standard_Color::highlight
+                                                                          : Standard_Color::frame));
 }
 
 File_List::First_Tile& File_List::first_tile(std::size_t row) {

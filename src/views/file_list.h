@@ -40,8 +40,13 @@ public:
     void drag(Point point);
     void release() { is_dragging_ = false; }
 
+    // Up and down act on the list, and Return on its selected row only if that was chosen.
+    struct Focused {
+        Focus list = Focus::no;
+        Focus row = Focus::no;
+    };
     // A set of tiles has its first one before its name.
-    void draw(Focus focus);
+    void draw(Focused focused);
 
 private:
     [[nodiscard]] int count() const { return static_cast<int>(listing_->rows().size()); }

@@ -141,7 +141,9 @@ void Own_Chooser::draw() {
     frame_.draw();
     const Point path{layout_.path.x, layout_.path.y};
     screen->draw_text(font, path, fitted_text(font, listing_.folder(), layout_.path.width, Left_Out::start));
-    list_.draw(focus_ == Part::list && is_row_chosen_ ? Focus::yes : Focus::no);
+    const bool is_list = focus_ == Part::list;
+    list_.draw({.list = is_list ? Focus::yes : Focus::no,
+                .row = is_list && is_row_chosen_ ? Focus::yes : Focus::no});
     const std::string_view note = note_.empty() ? request_.filter_label : note_.c_str();
     screen->draw_text(font, {layout_.note.x, layout_.note.y},
                       fitted_text(font, note, layout_.note.width, Left_Out::middle));
