@@ -116,6 +116,10 @@ void Palette_Area::draw_entries() const {
     if (!list_.is_kept(palette_) && !drop_) {
         draw_empty_entries();
     }
+    draw_marks();
+}
+
+void Palette_Area::draw_marks() const {
     if (has_entries()) {
         draw_cell_mark(cell(drop_.value_or(entry_)));
     }
@@ -123,7 +127,7 @@ void Palette_Area::draw_entries() const {
         draw_color_in_use(Mouse_Button::left);
         draw_color_in_use(Mouse_Button::right);
     }
-    for (int entry = 0; entry < count(); ++entry) {
+    for (int entry = 0; is_pointed_at(client_area()) && entry < count(); ++entry) {
         draw_outlined_answer(cell(entry));
     }
 }

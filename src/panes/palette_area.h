@@ -78,6 +78,7 @@ private:
     void draw_entries() const;
     void draw_color_in_use(Mouse_Button button) const;
     void draw_empty_entries() const;
+    void draw_marks() const;
     void draw_step_button(Sprite sprite, const Rectangle& place) const;
 
     Palette_List& list_;

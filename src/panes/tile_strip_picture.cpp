@@ -55,7 +55,8 @@ void Tile_Strip_Picture::draw(const Tile_Strip& strip) {
     if (current >= 0) {
         screen->draw_sprite(Sprite::first_marker, {place.x + current * cell_size, place.y});
     }
-    for (int cell = 0; cell < Tile_Strip::visible_cells && strip.tile_in(cell) >= 0; ++cell) {
+    for (int cell = 0; is_pointed_at(area) && cell < Tile_Strip::visible_cells && strip.tile_in(cell) >= 0;
+         ++cell) {
         draw_outlined_answer({place.x + cell * cell_size, place.y, cell_size, cell_size});
     }
 }

@@ -108,7 +108,7 @@ void Color_Variations::draw() const {
         const int label_top = cell(row, 0).y - label_height;
         screen->draw_text(Font::pane, {first.x, label_top + label_y}, labels.at(index));
         draw_cell_mark(cell(row, ramps_.at(index).own));
-        for (int column = 0; column < ramp_size; ++column) {
+        for (int column = 0; is_pointed_at(client_area()) && column < ramp_size; ++column) {
             draw_outlined_answer(cell(row, column));
         }
     }

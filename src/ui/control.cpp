@@ -36,14 +36,16 @@ Behind::~Behind() {
     --layers_in_front;
 }
 
+bool is_pointed_at(const Rectangle& area) {
+    return layers_in_front == 0 && area.contains(followed_pointer().position);
+}
+
 Control_State control_state(const Rectangle& area, Usable usable) {
     if (usable == Usable::no) {
         return Control_State::disabled;
     }
     const Followed_Pointer& pointer = followed_pointer();
-    const bool is_meant =
-        area.contains(pointer.position) && area.contains(pointer.pressed_at.value_or(pointer.position));
-    if (layers_in_front > 0 || !is_meant) {
+    if (!is_pointed_at(area) || !area.contains(pointer.pressed_at.value_or(pointer.position))) {
         return Control_State::idle;
     }
     return pointer.pressed_at ? Control_State::held : Control_State::hovered;

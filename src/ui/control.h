@@ -19,6 +19,10 @@ enum class Usable { no, yes };
 // While a button is held, nothing but what it was pressed on answers, and that while the pointer is on it.
 [[nodiscard]] Control_State control_state(const Rectangle& area, Usable usable = Usable::yes);
 
+// Whether the pointer is on the area and nothing lies over it: where it is not, none of the many controls
+// there has to be asked.
+[[nodiscard]] bool is_pointed_at(const Rectangle& area);
+
 // These draw the answer over a control that is drawn there: a button, an icon or a row gets lighter, is
 // pushed in, or steps back; a colour or a picture stays as it is and gets an outline.
 void draw_answer(const Rectangle& area, Usable usable = Usable::yes);
