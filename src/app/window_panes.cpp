@@ -55,14 +55,17 @@ void Window_Panes::draw(const Pointer_State& pointer) {
     icon_bar_.draw([this](Command icon) { return is_lit(icon); });
     draw_panes();
     documents_.draw_tabs();
+    if (const Tile* const tile = canvas_.tile()) {
+        Hint_Lines::draw_size(tile->size());
+    }
+    // What another tool changes comes last, so that the rest is found unchanged.
     toolbox->draw(pointer.point());
     if (toolbox->state().is_in_selection_group()) {
         copy_panes_.place(toolbox->entry_top());
         copy_panes_.draw(copies_, [this](Command command) { return can_do(command); });
     }
     hint_lines_.set_hint(hint_at(pointer.point()), pointer.point());
-    const Tile* const tile = canvas_.tile();
-    hint_lines_.draw(tile == nullptr ? std::nullopt : std::optional(tile->size()));
+    hint_lines_.draw();
 }
 
 void Window_Panes::draw_panes() {

@@ -47,11 +47,12 @@ void Hint_Lines::show(const Hint& hint) {
     lines_.insert(lines_.end(), text.begin(), text.end());
 }
 
-void Hint_Lines::draw(std::optional<Size> tile) const {
-    if (tile) {
-        const std::string text = "Tile " + std::to_string(tile->width) + " x " + std::to_string(tile->height);
-        screen->draw_text(font, {area.right() - screen->text_width(font, text), area.y}, text);
-    }
+void Hint_Lines::draw_size(Size tile) {
+    const std::string text = "Tile " + std::to_string(tile.width) + " x " + std::to_string(tile.height);
+    screen->draw_text(font, {area.right() - screen->text_width(font, text), area.y}, text);
+}
+
+void Hint_Lines::draw() const {
     Point position = corner_of(area);
     for (const std::string& line : lines_) {
         screen->draw_text(position.y == area.y ? title_font : font, position, line);

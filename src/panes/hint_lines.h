@@ -24,8 +24,9 @@ public:
 
     // Takes the hint for what is under the pointer there.
     void set_hint(const Hint& hint, Point pointer);
-    // At the right end of the title's line stands how large the tile is, unless there is none.
-    void draw(std::optional<Size> tile) const;
+    void draw() const;
+    // Draws how large the tile is at the right end of the title's line.
+    static void draw_size(Size tile);
 
     // Returns the lines from the top, as they are drawn; the first one is the title.
     [[nodiscard]] const std::vector<std::string>& lines() const { return lines_; }

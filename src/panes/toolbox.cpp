@@ -31,9 +31,6 @@ void draw_entry(const Tool_Row& tool, std::string_view name, const Rectangle& ar
     const auto fill = is_chosen ? Standard_Color::list_active : Standard_Color::list_passive;
     const Sprite icon = is_chosen ? lit_twin(icon_of(tool.command)) : icon_of(tool.command);
     screen->draw_box(area, standard_color(fill));
-    if (is_chosen) {
-        screen->draw_outline(area, standard_color(Standard_Color::highlight));
-    }
     screen->draw_sprite(icon, {area.x + icon_offset.x, area.y + icon_offset.y});
     screen->draw_text(Font::pane, {area.x + name_offset.x, area.y + name_offset.y}, name);
     draw_answer(area);
@@ -142,6 +139,9 @@ void Toolbox::draw(Point pointer) {
             draw_entry(tool, is_eraser ? "Eraser" : tool.name, entry, is_chosen);
         }
     }
+    // After all rows, so that most of them are found again in the frame of another tool.
+    screen->draw_outline(entry_area(static_cast<std::size_t>(state_.tool)),
+                         standard_color(Standard_Color::highlight));
     if (row_of(state_.tool).uses_brush) {
         brush_selector_.draw(state_.chosen_brush);
     }

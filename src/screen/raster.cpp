@@ -27,6 +27,21 @@ void copy_row(const Color* from, int count, Color* to, bool is_opaque) {
     }
 }
 
+// Neighbours are mostly equal, and so they are when something lies over them.
+void lay_over_row(Color* row, int count, Color color) {
+    Color below = row[0];
+    Color shown = below;
+    lay_over(shown, color);
+    for (int x = 0; x < count; ++x) {
+        if (row[x] != below) {
+            below = row[x];
+            shown = below;
+            lay_over(shown, color);
+        }
+        row[x] = shown;
+    }
+}
+
 // Where an axis is sampled: in steps of parts of 65536, from half a step on.
 struct Sampling {
     std::int64_t step;
@@ -67,7 +82,7 @@ void fill(const Clipped_Target& target, const Rectangle& area, Color color) {
     for (int y = shown.y; y < shown.bottom(); ++y) {
         Color* const row = target.pixels.row(y) + shown.x;
         if (color.a != 255) {
-            std::for_each_n(row, shown.width, [color](Color& pixel) { lay_over(pixel, color); });
+            lay_over_row(row, shown.width, color);
         } else if (row == first) {
             std::fill_n(row, shown.width, color);
         } else {

@@ -102,9 +102,9 @@ void Sprite_Sheet::draw_text(Font font, std::string_view text, const Rectangle& 
             continue;
         }
         const Rectangle source = glyph_rect(font, glyph);
-        if (character != ' ') {
-            draw_image(target, *texture_.image(), source,
-                       {position.x, position.y, source.width, source.height});
+        const Rectangle place{position.x, position.y, source.width, source.height};
+        if (character != ' ' && !intersection(place, target.clip).is_empty()) {
+            draw_image(target, *texture_.image(), source, place);
         }
         position.x += source.width;
     }
