@@ -6,6 +6,7 @@
 #include "ui/dialogs.h"
 #include "views/undo_list.h"
 
+#include <optional>
 #include <string>
 
 namespace quadrelle::edit_commands {
@@ -37,8 +38,14 @@ Outcome redo(Editor_Parts& editor) {
     return editor.recorder.redo() ? Outcome::done : editor.refuse(Command::redo, "There is nothing to redo.");
 }
 
+// A click on a state goes there, as so many steps back or forth would.
 Outcome view_undo_history(Editor_Parts& editor) {
-    show_undo_list(editor.documents.current().history());
+    const Undo_History& history = editor.documents.current().history();
+    if (const std::optional<std::size_t> clicked = show_undo_list(history)) {
+        const int wanted = static_cast<int>(*clicked);
+        while (history.position() > wanted && editor.recorder.undo()) {}
+        while (history.position() < wanted && editor.recorder.redo()) {}
+    }
     return Outcome::done;
 }
 

@@ -42,7 +42,8 @@ Window_Panes::Window_Panes(Canvas_View& canvas, Documents& documents, Copy_Buffe
       palette_(corner_of(window_layout::palette), *palette_list, toolbox->state().colors),
       selected_color_(corner_of(window_layout::selected_color), palette_, toolbox->state().colors),
       history_(corner_of(window_layout::history)), navigation_(corner_of(window_layout::navigation)),
-      menu_bar_([this] { redraw_(Present::no); }) {}
+      menu_bar_([this] { redraw_(Present::no); },
+                [this](Command command) { return can_do(command, subjects()); }) {}
 
 void Window_Panes::size_preview() {
     const Size tile = documents_.current().tileset().tile_size();
@@ -62,7 +63,7 @@ void Window_Panes::draw(const Pointer_State& pointer) {
     toolbox->draw(pointer.point());
     if (toolbox->state().is_in_selection_group()) {
         copy_panes_.place(toolbox->entry_top());
-        copy_panes_.draw(copies_, [this](Command command) { return can_do(command); });
+        copy_panes_.draw(copies_, [this](Command command) { return can_do(command, subjects()); });
     }
     hint_lines_.set_hint(hint_at(pointer.point()), pointer.point());
     hint_lines_.draw();
@@ -92,17 +93,6 @@ bool Window_Panes::is_lit(Command icon) const {
     case Command::horizontal_seam_tool: return canvas_.horizontal_seam_shift() >= 0;
     case Command::vertical_seam_tool: return canvas_.vertical_seam_shift() >= 0;
     default: return current == icon;
-    }
-}
-
-// Of the commands beside the selecting tools. What another program copied is not asked for in each frame.
-bool Window_Panes::can_do(Command command) const {
-    const bool has_something = canvas_.work_area().has_selection() || canvas_.shows_paste(toolbox->state());
-    switch (command) {
-    case Command::cut: return has_something;
-    case Command::deselect: return has_something || canvas_.work_area().paste();
-    case Command::clone: return has_something || copies_.current() != nullptr;
-    default: return canvas_.tile() != nullptr;
     }
 }
 

@@ -4,6 +4,7 @@
 // them does.
 
 #include "app/redraw.h"
+#include "app/usable_commands.h"
 #include "base/input.h"
 #include "panes/copy_panes.h"
 #include "panes/hint_lines.h"
@@ -89,7 +90,7 @@ private:
 
     void draw_panes();
     [[nodiscard]] bool is_lit(Command icon) const;
-    [[nodiscard]] bool can_do(Command command) const;
+    [[nodiscard]] Command_Subjects subjects() const { return {canvas_, documents_, copies_}; }
     [[nodiscard]] Hint hint_at(Point point) const;
     [[nodiscard]] std::optional<Pointed> thing_at(Point point) const;
     [[nodiscard]] std::optional<Pointed> pointed_on_canvas(Point point) const;

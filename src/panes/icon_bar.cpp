@@ -71,17 +71,21 @@ struct Placed_Sprite {
     Point place; // in the icon
 };
 
-// The one icon without a plate of its own: the tile in the middle, and four arrows that point at it.
+// The one icon without a plate of its own: the canvas with the tile in its middle, and from each of its
+// edges an arrow that points at the tile.
+constexpr int canvas_inset = 2;
 constexpr std::array centring_icon = std::to_array<Placed_Sprite>({
     {Sprite::background_aligner, {8, 8}},
-    {Sprite::seam_arrow_down, {6, 2}},
-    {Sprite::seam_arrow_up, {6, 10}},
-    {Sprite::seam_arrow_right, {2, 6}},
-    {Sprite::seam_arrow_left, {10, 6}},
+    {Sprite::seam_arrow_down, {6, 3}},
+    {Sprite::seam_arrow_up, {6, 9}},
+    {Sprite::seam_arrow_right, {3, 6}},
+    {Sprite::seam_arrow_left, {9, 6}},
 });
 
 void draw_centring_icon(const Rectangle& area) {
     screen->draw_panel(area, standard_color(Standard_Color::pane_background));
+    screen->draw_outline(area.inset(canvas_inset), standard_color(Standard_Color::black));
+    screen->fill_rect(area.inset(canvas_inset + 1), standard_color(Standard_Color::dark_frame));
     for (const Placed_Sprite& part : centring_icon) {
         screen->draw_sprite(part.sprite, {area.x + part.place.x, area.y + part.place.y});
     }

@@ -21,6 +21,7 @@ constexpr int box_margin = 3;
 constexpr Point text_offset{2, 3};
 constexpr Color bar_color = standard_color(Standard_Color::pane_frame);
 constexpr Color menu_color = standard_color(Standard_Color::pane_frame);
+constexpr Color veil_color{menu_color.r, menu_color.g, menu_color.b, 160};
 constexpr Color highlight_color = standard_color(Standard_Color::highlight_deep);
 
 // Room for the command's name between two blanks and, with a key, its label in parentheses.
@@ -41,7 +42,8 @@ std::string display_text(const Menu_Row& row) {
 
 } // namespace
 
-Menu_Bar::Menu_Bar(std::function<void()> redraw_behind) : redraw_behind_(std::move(redraw_behind)) {
+Menu_Bar::Menu_Bar(std::function<void()> redraw_behind, std::function<bool(Command)> can_do)
+    : redraw_behind_(std::move(redraw_behind)), can_do_(std::move(can_do)) {
     area_.height = menu_item_height;
     for (std::size_t column = 0; column < menu_table.size(); ++column) {
         add_menu(column);
@@ -92,13 +94,21 @@ void Menu_Bar::draw_open_menu(const Pointer_State& pointer) const {
     draw_header(menu, true);
     screen->draw_panel(menu.box, menu_color);
     for (const Item& item : menu.items) {
-        const bool is_lit = item.command != Command::none && item.area.contains(pointer.point());
-        if (is_lit) {
-            screen->fill_rect({item.area.x + 1, item.area.y + 1, item.area.width - 2, item.area.height},
-                              highlight_color);
-        }
-        screen->draw_text(is_lit ? Font::header : menu_font,
-                          {item.area.x + text_offset.x, item.area.y + text_offset.y}, item.text);
+        draw_item(item, pointer.point());
+    }
+}
+
+// What would do nothing is greyed, lit or not.
+void Menu_Bar::draw_item(const Item& item, Point pointer) const {
+    const bool is_lit = item.command != Command::none && item.area.contains(pointer);
+    const Rectangle inner{item.area.x + 1, item.area.y + 1, item.area.width - 2, item.area.height};
+    if (is_lit) {
+        screen->fill_rect(inner, highlight_color);
+    }
+    screen->draw_text(is_lit ? Font::header : menu_font,
+                      {item.area.x + text_offset.x, item.area.y + text_offset.y}, item.text);
+    if (item.command != Command::none && !can_do_(item.command)) {
+        screen->fill_rect(inner, veil_color);
     }
 }
 

@@ -19,8 +19,9 @@ class Texture;
 
 class Menu_Bar {
 public:
-    // `redraw_behind` draws the whole window without presenting it.
-    explicit Menu_Bar(std::function<void()> redraw_behind);
+    // `redraw_behind` draws the whole window without presenting it, `can_do` tells which commands would do
+    // something.
+    Menu_Bar(std::function<void()> redraw_behind, std::function<bool(Command)> can_do);
     ~Menu_Bar();
 
     // Draws the six headers. An open menu is drawn by its own loop only.
@@ -51,6 +52,7 @@ private:
     void draw_header(const Menu& menu, bool is_highlighted) const;
     void draw_behind() const;
     void draw_open_menu(const Pointer_State& pointer) const;
+    void draw_item(const Item& item, Point pointer) const;
     // Returns null while none is open.
     [[nodiscard]] const Menu* open_menu() const;
     [[nodiscard]] int header_at(Point point) const;
@@ -58,6 +60,7 @@ private:
     [[nodiscard]] Loop_Step press(Point point, Command& chosen) const;
 
     std::function<void()> redraw_behind_;
+    std::function<bool(Command)> can_do_;
     Rectangle area_;
     std::vector<Menu> menus_;
     int open_menu_ = -1;

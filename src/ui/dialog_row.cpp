@@ -12,6 +12,7 @@ namespace quadrelle {
 void Dialog_Row::place(Point position) {
     area.x = position.x;
     area.y = position.y;
+    position.x += indent;
     for (const auto& item : items_) {
         item->set_position(position);
         item->measure();
@@ -21,7 +22,7 @@ void Dialog_Row::place(Point position) {
 }
 
 void Dialog_Row::measure() {
-    area.width = std::max(static_cast<int>(items_.size()) - 1, 0) * item_gap;
+    area.width = indent + std::max(static_cast<int>(items_.size()) - 1, 0) * item_gap;
     area.height = 0;
     for (const auto& item : items_) {
         area.width += item->area.width;

@@ -38,6 +38,7 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<Dialog_Item>>& items() const { return items_; }
 
     Rectangle area;
+    int indent = 0; // of the first item
 
 private:
     [[nodiscard]] bool is_usable(const Dialog_Item& stepping) const;

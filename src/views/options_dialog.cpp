@@ -1,5 +1,7 @@
 #include "views/options_dialog.h"
 
+#include "screen/sprite_sheet.h"
+
 namespace quadrelle {
 
 namespace {
@@ -12,11 +14,17 @@ constexpr int control_id(const Option_Row& row) {
     return row.kind == Option_Kind::tick ? row.row_id : row.row_id + 1;
 }
 
+// The texts of all rows begin at one place: that of a tick behind as much room as the second button takes.
+Dialog_Row make_indented_tick_row(const Option_Row& row) {
+    Dialog_Row tick = make_tick_row(control_id(row), row.text, row.initial == 1 ? Tick::on : Tick::off);
+    tick.indent = sprite_rect(Sprite::button_more).width + item_gap;
+    return tick;
+}
+
 Dialog_Row make_row(const Option_Row& row) {
     switch (row.kind) {
     case Option_Kind::choice: return make_choice_row(control_id(row), row.text, row.initial);
-    case Option_Kind::tick:
-        return make_tick_row(control_id(row), row.text, row.initial == 1 ? Tick::on : Tick::off);
+    case Option_Kind::tick: return make_indented_tick_row(row);
     case Option_Kind::number: break;
     }
     return make_number_row(control_id(row), row.text, {row.initial, row.low, row.high});

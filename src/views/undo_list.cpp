@@ -5,6 +5,7 @@
 #include "panes/command_icons.h"
 #include "screen/events.h"
 #include "screen/screen.h"
+#include "ui/control.h"
 #include "ui/dialog_frame.h"
 #include "ui/modal_dialog.h"
 #include "ui/shown_tile.h"
@@ -62,34 +63,52 @@ void draw_row(const Undo_History& history, std::size_t index, Shown_Tile& thumbn
     thumbnail.draw(entry.snapshot->tile, {area.x + thumbnail_inset, y, thumbnail_edge, thumbnail_edge});
     draw_label(entry.kind, name_of(history, index), {area.x + label_offset, y});
     draw_tile_number(entry.tile_index, area);
+    draw_answer(area);
+}
+
+// The newest entry is on top.
+Rectangle row_area(const Dialog_Frame& frame, std::size_t entry, std::size_t count) {
+    const int row = static_cast<int>(count - 1 - entry);
+    return {frame.area().x, frame.area().y + dialog_title_height + room_above_rows + row * row_step,
+            row_size.width, row_size.height};
 }
 
 // Each entry keeps its thumbnail.
 void draw_list(const Undo_History& history, std::span<Shown_Tile> thumbnails, const Dialog_Frame& frame) {
     frame.draw();
-    Rectangle row{frame.area().x, frame.area().y + dialog_title_height + room_above_rows, row_size.width,
-                  row_size.height};
-    for (int i = static_cast<int>(history.entries().size()) - 1; i >= 0; --i) {
-        const auto entry = static_cast<std::size_t>(i);
-        draw_row(history, entry, thumbnails[entry], row);
-        row.y += row_step;
+    for (std::size_t entry = 0; entry < thumbnails.size(); ++entry) {
+        draw_row(history, entry, thumbnails[entry], row_area(frame, entry, thumbnails.size()));
     }
+}
+
+std::optional<std::size_t> entry_at(const Dialog_Frame& frame, std::size_t count, Point point) {
+    for (std::size_t entry = 0; entry < count; ++entry) {
+        if (row_area(frame, entry, count).contains(point)) {
+            return entry;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
-void show_undo_list(const Undo_History& history) {
+std::optional<std::size_t> show_undo_list(const Undo_History& history) {
     Dialog_Frame frame("Undo history");
     const int count = static_cast<int>(history.entries().size());
     frame.set_size({row_size.width, count * row_step + room_around_rows});
     std::vector<Shown_Tile> thumbnails(history.entries().size());
+    std::optional<std::size_t> clicked;
     run_dialog({"dialog \"Undo history\"", [&] { draw_list(history, thumbnails, frame); },
-                [](const Input_Event& event) {
-                    const bool dismisses =
-                        event.kind == Input_Kind::key_press || event.kind == Input_Kind::button_press;
-                    return dismisses ? Loop_Step::end : Loop_Step::go_on;
+                [&](const Input_Event& event) {
+                    const bool is_press = event.kind == Input_Kind::button_press;
+                    if (is_press && event.pointer.button == Mouse_Button::left) {
+                        clicked = entry_at(frame, thumbnails.size(), event.pointer.point());
+                    }
+                    return is_press || event.kind == Input_Kind::key_press ? Loop_Step::end
+                                                                           : Loop_Step::go_on;
                 },
                 [] { return Loop_Step::end; }});
+    return clicked;
 }
 
 } // namespace quadrelle

@@ -1,3 +1,4 @@
+#include "app/usable_commands.h"
 #include "color/palette_store.h"
 #include "commands/command_table.h"
 #include "tests/whole/program_test.h"
@@ -65,7 +66,7 @@ TEST_F(Command_Test, does_by_its_key_what_it_does_from_a_menu) {
     }
 }
 
-TEST_F(Command_Test, undo_list_goes_at_any_key_or_click_and_they_do_nothing_else) {
+TEST_F(Command_Test, undo_list_goes_at_any_key_or_click_beside_it_and_they_do_nothing_else) {
     play(script().click(cell(1, 1)));
     script().motion({5, 5}).key('z', Modifier::control);
     execute(Command::view_undo_history);
@@ -73,6 +74,47 @@ TEST_F(Command_Test, undo_list_goes_at_any_key_or_click_and_they_do_nothing_else
     execute(Command::view_undo_history);
     EXPECT_EQ(tile_pixel(1, 1), white);
     EXPECT_EQ(tile_pixel(5, 5), black);
+}
+
+TEST_F(Command_Test, a_click_on_a_state_in_the_undo_list_goes_there) {
+    const auto row = [](int from_top) { return Point{600, 298 + 30 * from_top}; };
+    for (int x = 0; x < 3; ++x) {
+        play(script().click(cell(x, 1)));
+    }
+    script().press(row(3));
+    execute(Command::view_undo_history);
+    EXPECT_EQ(document().history().position(), 0);
+    EXPECT_EQ(tile_pixel(0, 1), black);
+    script().press(row(1));
+    execute(Command::view_undo_history);
+    EXPECT_EQ(tile_pixel(1, 1), white);
+    EXPECT_EQ(tile_pixel(2, 1), black);
+}
+
+TEST_F(Command_Test, what_would_do_nothing_is_known_before) {
+    using Commands = std::vector<Command>;
+    const auto idle = [](const Commands& commands) {
+        const Command_Subjects subjects{editor->canvas(), editor->documents(), editor->copies()};
+        Commands found;
+        std::ranges::copy_if(commands, std::back_inserter(found),
+                             [&](Command command) { return !can_do(command, subjects); });
+        return found;
+    };
+    using enum Command;
+    const Commands all{undo, redo, cut, clone, use_as_brush, move_to_pad, deselect, fill, rotate, map_editor};
+    EXPECT_EQ(idle(all), (Commands{undo, redo, cut, clone, use_as_brush, move_to_pad, deselect, map_editor}));
+    play(script().click(cell(1, 1)));
+    execute(rectangle_selector);
+    play(script().drag({cell(0, 0), cell(9, 9)}));
+    EXPECT_EQ(idle(all), (Commands{redo, move_to_pad, map_editor}));
+    execute(Command::copy);
+    execute(deselect);
+    execute(undo);
+    execute(undo);
+    execute(stamp_brush);
+    EXPECT_EQ(idle(all), (Commands{cut, use_as_brush, deselect, map_editor}));
+    load_empty_set({24, 24});
+    EXPECT_EQ(idle({rotate, fill, flip, options}), (Commands{rotate, fill, flip}));
 }
 
 TEST_F(Command_Test, quit_asks_and_only_a_yes_ends_the_program) {
