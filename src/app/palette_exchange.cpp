@@ -102,12 +102,7 @@ void take_from_tile(Editor_Parts& editor) {
 }
 
 void take_from_set(Editor_Parts& editor) {
-    const Tileset& tileset = editor.documents.current().tileset();
-    std::vector<const Tile*> tiles;
-    for (int i = 0; i < tileset.count(); ++i) {
-        tiles.push_back(&tileset.tile_at(i));
-    }
-    keep(editor, colors_of(tiles, "Tileset"));
+    keep(editor, colors_of(editor.documents.current().tileset().tiles(), "Tileset"));
 }
 
 void export_gpl(Editor_Parts& editor) {

@@ -1,6 +1,7 @@
 #include "app/palette_menu.h"
 
 #include "app/editor_parts.h"
+#include "app/palette_coloring.h"
 #include "app/palette_commands.h"
 #include "app/palette_exchange.h"
 #include "ui/popup.h"
@@ -27,11 +28,16 @@ bool has_entries(const Palette_Area& palette) {
     return palette.has_entries();
 }
 
+bool has_room(const Palette_Area& palette) {
+    return palette.has_room(1);
+}
+
 constexpr int widest_name = 300;
 
 constexpr Menu_Entry separator{"", "", nullptr, nullptr};
 
 // clang-format off
+using namespace palette_coloring;
 using namespace palette_commands;
 using namespace palette_exchange;
 constexpr std::array menu = {
@@ -43,8 +49,17 @@ constexpr std::array menu = {
     Menu_Entry{"Undo in palette",      "Takes back what was stored, moved, inserted or removed in this palette last.",     undo,         [](const Palette_Area& palette) { return palette.can_undo(); }},
     Menu_Entry{"Redo in palette",      "Brings back what was taken back last.",                                            redo,         [](const Palette_Area& palette) { return palette.can_redo(); }},
     separator,
-    Menu_Entry{"Insert lit color",     "The lit color becomes an entry of its own behind the selected one.",               insert_color, [](const Palette_Area& palette) { return palette.has_room(1); }},
+    Menu_Entry{"Insert lit color",     "The lit color becomes an entry of its own behind the selected one.",               insert_color, has_room},
     Menu_Entry{"Remove entry",         "The selected entry goes, and those behind it move up.",                            remove_entry, [](const Palette_Area& palette) { return palette.palette().colors.size() > 1; }},
+    separator,
+    Menu_Entry{"Ramp, left to right color", "Inserts colors between those of the left and the right button, which are marked.", make_ramp, has_room},
+    Menu_Entry{"Sort by hue", "Greys come first, then the colors around the wheel.", sort_by_hue, has_entries},
+    Menu_Entry{"Sort by lightness", "The darkest color comes first.", sort_by_lightness, has_entries},
+    Menu_Entry{"Sort by use", "The color that most pixels of the set have comes first.", sort_by_use, has_entries},
+    separator,
+    Menu_Entry{"Replace left by right color", "Shows how many pixels have the left button's color, and gives them the right one's: in what is selected, the tile, or the set.", replace_color, always},
+    Menu_Entry{"Select what is not in it", "Selects the pixels of the tile whose colors are not in this palette.", select_foreign, has_entries},
+    Menu_Entry{"Only palette colors", "What floats, is selected, or else the whole tile takes the nearest colors of this palette.", map_to_palette, has_entries},
     separator,
     Menu_Entry{"Import file", "From a .gpl, .hex, .pal, .act or .txt of another program, or the colors of a PNG or BMP.", import_file, always},
     Menu_Entry{"Paste colors", "A palette of the hexadecimal colors that are on the clipboard as text.", paste_colors, always},

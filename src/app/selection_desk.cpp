@@ -4,7 +4,6 @@
 #include "canvas/canvas_view.h"
 #include "panes/toolbox.h"
 #include "selection/transforms.h"
-#include "tools/hsv_adjustment.h"
 
 #include <algorithm>
 
@@ -17,6 +16,15 @@ Floating_Paste placed(const Tile& picture, Size tile) {
     Floating_Paste paste = cloned({picture, {}}, Clone_Style::centred, tile);
     paste.position = {std::max(paste.position.x, 0), std::max(paste.position.y, 0)};
     return paste;
+}
+
+} // namespace
+
+namespace {
+
+// Around what floats there is nothing, whatever its colour.
+Color_Map of_what_is_seen(const Color_Map& map) {
+    return [map](Color color) { return color.a == 0 ? color : map(color); };
 }
 
 } // namespace
@@ -75,17 +83,51 @@ Outcome Selection_Desk::clear() {
     return change([this] { clear_selected(); });
 }
 
-Outcome Selection_Desk::adjust_hsv(const HSV_Change& hsv) {
+Outcome Selection_Desk::recolor(const Color_Map& map) {
     return change([&] {
         if (shows_paste()) {
-            canvas_.work_area().recolor_paste([&hsv](Tile& picture) {
+            canvas_.work_area().recolor_paste([&map](Tile& picture) {
                 Drawing_Target target(picture);
-                quadrelle::adjust_hsv(target, hsv);
+                quadrelle::recolor(target, of_what_is_seen(map));
             });
         } else {
             Drawing_Target target = canvas_.work_area().target(*canvas_.tile());
-            quadrelle::adjust_hsv(target, hsv);
+            quadrelle::recolor(target, map);
         }
+    });
+}
+
+Outcome Selection_Desk::recolor_tile(const Color_Map& map) {
+    return change([&] {
+        Drawing_Target target(*canvas_.tile());
+        quadrelle::recolor(target, map);
+    });
+}
+
+int Selection_Desk::count_changes(const Color_Map& map) const {
+    if (canvas_.tile() == nullptr) {
+        return 0;
+    }
+    if (!shows_paste()) {
+        return quadrelle::count_changes(canvas_.work_area().target(*canvas_.tile()), map);
+    }
+    Tile picture(canvas_.work_area().paste()->picture);
+    return quadrelle::count_changes(Drawing_Target(picture), of_what_is_seen(map));
+}
+
+Outcome Selection_Desk::select_colors(const std::function<bool(Color)>& is_wanted) {
+    return change([&] {
+        settle();
+        Selection found(canvas_.tile()->size());
+        found.draw([&](Drawing_Target& mask) {
+            for (int i = 0; i < canvas_.tile()->pixel_count(); ++i) {
+                if (is_wanted(canvas_.tile()->get_pixel_at(i))) {
+                    mask.tile().set_pixel_at(i, Selection::selected_color);
+                }
+            }
+        });
+        canvas_.work_area().deselect();
+        canvas_.work_area().select(found, Selection_Change::add);
     });
 }
 

@@ -10,6 +10,7 @@
 #include "selection/clipboard_picture.h"
 #include "selection/copy_buffer.h"
 #include "selection/work_area.h"
+#include "tools/recolor.h"
 
 #include <functional>
 #include <optional>
@@ -17,7 +18,6 @@
 namespace quadrelle {
 
 class Canvas_View;
-struct HSV_Change;
 class Recorder;
 class Toolbox;
 
@@ -41,7 +41,13 @@ public:
     Outcome select_all();
     Outcome fill(Color color);
     Outcome clear();
-    Outcome adjust_hsv(const HSV_Change& change);
+    Outcome recolor(const Color_Map& map);
+    // Changes all of the tile, whatever is selected; what floats stays.
+    Outcome recolor_tile(const Color_Map& map);
+    // Counts the pixels that `recolor` would change.
+    [[nodiscard]] int count_changes(const Color_Map& map) const;
+    // Selects the pixels of the tile that have such colours.
+    Outcome select_colors(const std::function<bool(Color)>& is_wanted);
 
     // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
     Outcome copy();

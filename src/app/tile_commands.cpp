@@ -1,12 +1,12 @@
 #include "app/tile_commands.h"
 
 #include "app/editor_parts.h"
+#include "app/recoloring.h"
 #include "app/tileset_commands.h"
+#include "color/hsv_change.h"
 #include "panes/toolbox.h"
-#include "tools/hsv_adjustment.h"
 #include "ui/dialogs.h"
 #include "views/adjust_hsv.h"
-#include "views/history_questions.h"
 #include "views/versions_dialog.h"
 
 #include <optional>
@@ -14,15 +14,6 @@
 namespace quadrelle::tile_commands {
 
 namespace {
-
-Outcome adjust_current(Editor_Parts& editor, const HSV_Change& change) {
-    Outcome outcome = Outcome::refused;
-    editor.recorder.step([&] {
-        outcome = editor.desk.adjust_hsv(change);
-        return outcome == Outcome::done ? Command::adjust_hsv : Command::none;
-    });
-    return outcome;
-}
 
 // While the dialog is open, the changed picture floats there.
 std::optional<HSV_Adjustment> ask_for_paste(Work_Area& work) {
@@ -40,33 +31,6 @@ std::optional<HSV_Adjustment> ask_for_tile(Editor_Parts& editor) {
     const bool has_others = editor.documents.current().tileset().count() > 1;
     return ask_hsv_adjustment(editor.canvas.work_area().target(*editor.canvas.tile()),
                               has_others ? All_Tiles_Choice::shown : All_Tiles_Choice::hidden);
-}
-
-int count_changed(const Tileset& tileset, const HSV_Change& change) {
-    int count = 0;
-    for (int i = 0; i < tileset.count(); ++i) {
-        Tile tile(tileset.tile_at(i));
-        Drawing_Target target(tile);
-        count += quadrelle::adjust_hsv(target, change) == Adjustment_Outcome::tile_changed ? 1 : 0;
-    }
-    return count;
-}
-
-// One step of the history holds one tile, so that this cannot be one: the history starts anew.
-Outcome adjust_all_tiles(Editor_Parts& editor, const HSV_Change& change) {
-    Tileset_Document& document = editor.documents.current();
-    Tileset& tileset = document.tileset();
-    const int changed = count_changed(tileset, change);
-    if (changed == 0 || !confirm_change_of(changed)) {
-        return Outcome::refused;
-    }
-    for (int i = 0; i < tileset.count(); ++i) {
-        Drawing_Target target(tileset.tile_at(i));
-        quadrelle::adjust_hsv(target, change);
-    }
-    editor.canvas.with_tile_in_place([&] { document.history().reset(tileset); });
-    editor.documents.mark_changed();
-    return Outcome::done;
 }
 
 } // namespace
@@ -110,8 +74,10 @@ Outcome adjust_hsv(Editor_Parts& editor) {
     if (!wanted) {
         return Outcome::refused;
     }
-    return wanted->tiles == Adjusted_Tiles::all ? adjust_all_tiles(editor, wanted->change)
-                                                : adjust_current(editor, wanted->change);
+    const Color_Map map = [change = wanted->change](Color color) { return adjusted(color, change); };
+    return wanted->tiles == Adjusted_Tiles::all
+               ? recolor_set(editor, "Adjust HSV", map)
+               : recolor_step(editor, Command::adjust_hsv, [&] { return editor.desk.recolor(map); });
 }
 
 // What was lifted drops first: across the edge it would be cut.

@@ -20,8 +20,8 @@ namespace {
 
 constexpr int name_height = 19;
 constexpr Size grid_size{192, 80};
-constexpr int coarse_columns = 8;
-constexpr int coarse_rows = 4;
+constexpr int least_columns = 8;
+constexpr int largest_cell_height = 20;
 constexpr int button_gap = 4;
 constexpr int swatch_width = 24;
 constexpr int swatch_gap = 8;
@@ -45,26 +45,26 @@ Palette_Area::Palette_Area(Point position, Palette_List& list, const Tool_Colors
            "Palette"),
       list_(list), colors_(colors), palette_(list.first_shown()) {}
 
-int Palette_Area::divisions() const {
-    int divisions = 1;
-    while (divisions * divisions * coarse_columns * coarse_rows < count()) {
-        ++divisions;
+// The columns with which the shorter edges of the cells are longest, or else their areas are largest.
+Palette_Area::Grid Palette_Area::grid() const {
+    constexpr int column_step = 4;
+    Grid best;
+    for (int columns = least_columns; columns <= grid_size.width; columns += column_step) {
+        const int rows = std::max((count() + columns - 1) / columns, 1);
+        const Size cell{grid_size.width / columns, std::min(grid_size.height / rows, largest_cell_height)};
+        const auto worth = [](Size size) {
+            return std::pair(std::min(size.width, size.height), size.width * size.height);
+        };
+        if (worth(cell) > worth(best.cell)) {
+            best = {{client_area().x, client_area().y + name_height}, columns, cell};
+        }
     }
-    return divisions;
+    return best;
 }
 
-int Palette_Area::columns() const {
-    return coarse_columns * divisions();
-}
-
-Size Palette_Area::cell_size() const {
-    return {grid_size.width / columns(), grid_size.height / (coarse_rows * divisions())};
-}
-
-Rectangle Palette_Area::cell(int entry) const {
-    const Size size = cell_size();
-    return {client_area().x + entry % columns() * size.width,
-            client_area().y + name_height + entry / columns() * size.height, size.width, size.height};
+Rectangle Palette_Area::Grid::at(int entry) const {
+    return {corner.x + entry % columns * cell.width, corner.y + entry / columns * cell.height, cell.width,
+            cell.height};
 }
 
 Rectangle Palette_Area::menu_button() const {
@@ -99,6 +99,7 @@ void Palette_Area::draw() const {
     const Rectangle client = client_area();
     draw_button(menu_button(), {Font::pane, "Menu", -menu_text_rise});
     screen->draw_text(Font::pane, {client.x, client.y - 2}, shown_name());
+    draw_answer(name_area());
     draw_step_button(Sprite::button_less, less_button());
     draw_step_button(Sprite::button_more, more_button());
     draw_swatch(transparent_swatch(), standard_color(Standard_Color::transparent));
@@ -110,8 +111,9 @@ void Palette_Area::draw() const {
 // While an entry is dragged, they stand as they would if it was let go.
 void Palette_Area::draw_entries() const {
     const std::vector<Color> colors = with_moved_entry(drop_.value_or(entry_));
+    const Grid cells = grid();
     for (int entry = 0; entry < count(); ++entry) {
-        draw_swatch(cell(entry), colors[static_cast<std::size_t>(entry)]);
+        draw_swatch(cells.at(entry), colors[static_cast<std::size_t>(entry)]);
     }
     if (!list_.is_kept(palette_) && !drop_) {
         draw_empty_entries();
@@ -121,14 +123,15 @@ void Palette_Area::draw_entries() const {
 
 void Palette_Area::draw_marks() const {
     if (has_entries()) {
-        draw_cell_mark(cell(drop_.value_or(entry_)));
+        draw_cell_mark(grid().at(drop_.value_or(entry_)));
     }
     if (!drop_) {
         draw_color_in_use(Mouse_Button::left);
         draw_color_in_use(Mouse_Button::right);
     }
-    for (int entry = 0; is_pointed_at(client_area()) && entry < count(); ++entry) {
-        draw_outlined_answer(cell(entry));
+    if (const std::optional<int> pointed = entry_at(followed_pointer().position);
+        pointed && is_pointed_at(client_area())) {
+        draw_outlined_answer(grid().at(*pointed));
     }
 }
 
@@ -137,7 +140,7 @@ void Palette_Area::draw_empty_entries() const {
     const std::vector<Color>& colors = palette().colors;
     const Color black = standard_color(Standard_Color::black);
     for (int entry = count() - 1; entry >= 0 && colors[static_cast<std::size_t>(entry)] == black; --entry) {
-        const Rectangle empty = cell(entry);
+        const Rectangle empty = grid().at(entry);
         screen->fill_rect(empty, standard_color(Standard_Color::dark_frame));
         screen->draw_line({empty.x, empty.bottom() - 1}, {empty.right() - 1, empty.y},
                           standard_color(Standard_Color::frame));
@@ -154,8 +157,8 @@ void Palette_Area::draw_color_in_use(Mouse_Button button) const {
         return;
     }
     const bool is_selected = selected_color() == color;
-    const Rectangle place =
-        is_selected ? cell(entry_).inset(cell_mark_width) : cell(static_cast<int>(found - colors.begin()));
+    const Rectangle place = is_selected ? grid().at(entry_).inset(cell_mark_width)
+                                        : grid().at(static_cast<int>(found - colors.begin()));
     const int edge = std::min({corner_edge, place.width / 2, place.height});
     for (int row = 0; row < edge; ++row) {
         const int length = edge - row;
@@ -208,8 +211,9 @@ std::vector<Color> Palette_Area::with_moved_entry(int target) const {
 }
 
 std::optional<int> Palette_Area::entry_at(Point point) const {
+    const Grid cells = grid();
     for (int entry = 0; entry < count(); ++entry) {
-        if (cell(entry).contains(point)) {
+        if (cells.at(entry).contains(point)) {
             return entry;
         }
     }
@@ -226,6 +230,14 @@ void Palette_Area::show(int index) {
 
 void Palette_Area::select(int entry) {
     entry_ = std::clamp(entry, 0, std::max(count() - 1, 0));
+}
+
+void Palette_Area::select_color(Color color) {
+    const std::vector<Color>& colors = palette().colors;
+    const auto found = std::ranges::find(colors, color);
+    if (found != colors.end() && selected_color() != color) {
+        entry_ = static_cast<int>(found - colors.begin());
+    }
 }
 
 Color Palette_Area::selected_color() const {
@@ -257,9 +269,10 @@ void Palette_Area::add(Palette palette) {
 }
 
 Color Palette_Area::move_selection(int dx, int dy) {
-    const int column = entry_ % columns() + dx;
-    const int entry = entry_ + dx + dy * columns();
-    if (column >= 0 && column < columns() && entry >= 0 && entry < count()) {
+    const int columns = grid().columns;
+    const int column = entry_ % columns + dx;
+    const int entry = entry_ + dx + dy * columns;
+    if (column >= 0 && column < columns && entry >= 0 && entry < count()) {
         entry_ = entry;
     }
     return selected_color();

@@ -43,6 +43,8 @@ public:
     [[nodiscard]] int entry() const { return entry_; }
     // Selects the entry, or the last one.
     void select(int entry);
+    // Selects the first entry of that colour, if there is one.
+    void select_color(Color color);
     [[nodiscard]] bool has_entries() const { return !palette().colors.empty(); }
     // Goes by one entry along either axis and returns its colour; at an edge the selection stays.
     Color move_selection(int dx, int dy);
@@ -66,11 +68,15 @@ public:
 private:
     [[nodiscard]] int count() const { return static_cast<int>(palette().colors.size()); }
     [[nodiscard]] std::vector<Color> with_moved_entry(int target) const;
-    // A palette has eight by four cells, or the same room divided more finely for more entries.
-    [[nodiscard]] int divisions() const;
-    [[nodiscard]] int columns() const;
-    [[nodiscard]] Size cell_size() const;
-    [[nodiscard]] Rectangle cell(int entry) const;
+    // How the cells lie.
+    struct Grid {
+        Point corner;
+        int columns = 1;
+        Size cell;
+
+        [[nodiscard]] Rectangle at(int entry) const;
+    };
+    [[nodiscard]] Grid grid() const;
     [[nodiscard]] Rectangle transparent_swatch() const;
     [[nodiscard]] Rectangle less_button() const;
     [[nodiscard]] Rectangle more_button() const;

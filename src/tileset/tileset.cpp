@@ -10,6 +10,12 @@ Color Tileset::current_pixel(int x, int y) const {
     return has_tiles() ? tile_at(current_index_).get_pixel(x, y) : Tile(0, 0).get_pixel(x, y);
 }
 
+std::vector<const Tile*> Tileset::tiles() const {
+    std::vector<const Tile*> tiles;
+    std::ranges::transform(tiles_, std::back_inserter(tiles), &std::unique_ptr<Tile>::get);
+    return tiles;
+}
+
 std::int64_t Tileset::tile_bytes() const {
     return static_cast<std::int64_t>(tile_size_.width) * tile_size_.height * 4;
 }

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] const Tile* current_tile() const {
         return has_tiles() ? &tile_at(current_index_) : nullptr;
     }
+    [[nodiscard]] std::vector<const Tile*> tiles() const;
     // Counts the bytes of a tile in a file.
     [[nodiscard]] std::int64_t tile_bytes() const;
     [[nodiscard]] std::int64_t total_bytes() const { return count() * tile_bytes(); }

@@ -13,6 +13,7 @@ namespace {
 
 constexpr Font font = Font::pane;
 constexpr int row_height = 19;
+constexpr int separator_height = 9;
 constexpr int text_rise = 1;
 constexpr int margin = 3;
 constexpr int text_inset = 10;
@@ -34,6 +35,13 @@ private:
     [[nodiscard]] bool can_choose(int index) const {
         return index >= 0 && index < count() && row(index).is_usable && !row(index).text.empty();
     }
+    [[nodiscard]] int height_of(int index) const {
+        return row(index).text.empty() ? separator_height : row_height;
+    }
+    // Returns the last row that has room when the list begins there, and the first one it has to begin with
+    // so that the last one has.
+    [[nodiscard]] int last_shown(int first) const;
+    [[nodiscard]] int first_for(int last) const;
     [[nodiscard]] Rectangle area_of(int index) const;
     [[nodiscard]] int row_at(Point point) const;
     void draw() const;
@@ -46,7 +54,6 @@ private:
     void scroll_to(int first);
 
     const Popup& popup_;
-    int shown_ = 0; // rows that have room
     int first_ = 0;
     int lit_ = -1;
     Rectangle box_;
@@ -57,13 +64,15 @@ Open_Popup::Open_Popup(Point corner, const Popup& popup) : popup_(popup) {
     for (const Popup_Row& each : popup.rows) {
         box_.width = std::clamp(screen->text_width(font, each.text) + 2 * text_inset, box_.width, widest);
     }
-    shown_ = std::min(count(), (lowest - 2 * margin) / row_height);
-    box_.height = shown_ * row_height + 2 * margin;
+    for (int i = 0; i < count(); ++i) {
+        box_.height += height_of(i);
+    }
+    box_.height = std::min(box_.height + 2 * margin, lowest);
     box_.x = std::clamp(corner.x, 0, screen->size().width - box_.width);
     box_.y = std::clamp(corner.y, 0, lowest - box_.height);
     const auto marked = std::ranges::find(popup.rows, true, &Popup_Row::is_marked);
     if (marked != popup.rows.end()) {
-        scroll_to(static_cast<int>(marked - popup.rows.begin()) - shown_ / 2);
+        scroll_to(first_for(static_cast<int>(marked - popup.rows.begin())));
     }
 }
 
@@ -73,12 +82,33 @@ std::optional<std::size_t> Open_Popup::run() {
     return chosen_;
 }
 
+int Open_Popup::last_shown(int first) const {
+    int room = box_.height - 2 * margin - height_of(first);
+    int last = first;
+    while (last + 1 < count() && room >= height_of(last + 1)) {
+        room -= height_of(++last);
+    }
+    return last;
+}
+
+int Open_Popup::first_for(int last) const {
+    int first = 0;
+    while (last_shown(first) < last) {
+        ++first;
+    }
+    return first;
+}
+
 Rectangle Open_Popup::area_of(int index) const {
-    return {box_.x + 1, box_.y + margin + (index - first_) * row_height, box_.width - 2, row_height};
+    int y = box_.y + margin;
+    for (int i = first_; i < index; ++i) {
+        y += height_of(i);
+    }
+    return {box_.x + 1, y, box_.width - 2, height_of(index)};
 }
 
 int Open_Popup::row_at(Point point) const {
-    for (int i = first_; i < first_ + shown_; ++i) {
+    for (int i = first_; i <= last_shown(first_); ++i) {
         if (area_of(i).contains(point)) {
             return i;
         }
@@ -88,14 +118,14 @@ int Open_Popup::row_at(Point point) const {
 
 void Open_Popup::draw() const {
     screen->draw_panel(box_, standard_color(Standard_Color::pane_frame));
-    for (int i = first_; i < first_ + shown_; ++i) {
+    for (int i = first_; i <= last_shown(first_); ++i) {
         draw_row(i);
     }
 }
 
 void Open_Popup::draw_row(int index) const {
     const Rectangle area = area_of(index);
-    const int middle = area.y + row_height / 2;
+    const int middle = area.y + area.height / 2;
     if (row(index).text.empty()) {
         screen->fill_rect({area.x + margin, middle, area.width - 2 * margin, 1},
                           standard_color(Standard_Color::pane_background));
@@ -139,7 +169,7 @@ void Open_Popup::handle_key(Keycode pressed) {
     } while (step != 0 && next >= 0 && next < count() && !can_choose(next));
     if (can_choose(next)) {
         light(next);
-        scroll_to(std::clamp(first_, next - shown_ + 1, next));
+        scroll_to(std::clamp(first_, first_for(next), next));
     }
 }
 
@@ -168,7 +198,7 @@ void Open_Popup::light(int index) {
 }
 
 void Open_Popup::scroll_to(int first) {
-    first_ = std::clamp(first, 0, count() - shown_);
+    first_ = std::clamp(first, 0, first_for(count() - 1));
 }
 
 } // namespace

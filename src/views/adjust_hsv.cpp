@@ -4,7 +4,7 @@
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "screen/sprite_sheet.h"
-#include "tools/hsv_adjustment.h"
+#include "tools/recolor.h"
 #include "ui/control.h"
 #include "ui/dialog_frame.h"
 #include "ui/modal_dialog.h"
@@ -124,7 +124,7 @@ void Adjust_HSV::show_change() {
     source_.copy_to(target_.tile());
     Drawing_Target shown =
         adjustment_.tiles == Adjusted_Tiles::all ? Drawing_Target(target_.tile()) : target_;
-    adjust_hsv(shown, source_, adjustment_.change);
+    recolor(shown, source_, [this](Color color) { return adjusted(color, adjustment_.change); });
     changed_();
 }
 

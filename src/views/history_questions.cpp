@@ -48,8 +48,8 @@ bool confirm_resize(const Tileset_Document& document, Size size) {
                                                           : "\rThis can't be undone."));
 }
 
-bool confirm_change_of(int tiles) {
-    return dialogs->ask("Adjust HSV",
+bool confirm_change_of(int tiles, std::string_view title) {
+    return dialogs->ask(title,
                         "Change " + count_of(tiles) +
                             " of the set?\rThis can't be undone: the undo history of the set is lost.");
 }

@@ -4,12 +4,14 @@
 
 #include "base/geometry.h"
 
+#include <string_view>
+
 namespace quadrelle {
 
 class Tileset_Document;
 
 // Both return true for an explicit yes. The first one also does where there is nothing to lose.
 [[nodiscard]] bool confirm_resize(const Tileset_Document& document, Size size);
-[[nodiscard]] bool confirm_change_of(int tiles);
+[[nodiscard]] bool confirm_change_of(int tiles, std::string_view title);
 
 } // namespace quadrelle

@@ -83,11 +83,12 @@ TEST_F(Palette_Area_Test, every_number_of_entries_has_its_room) {
     struct Case {
         int entries, width, height;
     };
-    for (const Case& test : {Case{1, 24, 20}, {32, 24, 20}, {33, 12, 10}, {1024, 4, 3}}) {
+    for (const Case& test :
+         {Case{1, 24, 20}, {32, 24, 20}, {35, 24, 16}, {48, 16, 20}, {256, 8, 7}, {1024, 3, 5}}) {
         Palette_Store store = store_with(test.entries);
         ASSERT_EQ(store.count(0), test.entries);
         Palette_List list(store, folder().path("palettes"));
-    Palette_Area area(position, list, colors_);
+        Palette_Area area(position, list, colors_);
         area.draw();
         const Rectangle client = area.client_area();
         int hits = 0;

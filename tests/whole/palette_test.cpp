@@ -2,6 +2,7 @@
 
 #include "app/palette_menu.h"
 #include "app/start_up.h"
+#include "color/palette_craft.h"
 #include "color/palette_list.h"
 #include "pixels/picture_formats.h"
 #include "screen/text_input.h"
@@ -22,9 +23,13 @@ constexpr Point entry(int index) {
     return {36 + index % 8 * 24 + 12, 472 + index / 8 * 20 + 10};
 }
 
-Point row(std::size_t index, std::size_t count) {
-    const int height = 19 * static_cast<int>(count) + 6;
-    return {260, std::min(429, 580 - height) + 3 + 19 * static_cast<int>(index) + 9};
+// Rows without a text part the others.
+Point row(std::size_t index) {
+    std::vector<int> bottoms{0};
+    for (const palette_menu::Menu_Entry& entry : palette_menu::entries()) {
+        bottoms.push_back(bottoms.back() + (entry.text.empty() ? 9 : 19));
+    }
+    return {260, std::min(429, 580 - bottoms.back() - 6) + 3 + bottoms.at(index) + 9};
 }
 
 class Palette_Test : public Program_Test {
@@ -33,9 +38,7 @@ protected:
         const auto entries = palette_menu::entries();
         const auto found = std::ranges::find(entries, text, &palette_menu::Menu_Entry::text);
         EXPECT_NE(found, entries.end()) << text;
-        return script()
-            .click(menu_button)
-            .click(row(static_cast<std::size_t>(found - entries.begin()), entries.size()));
+        return script().click(menu_button).click(row(static_cast<std::size_t>(found - entries.begin())));
     }
     Script& choose_name(int index) { return script().click(name).click({260, 427 + 3 + 19 * index + 9}); }
     // Of those that are kept, in their order.
@@ -155,6 +158,69 @@ TEST_F(Palette_Test, palettes_come_from_tiles_files_and_the_clipboard_and_go_the
     choose("Import file");
     expect_message("Note", text_of(Picture_Fault::broken)).key(key::enter);
     play();
+}
+
+TEST_F(Palette_Test, colours_are_ramped_and_sorted) {
+    tools().colors.set(Mouse_Button::left, black);
+    tools().colors.set(Mouse_Button::right, {40, 80, 120});
+    choose("Ramp, left to right color").key(key::enter);
+    play();
+    std::vector<Color> expected = colors(0);
+    expected.insert(expected.begin() + 2, {{10, 20, 30}, {20, 40, 60}, {30, 60, 90}});
+    EXPECT_EQ(colors(3), expected);
+    play(choose("Sort by lightness"));
+    EXPECT_EQ(colors(3), sorted_by_lightness(expected));
+    document().tileset().current_tile()->set_pixel(0, 0, {30, 60, 90});
+    play(choose("Sort by use"));
+    EXPECT_EQ(colors(3).at(0), black);
+    EXPECT_EQ(colors(3).at(1), Color(30, 60, 90));
+    EXPECT_EQ(editor->panes().palette().selected_color(), Color(30, 60, 90)); // the last one of the ramp
+    play(choose("Sort by hue"));
+    EXPECT_EQ(colors(3), sorted_by_hue(colors(3)));
+}
+
+TEST_F(Palette_Test, a_colour_is_replaced_where_it_is_wanted) {
+    // Three rows of an opened list below its heading.
+    const auto where = [](int index) { return Point{260, 427 + 3 + 19 * (1 + index) + 9}; };
+    make_set({4, 1}, 3, [](int tile, Point pixel) { return tile < 2 && pixel.x < 2 ? red : white; });
+    tools().colors.set(Mouse_Button::left, red);
+    tools().colors.set(Mouse_Button::right, own);
+    // Nothing is selected: that row takes no click.
+    play(choose("Replace left by right color").click(where(0)).key(key::escape));
+    EXPECT_EQ(tile_pixel(0, 0), red);
+    editor->canvas().work_area().select(selected_rectangle({4, 1}, {1, 0}, {2, 1}), Selection_Change::add);
+    play(choose("Replace left by right color").click(where(0)));
+    EXPECT_EQ(tile_pixel(0, 0), red);
+    EXPECT_EQ(tile_pixel(1, 0), own);
+    play(choose("Replace left by right color").click(where(1)));
+    EXPECT_EQ(tile_pixel(0, 0), own);
+    execute(Command::undo);
+    execute(Command::undo);
+    EXPECT_EQ(tile_pixel(1, 0), red);
+    choose("Replace left by right color").click(where(2));
+    expect_question("Replace color",
+                    "Change 2 tiles of the set?\rThis can't be undone: the undo history of the set is lost.")
+        .key(key::enter);
+    play();
+    EXPECT_EQ(document().tileset().tile_at(1).get_pixel(1, 0), own);
+    EXPECT_EQ(tile_pixel(0, 0), own);
+}
+
+TEST_F(Palette_Test, a_tile_takes_only_colours_of_the_palette) {
+    make_set({4, 1}, 1, [](int, Point pixel) {
+        return pixel.x == 0 ? Color(0xf0, 0x2a, 0x12) : pixel.x == 1 ? clear : white;
+    });
+    play(choose("Select what is not in it"));
+    EXPECT_EQ(told(), "1 pixel of the tile are not in the palette: they are selected.");
+    EXPECT_EQ(editor->canvas().work_area().selection().bounds(), (Rectangle{0, 0, 1, 1}));
+    play(choose("Only palette colors"));
+    EXPECT_EQ(tile_pixel(0, 0), Color(0xea, 0x2c, 0x12));
+    EXPECT_EQ(tile_pixel(1, 0), clear);
+    execute(Command::undo);
+    EXPECT_EQ(tile_pixel(0, 0), Color(0xf0, 0x2a, 0x12));
+    execute(Command::redo);
+    play(choose("Select what is not in it"));
+    EXPECT_EQ(told(), "All pixels of the tile are in the palette.");
 }
 
 TEST_F(Palette_Test, palettes_are_as_they_were_left) {
