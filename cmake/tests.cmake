@@ -2,6 +2,7 @@ find_package(GTest REQUIRED)
 include(GoogleTest)
 
 file(GLOB_RECURSE test_sources CONFIGURE_DEPENDS tests/*.cpp tests/*.h)
+list(FILTER test_sources EXCLUDE REGEX "/tests/desktop/")
 if(test_sources)
     add_executable(quadrelle_tests ${test_sources})
     target_include_directories(quadrelle_tests PRIVATE ${CMAKE_SOURCE_DIR})
@@ -34,6 +35,10 @@ find_program(XVFB_RUN xvfb-run)
 if(desktop_tests AND NOT XVFB_RUN)
     message(WARNING "The desktop tests are left out: there is no xvfb-run")
 elseif(desktop_tests AND TARGET quadrelle)
+    find_package(X11 REQUIRED)
+    add_executable(drop_files tests/desktop/drop_files.cpp)
+    target_link_libraries(drop_files PRIVATE X11::X11)
+    quadrelle_options(drop_files)
     foreach(script ${desktop_tests})
         get_filename_component(name ${script} NAME_WE)
         add_test(NAME desktop.${name}
@@ -42,6 +47,7 @@ elseif(desktop_tests AND TARGET quadrelle)
         set_tests_properties(desktop.${name} PROPERTIES
             LABELS desktop TIMEOUT 120 RESOURCE_LOCK display
             COST 100 # they take longest, so they begin first
-            ENVIRONMENT "QUADRELLE_PROGRAM=$<TARGET_FILE:quadrelle>;QUADRELLE_SOURCE_DIR=${CMAKE_SOURCE_DIR}")
+            ENVIRONMENT "QUADRELLE_PROGRAM=$<TARGET_FILE:quadrelle>;QUADRELLE_SOURCE_DIR=${CMAKE_SOURCE_DIR};\
+QUADRELLE_DROP_FILES=$<TARGET_FILE:drop_files>")
     endforeach()
 endif()

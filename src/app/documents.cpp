@@ -32,16 +32,35 @@ bool Documents::is_untouched() const {
     return count() == 1 && !current().is_modified() && !current().is_named();
 }
 
-bool Documents::new_document(Size tile_size) {
+// Null after the last name.
+std::unique_ptr<Tileset_Document> Documents::make_untitled(Tileset tileset) {
     if (untitled_counter_ > last_untitled) {
-        return false;
+        return nullptr;
     }
-    Tileset tileset(tile_size);
-    tileset.add_tile();
     const std::string name = "untitled" + std::to_string(untitled_counter_) + ".qdl";
     ++untitled_counter_;
     auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
     document->history().reset(document->tileset());
+    return document;
+}
+
+bool Documents::new_document(Size tile_size) {
+    Tileset tileset(tile_size);
+    tileset.add_tile();
+    std::unique_ptr<Tileset_Document> document = make_untitled(std::move(tileset));
+    if (!document) {
+        return false;
+    }
+    add(std::move(document));
+    return true;
+}
+
+bool Documents::add_unsaved(Tileset tileset) {
+    std::unique_ptr<Tileset_Document> document = make_untitled(std::move(tileset));
+    if (!document) {
+        return false;
+    }
+    document->mark_changed();
     add(std::move(document));
     return true;
 }
@@ -83,15 +102,9 @@ void Documents::resize_current(Size tile_size) {
     current_changed_();
 }
 
-bool Documents::load_document() {
-    std::string path;
-    if (!choose_file(File_Dialog_Kind::load_tileset, path)) {
-        return false;
-    }
+bool Documents::load_document(const std::string& path) {
     Loaded_Tileset loaded = load_tileset(path);
     if (loaded.outcome != Load_Outcome::loaded) {
-        dialogs->message("Note",
-                         "Error occurred in tileset loading. This file may not be in Quadrelle format.");
         return false;
     }
     auto document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));

@@ -39,8 +39,10 @@ public:
     void show_tile(int index);
     // Resamples the tiles of the current document.
     void resize_current(Size tile_size);
-    // Asks for a file and tells the user what failed. True when it was done.
-    bool load_document();
+    // An untitled and unsaved set of these tiles. False, with nothing done, after 1000 of them.
+    bool add_unsaved(Tileset tileset);
+    // Opens a set beside the others. False where the file holds none.
+    bool load_document(const std::string& path);
     // Returns the file to save the current document to, after asking for a name where one is needed, or
     // whether it may be replaced; none when the user gave it up.
     [[nodiscard]] std::optional<std::string> ask_where_to_save(Save_As save_as) const;
@@ -61,6 +63,7 @@ public:
     [[nodiscard]] const Tileset_Document* document_at(Point point) const;
 
 private:
+    [[nodiscard]] std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset);
     void add(std::unique_ptr<Tileset_Document> document);
     void make_current(std::size_t index);
     bool go_to(std::size_t index);

@@ -90,6 +90,9 @@ void Editor::redraw(Present present) {
 
 void Editor::handle_one_event() {
     handle(wait_event("main"));
+    while (const std::optional<std::string> file = take_dropped_file()) {
+        open_file(*file);
+    }
     // Also when the release came while a dialog or a stroke was running.
     if (take_key_release()) {
         parts_->is_control_held = false;
@@ -126,6 +129,11 @@ void Editor::handle(const Input_Event& event) {
         break;
     default: break;
     }
+}
+
+void Editor::open_file(const std::string& path) {
+    parts_->file_to_load = path;
+    static_cast<void>(perform(Command::load));
 }
 
 void Editor::press(Command command) {

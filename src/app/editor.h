@@ -7,6 +7,7 @@
 #include "commands/command.h"
 
 #include <memory>
+#include <string>
 
 namespace quadrelle {
 
@@ -31,6 +32,8 @@ public:
     void handle_one_event();
     // Carries the command out and records it.
     void execute(Command command) { execute(command, Held::no); }
+    // A file that was dropped on the window.
+    void open_file(const std::string& path);
     void redraw(Present present);
 
     [[nodiscard]] Documents& documents();

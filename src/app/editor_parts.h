@@ -11,6 +11,7 @@
 #include "canvas/canvas_view.h"
 #include "commands/outcome.h"
 
+#include <string>
 #include <string_view>
 
 namespace quadrelle {
@@ -44,6 +45,7 @@ struct Editor_Parts {
     int clicks = 0; // of the press that is answered: 2 for that of a double click
     bool is_control_held = false;
     bool is_quit_requested = false;
+    std::string file_to_load; // which nobody has to be asked about
     Size shown_tile_size;
     Canvas_View canvas;
     Documents documents;

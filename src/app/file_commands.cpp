@@ -2,13 +2,16 @@
 
 #include "app/document_export.h"
 #include "app/editor_parts.h"
+#include "app/open_file.h"
 #include "tools/options.h"
+#include "views/ask_for_file.h"
 #include "views/history_questions.h"
 #include "views/new_tileset_dialog.h"
 #include "views/quit_question.h"
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace quadrelle::file_commands {
 
@@ -55,12 +58,12 @@ Outcome make_new(Editor_Parts& editor) {
 }
 
 Outcome load(Editor_Parts& editor) {
-    if (!editor.documents.load_document()) {
+    std::string path = std::exchange(editor.file_to_load, {});
+    const File_Origin origin = path.empty() ? File_Origin::chosen : File_Origin::dropped;
+    if (path.empty() && !choose_file(File_Dialog_Kind::load_tileset, path)) {
         return Outcome::refused;
     }
-    editor.leave_selection();
-    editor.recorder.record(Command::change_tile);
-    return Outcome::done;
+    return open_file(editor, path, origin);
 }
 
 Outcome save(Editor_Parts& editor) {

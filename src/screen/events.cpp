@@ -2,6 +2,7 @@
 
 #include <SDL3/SDL.h>
 
+#include <deque>
 #include <utility>
 
 namespace quadrelle {
@@ -25,6 +26,11 @@ void tell_watcher(std::string_view loop) {
 bool key_was_released = false;
 bool button_was_released = false;
 
+std::deque<std::string>& dropped_files() {
+    static std::deque<std::string> the_files;
+    return the_files;
+}
+
 // Not on the window.
 constexpr Point nowhere{-1, -1};
 Followed_Pointer pointer{nowhere, std::nullopt};
@@ -42,6 +48,12 @@ void note_press(const SDL_MouseButtonEvent& event) {
     }
 }
 
+void note_drop(const SDL_DropEvent& event) {
+    if (event.data != nullptr) {
+        dropped_files().emplace_back(event.data);
+    }
+}
+
 void note(const SDL_Event& event) {
     switch (event.type) {
     case SDL_EVENT_KEY_UP: key_was_released = true; break;
@@ -51,6 +63,7 @@ void note(const SDL_Event& event) {
         pointer.position = Pointer_State{event.motion.x, event.motion.y, Mouse_Button::none}.point();
         break;
     case SDL_EVENT_WINDOW_MOUSE_LEAVE: pointer.position = nowhere; break;
+    case SDL_EVENT_DROP_FILE: note_drop(event.drop); break;
     default: break;
     }
 }
@@ -78,6 +91,15 @@ void forget_press() {
 
 void forget_pointer() {
     pointer = {nowhere, std::nullopt};
+}
+
+std::optional<std::string> take_dropped_file() {
+    if (dropped_files().empty()) {
+        return std::nullopt;
+    }
+    std::string file = std::move(dropped_files().front());
+    dropped_files().pop_front();
+    return file;
 }
 
 void set_wait_watcher(Wait_Watcher new_watcher) {
@@ -174,6 +196,10 @@ void discard_events() {
     key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
     if (SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP)) {
         note_release();
+    }
+    SDL_Event event{};
+    while (SDL_PeepEvents(&event, 1, SDL_GETEVENT, SDL_EVENT_DROP_FILE, SDL_EVENT_DROP_FILE) > 0) {
+        note(event);
     }
     SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_QUIT - 1);
     SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);

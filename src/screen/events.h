@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 
 union SDL_Event;
@@ -69,7 +70,10 @@ void forget_press();
 // A new window does not know of any pointer.
 void forget_pointer();
 
-// Drops every event that waits but the request to quit.
+// Returns the next of the files that were dropped on the window, in whichever loop that was, in UTF-8.
+[[nodiscard]] std::optional<std::string> take_dropped_file();
+
+// Drops every event that waits but the request to quit and the files that were dropped.
 void discard_events();
 
 // What is held now, whatever events still wait.

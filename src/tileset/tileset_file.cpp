@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -92,18 +93,28 @@ std::int64_t save_tileset(const Tileset& tileset, const std::string& path) {
     return file.commit() ? tileset_header_size + tileset.total_bytes() : -1;
 }
 
-std::unique_ptr<Tile> load_first_tile(const std::string& path) {
-    Block_File file(path);
+namespace {
+
+// The file stands behind its header then. None where that is missing, or another one.
+std::optional<Header> whole_header(Block_File& file) {
     if (!file.open_read() || file.remaining() < tileset_header_size) {
-        return nullptr;
+        return std::nullopt;
     }
     Header_Bytes bytes = {};
     file.read_block(bytes);
-    const Header header = unpacked(bytes);
-    const Tileset empty(header.tile_size);
-    const bool holds_tile =
-        header.count > 0 && empty.tile_bytes() > 0 && file.remaining() >= empty.tile_bytes();
-    if (!has_magic(bytes) || !holds_tile) {
+    return has_magic(bytes) ? std::optional(unpacked(bytes)) : std::nullopt;
+}
+
+} // namespace
+
+std::unique_ptr<Tile> load_first_tile(const std::string& path) {
+    Block_File file(path);
+    const std::optional<Header> header = whole_header(file);
+    if (!header || header->count == 0) {
+        return nullptr;
+    }
+    const Tileset empty(header->tile_size);
+    if (empty.tile_bytes() == 0 || file.remaining() < empty.tile_bytes()) {
         return nullptr;
     }
     std::vector<std::uint8_t> buffer(static_cast<std::size_t>(empty.tile_bytes()));
@@ -111,6 +122,12 @@ std::unique_ptr<Tile> load_first_tile(const std::string& path) {
     auto tile = std::make_unique<Tile>(empty.tile_width(), empty.tile_height());
     tile->read_pixels(buffer);
     return tile;
+}
+
+bool is_whole_tileset(const std::string& path) {
+    Block_File file(path);
+    const std::optional<Header> header = whole_header(file);
+    return header && file.remaining() >= header->count * Tileset(header->tile_size).tile_bytes();
 }
 
 Loaded_Tileset load_tileset(const std::string& path) {

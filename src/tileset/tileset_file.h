@@ -27,6 +27,8 @@ struct Loaded_Tileset {
 // Returns the first tile of such a file; null where there is none, or the file is no tileset or too short.
 [[nodiscard]] std::unique_ptr<Tile> load_first_tile(const std::string& path);
 
+// Whether the file can be loaded: it begins as a set does, and no tile that it tells of is missing.
+[[nodiscard]] bool is_whole_tileset(const std::string& path);
 // A file that cannot be opened is no tileset; one that ends before its last tile does is a fatal error.
 [[nodiscard]] Loaded_Tileset load_tileset(const std::string& path);
 

@@ -166,6 +166,13 @@ Script& Script::pointer_leaves() {
     return add_event(event_of(SDL_EVENT_WINDOW_MOUSE_LEAVE));
 }
 
+Script& Script::drop_file(std::string_view path) {
+    texts_.emplace_back(path);
+    SDL_Event event = event_of(SDL_EVENT_DROP_FILE);
+    event.drop.data = texts_.back().c_str();
+    return add_event(event);
+}
+
 Script& Script::quit() {
     return add_event(event_of(SDL_EVENT_QUIT));
 }

@@ -48,6 +48,7 @@ public:
     Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
     Script& wheel(float amount, Point at = {});
     Script& pointer_leaves();
+    Script& drop_file(std::string_view path);
     Script& quit();
     // No event for that time, and then a wait that ends without one: only for loops that do something
     // meanwhile.
