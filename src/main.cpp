@@ -3,10 +3,24 @@
 #define SDL_MAIN_HANDLED
 #include <SDL3/SDL_main.h>
 
+#include <cstdlib>
+
 namespace {
 
+bool has_ended = false;
+
+// The window system's library ends the process by itself when the display goes away. Nothing is to be taken
+// apart then: what the objects refer to is gone.
+void end_at_once() {
+    if (!has_ended) {
+        std::_Exit(1);
+    }
+}
+
 int run(int /*argument_count*/, char** /*arguments*/) {
+    std::atexit(end_at_once);
     quadrelle::run_application();
+    has_ended = true;
     return 0;
 }
 

@@ -17,6 +17,19 @@ namespace {
 constexpr int last_untitled = 999;
 constexpr Size default_tile_size{24, 24};
 
+Tileset set_of_one_tile(Size tile_size) {
+    Tileset tileset(tile_size);
+    tileset.add_tile();
+    return tileset;
+}
+
+std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset, int number) {
+    const std::string name = "untitled" + std::to_string(number) + ".qdl";
+    auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
+    document->history().reset(document->tileset());
+    return document;
+}
+
 } // namespace
 
 Documents::Documents(std::function<void()> leaving, std::function<void()> current_changed)
@@ -32,34 +45,19 @@ bool Documents::is_untouched() const {
     return count() == 1 && !current().is_modified() && !current().is_named();
 }
 
-// Null after the last name.
-std::unique_ptr<Tileset_Document> Documents::make_untitled(Tileset tileset) {
-    if (untitled_counter_ > last_untitled) {
-        return nullptr;
-    }
-    const std::string name = "untitled" + std::to_string(untitled_counter_) + ".qdl";
-    ++untitled_counter_;
-    auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
-    document->history().reset(document->tileset());
-    return document;
-}
-
 bool Documents::new_document(Size tile_size) {
-    Tileset tileset(tile_size);
-    tileset.add_tile();
-    std::unique_ptr<Tileset_Document> document = make_untitled(std::move(tileset));
-    if (!document) {
+    if (untitled_counter_ > last_untitled) {
         return false;
     }
-    add(std::move(document));
+    add(make_untitled(set_of_one_tile(tile_size), untitled_counter_++));
     return true;
 }
 
 bool Documents::add_unsaved(Tileset tileset) {
-    std::unique_ptr<Tileset_Document> document = make_untitled(std::move(tileset));
-    if (!document) {
+    if (untitled_counter_ > last_untitled) {
         return false;
     }
+    std::unique_ptr<Tileset_Document> document = make_untitled(std::move(tileset), untitled_counter_++);
     document->mark_changed();
     add(std::move(document));
     return true;
@@ -148,8 +146,9 @@ bool Documents::close_document() {
         return false;
     }
     if (documents_.size() == 1) {
+        // There is always a set, also when all numbers are used up.
         if (!new_document(default_tile_size)) {
-            return false;
+            add(make_untitled(set_of_one_tile(default_tile_size), last_untitled));
         }
         documents_.erase(documents_.begin());
         make_current(0);

@@ -63,7 +63,6 @@ public:
     [[nodiscard]] const Tileset_Document* document_at(Point point) const;
 
 private:
-    [[nodiscard]] std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset);
     void add(std::unique_ptr<Tileset_Document> document);
     void make_current(std::size_t index);
     bool go_to(std::size_t index);

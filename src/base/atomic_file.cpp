@@ -2,17 +2,48 @@
 
 #include "base/platform_files.h"
 
+#include <charconv>
 #include <cstdio>
+#include <set>
+#include <string_view>
 #include <utility>
 
 namespace quadrelle {
 
 namespace {
 
+constexpr std::string_view name_start = ".quadrelle-";
+constexpr std::string_view name_end = ".tmp";
+
 // No other running program has it. Short whatever the target is called, so that it fits wherever the target's
 // name does.
 std::string name_of_our_own(const std::string& folder, int attempt) {
-    return folder + ".quadrelle-" + std::to_string(process_number()) + "-" + std::to_string(attempt) + ".tmp";
+    return folder + std::string(name_start) + std::to_string(process_number()) + "-" +
+           std::to_string(attempt) + std::string(name_end);
+}
+
+// Returns the process that wrote a file of such a name, or 0 for the name of anything else.
+unsigned long writer_of(std::string_view name) {
+    if (!name.starts_with(name_start) || !name.ends_with(name_end)) {
+        return 0;
+    }
+    unsigned long process = 0;
+    std::from_chars(name.data() + name_start.size(), name.data() + name.size(), process);
+    return process;
+}
+
+// A program that was killed while it wrote has left its file behind. Once for each folder is enough, and a
+// large folder takes a while.
+void remove_leftovers(const std::string& folder) {
+    static std::set<std::string> seen;
+    if (!seen.insert(folder.empty() ? current_directory() : folder).second) {
+        return;
+    }
+    for (const std::string& name : folder_names(folder)) {
+        if (const unsigned long process = writer_of(name); process != 0 && !is_running(process)) {
+            remove_file(folder + name);
+        }
+    }
 }
 
 } // namespace
@@ -55,8 +86,12 @@ bool Atomic_File::commit() {
     const bool done = close_file(std::exchange(file_, nullptr)) && replace_file(temporary_, target_);
     if (!done) {
         remove_file(temporary_);
+        return false;
     }
-    return done;
+    const std::string folder = folder_part(target_);
+    flush_folder(folder);
+    remove_leftovers(folder);
+    return true;
 }
 
 } // namespace quadrelle

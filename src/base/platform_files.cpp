@@ -29,6 +29,11 @@ SDL_EnumerationResult SDLCALL add_entry(void* entries, const char* folder, const
     return SDL_ENUM_CONTINUE;
 }
 
+SDL_EnumerationResult SDLCALL add_name(void* names, const char* /*folder*/, const char* name) {
+    static_cast<std::vector<std::string>*>(names)->emplace_back(name);
+    return SDL_ENUM_CONTINUE;
+}
+
 } // namespace
 
 void set_file_fault_hook(File_Fault_Hook hook) {
@@ -88,6 +93,13 @@ std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folde
         return std::nullopt;
     }
     return entries;
+}
+
+std::vector<std::string> folder_names(const std::string& folder) {
+    std::vector<std::string> names;
+    const std::string from = folder + (folder.empty() ? "" : std::string(1, path_separator)) + '.';
+    static_cast<void>(SDL_EnumerateDirectory(from.c_str(), add_name, &names));
+    return names;
 }
 
 std::string folder_part(const std::string& name) {

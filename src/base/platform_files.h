@@ -32,8 +32,12 @@ namespace quadrelle {
 bool remove_file(const std::string& name);
 // Whether there is no such file yet, or a regular one that may be written to.
 [[nodiscard]] bool can_replace(const std::string& name);
-// Where the platform has permission bits, the open file takes those of the file named, if there is one.
+// Where the platform has them, the open file takes the owner, as far as that is allowed, and the permission
+// bits of the file named, if there is one.
 void take_permissions(std::FILE* file, const std::string& name);
+// Brings the folder's entries to the disk where that has to be asked for. An empty name is the current
+// folder.
+void flush_folder(const std::string& folder);
 // Returns the file that a symbolic link finally points to, existing or not, and any other name as it is.
 [[nodiscard]] std::string resolve_links(const std::string& name);
 // Returns the name's part up to and including the last separator; it may be empty.
@@ -50,6 +54,10 @@ struct Folder_Entry {
 // Returns what is in a folder, in no order, without "." and ".."; nothing when it cannot be read.
 [[nodiscard]] std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder);
 
+// Returns the names alone, in no order; none when the folder cannot be read. An empty name is the current
+// folder.
+[[nodiscard]] std::vector<std::string> folder_names(const std::string& folder);
+
 // Makes the folder, and those above it that are missing.
 [[nodiscard]] bool make_folder(const std::string& name);
 
@@ -58,6 +66,7 @@ extern const char path_separator;
 [[nodiscard]] bool change_directory(const std::string& name);
 // The number of this process; no other one that runs on the machine has it.
 [[nodiscard]] unsigned long process_number();
+[[nodiscard]] bool is_running(unsigned long process);
 
 // A hook for tests: it is asked before every operation that can fail while a file is written (creating,
 // writing, flushing, closing, replacing); the answer true makes it fail. Null, the default, asks nobody.

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -89,8 +90,19 @@ bool can_replace(const std::string& name) {
 void take_permissions(std::FILE* file, const std::string& name) {
     struct stat status = {};
     if (stat(name.c_str(), &status) == 0) {
-        // Where it is refused the new file keeps the bits of any new file.
-        [[maybe_unused]] const int result = fchmod(fileno(file), status.st_mode & 0777);
+        // Where it is refused the new file keeps what any new file has. The owner comes first: a change of it
+        // may take bits away.
+        [[maybe_unused]] int result = fchown(fileno(file), status.st_uid, status.st_gid);
+        result = fchmod(fileno(file), status.st_mode & 0777);
+    }
+}
+
+void flush_folder(const std::string& folder) {
+    const int descriptor = open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        // Some file systems cannot do it; the file is there all the same.
+        fsync(descriptor);
+        close(descriptor);
     }
 }
 
@@ -123,6 +135,11 @@ bool change_directory(const std::string& name) {
 
 unsigned long process_number() {
     return static_cast<unsigned long>(getpid());
+}
+
+// It may belong to somebody else.
+bool is_running(unsigned long process) {
+    return process <= INT_MAX && (kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
 }
 
 } // namespace quadrelle

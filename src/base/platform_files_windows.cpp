@@ -97,6 +97,9 @@ bool can_replace(const std::string& name) {
 
 void take_permissions(std::FILE*, const std::string&) {}
 
+// Replacing a file writes through to the disk.
+void flush_folder(const std::string&) {}
+
 std::string resolve_links(const std::string& name) {
     if (!is_link(name)) {
         return name;
@@ -127,6 +130,17 @@ bool change_directory(const std::string& name) {
 
 unsigned long process_number() {
     return GetCurrentProcessId();
+}
+
+bool is_running(unsigned long process) {
+    const HANDLE handle = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, process);
+    if (handle == nullptr) {
+        return GetLastError() == ERROR_ACCESS_DENIED;
+    }
+    DWORD status = 0;
+    const bool is_alive = GetExitCodeProcess(handle, &status) != 0 && status == STILL_ACTIVE;
+    CloseHandle(handle);
+    return is_alive;
 }
 
 } // namespace quadrelle

@@ -1,7 +1,12 @@
 #include "screen/surface.h"
 
-#include <SDL3/SDL.h>
+#include "base/block_file.h"
 #include "base/fatal.h"
+
+#include <SDL3/SDL.h>
+
+#include <array>
+#include <cstdlib>
 
 namespace quadrelle {
 
@@ -23,6 +28,30 @@ SDL_Rect to_sdl(const Rectangle& area) {
     return {area.x, area.y, area.width, area.height};
 }
 
+// A header may claim any size: memory is only taken for pixels that the file has.
+bool holds_its_pixels(const std::string& file_name) {
+    constexpr std::size_t width_place = 18;
+    constexpr std::size_t height_place = 22;
+    constexpr std::size_t depth_place = 28;
+    std::array<std::uint8_t, 30> header{};
+    Block_File file(file_name);
+    if (!file.open_read() || file.remaining() < static_cast<std::int64_t>(header.size())) {
+        return false;
+    }
+    const std::int64_t bits = file.remaining() * 8;
+    file.read_block(header);
+    const auto number = [&header](std::size_t place) {
+        const std::uint32_t word = header.at(place) | header.at(place + 1) << 8U |
+                                   header.at(place + 2) << 16U |
+                                   static_cast<std::uint32_t>(header.at(place + 3)) << 24U;
+        return std::abs(std::int64_t{static_cast<std::int32_t>(word)});
+    };
+    const std::int64_t width = number(width_place);
+    const std::int64_t height = number(height_place);
+    const std::int64_t row_bits = width * header.at(depth_place);
+    return row_bits == 0 || height <= bits / row_bits;
+}
+
 } // namespace
 
 void Surface::Deleter::operator()(SDL_Surface* surface) const {
@@ -34,7 +63,7 @@ Surface::Surface(Size size) {
 }
 
 Surface::Surface(const std::string& file_name, std::optional<Rgba_Quad> key) {
-    const Handle bitmap(SDL_LoadBMP(file_name.c_str()));
+    const Handle bitmap(holds_its_pixels(file_name) ? SDL_LoadBMP(file_name.c_str()) : nullptr);
     if (!bitmap) {
         // The placeholder is printed as it stands: the file name follows as the detail.
         fatal("Could not load SDL surface from %s.", file_name);

@@ -1,6 +1,7 @@
 #include "base/platform_files.h"
 
 #include "base/atomic_file.h"
+#include "base/block_file.h"
 #include "base/data_directory.h"
 #include "tests/support/files.h"
 
@@ -53,6 +54,24 @@ TEST(Files, an_atomic_file_that_missed_a_block_is_never_committed) {
     EXPECT_FALSE(file.write(Bytes{4}));
     EXPECT_FALSE(file.commit());
     EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+// Process 1 runs wherever there are processes; one with a number that large does not.
+TEST(Files, what_killed_programs_left_behind_goes_with_the_next_save) {
+    const Temporary_Folder folder;
+    const std::string ours = ".quadrelle-" + std::to_string(process_number()) + "-7.tmp";
+    const std::vector<std::string> stays{".quadrelle-1-0.tmp", ours, ".quadrelle-.tmp",
+                                         ".quadrelle-2000000001-0", "a.tmp"};
+    for (const std::string& name : stays) {
+        store(folder.path(name), {1});
+    }
+    store(folder.path(".quadrelle-2000000001-0.tmp"), {1});
+    store(folder.path(".quadrelle-3415708378.tmp"), {1});
+    EXPECT_EQ(write_file(folder.path("file"), Bytes{1}), 1);
+    EXPECT_EQ(folder.entry_count(), static_cast<int>(stays.size()) + 1);
+    for (const std::string& name : stays) {
+        EXPECT_TRUE(std::filesystem::exists(folder.native_path() / name)) << name;
+    }
 }
 
 TEST(Data_Directory, steps_in_and_out) {
