@@ -1,5 +1,6 @@
 #include "app/documents.h"
 
+#include "base/debug_monitor.h"
 #include "base/file_names.h"
 #include "screen/screen.h"
 #include "tileset/tileset_file.h"
@@ -105,6 +106,7 @@ bool Documents::load_document(const std::string& path) {
     if (loaded.outcome != Load_Outcome::loaded) {
         return false;
     }
+    trace("Loaded " + path + ", tiles: " + std::to_string(loaded.tileset->count()));
     auto document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
     document->set_file(path);
     add(std::move(document));
@@ -123,6 +125,7 @@ bool Documents::save_document(const std::string& path) {
     Tileset_Document& document = current();
     document.set_file(path);
     const bool is_saved = save_tileset(document.tileset(), document.file_name()) >= 0;
+    trace((is_saved ? "Saved " : "Could not save ") + path);
     if (is_saved) {
         document.clear_modified();
     }

@@ -6,6 +6,7 @@
 #include "app/hover.h"
 #include "app/key_press.h"
 #include "app/mouse_press.h"
+#include "base/debug_monitor.h"
 #include "color/palette_list.h"
 #include "commands/command_table.h"
 #include "panes/tool_color_panel.h"
@@ -173,6 +174,7 @@ Command Editor::perform(Command command) {
         parts_->undo_seam_shifts();
     }
     const Outcome outcome = carry_out(*parts_, command);
+    trace(std::string(row_of(command).name) + (outcome == Outcome::done ? "" : ": nothing done"));
     if (outcome == Outcome::unknown) {
         dialogs->message("Note", "Unhandled command " + std::string(row_of(command).name));
     }

@@ -1,12 +1,11 @@
 #include "app/help_commands.h"
 
 #include "app/editor_parts.h"
-#include "base/debug_monitor.h"
-#include "screen/screen.h"
 #include "ui/dialogs.h"
 #include "views/about.h"
 #include "views/help_lists.h"
 #include "views/log_view.h"
+#include "views/self_check.h"
 
 #include <variant>
 
@@ -43,9 +42,9 @@ Outcome debug_monitor(Editor_Parts& /*editor*/) {
     return Outcome::done;
 }
 
-// What a developer wants to see first when something looks wrong on another machine.
+// What is to be looked at first when something is wrong on another machine.
 Outcome test(Editor_Parts& editor) {
-    quadrelle::debug_monitor->write("Renderer: " + screen->renderer_name());
+    check_installation();
     return debug_monitor(editor);
 }
 

@@ -40,7 +40,7 @@ void enter_data() {
 
 void start_application() {
     start_video();
-    debug_monitor = std::make_unique<Debug_Monitor>();
+    message_log = std::make_unique<Debug_Monitor>();
     enter_data();
     screen = std::make_unique<Screen>(window_layout::window);
     palette_store = std::make_unique<Palette_Store>();
@@ -67,7 +67,7 @@ void shut_down_application() {
     data_directory().leave();
     dialogs.reset();
     screen.reset();
-    debug_monitor.reset();
+    message_log.reset();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
     SDL_Quit();
 }

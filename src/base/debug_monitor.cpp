@@ -1,15 +1,13 @@
 #include "base/debug_monitor.h"
 
-#include <algorithm>
-
 namespace quadrelle {
 
-std::unique_ptr<Debug_Monitor> debug_monitor;
+std::unique_ptr<Debug_Monitor> message_log;
 
 namespace {
 
-// About as many as fit into the window's width.
-constexpr std::size_t longest_line = 110;
+constexpr std::size_t longest_line = 1000;
+
 } // namespace
 
 void Debug_Monitor::write(std::string_view text) {
@@ -19,17 +17,9 @@ void Debug_Monitor::write(std::string_view text) {
     }
 }
 
-std::string Debug_Monitor::newest_lines(std::size_t count) const {
-    std::string text;
-    for (std::size_t i = lines_.size() - std::min(count, lines_.size()); i < lines_.size(); ++i) {
-        text += (text.empty() ? "" : "\r") + lines_[i];
-    }
-    return text;
-}
-
 void trace(std::string_view text) {
-    if (debug_monitor) {
-        debug_monitor->write(text);
+    if (message_log) {
+        message_log->write(text);
     }
 }
 

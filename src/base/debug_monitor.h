@@ -12,20 +12,18 @@ namespace quadrelle {
 
 class Debug_Monitor {
 public:
-    static constexpr std::size_t most_lines = 200;
+    static constexpr std::size_t most_lines = 1000;
 
-    // Beyond `most_lines` the oldest line goes.
+    // Beyond `most_lines` the oldest line goes. A line ends after a thousand bytes.
     void write(std::string_view text);
     [[nodiscard]] const std::deque<std::string>& lines() const { return lines_; }
-    // At most that many, each ended by "\r" but the last.
-    [[nodiscard]] std::string newest_lines(std::size_t count) const;
 
 private:
     std::deque<std::string> lines_;
 };
 
 // Built at start-up before everything else.
-extern std::unique_ptr<Debug_Monitor> debug_monitor;
+extern std::unique_ptr<Debug_Monitor> message_log;
 
 // Writes to the monitor if there is one.
 void trace(std::string_view text);

@@ -279,8 +279,4 @@ std::string Screen::renderer_name() const {
     return "software";
 }
 
-int Screen::text_rows() const {
-    return size_.height / line_height(Font::regular);
-}
-
 } // namespace quadrelle

@@ -73,8 +73,6 @@ public:
     void warp_mouse(Point position);
     [[nodiscard]] Pointer_State read_pointer() const;
     [[nodiscard]] std::string renderer_name() const;
-    // Lines of regular text that fit into the window's height.
-    [[nodiscard]] int text_rows() const;
 
     [[nodiscard]] Size size() const { return size_; }
     [[nodiscard]] const Sprite_Sheet& sprites() const { return *sprites_; }

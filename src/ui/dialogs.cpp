@@ -1,12 +1,16 @@
 #include "ui/dialogs.h"
 
+#include "base/debug_monitor.h"
 #include "ui/dialog_container.h"
+
+#include <string>
 
 namespace quadrelle {
 
 std::unique_ptr<Dialogs> dialogs;
 
 void Dialogs::message(std::string_view title, std::string_view text) const {
+    trace(std::string(title) + ": " + std::string(text));
     run_message(title, text);
 }
 

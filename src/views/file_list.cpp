@@ -18,8 +18,6 @@ namespace {
 constexpr Font font = Font::regular;
 constexpr int row_height = 24;
 constexpr int border = 1;
-constexpr int bar_width = 14;
-constexpr int shortest_thumb = 20;
 constexpr int icon_offset = 8;
 constexpr int picture_edge = 20;
 constexpr int text_offset = 36;
@@ -48,36 +46,34 @@ void draw_page_icon(Point position) {
     screen->fill_rect(page.inset(1), standard_color(Standard_Color::light_grey));
 }
 
-} // namespace
-
-int File_List::page() const {
-    return (area_.height - 2 * border) / row_height;
+// Beside the rows, inside of the border.
+Rectangle bar_in(const Rectangle& area) {
+    const Rectangle inner = area.inset(border);
+    return {inner.right() - Scroll_Bar::width, inner.y, Scroll_Bar::width, inner.height};
 }
 
+} // namespace
+
+File_List::File_List(const Rectangle& area, const Folder_Listing& listing)
+    : area_(area), listing_(&listing), bar_(bar_in(area), (area.height - 2 * border) / row_height) {}
+
 Rectangle File_List::row_area(std::size_t row) const {
-    const int place = static_cast<int>(row) - first_;
+    const int place = static_cast<int>(row) - bar_.first();
     return {area_.x + border, area_.y + border + place * row_height,
-            area_.width - 2 * border - (has_bar() ? bar_width : 0), row_height};
+            area_.width - 2 * border - (bar_.is_needed() ? Scroll_Bar::width : 0), row_height};
 }
 
 void File_List::reset() {
     selected_.reset();
     clicked_.reset();
-    first_ = 0;
-    is_dragging_ = false;
+    bar_.set_count(count());
     first_tiles_.clear();
-}
-
-void File_List::scroll(int rows) {
-    first_ = std::clamp(first_ + rows, 0, std::max(count() - page(), 0));
 }
 
 void File_List::select(std::size_t row) {
     selected_ = row;
     clicked_.reset();
-    const int place = static_cast<int>(row);
-    scroll(std::min(place - first_, 0));
-    scroll(std::max(place - (first_ + page() - 1), 0));
+    bar_.show_row(static_cast<int>(row));
 }
 
 void File_List::move_selection(int rows) {
@@ -90,14 +86,8 @@ void File_List::move_selection(int rows) {
 }
 
 File_List::Press File_List::press(Point point) {
-    if (has_bar() && bar().contains(point)) {
-        is_dragging_ = true;
-        drag(point);
-        return Press::nothing;
-    }
-    const int row = first_ + (point.y - area_.y - border) / row_height;
-    const bool is_row = area_.inset(border).contains(point) && row < std::min(count(), first_ + page());
-    if (!is_row) {
+    const int row = bar_.first() + (point.y - area_.y - border) / row_height;
+    if (bar_.press(point) || !area_.inset(border).contains(point) || row >= bar_.end()) {
         return Press::nothing;
     }
     const auto pressed = static_cast<std::size_t>(row);
@@ -109,40 +99,12 @@ File_List::Press File_List::press(Point point) {
     return Press::selects;
 }
 
-// The thumb's middle follows the pointer.
-void File_List::drag(Point point) {
-    const Rectangle track = bar();
-    const int way = track.height - thumb().height;
-    if (!is_dragging_ || way <= 0) {
-        return;
-    }
-    const int offset = std::clamp(point.y - track.y - thumb().height / 2, 0, way);
-    first_ = static_cast<int>(std::int64_t{offset} * (count() - page()) / way);
-}
-
-Rectangle File_List::bar() const {
-    return {area_.right() - border - bar_width, area_.y + border, bar_width, area_.height - 2 * border};
-}
-
-Rectangle File_List::thumb() const {
-    const Rectangle track = bar();
-    const int height = std::max(shortest_thumb, track.height * page() / std::max(count(), 1));
-    const std::int64_t way = track.height - height;
-    const auto offset = static_cast<int>(way * first_ / std::max(count() - page(), 1));
-    return {track.x + 1, track.y + offset, track.width - 1, height};
-}
-
 void File_List::draw(Focused focused) {
     screen->fill_rect(area_, standard_color(Standard_Color::dark_frame));
-    const int end = std::min(count(), first_ + page());
-    for (int row = first_; row < end; ++row) {
+    for (int row = bar_.first(); row < bar_.end(); ++row) {
         draw_row(static_cast<std::size_t>(row), focused.row);
     }
-    if (has_bar()) {
-        screen->fill_rect(bar(), standard_color(Standard_Color::frame));
-        screen->draw_panel(thumb(), standard_color(Standard_Color::pane_background));
-        draw_answer(thumb());
-    }
+    bar_.draw();
     screen->draw_outline(area_, standard_color(focused.list == Focus::yes ? Standard_Color::highlight
                                                                           : Standard_Color::frame));
 }

@@ -6,6 +6,7 @@
 #include "base/geometry.h"
 #include "pixels/tile.h"
 #include "ui/focus.h"
+#include "ui/scroll_bar.h"
 #include "ui/shown_tile.h"
 
 #include <cstddef>
@@ -18,12 +19,12 @@ namespace quadrelle {
 class File_List {
 public:
     // The listing is borrowed.
-    File_List(const Rectangle& area, const Folder_Listing& listing) : area_(area), listing_(&listing) {}
+    File_List(const Rectangle& area, const Folder_Listing& listing);
 
     [[nodiscard]] const Rectangle& area() const { return area_; }
     [[nodiscard]] std::optional<std::size_t> selected() const { return selected_; }
     // Returns how many rows have room.
-    [[nodiscard]] int page() const;
+    [[nodiscard]] int page() const { return bar_.page(); }
     // Returns the place of a row in the window; it lies beyond the box for one that is not shown.
     [[nodiscard]] Rectangle row_area(std::size_t row) const;
 
@@ -32,13 +33,13 @@ public:
     void select(std::size_t row);
     // Stops at the first and the last row.
     void move_selection(int rows);
-    void scroll(int rows);
+    void scroll_by_wheel(float amount) { bar_.scroll_by_wheel(amount); }
 
     enum class Press { nothing, selects, opens };
     // The second click on one and the same row opens it. A press on the scroll bar grabs the pointer.
     Press press(Point point);
-    void drag(Point point);
-    void release() { is_dragging_ = false; }
+    void drag(Point point) { bar_.drag(point); }
+    void release() { bar_.release(); }
 
     // Up and down act on the list, and Return on its selected row only if that was chosen.
     struct Focused {
@@ -50,9 +51,6 @@ public:
 
 private:
     [[nodiscard]] int count() const { return static_cast<int>(listing_->rows().size()); }
-    [[nodiscard]] bool has_bar() const { return count() > page(); }
-    [[nodiscard]] Rectangle bar() const;
-    [[nodiscard]] Rectangle thumb() const;
     void draw_row(std::size_t row, Focus focus);
     struct First_Tile {
         std::unique_ptr<Tile> tile; // null of what is no set
@@ -66,8 +64,7 @@ private:
     const Folder_Listing* listing_;
     std::optional<std::size_t> selected_;
     std::optional<std::size_t> clicked_;
-    int first_ = 0;
-    bool is_dragging_ = false;
+    Scroll_Bar bar_;
     std::map<std::size_t, First_Tile> first_tiles_; // by row
 };
 

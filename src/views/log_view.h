@@ -4,7 +4,7 @@
 
 namespace quadrelle {
 
-// Shows the newest lines in a dialog and waits until it is dismissed.
+// Shows the newest lines, and the older ones by scrolling, until it is dismissed.
 void show_log();
 
 } // namespace quadrelle

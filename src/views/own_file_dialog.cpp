@@ -18,7 +18,6 @@
 #include "views/file_list.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <string>
 
@@ -36,7 +35,6 @@ constexpr int name_height = 29;
 constexpr int new_folder_width = 120;
 constexpr std::size_t longest_name = 4000;
 constexpr int text_drop = 3;
-constexpr int wheel_rows = 3;
 constexpr int all_rows = std::numeric_limits<int>::max() / 2;
 
 // Where the last file was chosen; at first where the program was started.
@@ -75,7 +73,6 @@ private:
     void type(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
     Loop_Step press_list(Point point);
-    void scroll(float amount);
     void move_to(int rows);
     void show_selection();
     void enter(const std::string& folder);
@@ -130,6 +127,7 @@ File_Answer Own_Chooser::run(const std::string& proposed) {
     if (!open_start(proposed)) {
         return {File_Answer_State::failed, {}};
     }
+    list_.reset();
     const Text_Input typing;
     run_dialog({"file chooser", [this] { draw(); },
                 [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); },
@@ -160,7 +158,7 @@ Loop_Step Own_Chooser::handle(const Input_Event& event) {
     switch (event.kind) {
     case Input_Kind::key_press: handle_key(event); break;
     case Input_Kind::typed_text: type(event); break;
-    case Input_Kind::wheel: scroll(event.moved.y); break;
+    case Input_Kind::wheel: list_.scroll_by_wheel(event.moved.y); break;
     case Input_Kind::pointer_motion: list_.drag(event.pointer.point()); break;
     case Input_Kind::button_release: list_.release(); break;
     case Input_Kind::button_press:
@@ -255,13 +253,6 @@ Loop_Step Own_Chooser::press_list(Point point) {
     case File_List::Press::nothing: break;
     }
     return Loop_Step::go_on;
-}
-
-void Own_Chooser::scroll(float amount) {
-    if (std::isfinite(amount)) {
-        const float rows = std::clamp(-amount * wheel_rows, -1000.0F, 1000.0F);
-        list_.scroll(static_cast<int>(rows < 0 ? std::floor(rows) : std::ceil(rows)));
-    }
 }
 
 void Own_Chooser::enter(const std::string& folder) {

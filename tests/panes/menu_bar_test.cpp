@@ -1,5 +1,7 @@
 #include "panes/menu_bar.h"
 
+#include "base/debug_monitor.h"
+#include "commands/command_table.h"
 #include "commands/menu_table.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
@@ -29,6 +31,25 @@ protected:
     Script& expect_menu() { return expect_loop("menu"); }
     Script& expect_closed() { return expect_loop("main").motion({600, 650}); }
 };
+
+TEST_F(Menu_Bar_Test, every_row_carries_out_its_command) {
+    answer_files(File_Answer_State::cancelled);
+    for (std::size_t menu = 0; menu < menu_table.size(); ++menu) {
+        for (std::size_t row = 0; row < menu_table.at(menu).rows.size(); ++row) {
+            const Command command = menu_table.at(menu).rows[row].command;
+            if (command == Command::none || command == Command::quit || command == Command::map_editor) {
+                continue;
+            }
+            const std::size_t lines = message_log->lines().size();
+            script().set_afterwards([&](std::string_view /*loop*/) { script().key(key::escape); });
+            play(script().press(header(menu)).press(item(menu, row)));
+            script().set_afterwards({});
+            ASSERT_GT(message_log->lines().size(), lines);
+            EXPECT_TRUE(message_log->lines().back().starts_with(row_of(command).name))
+                << row_of(command).name;
+        }
+    }
+}
 
 TEST_F(Menu_Bar_Test, slides_to_the_neighbour_and_back_over_what_it_covers) {
     script().press(header(file)).motion(item(file, 2)).motion(header(edit)).motion(header(tileset));

@@ -44,7 +44,7 @@ void use_dummy_video() {
 Window_Test::Window_Test() {
     use_dummy_video();
     EXPECT_TRUE(SDL_Init(SDL_INIT_VIDEO)) << SDL_GetError();
-    debug_monitor = std::make_unique<Debug_Monitor>();
+    message_log = std::make_unique<Debug_Monitor>();
     EXPECT_TRUE(data_directory().enter(Data_Directory::inside));
     screen = std::make_unique<Screen>(Size{1232, 664});
     dialogs = std::make_unique<Dialogs>();
@@ -54,7 +54,7 @@ Window_Test::Window_Test() {
 Window_Test::~Window_Test() {
     dialogs.reset();
     screen.reset();
-    debug_monitor.reset();
+    message_log.reset();
     SDL_Quit();
 }
 

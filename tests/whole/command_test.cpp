@@ -1,4 +1,5 @@
 #include "app/usable_commands.h"
+#include "base/debug_monitor.h"
 #include "color/palette_store.h"
 #include "commands/command_table.h"
 #include "tests/whole/program_test.h"
@@ -47,6 +48,44 @@ TEST_F(Command_Test, every_one_survives_a_tileset_without_tiles) {
         execute(Command::add_new_tile);
         EXPECT_GT(document().tileset().count(), 0);
         execute_every_command();
+    }
+}
+
+class Every_Command_Test : public Command_Test {
+protected:
+    // All of the second of three tiles selected, and a copy of it.
+    void prepare(Command tool, Point pointer) {
+        make_set({24, 24}, 3, [](int tile, Point pixel) {
+            return Color(tile * 80 + 20, pixel.x * 10, pixel.y * 9 + pixel.x % 3 * 20, 255);
+        });
+        execute(Command::next_tile);
+        execute(tool);
+        play(script().key('a', Modifier::control).motion(pointer));
+    }
+
+    // In the window, its title or a dialog of the system.
+    bool shows_something(Command command) {
+        answer_files(File_Answer_State::cancelled);
+        const Picture before = window_picture();
+        const std::string title = window_title();
+        const bool has_asked = !execute_and_escape(command).empty();
+        return has_asked || window_picture() != before || window_title() != title || asked_file();
+    }
+};
+
+// Those that are named do nothing at all, or nothing to a set with a single strip in the middle of the view,
+// or only what is so already.
+TEST_F(Every_Command_Test, shows_that_it_was_carried_out) {
+    const std::vector<Command> shows_nothing{
+        Command::change_tile,         Command::import_from_bmp,     Command::skip_command,
+        Command::center_tile_on_view, Command::previous_tile_strip, Command::next_tile_strip,
+        Command::rewind_strip,        Command::forward_strip,       Command::plot_paste,
+        Command::map_editor,          Command::select_brush_size_1};
+    for (const Command_Row& row : command_table) {
+        prepare(row.id == Command::pen ? Command::dropper : Command::pen, {5, 5 + index_of(row.id) % 2});
+        EXPECT_TRUE(shows_something(row.id) || std::ranges::count(shows_nothing, row.id) == 1) << row.name;
+        const bool is_handled = !message_log->lines().back().starts_with("Note: Unhandled command ");
+        EXPECT_TRUE(is_handled || row.id == Command::map_editor) << row.name;
     }
 }
 

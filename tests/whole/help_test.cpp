@@ -1,6 +1,8 @@
 #include "app/window_panes.h"
+#include "base/debug_monitor.h"
 #include "commands/command_table.h"
 #include "screen/screen.h"
+#include "screen/text_input.h"
 #include "tests/whole/program_test.h"
 #include "views/document_statistics.h"
 #include "views/help_lists.h"
@@ -53,6 +55,34 @@ TEST_F(Help_Test, every_text_fits_into_the_window) {
     for (const Place_Row& row : place_table) {
         EXPECT_TRUE(message_fits(help_of(row.id).text)) << row.title;
     }
+}
+
+TEST_F(Help_Test, debug_monitor_scrolls_and_copies_the_whole_log) {
+    for (int i = 0; i < 100; ++i) {
+        trace("line " + std::to_string(i));
+    }
+    std::vector<Picture> pictures;
+    const auto see = [&] { pictures.push_back(window_picture()); };
+    script().check(see).key(key::home).check(see).wheel(-1).key(key::up).key(key::up).key(key::up).check(see);
+    script().key(key::end).check(see).key('c', Modifier::control).key(key::escape);
+    execute(Command::debug_monitor);
+    EXPECT_NE(pictures[0], pictures[1]);
+    EXPECT_EQ(pictures[1], pictures[2]);
+    EXPECT_EQ(pictures[0], pictures[3]);
+    EXPECT_TRUE(clipboard_text().starts_with("line 0\nline 1\n"));
+    EXPECT_TRUE(clipboard_text().ends_with("line 99\n"));
+}
+
+TEST_F(Help_Test, the_test_of_the_installation_tells_what_works_and_what_does_not) {
+    script().key(key::escape);
+    execute(Command::test);
+    const auto last_line = [] { return *(message_log->lines().end() - 2); };
+    EXPECT_EQ(last_line(), "Everything works.");
+    std::filesystem::remove_all(folder().native_path() / "data");
+    script().key(key::escape);
+    execute(Command::test);
+    EXPECT_EQ(last_line(), "2 of 7 did not work.");
+    EXPECT_TRUE((message_log->lines().end() - 5)->starts_with("  FAULT  Data folder: "));
 }
 
 TEST_F(Help_Test, statistics_count_tiles_bytes_and_undo) {
