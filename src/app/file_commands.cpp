@@ -79,12 +79,26 @@ Outcome save_as(Editor_Parts& editor) {
 }
 
 Outcome export_picture(Editor_Parts& editor) {
-    const std::optional<std::string> path = export_bitmap(editor.documents.current(), editor.desk);
+    const std::optional<std::string> path = export_document(editor.documents.current(), editor.desk);
     if (!path) {
         return Outcome::refused;
     }
     editor.report(Command::export_bitmap, "Exported to " + *path);
     return Outcome::done;
+}
+
+void export_again(Editor_Parts& editor) {
+    constexpr const char* name = "Export again";
+    Tileset_Document& document = editor.documents.current();
+    if (!document.last_export()) {
+        editor.panes.hint_lines().report(
+            {name, "This set has not been exported yet: see File, Export as .bmp."});
+        return;
+    }
+    editor.undo_seam_shifts();
+    if (const std::optional<std::string> path = quadrelle::export_again(document, editor.desk)) {
+        editor.panes.hint_lines().report({name, "Exported to " + *path});
+    }
 }
 
 Outcome close(Editor_Parts& editor) {

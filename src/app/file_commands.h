@@ -15,6 +15,8 @@ Outcome load(Editor_Parts& editor);
 Outcome save(Editor_Parts& editor);
 Outcome save_as(Editor_Parts& editor);
 Outcome export_picture(Editor_Parts& editor);
+// Writes what was exported last anew, without a question. No command.
+void export_again(Editor_Parts& editor);
 Outcome close(Editor_Parts& editor);
 Outcome edit_options(Editor_Parts& editor);
 Outcome quit(Editor_Parts& editor);

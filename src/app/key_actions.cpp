@@ -1,6 +1,7 @@
 #include "app/key_actions.h"
 
 #include "app/editor_parts.h"
+#include "app/file_commands.h"
 #include "app/tool_commands.h"
 #include "panes/toolbox.h"
 #include "tools/brush_masks.h"
@@ -61,6 +62,7 @@ Command carry_out(Editor_Parts& editor, Key_Action action) {
     case Key_Action::larger_brush: return brush_size_command(1);
     case Key_Action::toggle_grid: toggle_grid(editor); break;
     case Key_Action::eraser: tool_commands::select_eraser(editor); break;
+    case Key_Action::export_again: file_commands::export_again(editor); break;
     case Key_Action::none: break;
     }
     return Command::none;

@@ -49,7 +49,9 @@ public:
     // Selects the pixels of the tile that have such colours.
     Outcome select_colors(const std::function<bool(Color)>& is_wanted);
 
-    // Take what floats in view, or what is selected, or else the whole tile. Refused without a pixel.
+    // Returns what floats in view, or what is selected, or else the whole tile; none without a pixel.
+    [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
+    // Take that. Refused without a pixel.
     Outcome copy();
     Outcome cut();
     // Makes a picture that the user loses the current copy, without offering it to other programs. What one
@@ -93,7 +95,6 @@ private:
     void fill_paste(Color color);
     void clear_selected();
     void lift_and_transform(Command command);
-    [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
     void plot_paste();
     void plot_lifted(Selection_Mode mode);
     [[nodiscard]] bool is_to_settle() const;

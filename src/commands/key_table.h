@@ -23,6 +23,7 @@ enum class Key_Action : std::int32_t {
     larger_brush,
     toggle_grid,
     eraser,
+    export_again,
 };
 
 // Whether a key that stays down acts again and again.
@@ -54,6 +55,7 @@ constexpr std::array table = std::to_array<Key_Row>({
     {Modifier::control, 'n',               "^n",        Command::new_tileset,         Key_Action::none,          "",                  acts_once},
     {Modifier::control, 'o',               "^o",        Command::load,                Key_Action::none,          "",                  acts_once},
     {Modifier::control, 'w',               "^w",        Command::close,               Key_Action::none,          "",                  acts_once},
+    {Modifier::control, 'e',               "^e",        Command::none,                Key_Action::export_again,  "Export again",      acts_once},
     {Modifier::control, key::tab,          "^Tab",      Command::none,                Key_Action::next_set,      "Next open tileset", goes_on},
     {Modifier::none,    key::page_up,      "Page Up",   Command::previous_tile,       Key_Action::none,          "",                  goes_on},
     {Modifier::none,    key::page_down,    "Page Down", Command::next_tile,           Key_Action::none,          "",                  goes_on},

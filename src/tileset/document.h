@@ -4,12 +4,15 @@
 // are saved.
 
 #include "commands/command.h"
+#include "tileset/sheet_export.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tile_versions.h"
 #include "tileset/tileset.h"
 #include "tileset/undo_history.h"
 
+#include <optional>
 #include <string>
+#include <utility>
 
 namespace quadrelle {
 
@@ -44,6 +47,10 @@ public:
     // Returns the file name with the mark.
     [[nodiscard]] std::string title() const;
 
+    // None before the first export.
+    [[nodiscard]] const std::optional<Export_Record>& last_export() const { return last_export_; }
+    void set_last_export(Export_Record record) { last_export_ = std::move(record); }
+
     // The current tile, with what is selected on it and floats over it, becomes an entry of the history.
     // Without a tile there is nothing to record.
     void record(Command kind, Tool tool, Work_State work);
@@ -61,6 +68,7 @@ private:
     Undo_History history_;
     Tile_Versions versions_;
     Tile_Strip strip_{tileset_};
+    std::optional<Export_Record> last_export_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

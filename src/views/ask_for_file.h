@@ -21,6 +21,7 @@ enum class File_Dialog_Kind : std::int32_t {
     export_gpl,
     export_hex,
     export_png_palette,
+    export_png,
     count
 };
 

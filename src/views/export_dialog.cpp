@@ -15,6 +15,9 @@ namespace {
 constexpr Size dialog_size{522, 583};
 constexpr int view_margin = (dialog_size.width - Export_Dialog::view_size.width) / 2;
 constexpr Font caption_font = Font::pane;
+constexpr std::string_view png_label = "As .png...";
+constexpr int png_width = 110;
+constexpr int button_gap = 7;
 constexpr int scroll_step = 32;
 constexpr int mark_length = 7;
 constexpr int mark_inset = 5;
@@ -55,9 +58,9 @@ Point wheel_step(const Movement& moved) {
 
 Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
     : picture_(picture), caption_(caption_of(picture, tile_count)), frame_("Export as .bmp"),
-      ok_({}, Button_Type::ok),
-      cancel_({}, Button_Type::cancel), seen_{std::min(picture.width(), view_size.width),
-                                              std::min(picture.height(), view_size.height)},
+      ok_({}, Button_Type::ok), cancel_({}, Button_Type::cancel),
+      png_(png_label, {}), seen_{std::min(picture.width(), view_size.width),
+                                 std::min(picture.height(), view_size.height)},
       view_(seen_) {
     frame_.set_size({dialog_size.width, dialog_size.height - dialog_title_height});
     const Rectangle& box = frame_.area();
@@ -66,13 +69,14 @@ Export_Dialog::Export_Dialog(const Tile& picture, int tile_count)
     const int button_y = box.bottom() - ok_.area.height - dialog_margin;
     ok_.set_position({box.x + dialog_margin, button_y});
     cancel_.set_position({box.right() - cancel_.area.width - dialog_margin, button_y});
+    png_ = Text_Button(png_label, {ok_.area.right() + button_gap, button_y, png_width, text_button_height});
     compose_view();
 }
 
-bool Export_Dialog::run() {
+Export_Way Export_Dialog::run() {
     run_dialog({"dialog \"Export as .bmp\"", [this] { draw(); },
                 [this](const Input_Event& event) { return handle(event); }, [this] { return accept(); }});
-    return is_accepted_;
+    return way_;
 }
 
 Loop_Step Export_Dialog::handle(const Input_Event& event) {
@@ -88,7 +92,7 @@ Loop_Step Export_Dialog::handle(const Input_Event& event) {
 }
 
 Loop_Step Export_Dialog::accept() {
-    is_accepted_ = true;
+    way_ = Export_Way::bitmap;
     return Loop_Step::end;
 }
 
@@ -106,8 +110,10 @@ Loop_Step Export_Dialog::press(const Pointer_State& pointer) {
     if (pointer.button == Mouse_Button::none) {
         return Loop_Step::go_on;
     }
-    is_accepted_ = ok_.area.contains(pointer.point());
-    if (is_accepted_ || cancel_.area.contains(pointer.point())) {
+    way_ = ok_.area.contains(pointer.point()) ? Export_Way::bitmap
+           : png_.contains(pointer.point())   ? Export_Way::png
+                                              : Export_Way::none;
+    if (way_ != Export_Way::none || cancel_.area.contains(pointer.point())) {
         return Loop_Step::end;
     }
     if (view_area_.contains(pointer.point())) {
@@ -152,7 +158,8 @@ void Export_Dialog::draw() const {
     draw_overflow_marks();
     ok_.draw();
     cancel_.draw();
-    const int left = ok_.area.right();
+    png_.draw(Button_Look::plain);
+    const int left = png_.area().right();
     const Rectangle caption = centred(
         {screen->text_width(caption_font, caption_), screen->text_height(caption_font, caption_)},
         {left, view_area_.bottom(), cancel_.area.x - left, frame_.area().bottom() - view_area_.bottom()});

@@ -7,11 +7,14 @@
 #include "screen/opaque_texture.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
+#include "ui/text_button.h"
 
 #include <optional>
 #include <string>
 
 namespace quadrelle {
+
+enum class Export_Way { none, bitmap, png };
 
 class Export_Dialog {
 public:
@@ -21,8 +24,8 @@ public:
     // than the picture.
     Export_Dialog(const Tile& picture, int tile_count);
 
-    // Returns true when accepted.
-    [[nodiscard]] bool run();
+    // Returns what was chosen; to accept is to choose the bitmap.
+    [[nodiscard]] Export_Way run();
 
 private:
     [[nodiscard]] Loop_Step handle(const Input_Event& event);
@@ -42,11 +45,12 @@ private:
     Rectangle view_area_;
     Button_Dialog_Item ok_;
     Button_Dialog_Item cancel_;
+    Text_Button png_;
     Size seen_; // of the picture, from `offset_` on
     Opaque_Texture view_;
     Point offset_;
     std::optional<Point> dragged_from_;
-    bool is_accepted_ = false;
+    Export_Way way_ = Export_Way::none;
 };
 
 } // namespace quadrelle

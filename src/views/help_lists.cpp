@@ -63,6 +63,8 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Click on a number in a dialog",        "lets you type it; the arrows beside it and the wheel change it by one"},
     {"Arrows of numbers, handles, navigation", "go on while they are held"},
     {"Hold a button on a slot of Versions",  "shows that version in large"},
+    {"Drop a file on the window",            "loads a set, makes a set of a PNG or bitmap, keeps a palette"},
+    {"Wheel, click in a picture to cut",     "zoom; bring that place into the middle"},
     {"Drag or wheel in Export as .bmp",      "shows the rest of a picture that is larger than the view"},
 });
 // clang-format on

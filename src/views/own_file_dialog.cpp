@@ -32,7 +32,7 @@ constexpr int gap = 7;
 constexpr int list_height = 15 * line + 2;
 constexpr int label_width = 60;
 constexpr int name_height = 29;
-constexpr int new_folder_width = 120;
+constexpr int middle_button_width = 120;
 constexpr std::size_t longest_name = 4000;
 constexpr int text_drop = 3;
 constexpr int all_rows = std::numeric_limits<int>::max() / 2;
@@ -51,10 +51,10 @@ struct Layout {
                                                                      name_height},
           field{label.right(), label.y, frame.right() - gap - label.right(), name_height},
           buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, text_button_height},
-          new_folder{frame.x + (frame.width - new_folder_width) / 2, buttons.y, new_folder_width,
-                     text_button_height} {}
+          middle_button{frame.x + (frame.width - middle_button_width) / 2, buttons.y, middle_button_width,
+                        text_button_height} {}
 
-    Rectangle path, list, note, label, field, buttons, new_folder;
+    Rectangle path, list, note, label, field, buttons, middle_button;
 };
 
 class Own_Chooser {
@@ -81,6 +81,11 @@ private:
     Loop_Step accept_name();
     Loop_Step choose(const std::string& path);
     void make_folder_here();
+    // To open, every file can be listed too.
+    [[nodiscard]] bool can_list_all() const {
+        return request_.direction == File_Direction::open && std::string_view(request_.pattern) != "*";
+    }
+    void toggle_all_files();
 
     File_Request request_;
     Folder_Listing listing_;
@@ -91,6 +96,7 @@ private:
     Button_Dialog_Item ok_{Item_Id{}, Button_Type::ok};
     Button_Dialog_Item cancel_{Item_Id{}, Button_Type::cancel};
     Part focus_;
+    bool lists_all_ = false;
     bool is_row_chosen_ = false; // by the user, who may mean it by Ok
     std::string note_;           // why the last attempt led nowhere
     File_Answer answer_{File_Answer_State::cancelled, {}};
@@ -142,14 +148,19 @@ void Own_Chooser::draw() {
     const bool is_list = focus_ == Part::list;
     list_.draw({.list = is_list ? Focus::yes : Focus::no,
                 .row = is_list && is_row_chosen_ ? Focus::yes : Focus::no});
-    const std::string_view note = note_.empty() ? request_.filter_label : note_.c_str();
+    const std::string_view note = !note_.empty() ? note_.c_str()
+                                  : lists_all_   ? "All files (*.*)"
+                                                 : request_.filter_label;
     screen->draw_text(font, {layout_.note.x, layout_.note.y},
                       fitted_text(font, note, layout_.note.width, Left_Out::middle));
     screen->draw_text(font, {layout_.label.x, layout_.label.y + text_drop}, "Name:");
     name_.draw(focus_ == Part::name ? Focus::yes : Focus::no);
     ok_.draw();
     if (request_.direction == File_Direction::save) {
-        draw_button(layout_.new_folder, {font, "New folder", text_drop});
+        draw_button(layout_.middle_button, {font, "New folder", text_drop});
+    } else if (can_list_all()) {
+        const std::string label = lists_all_ ? "Only ." + std::string(request_.pattern) : "All files";
+        draw_button(layout_.middle_button, {font, label, text_drop});
     }
     cancel_.draw();
 }
@@ -236,8 +247,12 @@ Loop_Step Own_Chooser::press(const Input_Event& event) {
     if (ok_.area.contains(point)) {
         return accept();
     }
-    if (request_.direction == File_Direction::save && layout_.new_folder.contains(point)) {
-        make_folder_here();
+    if (layout_.middle_button.contains(point)) {
+        if (request_.direction == File_Direction::save) {
+            make_folder_here();
+        } else if (can_list_all()) {
+            toggle_all_files();
+        }
     }
     return cancel_.area.contains(point) ? Loop_Step::end : Loop_Step::go_on;
 }
@@ -315,6 +330,15 @@ Loop_Step Own_Chooser::choose(const std::string& path) {
     last_folder() = parent_folder(chosen);
     answer_ = {File_Answer_State::chosen, chosen};
     return Loop_Step::end;
+}
+
+void Own_Chooser::toggle_all_files() {
+    lists_all_ = !lists_all_;
+    const std::string folder = listing_.folder();
+    listing_ = Folder_Listing(lists_all_ ? "*" : request_.pattern);
+    static_cast<void>(listing_.open_nearest(folder));
+    list_.reset();
+    is_row_chosen_ = false;
 }
 
 // Enters the folder that was made, so that what is saved next goes there.

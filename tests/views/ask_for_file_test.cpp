@@ -49,6 +49,7 @@ TEST_F(File_Dialog_Test, forces_the_extension_only_where_something_is_saved) {
     EXPECT_EQ(choose(File_Dialog_Kind::open_any, answer), "/a/b.c.txt");
     EXPECT_EQ(choose(File_Dialog_Kind::import_bitmap, answer), "/a/b.c.txt");
     EXPECT_EQ(choose(File_Dialog_Kind::export_bitmap, answer), "/a/b.c.bmp");
+    EXPECT_EQ(choose(File_Dialog_Kind::export_png, answer), "/a/b.c.png");
 }
 
 // The dialog has asked about the name that was typed, if it has asked at all.

@@ -1,4 +1,5 @@
 #include "color/standard_colors.h"
+#include "pixels/picture_formats.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "tests/whole/program_test.h"
@@ -101,6 +102,72 @@ TEST_F(Export_Test, takes_the_tile_as_it_is_without_the_seam) {
     const Surface written(folder().data_path("seam.bmp"));
     EXPECT_EQ(written.get_pixel(0, 0), to_rgba(Color(255, 255, 255)));
     EXPECT_EQ(written.get_pixel(12, 0), to_rgba(Color(0, 0, 0)));
+}
+
+// The arrows that make the numbers of the dialog larger, from the kind of export on.
+constexpr Point more(int row) {
+    return {365, 435 + 23 * row};
+}
+constexpr Point png_button{484, 602};
+
+Tile written_picture(const std::string& path) {
+    return read_picture(path).picture.value_or(Tile(0, 0));
+}
+
+TEST_F(Export_Test, png_has_the_tiles_that_there_are_as_they_are_laid_out) {
+    make_set({8, 8}, 3,
+             [](int tile, Point pixel) { return Color(tile * 90, pixel.x * 9, pixel.y * 9, tile * 100); });
+    const std::string path = folder().data_path("sheet.png");
+    answer_with("sheet");
+    // Spacing 1, scale 2, a description.
+    script().press(png_button).click(more(3)).click(more(5)).click({343, 573}).key(key::enter);
+    execute(Command::export_bitmap);
+    EXPECT_EQ(asked_file(), File_Dialog_Kind::export_png);
+    EXPECT_EQ(written_picture(path).size(), (Size{2 * (3 * 8 + 2), 16}));
+    EXPECT_EQ(written_picture(path).get_pixel(18 + 15, 15), Color(90, 63, 63, 100));
+    EXPECT_TRUE(has_file("sheet.tsx"));
+    EXPECT_FALSE(document().is_modified());
+    // Again, with what has been drawn since, and without a question.
+    paint({1, 2, 3});
+    play(script().key('e', Modifier::control));
+    EXPECT_EQ(written_picture(path).get_pixel(0, 0), Color(1, 2, 3));
+    // The description that is there is not replaced unasked.
+    script().press(png_button).key(key::enter);
+    expect_question("Export", "Save over existing file?").key(key::enter);
+    expect_question("Export", "Save over existing tileset file (.tsx)?").key(key::escape);
+    execute(Command::export_bitmap);
+}
+
+TEST_F(Export_Test, png_of_a_tile_or_of_what_is_selected) {
+    const std::string path = folder().data_path("part.png");
+    answer_with("part");
+    play(script().click(cell(2, 1)));
+    script().press(png_button).click(more(0)).key(key::enter);
+    execute(Command::export_bitmap);
+    EXPECT_EQ(picture_of(written_picture(path)), tile_picture());
+    // Without a selection there is nothing to export.
+    script().press(png_button).click(more(0)).key(key::enter);
+    expect_message("Note", "Nothing is selected.").key(key::enter).key(key::escape);
+    execute(Command::export_bitmap);
+    execute(Command::rectangle_selector);
+    play(script().drag({{420, 210}, {450, 240}}));
+    script().press(png_button).click(more(0)).key(key::enter);
+    expect_question("Export", "Save over existing file?").key(key::enter);
+    execute(Command::export_bitmap);
+    const Tile part = written_picture(path);
+    EXPECT_LT(part.width(), 6);
+    EXPECT_EQ(std::ranges::count(part.pixels(), Color(255, 255, 255)), 1);
+}
+
+TEST_F(Export_Test, again_tells_that_there_was_no_first_time) {
+    play(script().key('e', Modifier::control));
+    EXPECT_EQ(asked_file(), std::nullopt);
+    answer_with("plain");
+    script().key(key::enter);
+    execute(Command::export_bitmap);
+    paint({9, 8, 7});
+    play(script().key('e', Modifier::control));
+    EXPECT_EQ(written_picture(folder().data_path("plain.bmp")).get_pixel(0, 0), Color(9, 8, 7));
 }
 
 TEST_F(Export_Test, of_tiles_without_pixels_is_refused) {

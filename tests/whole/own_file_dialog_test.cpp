@@ -170,6 +170,15 @@ TEST_F(File_Chooser_Test, walks_through_folders_by_keyboard_mouse_and_name) {
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), "cancelled");
 }
 
+TEST_F(File_Chooser_Test, lists_files_of_every_kind_where_that_is_wanted) {
+    constexpr Point all_files_button{616, 580};
+    store(in_art("a.png"), {});
+    script().press(all_files_button).press(all_files_button).click(row(1)).press(row(1)).key(key::escape);
+    EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), "cancelled");
+    script().press(all_files_button).click(row(1)).press(row(1));
+    EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), in_art("a.png"));
+}
+
 TEST_F(File_Chooser_Test, scrolls_through_many_files) {
     for (int i = 0; i < 400; ++i) {
         store(in_art(std::to_string(1000 + i) + ".qdl"), {});
