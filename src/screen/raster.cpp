@@ -11,8 +11,11 @@ namespace quadrelle {
 
 namespace {
 
+// Most pixels are opaque or clear.
 void lay_over(Color& pixel, Color color) {
-    if (color.a != 0) {
+    if (color.a == 255) {
+        pixel = color;
+    } else if (color.a != 0) {
         pixel = blended_over(color, pixel);
     }
 }
