@@ -28,6 +28,10 @@ Outcome refuse_without_copy(Editor_Parts& editor, Command command) {
     return editor.refuse(command, "Nothing is copied yet.");
 }
 
+Outcome refuse_invisible(Editor_Parts& editor, Command command) {
+    return editor.refuse(command, "Nothing visible is there.");
+}
+
 } // namespace
 
 Outcome undo(Editor_Parts& editor) {
@@ -51,7 +55,7 @@ Outcome view_undo_history(Editor_Parts& editor) {
 
 Outcome copy(Editor_Parts& editor) {
     if (editor.desk.copy() != Outcome::done) {
-        return editor.refuse(Command::copy, "There is nothing to copy.");
+        return refuse_invisible(editor, Command::copy);
     }
     const Size size = editor.desk.copies().current()->picture->size();
     editor.report(Command::copy,
@@ -64,7 +68,7 @@ Outcome cut(Editor_Parts& editor) {
         dialogs->message("Note", "Nothing selected to cut.");
         return Outcome::refused;
     }
-    return editor.desk.cut();
+    return editor.desk.cut() == Outcome::done ? Outcome::done : refuse_invisible(editor, Command::cut);
 }
 
 Outcome paste(Editor_Parts& editor) {
@@ -79,8 +83,12 @@ Outcome paste_copy(Editor_Parts& editor) {
 }
 
 Outcome clone(Editor_Parts& editor) {
-    const Outcome outcome = editor.desk.clone(options->choice<Clone_Style>(Option::clone_style));
-    return outcome == Outcome::done ? outcome : refuse_without_copy(editor, Command::clone);
+    const bool is_of_something = editor.desk.has_something();
+    if (editor.desk.clone(options->choice<Clone_Style>(Option::clone_style)) == Outcome::done) {
+        return Outcome::done;
+    }
+    return is_of_something ? refuse_invisible(editor, Command::clone)
+                           : refuse_without_copy(editor, Command::clone);
 }
 
 Outcome plot_paste(Editor_Parts& editor) {

@@ -18,6 +18,10 @@ Floating_Paste placed(const Tile& picture, Size tile) {
     return paste;
 }
 
+bool has_visible_pixel(const Tile& picture) {
+    return std::ranges::any_of(picture.pixels(), [](Color color) { return color.a != 0; });
+}
+
 } // namespace
 
 namespace {
@@ -171,7 +175,7 @@ std::optional<Floating_Paste> Selection_Desk::what_to_copy() const {
 
 Outcome Selection_Desk::copy() {
     const std::optional<Floating_Paste> copy = what_to_copy();
-    if (!copy) {
+    if (!copy || !has_visible_pixel(copy->picture)) {
         return Outcome::refused;
     }
     copies_.add(*copy);
@@ -237,7 +241,9 @@ bool Selection_Desk::float_wand_area(Tile_Point pressed) {
         return false;
     }
     const bool is_cut = mode == Wand_Mode::quick_cut;
-    static_cast<void>(is_cut ? cut() : copy());
+    if ((is_cut ? cut() : copy()) != Outcome::done) {
+        return false;
+    }
     float_picture(*copies_.current(), is_cut ? Paste_Source::tile : Paste_Source::copy);
     return true;
 }

@@ -51,7 +51,7 @@ public:
 
     // Returns what floats in view, or what is selected, or else the whole tile; none without a pixel.
     [[nodiscard]] std::optional<Floating_Paste> what_to_copy() const;
-    // Take that. Refused without a pixel.
+    // Take that. Refused where nothing of it is visible: the copies before would make room for nothing.
     Outcome copy();
     Outcome cut();
     // Makes a picture that the user loses the current copy, without offering it to other programs. What one
@@ -67,7 +67,7 @@ public:
     // moves it.
     void float_picture(const Floating_Paste& picture, Paste_Source source = Paste_Source::copy);
     // Floats what was selected where the wand was pressed, as its quick modes say. Returns false when nothing
-    // was selected there, or the wand only selects.
+    // visible was selected there, or the wand only selects.
     [[nodiscard]] bool float_wand_area(Tile_Point pressed);
     // Moves what floats by that many pixels; nudges that follow each other are one step. Returns false when
     // nothing floats in view.

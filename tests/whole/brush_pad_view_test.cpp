@@ -120,9 +120,11 @@ TEST_F(Brush_Pad_View_Test, a_floating_paste_becomes_a_brush_without_its_holes) 
     choose_in_edit_menu(Command::use_as_brush);
     EXPECT_EQ(tools().brush().size(), (Size{2, 1}));
     EXPECT_EQ(tools().brush().pixel(0, 0), std::nullopt);
-    select({3, 2}, {4, 3});
-    execute(Command::copy);
-    execute(Command::paste);
+    execute(Command::deselect);
+    Tile transparent(1, 1);
+    transparent.fill(clear);
+    work().float_paste({transparent, {3, 2}});
+    execute(Command::work_selection);
     tools().options.selection_mode = Selection_Mode::persistent;
     execute(Command::pen);
     expect_note("Nothing selected to use as brush.", Command::use_as_brush); // it floats on out of sight

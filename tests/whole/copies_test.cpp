@@ -1,5 +1,6 @@
 // The panes of the copies, and the clipboard that is shared with other programs.
 
+#include "app/window_panes.h"
 #include "selection/copy_buffer.h"
 #include "pixels/picture_formats.h"
 #include "tests/whole/selection_scene.h"
@@ -79,6 +80,26 @@ TEST_F(Copy_Panes_Test, buttons_carry_out_their_commands) {
     EXPECT_FALSE(work().has_selection());
     press(0, 1);
     EXPECT_TRUE(work().paste());
+}
+
+// Or a second Ctrl+x would leave the hole as the copy.
+TEST_F(Copy_Panes_Test, what_is_transparent_is_no_copy) {
+    paint_noise(1);
+    select_rectangle({2, 2}, {5, 5});
+    execute(Command::cut);
+    const Tile copy = editor->copies().current()->picture;
+    const std::size_t steps = document().history().entries().size();
+    for (const Command command : {Command::cut, Command::copy, Command::clone}) {
+        execute(command);
+        EXPECT_EQ(editor->panes().hint_lines().lines().at(1), "Nothing visible is there.");
+    }
+    EXPECT_EQ(document().history().entries().size(), steps);
+    execute(Command::wand_selector);
+    tools().options.wand_mode = Wand_Mode::quick_cut;
+    click({3, 3});
+    EXPECT_FALSE(work().paste());
+    EXPECT_TRUE(editor->copies().current()->picture->same_pixels(copy));
+    EXPECT_EQ(editor->copies().copies().size(), 1U);
 }
 
 // What another program puts onto the clipboard.

@@ -308,7 +308,19 @@ public:
         }
         change_paste(after);
     }
-    void copy() { add_copy(has_selection() ? lifted_area() : shows_paste() ? work.paste : whole_tile()); }
+    [[nodiscard]] Paste to_copy() {
+        return has_selection() ? lifted_area() : shows_paste() ? work.paste : whole_tile();
+    }
+    // What is transparent is no copy.
+    [[nodiscard]] bool has_visible() {
+        const Paste seen = to_copy();
+        return std::ranges::any_of(seen->picture->pixels(), [](Color color) { return color.a != 0; });
+    }
+    void copy() {
+        if (has_visible()) {
+            add_copy(to_copy());
+        }
+    }
     void floats(const Floating_Paste& paste) {
         deselect();
         settle();

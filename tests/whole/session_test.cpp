@@ -83,7 +83,11 @@ private:
                 mask.plot(pixel, white);
             });
         });
-        if (mode == Wand_Mode::normal || button == Mouse_Button::right) {
+        const Area selected = model_.work.area;
+        model_.select(area, button);
+        const bool is_visible = model_.has_visible();
+        model_.work.area = selected;
+        if (mode == Wand_Mode::normal || button == Mouse_Button::right || !is_visible) {
             mark(area, false, at, button);
             return;
         }
@@ -106,6 +110,10 @@ private:
                 model_.copy();
                 model_.clear();
             };
+            if (!model_.has_visible()) {
+                editor->execute(Command::cut);
+                return;
+            }
             change(Command::cut, expected, true);
         }
     }
@@ -121,7 +129,7 @@ private:
         const auto style = static_cast<Clone_Style>((options->value(Option::clone_style) + 1) % 4);
         set_option(Option::clone_style, static_cast<int>(style));
         const bool has_own = model_.shows_paste() || model_.has_selection();
-        if (!has_own && model_.copies.empty()) {
+        if (has_own ? !model_.has_visible() : model_.copies.empty()) {
             editor->execute(Command::clone);
             return;
         }
