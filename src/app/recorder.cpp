@@ -65,7 +65,8 @@ void Recorder::step(const Edit& edit, Merge merge) {
 }
 
 void Recorder::record(Command kind) {
-    canvas_.with_tile_in_place([&] { documents_.current().record(kind, toolbox_.current_tool(), work()); });
+    canvas_.with_tile_in_place(
+        [&] { documents_.current().record(kind, toolbox_.state().in_hand(), work()); });
 }
 
 Work_State Recorder::work() const {
@@ -105,7 +106,8 @@ std::optional<Undo_Entry> Recorder::missing_floor() {
         const bool is_known = entry != nullptr && entry->tile_index == document.tileset().current_index() &&
                               canvas_.work_area() == entry->work;
         if (!is_known) {
-            floor = undo_entry_of(document.tileset(), Command::change_tile, toolbox_.current_tool(), work());
+            floor =
+                undo_entry_of(document.tileset(), Command::change_tile, toolbox_.state().in_hand(), work());
         }
     });
     return floor;
@@ -141,12 +143,16 @@ bool Recorder::restore(const Undo_Entry* entry, const Tile_Transform& transform)
             canvas_.transform_history(transform.command);
         }
     });
-    // What was lifted is seen, and drops, as it was: whole.
+    // What was lifted is seen, and drops, as it was: whole. What else floats comes into reach.
+    const Tile_Point seen = entry->work.seam_shift;
     if (canvas_.work_area().has_lifted()) {
-        canvas_.restore_seam_shifts(entry->work.seam_shift);
+        canvas_.restore_seam_shifts(seen);
     }
-    if (entry->tool != toolbox_.current_tool()) {
-        toolbox_.select(row_of(entry->tool).command);
+    const Tile_Point now = canvas_.seam_shifts();
+    canvas_.work_area().bring_paste_back({now.x - seen.x, now.y - seen.y});
+    if (entry->tool.tool != toolbox_.current_tool()) {
+        toolbox_.select(row_of(entry->tool.tool).command);
+        toolbox_.state().is_erasing = entry->tool.is_erasing;
     }
     documents_.mark_changed();
     return true;

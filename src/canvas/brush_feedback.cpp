@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <vector>
 
 namespace quadrelle {
 
@@ -28,9 +29,43 @@ std::optional<Color> pixel_of(const Brush_Feedback& feedback, int x, int y) {
                      : std::nullopt;
 }
 
-bool is_set(const Brush_Feedback& feedback, int x, int y) {
-    return pixel_of(feedback, x, y).has_value();
-}
+// In cells from the brush: all that the line of brushes goes over, or the brush alone.
+class Outlined_Cells {
+public:
+    explicit Outlined_Cells(const Brush_Feedback& feedback) : area_(outlined_area(feedback)) {
+        cells_.resize(static_cast<std::size_t>(area_.width) * static_cast<std::size_t>(area_.height));
+        walk_line(outlined_start(feedback), {}, [&](Tile_Point offset) { add_brush(feedback, offset); });
+    }
+
+    [[nodiscard]] static Rectangle outlined_area(const Brush_Feedback& feedback) {
+        const Size size = feedback.brush->size();
+        const Tile_Point start = outlined_start(feedback);
+        return bounds_of({0, 0, size.width, size.height}, {start.x, start.y, size.width, size.height});
+    }
+    [[nodiscard]] const Rectangle& area() const { return area_; }
+    [[nodiscard]] bool has(int x, int y) const { return area_.contains({x, y}) && cells_[index_of(x, y)]; }
+
+private:
+    // What is previewed needs no outline but that of its end.
+    [[nodiscard]] static Tile_Point outlined_start(const Brush_Feedback& feedback) {
+        return feedback.preview ? Tile_Point{} : feedback.line_start.value_or(Tile_Point{});
+    }
+    [[nodiscard]] std::size_t index_of(int x, int y) const {
+        return static_cast<std::size_t>(y - area_.y) * static_cast<std::size_t>(area_.width) +
+               static_cast<std::size_t>(x - area_.x);
+    }
+    void add_brush(const Brush_Feedback& feedback, Tile_Point offset) {
+        for (int y = 0; y < feedback.brush->size().height; ++y) {
+            for (int x = 0; x < feedback.brush->size().width; ++x) {
+                const std::size_t cell = index_of(offset.x + x, offset.y + y);
+                cells_[cell] = cells_[cell] || pixel_of(feedback, x, y).has_value();
+            }
+        }
+    }
+
+    Rectangle area_;
+    std::vector<bool> cells_;
+};
 
 // Of a cell that is not left of the tile or above it.
 Tile_Point tile_pixel(const Brush_Feedback& feedback, const Rectangle& cell) {
@@ -80,20 +115,20 @@ void contrast(Color& pixel) {
 // Along the grid lines around the cells, so that no pixel of the tile is covered. Each pixel of the lines is
 // changed once, or it would turn back.
 void paint_outline(const Brush_Feedback& feedback, int pixel_size, const Pixel_Rows& target) {
-    const Brush& brush = *feedback.brush;
-    for (int y = 0; y <= brush.size().height; ++y) {
-        for (int x = 0; x <= brush.size().width; ++x) {
+    const Outlined_Cells cells(feedback);
+    for (int y = cells.area().y; y <= cells.area().bottom(); ++y) {
+        for (int x = cells.area().x; x <= cells.area().right(); ++x) {
             const Point cell{feedback.outline->x + x * pixel_size, feedback.outline->y + y * pixel_size};
-            const bool here = is_set(feedback, x, y);
-            const bool is_left_edge = here != is_set(feedback, x - 1, y);
-            const bool is_top_edge = here != is_set(feedback, x, y - 1);
+            const bool here = cells.has(x, y);
+            const bool is_left_edge = here != cells.has(x - 1, y);
+            const bool is_top_edge = here != cells.has(x, y - 1);
             if (is_left_edge) {
                 change_pixels({cell.x - 1, cell.y, 1, pixel_size - 1}, target, contrast);
             }
             if (is_top_edge) {
                 change_pixels({cell.x, cell.y - 1, pixel_size - 1, 1}, target, contrast);
             }
-            if (is_left_edge || is_top_edge || here != is_set(feedback, x - 1, y - 1)) {
+            if (is_left_edge || is_top_edge || here != cells.has(x - 1, y - 1)) {
                 change_pixels({cell.x - 1, cell.y - 1, 1, 1}, target, contrast);
             }
         }
@@ -154,8 +189,10 @@ Rectangle feedback_area(const Brush_Feedback& feedback, int pixel_size) {
         area = preview_area(feedback, pixel_size);
     }
     if (feedback.outline) {
-        const Rectangle cells = cells_of(*feedback.brush, *feedback.outline, pixel_size);
-        area = bounds_of(area, {cells.x - 1, cells.y - 1, cells.width + 1, cells.height + 1});
+        const Rectangle cells = Outlined_Cells::outlined_area(feedback);
+        area = bounds_of(area, {feedback.outline->x + cells.x * pixel_size - 1,
+                                feedback.outline->y + cells.y * pixel_size - 1, cells.width * pixel_size + 1,
+                                cells.height * pixel_size + 1});
     }
     return feedback.taken_corner ? bounds_of(area, cross_area(*feedback.taken_corner, pixel_size)) : area;
 }

@@ -18,7 +18,8 @@ struct Brush_Feedback {
     const Brush* brush = nullptr;
     std::optional<Point> outline = {};
     std::optional<Point> preview = {};
-    // So many cells beside the preview begins a straight line of them, which ends with it.
+    // So many cells beside it begins a straight line of brushes, which ends with it: of previews, or else of
+    // outlines.
     std::optional<Tile_Point> line_start = {};
     // Instead of the brush's own colours.
     std::optional<Color> color = {};

@@ -30,8 +30,7 @@ bool shows_brush_outline(const Tool_State& tools, const Canvas_Settings& setting
            !leaves_out_brush;
 }
 
-// Nothing for brushes that change the colour which is there, nor where the pen erases or paints from the
-// history.
+// Nothing for brushes that change the colour which is there, nor where the pen paints from the history.
 bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& settings, Mouse_Button button) {
     if (fills_with_brush(tools)) {
         return settings.has_brush_preview;
@@ -39,9 +38,9 @@ bool shows_brush_preview(const Tool_State& tools, const Canvas_Settings& setting
     const Brush_Owner owner = tools.brush().owner();
     const bool has_colors = owner == Brush_Owner::pen || owner == Brush_Owner::stamp_brush;
     const bool paints_otherwise = button == Mouse_Button::right && tools.tool == Tool::pen &&
+                                  !tools.is_erasing &&
                                   tools.options.right_button_mode != Right_Button_Mode::color;
-    return tools.uses_brush() && has_colors && !paints_otherwise && !tools.is_erasing &&
-           settings.has_brush_preview;
+    return tools.uses_brush() && has_colors && !paints_otherwise && settings.has_brush_preview;
 }
 
 Size brush_reach(const Tool_State& tools, const Canvas_Settings& settings) {

@@ -31,6 +31,16 @@ int seam_shift_of(int extent) {
     return half - half % 2;
 }
 
+Tile_Point along(Seam seam, int shift) {
+    return seam == Seam::horizontal ? Tile_Point{shift, 0} : Tile_Point{0, shift};
+}
+
+// In the viewport, of a brush around that position in the window.
+Point centred_corner(Point position, Size brush, int pixel_size) {
+    return {position.x - window_layout::canvas.x - brush.width * pixel_size / 2,
+            position.y - window_layout::canvas.y - brush.height * pixel_size / 2};
+}
+
 } // namespace
 
 Canvas_View::Canvas_View(int pixel_size)
@@ -121,6 +131,7 @@ bool Canvas_View::toggle_seam_shift(Seam seam) {
     }
     const int shift = seam_shift_of(seam == Seam::horizontal ? tile_->width() : tile_->height());
     shift_pixels(seam, shift);
+    work_area_.bring_paste_back(along(seam, shift));
     seam_shift(seam) = shift;
     return true;
 }
@@ -144,11 +155,12 @@ void Canvas_View::undo_seam_shift(Seam seam) {
     const int shift = std::exchange(seam_shift(seam), no_seam_shift);
     if (shift > 0) {
         shift_pixels(seam, -shift);
+        work_area_.bring_paste_back(along(seam, -shift));
     }
 }
 
 void Canvas_View::shift_pixels(Seam seam, int shift) {
-    const Tile_Point offset = seam == Seam::horizontal ? Tile_Point{shift, 0} : Tile_Point{0, shift};
+    const Tile_Point offset = along(seam, shift);
     scroll_wrapped(*tile_, offset);
     scroll_wrapped(*history_, offset);
     work_area_.scroll(offset);
@@ -309,29 +321,31 @@ Brush_Feedback Canvas_View::brush_feedback(const Hover& hover, const Tool_State&
     if (shows_brush_preview(tools, settings, hover.button)) {
         feedback.preview = in_viewport(corner);
     }
-    if (shows_brush_outline(tools, settings)) {
-        const Point centred_on_pointer{
-            hover.position.x - window_layout::canvas.x - brush.size().width * pixel_size_ / 2,
-            hover.position.y - window_layout::canvas.y - brush.size().height * pixel_size_ / 2};
-        const bool is_on_cells =
-            settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush || tools.fills_with_brush();
-        feedback.outline = is_on_cells ? in_viewport(corner) : centred_on_pointer;
-    }
-    const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
-    if (hover.joins_strokes && stroke != nullptr && stroke->joins_strokes) {
+    if (hover.joins_strokes) {
         feedback.line_start = line_start(corner, tools, settings);
     }
+    // A line shows also where the brush by itself is left out, as it is of one pixel only.
+    const bool shows_line =
+        feedback.line_start && !feedback.preview && settings.brush_outline != Brush_Outline::off;
+    if (shows_brush_outline(tools, settings) || shows_line) {
+        const bool is_on_cells = settings.is_outline_blocky || tools.pen_mode() != Pen_Mode::brush ||
+                                 tools.fills_with_brush() || shows_line;
+        feedback.outline =
+            is_on_cells ? in_viewport(corner) : centred_corner(hover.position, brush.size(), pixel_size_);
+    }
+    const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
     if (stroke != nullptr && stroke->points == Stroke_Points::corners) {
         feedback.taken_corner = in_viewport(corner_point(hover.position));
     }
     return feedback;
 }
 
-// Not where the brush keeps to places of its own.
+// Not with tools that do not join their strokes, nor where the brush keeps to places of its own.
 std::optional<Tile_Point> Canvas_View::line_start(Tile_Point corner, const Tool_State& tools,
                                                   const Canvas_Settings& settings) const {
+    const Stroke_Row* const stroke = find_stroke(tools.canvas_action());
     const std::optional<Tile_Point> end = stroke_end(brush_reach(tools, settings));
-    if (!end || tools.pen_mode() != Pen_Mode::brush) {
+    if (stroke == nullptr || !stroke->joins_strokes || !end || tools.pen_mode() != Pen_Mode::brush) {
         return std::nullopt;
     }
     return Tile_Point{end->x - corner.x, end->y - corner.y};

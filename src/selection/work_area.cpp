@@ -6,9 +6,24 @@
 #include "selection/scroll.h"
 #include "selection/transform_table.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quadrelle {
+
+namespace {
+
+// Along one axis.
+int seen_extent(int position, int extent, int tile) {
+    return std::min(position + extent, tile) - std::max(position, 0);
+}
+
+int nearest_in_reach(int position, int extent, int tile) {
+    return std::ranges::max({position, position - tile, position + tile}, {},
+                            [=](int candidate) { return seen_extent(candidate, extent, tile); });
+}
+
+} // namespace
 
 std::size_t Work_State::memory_size() const {
     std::size_t size = selection ? selection->mask().memory_size() : 0;
@@ -93,6 +108,18 @@ void Work_Area::scroll(Tile_Point offset) {
         paste_->position = {paste_->position.x + offset.x, paste_->position.y + offset.y};
         update_paste_area();
     }
+}
+
+void Work_Area::bring_paste_back(Tile_Point scrolled) {
+    if (!paste_) {
+        return;
+    }
+    const Size tile = selection_->size();
+    const Size size = paste_->picture->size();
+    Tile_Point& position = paste_->position;
+    position.x = scrolled.x == 0 ? position.x : nearest_in_reach(position.x, size.width, tile.width);
+    position.y = scrolled.y == 0 ? position.y : nearest_in_reach(position.y, size.height, tile.height);
+    update_paste_area();
 }
 
 void Work_Area::copy_selection(Tile& tile) {

@@ -78,6 +78,9 @@ public:
     void leave_tile();
     // The tile's pixels were scrolled by that much, and all goes with them.
     void scroll(Tile_Point offset);
+    // The tile was scrolled by that much, and what floats may lie beside it now. It comes to where it is seen
+    // most, on the axes of the scroll: in a tile that goes round, that is the same place.
+    void bring_paste_back(Tile_Point scrolled);
     // Returns where the paste lies in the tile; may be asked only while there is one.
     [[nodiscard]] const Selection& paste_area() const { return *paste_area_; }
     // The selected pixels leave the tile, transparent holes behind them, and float where they were. What

@@ -22,7 +22,7 @@ std::string Tileset_Document::title() const {
     return file_name_ + change_mark();
 }
 
-void Tileset_Document::record(Command kind, Tool tool, Work_State work) {
+void Tileset_Document::record(Command kind, Tool_In_Hand tool, Work_State work) {
     if (tileset_.has_tiles()) {
         history_.add(undo_entry_of(tileset_, kind, tool, std::move(work)));
     }

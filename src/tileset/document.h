@@ -53,7 +53,7 @@ public:
 
     // The current tile, with what is selected on it and floats over it, becomes an entry of the history.
     // Without a tile there is nothing to record.
-    void record(Command kind, Tool tool, Work_State work);
+    void record(Command kind, Tool_In_Hand tool, Work_State work);
     // Commands on the current tile, the order of tiles and the strip: the command to record, "Skip command"
     // where it was refused, or none for every other command.
     Command handle_command(Command command);

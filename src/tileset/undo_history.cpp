@@ -7,7 +7,7 @@
 
 namespace quadrelle {
 
-Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool, Work_State work) {
+Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool_In_Hand tool, Work_State work) {
     return {kind, std::make_unique<const Tile_Snapshot>(*tileset.current_tile()), tileset.current_index(),
             tool, std::move(work)};
 }
@@ -34,7 +34,7 @@ void Undo_History::reset(const Tileset& tileset) {
     clear();
     if (tileset.has_tiles()) {
         // Deliberately labelled as a fill: that is how a tile comes into being.
-        add(undo_entry_of(tileset, Command::flood_fill, Tool::pen));
+        add(undo_entry_of(tileset, Command::flood_fill, {}));
     }
 }
 

@@ -5,7 +5,7 @@
 #include "commands/command.h"
 #include "selection/work_area.h"
 #include "tileset/tile_snapshot.h"
-#include "tools/tool_catalogue.h"
+#include "tools/tool_state.h"
 
 #include <cstddef>
 #include <memory>
@@ -21,8 +21,8 @@ struct Undo_Entry {
     Command kind = Command::none; // what was done; of a stroke the command of its tool
     std::unique_ptr<const Tile_Snapshot> snapshot;
     int tile_index = 0;
-    Tool tool = Tool::pen; // the current one when the entry was made
-    Work_State work;       // what was selected and what floated over the tile
+    Tool_In_Hand tool; // when the entry was made
+    Work_State work;   // what was selected and what floated over the tile
 
     [[nodiscard]] std::size_t memory_size() const {
         return 12 + snapshot->memory_size() + work.memory_size();
@@ -30,7 +30,8 @@ struct Undo_Entry {
 };
 
 // The tileset must have a current tile.
-[[nodiscard]] Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool tool, Work_State work = {});
+[[nodiscard]] Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool_In_Hand tool,
+                                       Work_State work = {});
 
 class Undo_History {
 public:

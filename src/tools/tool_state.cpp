@@ -128,11 +128,11 @@ bool Tool_State::shows_floating_paste() const {
 }
 
 std::optional<Color> Tool_State::brush_color(Mouse_Button button) const {
-    if (brush().owner() == Brush_Owner::stamp_brush) {
-        return std::nullopt;
-    }
     if (is_erasing) {
         return Color(0, 0, 0, 0);
+    }
+    if (brush().owner() == Brush_Owner::stamp_brush) {
+        return std::nullopt;
     }
     const bool follows_button = tool != Tool::stamp_brush && button != Mouse_Button::none;
     return follows_button ? colors.of(button) : colors.current();

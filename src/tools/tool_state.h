@@ -50,6 +50,12 @@ struct Stroke_Findings {
     std::optional<std::int64_t> lightness_step = {}; // when it was made, in milliseconds
 };
 
+// What a step of the history gives back.
+struct Tool_In_Hand {
+    Tool tool = Tool::pen;
+    bool is_erasing = false;
+};
+
 struct Tool_State {
     Command command = Command::pen;
     Command previous_command = Command::pen;
@@ -78,6 +84,7 @@ struct Tool_State {
     // After a built-in brush took its place; false where there is no brush to bring back, or it is in use.
     bool bring_stamp_back();
 
+    [[nodiscard]] Tool_In_Hand in_hand() const { return {tool, is_erasing}; }
     [[nodiscard]] const Brush& brush() const { return chosen_brush.brush(); }
     // The command of the tool, or of the one that takes its place.
     [[nodiscard]] Command command_in_use() const { return is_picking ? Command::dropper : command; }

@@ -96,6 +96,27 @@ TEST_F(Seam_Test, what_the_history_pen_draws_goes_with_the_whole_tile) {
     }
 }
 
+// Where it is seen, though the edge of the tile lies elsewhere then.
+TEST_F(Seam_Test, a_copy_that_floats_stays_in_reach) {
+    execute(Command::work_selection);
+    Work_Area& work = canvas().work_area();
+    const auto toggled = [&](Tile_Point from) {
+        work.float_paste({Tile(6, 3), from});
+        shift_both_ways();
+        return work.paste()->position;
+    };
+    EXPECT_EQ(toggled({20, 2}), (Tile_Point{8, 14}));
+    EXPECT_EQ(toggled({2, 20}), (Tile_Point{14, 8}));
+    EXPECT_EQ(toggled({-2, 2}), (Tile_Point{10, 14}));
+    // A step that was made meanwhile knows it by where the tile's edges were.
+    work.float_paste({Tile(6, 3), {2, 2}});
+    play(script().key(key::right));
+    shift_both_ways();
+    EXPECT_EQ(work.paste()->position, (Tile_Point{15, 14}));
+    execute(Command::undo);
+    EXPECT_EQ(work.paste()->position, (Tile_Point{14, 14}));
+}
+
 // Across the edge that the shift brought into the middle.
 TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
     execute(Command::horizontal_seam_tool);

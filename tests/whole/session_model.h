@@ -425,13 +425,13 @@ public:
         drop_lifted();
         Tile_Point shift = shift_;
         shift.*way = shift.*way == 0 ? half - half % 2 : 0;
-        shift_to(shift);
+        shift_in_view(shift);
     }
     // What was lifted drops where it is seen.
     void end_shifts() {
         if (shift_ != Tile_Point{}) {
             drop_lifted();
-            shift_to({});
+            shift_in_view({});
         }
     }
     // Deliberately about the middle of the tile that is not shifted.
@@ -502,6 +502,30 @@ private:
             work = work.scrolled(step.x, step.y);
         }
     }
+    // What floats is seen in the same place, or where most of it is.
+    void shift_in_view(Tile_Point shift) {
+        const Tile_Point before = shift_;
+        shift_to(shift);
+        bring_back(before, shift);
+    }
+    void bring_back(Tile_Point from, Tile_Point to) {
+        const auto seen = [](int position, int extent, int tile) {
+            return std::min(position + extent, tile) - std::max(position, 0);
+        };
+        const auto turns = [&](int position, int extent, int tile) {
+            const int here = seen(position, extent, tile);
+            const int before = seen(position - tile, extent, tile);
+            return seen(position + tile, extent, tile) > std::max(here, before) ? tile
+                   : before > here                                              ? -tile
+                                                                                : 0;
+        };
+        if (work.paste) {
+            const Floating_Paste& paste = *work.paste;
+            work.paste = work.moved_paste(
+                from.x == to.x ? 0 : turns(paste.position.x, paste.picture->width(), size().width),
+                from.y == to.y ? 0 : turns(paste.position.y, paste.picture->height(), size().height));
+        }
+    }
     [[nodiscard]] State state() {
         return {set().tile().number,
                 scrolled(*picture(), -shift_.x, -shift_.y),
@@ -540,6 +564,7 @@ private:
         tool = state.tool;
         history = transform ? transformed(*history, transform) : history;
         shift_to(work.is_lifted() ? state.shift : shift);
+        bring_back(state.shift, shift_);
         set().is_modified = true;
     }
 
