@@ -91,8 +91,13 @@ Outcome clone(Editor_Parts& editor) {
                            : refuse_without_copy(editor, Command::clone);
 }
 
+// What goes on floating looks as before.
 Outcome plot_paste(Editor_Parts& editor) {
-    return editor.desk.plot();
+    const Outcome outcome = editor.desk.plot();
+    if (editor.desk.shows_paste()) {
+        editor.report(Command::plot_paste, "It is in the tile, and floats on until it is deselected.");
+    }
+    return outcome;
 }
 
 Outcome deselect(Editor_Parts& editor) {

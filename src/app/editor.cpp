@@ -95,11 +95,11 @@ void Editor::handle_one_event() {
         open_file(*file);
     }
     // Also when the release came while a dialog or a stroke was running.
-    if (take_key_release()) {
-        parts_->is_control_held = false;
-    }
     if (take_button_release()) {
         parts_->panes.release();
+    }
+    if (take_pointer_loss()) {
+        parts_->pointer = pointer_nowhere;
     }
     follow_held_keys(*parts_);
     show_hover(parts_->canvas, parts_->pointer);

@@ -43,7 +43,6 @@ struct Editor_Parts {
     Redraw redraw;
     Pointer_State pointer = pointer_nowhere;
     int clicks = 0; // of the press that is answered: 2 for that of a double click
-    bool is_control_held = false;
     bool is_quit_requested = false;
     std::string file_to_load; // which nobody has to be asked about
     Size shown_tile_size;

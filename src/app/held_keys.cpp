@@ -11,14 +11,14 @@ namespace {
 bool is_over_selection(const Editor_Parts& editor) {
     const Point point = editor.pointer.point();
     return toolbox->state().is_in_selection_group() && window_layout::canvas.contains(point) &&
-           editor.canvas.work_area().selection().contains(editor.canvas.tile_point(point));
+           editor.canvas.work_area().selection().contains(editor.canvas.cell_at(point));
 }
 
 bool is_over_paste(const Editor_Parts& editor) {
     const Point point = editor.pointer.point();
     const bool is_in_hand = toolbox->current_tool() == Tool::selection && editor.desk.shows_paste();
     return is_in_hand && editor.canvas.handle_at(point, toolbox->state()) == Paste_Handle::none &&
-           editor.canvas.work_area().paste()->contains(editor.canvas.tile_point(point));
+           editor.canvas.work_area().paste()->contains(editor.canvas.cell_at(point));
 }
 
 } // namespace

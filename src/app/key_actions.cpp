@@ -27,11 +27,11 @@ void select_all(Editor_Parts& editor) {
     });
 }
 
-Command drop_floating(Editor_Parts& editor) {
+Command plot_floating(Editor_Parts& editor) {
     if (editor.desk.shows_paste()) {
         return Command::plot_paste;
     }
-    editor.panes.hint_lines().report({"Drop what floats", "Nothing floats over the tile."});
+    editor.panes.hint_lines().report({"Plot what floats", "Nothing floats over the tile."});
     return Command::none;
 }
 
@@ -56,7 +56,7 @@ Command carry_out(Editor_Parts& editor, Key_Action action) {
     editor.panes.hint_lines().end_report();
     switch (action) {
     case Key_Action::select_all: select_all(editor); break;
-    case Key_Action::drop_floating: return drop_floating(editor);
+    case Key_Action::plot_floating: return plot_floating(editor);
     case Key_Action::next_set: go_to_next_set(editor); break;
     case Key_Action::smaller_brush: return brush_size_command(-1);
     case Key_Action::larger_brush: return brush_size_command(1);

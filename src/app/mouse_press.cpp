@@ -9,6 +9,7 @@
 #include "canvas/stroke_loop.h"
 #include "panes/tool_color_panel.h"
 #include "panes/toolbox.h"
+#include "screen/events.h"
 #include "tools/options.h"
 #include "ui/window_layout.h"
 
@@ -44,26 +45,40 @@ Stroke_Outcome move_copy(Editor_Parts& editor) {
     return outcome;
 }
 
-Stroke_Outcome draw(Editor_Parts& editor, Press_Meaning meaning) {
-    if (meaning == Press_Meaning::moves_copy) {
-        return move_copy(editor);
+// A click without a drag picks, as everywhere with Alt.
+Stroke_Outcome move_outline(Editor_Parts& editor) {
+    const Stroke_Outcome outcome = run(editor, outline_stroke());
+    if (outcome == Stroke_Outcome::nothing_changed) {
+        const Tile_Point pixel = editor.canvas.tile_point(editor.pointer.point());
+        const Color color = editor.canvas.seen_pixel(pixel, toolbox->state());
+        toolbox->take({toolbox->figures(), Picked_Color{Mouse_Button::left, color}});
     }
-    const Stroke_Row* const stroke = meaning == Press_Meaning::moves_outline
-                                         ? &outline_stroke()
-                                         : find_stroke(toolbox->state().canvas_action());
+    return outcome;
+}
+
+Stroke_Outcome draw(Editor_Parts& editor, Press_Meaning meaning) {
+    switch (meaning) {
+    case Press_Meaning::moves_copy: return move_copy(editor);
+    case Press_Meaning::moves_outline: return move_outline(editor);
+    default: break;
+    }
+    const Stroke_Row* const stroke = find_stroke(toolbox->state().canvas_action());
     return stroke == nullptr ? Stroke_Outcome::nothing_changed : run(editor, *stroke);
 }
 
-// Only the dropper has a use for the right button.
+// Nothing is dragged by the right button, but with Alt it picks too.
 Press_Meaning meaning_for_button(const Editor_Parts& editor) {
     const Press_Meaning meaning = meaning_of_press(editor);
-    const bool is_right = editor.pointer.button == Mouse_Button::right;
-    return is_right && meaning != Press_Meaning::picks_color ? Press_Meaning::uses_tool : meaning;
+    if (editor.pointer.button != Mouse_Button::right) {
+        return meaning;
+    }
+    const bool has_alt = meaning == Press_Meaning::picks_color || meaning == Press_Meaning::moves_outline;
+    return has_alt ? Press_Meaning::picks_color : Press_Meaning::uses_tool;
 }
 
 void draw_on_canvas(Editor_Parts& editor) {
-    follow_held_keys(editor);
     const Press_Meaning meaning = meaning_for_button(editor);
+    toolbox->state().is_picking = meaning == Press_Meaning::picks_color;
     const bool uses_tool = meaning == Press_Meaning::uses_tool;
     const bool returns = uses_tool && picks_and_returns();
     const Tile_Point pressed = editor.canvas.tile_point(editor.pointer.point());
@@ -115,17 +130,21 @@ Command press_beside_canvas(Editor_Parts& editor) {
     return click.command;
 }
 
+void pan(Editor_Parts& editor) {
+    editor.canvas.pan(editor.pointer, [&editor] {
+        show_hover(editor.canvas, editor.pointer);
+        show_pixel_under(editor.canvas, editor.pointer);
+        editor.redraw(Present::yes);
+    });
+    forget_control();
+}
+
 } // namespace
 
 Command press_mouse(Editor_Parts& editor) {
     const Mouse_Button button = editor.pointer.button;
-    if (editor.is_control_held && button == Mouse_Button::right) {
-        editor.canvas.pan(editor.pointer, [&editor] {
-            show_hover(editor.canvas, editor.pointer);
-            show_pixel_under(editor.canvas, editor.pointer);
-            editor.redraw(Present::yes);
-        });
-        editor.is_control_held = false;
+    if (button == Mouse_Button::right && is_control_pressed()) {
+        pan(editor);
         return Command::none;
     }
     if (button == Mouse_Button::none) {
@@ -134,7 +153,11 @@ Command press_mouse(Editor_Parts& editor) {
     if (!window_layout::canvas.contains(editor.pointer.point())) {
         return press_beside_canvas(editor);
     }
-    if (editor.canvas.tile() != nullptr) {
+    if (button == Mouse_Button::right && held_modifiers().control) {
+        // It was meant to pan, not to paint.
+        editor.panes.hint_lines().report({"Ctrl and drag with the right button",
+                                          "Ctrl has to be pressed anew, after any other key came up."});
+    } else if (editor.canvas.tile() != nullptr) {
         draw_on_canvas(editor);
     }
     return Command::none;

@@ -65,7 +65,9 @@ void Window_Panes::draw(const Pointer_State& pointer) {
         copy_panes_.place(toolbox->entry_top());
         copy_panes_.draw(copies_, [this](Command command) { return can_do(command, subjects()); });
     }
-    hint_lines_.set_hint(hint_at(pointer.point()), pointer.point());
+    const Point point = pointer.point();
+    hint_lines_.set_hint(hint_at(point),
+                         point == pointer_nowhere.point() ? std::nullopt : std::optional(point));
     hint_lines_.draw();
 }
 

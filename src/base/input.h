@@ -107,7 +107,7 @@ struct Movement {
 // One thing that the user did. Each kind has the fields that name it; the others are as here.
 struct Input_Event {
     Input_Kind kind = Input_Kind::other;
-    Key_Chord chord = {};          // of a key press
+    Key_Chord chord = {};          // of a key press; with AltGr of the key that would make the same without
     Keycode character = key::none; // of a press: what the key makes with Shift, unless Ctrl or Alt is held
     bool is_repeat = false;        // of a press: by a key that is held down
     std::string text = {};         // typed, UTF-8

@@ -32,6 +32,8 @@ public:
     void hold(const Stroke_Moment& moment);
     // One more application where the pointer is, when it is due; true when something was drawn.
     bool stay(const Stroke_Moment& moment);
+    // Nothing more is drawn, however long the button is held.
+    [[nodiscard]] bool is_taken_back() const { return is_taken_back_; }
     // Not the end of a pick: what was picked stays, but the tool stays too.
     void window_closed() { has_picked_ = false; }
     // Everything is as it was at the press, colours that were picked too; what follows draws nothing.

@@ -62,7 +62,11 @@ Stroke_Outcome run_stroke(Canvas_View& canvas, const Stroke_Row& row, const Stro
     Stroke stroke(canvas, row, pointer, tools);
     Loop_Tick tick;
     if (row.is_due != nullptr) {
-        tick = {tick_milliseconds, [&stroke] { return stroke.stay(now()); }};
+        tick = {tick_milliseconds, [&stroke] {
+                    return stroke.is_taken_back() ? Tick_Outcome::rest
+                           : stroke.stay(now())   ? Tick_Outcome::draw
+                                                  : Tick_Outcome::nothing_new;
+                }};
     }
     follow_events(stroke, tick, draw);
     return stroke.outcome();

@@ -17,7 +17,7 @@ namespace quadrelle {
 enum class Key_Action : std::int32_t {
     none,
     select_all,
-    drop_floating,
+    plot_floating,
     next_set,
     smaller_brush,
     larger_brush,
@@ -50,8 +50,8 @@ constexpr std::array table = std::to_array<Key_Row>({
     {Modifier::control, 'd',               "^d",        Command::deselect,            Key_Action::none,          "",                  acts_once},
     {Modifier::control, 'i',               "^i",        Command::invert_selection,    Key_Action::none,          "",                  acts_once},
     {Modifier::none,    key::delete_key,   "Del",       Command::clear,               Key_Action::none,          "",                  acts_once},
-    {Modifier::none,    key::enter,        "Return",    Command::none,                Key_Action::drop_floating, "Drop what floats",  acts_once},
-    {Modifier::none,    key::keypad_enter, "Enter",     Command::none,                Key_Action::drop_floating, "Drop what floats",  acts_once},
+    {Modifier::none,    key::enter,        "Return",    Command::none,                Key_Action::plot_floating, "Plot what floats",  acts_once},
+    {Modifier::none,    key::keypad_enter, "Enter",     Command::none,                Key_Action::plot_floating, "Plot what floats",  acts_once},
     {Modifier::control, 'n',               "^n",        Command::new_tileset,         Key_Action::none,          "",                  acts_once},
     {Modifier::control, 'o',               "^o",        Command::load,                Key_Action::none,          "",                  acts_once},
     {Modifier::control, 'w',               "^w",        Command::close,               Key_Action::none,          "",                  acts_once},
@@ -98,26 +98,53 @@ constexpr bool has_chord_of_its_own(const Key_Row& row) {
 static_assert(std::ranges::all_of(table, is_complete));
 static_assert(std::ranges::all_of(table, has_chord_of_its_own));
 
+// An arrow moves what floats by so many pixels. Where nothing does, it is the key of a command.
+struct Nudge_Row {
+    Modifier modifier;
+    Keycode key;
+    Tile_Point step;
+};
+
+constexpr std::array nudges = std::to_array<Nudge_Row>({
+    {Modifier::none, key::left, {-1, 0}},
+    {Modifier::none, key::right, {1, 0}},
+    {Modifier::none, key::up, {0, -1}},
+    {Modifier::none, key::down, {0, 1}},
+    {Modifier::shift, key::left, {-8, 0}},
+    {Modifier::shift, key::right, {8, 0}},
+    {Modifier::shift, key::up, {0, -8}},
+    {Modifier::shift, key::down, {0, 8}},
+});
+
+// Of the commands it may take the keys of those alone that move the tile in the same way.
+constexpr bool takes_no_other_key(const Nudge_Row& row) {
+    const auto has_same = [&row](const auto& other) {
+        return other.key == row.key && other.modifier == row.modifier;
+    };
+    const auto is_in_the_way = [&has_same](const Command_Row& other) {
+        return has_same(other) && (other.id < Command::scroll_left || other.id > Command::scroll_down);
+    };
+    return std::ranges::none_of(command_table, is_in_the_way) && std::ranges::none_of(table, has_same) &&
+           std::ranges::count_if(nudges, has_same) == 1;
+}
+
+static_assert(std::ranges::all_of(nudges, takes_no_other_key));
+
 } // namespace key_rows
 
 inline constexpr const auto& key_table = key_rows::table;
+inline constexpr const auto& nudge_table = key_rows::nudges;
 
 [[nodiscard]] constexpr std::string_view name_of(const Key_Row& row) {
     return row.name.empty() ? row_of(row.command).name : row.name;
 }
 
-// Returns the row with exactly this key and modifier, or else with the character that they make, which is
-// none where they make none: where plus stands, and whether with Shift, depends on the keyboard. Null without
-// such a row.
-[[nodiscard]] constexpr const Key_Row* find_key(Key_Chord chord, Keycode character) {
-    const auto row_with = [](Key_Chord wanted) {
-        const auto* const row = std::ranges::find_if(key_table, [wanted](const Key_Row& candidate) {
-            return Key_Chord{candidate.key, candidate.modifier} == wanted;
-        });
-        return row == key_table.end() ? nullptr : row;
-    };
-    const Key_Row* const row = row_with(chord);
-    return row == nullptr ? row_with({character, Modifier::none}) : row;
+// Returns the row with exactly this key and modifier; null without one.
+[[nodiscard]] constexpr const Key_Row* find_key(Key_Chord chord) {
+    const auto* const row = std::ranges::find_if(key_table, [chord](const Key_Row& candidate) {
+        return Key_Chord{candidate.key, candidate.modifier} == chord;
+    });
+    return row == key_table.end() ? nullptr : row;
 }
 
 } // namespace quadrelle

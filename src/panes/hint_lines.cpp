@@ -25,8 +25,8 @@ void Hint_Lines::report(Command command, std::string_view what_it_did) {
     report({menu_text(command), std::string(what_it_did)});
 }
 
-void Hint_Lines::set_hint(const Hint& hint, Point pointer) {
-    if (report_ && report_->pointer.value_or(pointer) != pointer) {
+void Hint_Lines::set_hint(const Hint& hint, std::optional<Point> pointer) {
+    if (report_ && report_->pointer && report_->pointer != pointer) {
         end_report();
     }
     if (report_) {

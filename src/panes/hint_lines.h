@@ -22,8 +22,9 @@ public:
     void report(Hint what_was_done) { report_ = {std::move(what_was_done), {}}; }
     void end_report() { report_.reset(); }
 
-    // Takes the hint for what is under the pointer there.
-    void set_hint(const Hint& hint, Point pointer);
+    // Takes the hint for what is under the pointer there. Where it comes back from elsewhere, it has not
+    // moved yet.
+    void set_hint(const Hint& hint, std::optional<Point> pointer);
     void draw() const;
     // Draws how large the tile is at the right end of the title's line.
     static void draw_size(Size tile);

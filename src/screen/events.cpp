@@ -3,6 +3,7 @@
 #include <SDL3/SDL.h>
 
 #include <deque>
+#include <string>
 #include <utility>
 
 namespace quadrelle {
@@ -23,8 +24,23 @@ void tell_watcher(std::string_view loop) {
     }
 }
 
-bool key_was_released = false;
-bool button_was_released = false;
+Held_Modifiers held_in(SDL_Keymod state) {
+    return {(state & SDL_KMOD_SHIFT) != 0, (state & SDL_KMOD_CTRL) != 0, (state & SDL_KMOD_ALT) != 0};
+}
+
+// What the events have left behind that were taken so far.
+struct Taken {
+    bool is_control_pressed = false;
+    bool button_was_released = false;
+    bool pointer_was_lost = false;
+    Held_Modifiers held;     // at the last key
+    std::string key_went_to; // the loop that took the last press of a key
+};
+
+Taken& taken() {
+    static Taken what_was_taken;
+    return what_was_taken;
+}
 
 std::deque<std::string>& dropped_files() {
     static std::deque<std::string> the_files;
@@ -36,7 +52,7 @@ constexpr Point nowhere{-1, -1};
 Followed_Pointer pointer{nowhere, std::nullopt};
 
 void note_release() {
-    button_was_released = true;
+    taken().button_was_released = true;
     pointer.pressed_at.reset();
 }
 
@@ -54,9 +70,17 @@ void note_drop(const SDL_DropEvent& event) {
     }
 }
 
+void note_key(const SDL_KeyboardEvent& event) {
+    taken().held = held_in(event.mod);
+    const Modifier modifier = make_key_chord(event.key, taken().held).modifier;
+    taken().is_control_pressed =
+        event.type == SDL_EVENT_KEY_DOWN && (modifier == Modifier::control || taken().is_control_pressed);
+}
+
 void note(const SDL_Event& event) {
     switch (event.type) {
-    case SDL_EVENT_KEY_UP: key_was_released = true; break;
+    case SDL_EVENT_KEY_DOWN:
+    case SDL_EVENT_KEY_UP: note_key(event.key); break;
     case SDL_EVENT_MOUSE_BUTTON_UP: note_release(); break;
     case SDL_EVENT_MOUSE_BUTTON_DOWN: note_press(event.button); break;
     case SDL_EVENT_MOUSE_MOTION:
@@ -68,14 +92,33 @@ void note(const SDL_Event& event) {
     }
 }
 
+// A key that is held goes on only where it went down.
+Input_Event answered_in(std::string_view loop, const SDL_Event& event) {
+    note(event);
+    if (event.type == SDL_EVENT_KEY_DOWN && !event.key.repeat) {
+        taken().key_went_to = loop;
+    }
+    const bool goes_on_elsewhere =
+        event.type == SDL_EVENT_KEY_DOWN && event.key.repeat && taken().key_went_to != loop;
+    return goes_on_elsewhere ? Input_Event{} : input_event_of(event);
+}
+
 } // namespace
 
-bool take_key_release() {
-    return std::exchange(key_was_released, false);
+bool is_control_pressed() {
+    return taken().is_control_pressed;
+}
+
+void forget_control() {
+    taken().is_control_pressed = false;
 }
 
 bool take_button_release() {
-    return std::exchange(button_was_released, false);
+    return std::exchange(taken().button_was_released, false);
+}
+
+bool take_pointer_loss() {
+    return std::exchange(taken().pointer_was_lost, false);
 }
 
 const Followed_Pointer& followed_pointer() {
@@ -112,8 +155,7 @@ Input_Event wait_event(std::string_view loop) {
     while (!SDL_WaitEvent(&event)) {
         SDL_Delay(idle_milliseconds);
     }
-    note(event);
-    return input_event_of(event);
+    return answered_in(loop, event);
 }
 
 namespace {
@@ -122,13 +164,16 @@ Input_Event wait_event_ticking(const Modal_Loop& loop) {
     SDL_Event event{};
     tell_watcher(loop.name);
     while (!SDL_WaitEventTimeout(&event, loop.tick.milliseconds)) {
-        if (loop.tick.work()) {
+        const Tick_Outcome outcome = loop.tick.work();
+        if (outcome == Tick_Outcome::rest) {
+            return wait_event(loop.name);
+        }
+        if (outcome == Tick_Outcome::draw) {
             loop.draw();
         }
         tell_watcher(loop.name);
     }
-    note(event);
-    return input_event_of(event);
+    return answered_in(loop.name, event);
 }
 
 } // namespace
@@ -187,13 +232,14 @@ Idle_Outcome idle(std::string_view loop) {
         note(event);
         outcome = Idle_Outcome::events_taken;
     }
+    taken().pointer_was_lost = true;
     SDL_Delay(idle_milliseconds);
     return outcome;
 }
 
 void discard_events() {
     SDL_PumpEvents();
-    key_was_released = key_was_released || SDL_HasEvent(SDL_EVENT_KEY_UP);
+    taken().is_control_pressed = taken().is_control_pressed && !SDL_HasEvent(SDL_EVENT_KEY_UP);
     if (SDL_HasEvent(SDL_EVENT_MOUSE_BUTTON_UP)) {
         note_release();
     }
@@ -205,16 +251,10 @@ void discard_events() {
     SDL_FlushEvents(SDL_EVENT_QUIT + 1, SDL_EVENT_LAST);
 }
 
-namespace {
-
-Held_Modifiers held_in(SDL_Keymod state) {
-    return {(state & SDL_KMOD_SHIFT) != 0, (state & SDL_KMOD_CTRL) != 0, (state & SDL_KMOD_ALT) != 0};
-}
-
-} // namespace
-
+// The system's answer is ahead of the keys that still wait.
 Held_Modifiers held_modifiers() {
-    return held_in(SDL_GetModState());
+    const bool keys_wait = SDL_HasEvents(SDL_EVENT_KEY_DOWN, SDL_EVENT_KEY_UP);
+    return keys_wait ? taken().held : held_in(SDL_GetModState());
 }
 
 bool is_shift_held() {
@@ -237,16 +277,38 @@ static_assert(key::left_control == SDLK_LCTRL && key::right_control == SDLK_RCTR
 static_assert(key::left_shift == SDLK_LSHIFT && key::right_shift == SDLK_RSHIFT);
 static_assert(key::left_alt == SDLK_LALT && key::right_alt == SDLK_RALT);
 
+// None for keys that make no character, such as Delete.
+Keycode made_by(const SDL_KeyboardEvent& event, SDL_Keymod levels) {
+    const Keycode made = SDL_GetKeyFromScancode(event.scancode, levels, false);
+    const bool is_character = made > key::space && made != key::delete_key &&
+                              (made & (SDLK_SCANCODE_MASK | SDLK_EXTENDED_MASK)) == 0;
+    return is_character ? made : key::none;
+}
+
+// Some systems report AltGr as the left Ctrl and the right Alt.
+bool may_be_alt_gr(SDL_Keymod held) {
+    constexpr SDL_Keymod left_ctrl_and_right_alt = SDL_KMOD_LCTRL | SDL_KMOD_RALT;
+    return (held & SDL_KMOD_MODE) != 0 || (held & (SDL_KMOD_CTRL | SDL_KMOD_ALT)) == left_ctrl_and_right_alt;
+}
+
+// None where AltGr is not held, or makes no difference.
+Keycode made_with_alt_gr(const SDL_KeyboardEvent& event) {
+    const auto shift = static_cast<SDL_Keymod>(event.mod & SDL_KMOD_SHIFT);
+    const Keycode made = made_by(event, static_cast<SDL_Keymod>(shift | SDL_KMOD_MODE));
+    return may_be_alt_gr(event.mod) && made != made_by(event, shift) ? made : key::none;
+}
+
 Keycode character_of(const SDL_KeyboardEvent& event) {
     const bool is_chord = (event.mod & (SDL_KMOD_CTRL | SDL_KMOD_ALT)) != 0;
-    const auto levels = static_cast<SDL_Keymod>(event.mod & (SDL_KMOD_SHIFT | SDL_KMOD_MODE));
-    return is_chord ? key::none : SDL_GetKeyFromScancode(event.scancode, levels, false);
+    return is_chord ? key::none : made_by(event, static_cast<SDL_Keymod>(event.mod & SDL_KMOD_SHIFT));
 }
 
 Input_Event key_press(const SDL_KeyboardEvent& event) {
     Input_Event press{.kind = Input_Kind::key_press};
-    press.chord = make_key_chord(event.key, held_in(event.mod));
-    press.character = character_of(event);
+    const Keycode by_alt_gr = made_with_alt_gr(event);
+    press.chord = by_alt_gr != key::none ? Key_Chord{by_alt_gr, Modifier::none}
+                                         : make_key_chord(event.key, held_in(event.mod));
+    press.character = by_alt_gr != key::none ? by_alt_gr : character_of(event);
     press.is_repeat = event.repeat;
     return press;
 }

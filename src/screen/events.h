@@ -14,7 +14,8 @@ union SDL_Event;
 
 namespace quadrelle {
 
-// Blocks until one event is there. `loop` names the waiting loop for whoever watches it.
+// Blocks until one event is there. `loop` names the waiting loop for whoever watches it. What a key that is
+// held adds goes to no other loop than the one that took its press: it was meant for what was there then.
 [[nodiscard]] Input_Event wait_event(std::string_view loop);
 
 // Draws the frame that follows an event. It is left out while the pointer's next motion waits already, for 8
@@ -23,11 +24,13 @@ void draw_next_frame(const std::function<void()>& draw);
 
 enum class Loop_Step { go_on, end };
 
-// What a loop does while no event comes: each time that many milliseconds have gone by. True when there is
-// something new to draw. Nothing by default.
+// What came of a tick: something is new to draw, or there is nothing more to do until an event comes.
+enum class Tick_Outcome { nothing_new, draw, rest };
+
+// What a loop does while no event comes: each time that many milliseconds have gone by. Nothing by default.
 struct Loop_Tick {
     int milliseconds = 0;
-    std::function<bool()> work;
+    std::function<Tick_Outcome()> work;
 };
 
 // Draws, waits for one event, answers it, and so on until the answer is `end`. Motions that have come
@@ -54,9 +57,13 @@ enum class Idle_Outcome { nothing_happened, events_taken };
 // Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
 Idle_Outcome idle(std::string_view loop);
 
-// Whether a key, or a mouse button, was released since the last call, in whichever loop that was.
-[[nodiscard]] bool take_key_release();
+// Whether Ctrl went down, in whichever loop that was, and no key came up since, nor was it forgotten.
+[[nodiscard]] bool is_control_pressed();
+void forget_control();
+// Whether a mouse button was released since the last call, in whichever loop that was.
 [[nodiscard]] bool take_button_release();
+// Whether the pointer may be anywhere, since a loop was idle after the last call.
+[[nodiscard]] bool take_pointer_loss();
 
 // Where the pointer was last, and where a button of the mouse was pressed that is still held, in whichever
 // loop that was.
@@ -76,7 +83,7 @@ void forget_pointer();
 // Drops every event that waits but the request to quit and the files that were dropped.
 void discard_events();
 
-// What is held now, whatever events still wait.
+// What was held when the event came that was taken last, whatever events still wait.
 [[nodiscard]] Held_Modifiers held_modifiers();
 [[nodiscard]] bool is_shift_held();
 

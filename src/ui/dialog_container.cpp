@@ -10,6 +10,7 @@
 #include "ui/text_dialog.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace quadrelle {
 
@@ -118,9 +119,12 @@ Loop_Step Dialog_Container::handle(const Input_Event& event) {
     if (event.kind == Input_Kind::button_press) {
         return press(event.pointer);
     }
-    if (event.kind == Input_Kind::wheel && event.moved.y != 0) {
-        rows_.step_at(event.pointer.point(),
-                      event.moved.y > 0 ? Dialog_Event_Kind::increase : Dialog_Event_Kind::decrease);
+    if (event.kind == Input_Kind::wheel) {
+        const int steps = wheel_.take(event.moved.y);
+        for (int i = 0; i < std::abs(steps); ++i) {
+            rows_.step_at(event.pointer.point(),
+                          steps > 0 ? Dialog_Event_Kind::increase : Dialog_Event_Kind::decrease);
+        }
     }
     return Loop_Step::go_on;
 }

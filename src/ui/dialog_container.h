@@ -3,6 +3,7 @@
 // A dialog: its layout, its modal loop, and the file that keeps what was chosen.
 
 #include "base/input.h"
+#include "base/wheel_steps.h"
 #include "screen/events.h"
 #include "screen/sprite_table.h"
 #include "ui/dialog_frame.h"
@@ -55,6 +56,7 @@ private:
     Dialog_Frame frame_;
     Dialog_Rows rows_;
     Dialog_Event result_;
+    Wheel_Steps wheel_;
 };
 
 // Shows a text and waits until it is dismissed.

@@ -19,11 +19,11 @@ void repeat_while_held(const Held_Button& button, Point& pointer) {
     const auto act_when_due = [&] {
         const Clock::time_point now = Clock::now();
         if (now < due || !button.area.contains(pointer)) {
-            return false;
+            return Tick_Outcome::nothing_new;
         }
         due = now + pause;
         button.act();
-        return true;
+        return Tick_Outcome::draw;
     };
     // Also after each event: motions may come faster than the pauses go by.
     run_modal({"held button",

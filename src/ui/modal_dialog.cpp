@@ -13,7 +13,7 @@ namespace {
 struct Shown {
     Draw_Function window;
     std::vector<Draw_Function> dialogs; // the latest one on top
-    // The y that accepted one is not to be typed into the one below.
+    // The y that accepted one is not to be typed into the one below: its text comes next.
     bool has_taken_letter = false;
 };
 
@@ -51,7 +51,7 @@ Loop_Step answer(const Modal_Dialog& dialog, const Input_Event& event) {
     if (event.kind == Input_Kind::quit || chord.key == key::escape) {
         return Loop_Step::end;
     }
-    if (event.kind == Input_Kind::typed_text && shown().has_taken_letter) {
+    if (event.kind == Input_Kind::typed_text && std::exchange(shown().has_taken_letter, false)) {
         return Loop_Step::go_on;
     }
     const bool is_accepted = accepts(dialog.keys, chord);
@@ -92,6 +92,9 @@ void show_backdrop() {
 }
 
 void run_dialog(const Modal_Dialog& dialog) {
+    if (shown().dialogs.empty()) {
+        shown().has_taken_letter = false;
+    }
     const Dialog_Layer layer(dialog.draw);
     run_modal(
         {dialog.name, show_backdrop, [&dialog](const Input_Event& event) { return answer(dialog, event); }});

@@ -48,7 +48,7 @@ private:
     void draw() const;
     Loop_Step handle(const Input_Event& event);
     [[nodiscard]] Loop_Step press(const Pointer_State& pointer) const;
-    Loop_Step handle_key(Keycode pressed);
+    void handle_key(Keycode pressed);
     Loop_Step accept();
     void append(char digit);
     void change_sign();
@@ -108,7 +108,12 @@ void Number_Prompt::draw() const {
 
 Loop_Step Number_Prompt::handle(const Input_Event& event) {
     switch (event.kind) {
-    case Input_Kind::key_press: return handle_key(event.chord.key);
+    case Input_Kind::key_press: {
+        // What the key makes counts where it makes something: digits may need Shift.
+        const bool is_plain = event.chord.modifier == Modifier::none;
+        handle_key(is_plain ? event.chord.key : event.character);
+        return Loop_Step::go_on;
+    }
     case Input_Kind::button_press: return press(event.pointer);
     default: return Loop_Step::go_on;
     }
@@ -119,7 +124,7 @@ Loop_Step Number_Prompt::press(const Pointer_State& pointer) const {
     return is_outside ? Loop_Step::end : Loop_Step::go_on;
 }
 
-Loop_Step Number_Prompt::handle_key(Keycode pressed) {
+void Number_Prompt::handle_key(Keycode pressed) {
     if (pressed == key::backspace) {
         is_untouched_ = is_refused_ = false;
         if (!typed_.empty()) {
@@ -130,7 +135,6 @@ Loop_Step Number_Prompt::handle_key(Keycode pressed) {
     } else if (const std::optional<char> digit = digit_of(pressed)) {
         append(*digit);
     }
-    return Loop_Step::go_on;
 }
 
 void Number_Prompt::append(char digit) {

@@ -1,5 +1,6 @@
 #include "ui/popup.h"
 
+#include "base/wheel_steps.h"
 #include "color/standard_colors.h"
 #include "screen/screen.h"
 #include "ui/modal_dialog.h"
@@ -55,6 +56,7 @@ private:
 
     const Popup& popup_;
     int first_ = 0;
+    Wheel_Steps wheel_;
     int lit_ = -1;
     Rectangle box_;
     std::optional<std::size_t> chosen_;
@@ -151,7 +153,7 @@ Loop_Step Open_Popup::handle(const Input_Event& event) {
     case Input_Kind::pointer_motion: light(row_at(event.pointer.point())); break;
     case Input_Kind::button_press: return press(event.pointer.point());
     case Input_Kind::wheel:
-        scroll_to(first_ - static_cast<int>(event.moved.y));
+        scroll_to(first_ - wheel_.take(event.moved.y));
         light(row_at(event.pointer.point()));
         break;
     case Input_Kind::key_press: handle_key(event.chord.key); break;

@@ -5,7 +5,6 @@
 #include "ui/control.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 
 namespace quadrelle {
@@ -14,7 +13,6 @@ namespace {
 
 constexpr int shortest_thumb = 20;
 constexpr float wheel_rows = 3;
-constexpr float most_wheel_rows = 1000;
 
 } // namespace
 
@@ -37,10 +35,7 @@ void Scroll_Bar::scroll(int rows) {
 }
 
 void Scroll_Bar::scroll_by_wheel(float amount) {
-    if (std::isfinite(amount)) {
-        const float rows = std::clamp(-amount * wheel_rows, -most_wheel_rows, most_wheel_rows);
-        scroll(static_cast<int>(rows < 0 ? std::floor(rows) : std::ceil(rows)));
-    }
+    scroll(-wheel_.take(amount * wheel_rows));
 }
 
 void Scroll_Bar::show_row(int row) {

@@ -3,6 +3,7 @@
 // The bar beside a list that is longer than its box: which rows are shown, and the thumb that moves them.
 
 #include "base/geometry.h"
+#include "base/wheel_steps.h"
 
 namespace quadrelle {
 
@@ -44,6 +45,7 @@ private:
     int count_ = 0;
     int first_ = 0;
     bool is_dragging_ = false;
+    Wheel_Steps wheel_; // in rows
 };
 
 } // namespace quadrelle

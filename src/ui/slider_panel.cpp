@@ -118,11 +118,16 @@ Event_Use Slider_Panel::turn_wheel(float amount) {
     if (!index || amount == 0 || dragged_) {
         return Event_Use::left;
     }
-    numbers_.step(*index, amount > 0 ? step_size() : -step_size());
+    if (const int steps = wheel_.take(amount); steps != 0) {
+        numbers_.step(*index, steps * step_size());
+    }
     return Event_Use::taken;
 }
 
 Event_Use Slider_Panel::handle_key(const Key_Chord& chord) {
+    if (chord.modifier == Modifier::control || chord.modifier == Modifier::alt) {
+        return Event_Use::left;
+    }
     if (chord.key == key::up || chord.key == key::down) {
         move_focus(chord.key == key::up ? -1 : 1);
         return Event_Use::taken;

@@ -3,6 +3,7 @@
 // Sliders below each other, and what the pointer, the wheel and the keys do to their numbers.
 
 #include "base/input.h"
+#include "base/wheel_steps.h"
 #include "ui/number_slider.h"
 
 #include <cstddef>
@@ -64,6 +65,7 @@ private:
     Point pointer_;
     std::optional<std::size_t> dragged_;
     std::optional<std::size_t> focus_;
+    Wheel_Steps wheel_;
 };
 
 } // namespace quadrelle

@@ -178,7 +178,7 @@ Loop_Step Adjust_HSV::handle(const Input_Event& event) {
 }
 
 void Adjust_HSV::handle_key(const Input_Event& event) {
-    if (event.chord.key == 'a') {
+    if (event.chord == Key_Chord{'a', Modifier::none}) {
         toggle_all_tiles();
         return;
     }

@@ -94,6 +94,8 @@ std::vector<Text_Pair> all_keys() {
     for (const Key_Row& row : key_table) {
         pairs.push_back({std::string(row.label), std::string(name_of(row))});
     }
+    pairs.push_back({"Arrows", "Move what floats"});
+    pairs.push_back({"Shift+Arrows", "Move it by eight"});
     return pairs;
 }
 

@@ -1,5 +1,6 @@
 #include "views/tile_array.h"
 
+#include "base/wheel_steps.h"
 #include "screen/events.h"
 #include "tileset/tileset.h"
 #include "ui/modal_dialog.h"
@@ -36,6 +37,7 @@ private:
     Tile_Grid grid_;
     Point pointer_{-1, -1};
     std::optional<int> clicked_;
+    Wheel_Steps wheel_;
 };
 
 void Tile_Array::draw() {
@@ -65,7 +67,7 @@ Loop_Step Tile_Array::handle(const Input_Event& event) {
     case Input_Kind::key_press: return handle_key(event);
     case Input_Kind::pointer_motion: pointer_ = event.pointer.point(); return Loop_Step::go_on;
     case Input_Kind::button_press: return press(event.pointer);
-    case Input_Kind::wheel: return turn_pages(event.moved.y > 0 ? -1 : event.moved.y < 0 ? 1 : 0);
+    case Input_Kind::wheel: return turn_pages(-wheel_.take(event.moved.y));
     default: return Loop_Step::go_on;
     }
 }
@@ -74,8 +76,7 @@ Loop_Step Tile_Array::handle_key(const Input_Event& event) {
     switch (event.chord.key) {
     case key::page_up: return turn_pages(-1);
     case key::page_down: return turn_pages(1);
-    // The key that opened the view may still be held.
-    case key::tab: return event.is_repeat ? Loop_Step::go_on : Loop_Step::end;
+    case key::tab: return Loop_Step::end;
     default: return Loop_Step::go_on;
     }
 }

@@ -333,7 +333,7 @@ TEST_F(Documents_Test, tab_shows_the_name_and_the_hint_the_whole_path) {
     std::filesystem::create_directory(folder().native_path() / "other");
     documents().new_document({8, 8});
     const std::string second = save_as("other/tiles.qdl");
-    play(script().motion(tab_after({folder_name + "/tiles.qdl"})));
+    play(script().motion({300, 100}).motion(tab_after({folder_name + "/tiles.qdl"})));
     EXPECT_EQ(editor->panes().hint_lines().lines().at(1), second);
     EXPECT_EQ(window_title(), product + second);
 }

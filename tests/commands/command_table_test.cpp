@@ -55,18 +55,5 @@ TEST(Command_Table, key_chords_find_their_commands) {
     }
 }
 
-// Plus and asterisk stand elsewhere on each keyboard.
-TEST(Key_Table, a_character_counts_whatever_makes_it) {
-    const auto command_of = [](Key_Chord chord, Keycode character) {
-        const Key_Row* const row = find_key(chord, character);
-        return row == nullptr ? Command::none : row->command;
-    };
-    EXPECT_EQ(command_of({'=', Modifier::shift}, '+'), Command::zoom_tile_up);
-    EXPECT_EQ(command_of({'+', Modifier::shift}, '*'), Command::center_tile_on_view);
-    EXPECT_EQ(command_of({'8', Modifier::shift}, '('), Command::none);
-    EXPECT_EQ(command_of({'u', Modifier::shift}, 'U'), Command::circle);
-    EXPECT_EQ(command_of({key::none, Modifier::none}, key::none), Command::none);
-}
-
 } // namespace
 } // namespace quadrelle

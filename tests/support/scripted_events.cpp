@@ -68,6 +68,7 @@ SDL_Event motion_event(Point from, Point to) {
 Script::Script() {
     SDL_PumpEvents();
     SDL_FlushEvents(SDL_EVENT_FIRST, SDL_EVENT_LAST);
+    forget_control();
     set_wait_watcher([this](std::string_view loop) { feed(loop); });
 }
 
@@ -123,14 +124,13 @@ Script& Script::motion(Point position) {
     return add_event(event);
 }
 
-Script& Script::motions_at_once(const std::vector<Point>& positions) {
-    std::vector<SDL_Event> events;
-    for (const Point position : positions) {
-        events.push_back(motion_event(std::exchange(pointer_, position), position));
-    }
-    steps_.push_back({true, [events](std::string_view) {
-                          for (SDL_Event event : events) {
-                              SDL_PushEvent(&event);
+Script& Script::at_once(std::size_t count) {
+    const auto first = steps_.end() - static_cast<std::ptrdiff_t>(count);
+    const std::vector<Entry> together(first, steps_.end());
+    steps_.erase(first, steps_.end());
+    steps_.push_back({true, [together](std::string_view loop) {
+                          for (const Entry& entry : together) {
+                              entry.run(loop);
                           }
                       }});
     return *this;

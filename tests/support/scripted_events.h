@@ -38,8 +38,8 @@ public:
     Script& press_number(Point position, int button_number);
     Script& release(Point position, Mouse_Button button = Mouse_Button::left);
     Script& motion(Point position);
-    // They wait together when the loop asks for the next event.
-    Script& motions_at_once(const std::vector<Point>& positions);
+    // The last ones of the events wait together when the loop asks for the next one.
+    Script& at_once(std::size_t count);
     // Press and release.
     Script& click(Point position, Mouse_Button button = Mouse_Button::left);
     // The second of two clicks, without its release.

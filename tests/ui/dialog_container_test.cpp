@@ -93,7 +93,11 @@ TEST_F(Dialog_Container_Test, enter_y_and_ok_accept) {
 TEST_F(Dialog_Container_Test, the_wheel_steps_what_is_under_the_pointer) {
     make();
     Script script;
-    script.wheel(1, middle_of(0, 3)).wheel(2, more(0)).wheel(-1, middle_of(0, 2)).wheel(1, middle_of(1, 2));
+    script.wheel(1, middle_of(0, 3))
+        .wheel(0.5F, more(0))
+        .wheel(0.5F, more(0))
+        .wheel(-1, middle_of(0, 2))
+        .wheel(1, middle_of(1, 2));
     script.wheel(1, tick()).wheel(1, ok()).wheel(1).key(key::enter);
     EXPECT_TRUE(dialog->run());
     expect_values(25, 1, 0);

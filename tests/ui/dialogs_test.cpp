@@ -59,6 +59,7 @@ TEST_F(Dialogs_Test, ask_takes_only_an_explicit_yes) {
     };
     EXPECT_TRUE(answer([](Script& user) { user.key(key::enter); }));
     EXPECT_TRUE(answer([](Script& user) { user.key('y'); }));
+    EXPECT_TRUE(answer([](Script& user) { user.key(key::keypad_enter); }));
     EXPECT_TRUE(answer([&](Script& user) { user.press({middle.x - half_width + 10, button_y(1)}); }));
     EXPECT_FALSE(answer([](Script& user) { user.key('n').key(key::escape); }));
     EXPECT_FALSE(answer([](Script& user) { user.quit(); }));
@@ -78,6 +79,9 @@ TEST_F(Number_Prompt_Test, return_accepts_what_was_typed) {
     EXPECT_EQ(typed("", {key::enter}), 24);
     EXPECT_EQ(typed("", {key::keypad_1 + 4, key::keypad_0, key::enter}), 50);
     EXPECT_EQ(typed("3a-.5", {'y'}), 35);
+    EXPECT_EQ(
+        answer([](Script& user) { user.type("3").key('1', Modifier::control).key('2').key(key::enter); }),
+        32);
     EXPECT_EQ(typed("327", {key::backspace, key::enter}), 32);
     EXPECT_EQ(typed("", {key::backspace, '5', key::enter}), 25);
     EXPECT_EQ(typed("", {key::backspace, key::backspace, key::backspace, '7', key::enter}), 7);

@@ -100,7 +100,13 @@ TEST_F(Adjust_HSV_Test, takes_typed_numbers_the_wheel_and_keys) {
     script().click({number_x, hue_y}).type("-90").key(key::enter);
     script().motion({1000, saturation_y}).wheel(-1).wheel(-1).wheel(1);
     script().key(key::left).key(key::down).key(key::down).key(key::right, Modifier::shift);
-    script().key(key::up).key(key::up).key(key::up).key(key::left).key(key::enter);
+    script()
+        .key(key::up)
+        .key(key::up)
+        .key(key::up)
+        .key(key::left)
+        .key(key::left, Modifier::control)
+        .key(key::enter);
     execute(Command::adjust_hsv);
     EXPECT_EQ(picture(), changed(before, {-92, -1, 10}));
     script().drag({{1000, hue_y}, {0, 0}}).click({less_x, hue_y}).drag({{1000, value_y}, {2000, 0}});
@@ -115,7 +121,7 @@ TEST_F(Adjust_HSV_Test, changes_all_tiles_after_a_question_and_starts_the_histor
     execute(Command::add_new_tile);
     paint_at_random();
     const std::vector<Tile_Picture> before{picture(0), picture(1), picture(2)};
-    script().click({more_x, hue_y}).press(all_tiles).key('a').check([&] {
+    script().click({more_x, hue_y}).press(all_tiles).key('a').key('a', Modifier::control).check([&] {
         EXPECT_EQ(picture(0), before[0]);
         EXPECT_EQ(picture(2), changed(before[2], {.hue = 1}));
     });

@@ -1,5 +1,6 @@
 #include "app/window_panes.h"
 #include "commands/key_table.h"
+#include "screen/events.h"
 #include "tests/whole/program_test.h"
 
 #include <SDL3/SDL.h>
@@ -102,15 +103,22 @@ TEST_F(Key_Test, undo_and_redo_give_the_eraser_back) {
     EXPECT_TRUE(tools().is_erasing);
 }
 
-TEST_F(Key_Test, return_drops_what_floats) {
+TEST_F(Key_Test, return_plots_what_floats) {
     play(script().click(cell(3, 3)));
     press('c', Modifier::control);
     EXPECT_EQ(report(), "24 x 24 pixels are copied.");
     press('v', Modifier::control);
+    press('r', Modifier::control);
+    EXPECT_EQ(report(), "There is nothing to redo.");
     press(key::right);
+    EXPECT_NE(report(), "There is nothing to redo.");
     EXPECT_EQ(tile_pixel(4, 3), black);
+    tools().options.selection_mode = Selection_Mode::persistent;
     press(key::enter);
+    EXPECT_EQ(report(), "It is in the tile, and floats on until it is deselected.");
     EXPECT_EQ(tile_pixel(4, 3), white);
+    tools().options.selection_mode = Selection_Mode::standard;
+    press(key::enter);
     EXPECT_FALSE(editor->canvas().work_area().paste());
     press(key::enter);
     EXPECT_EQ(report(), "Nothing floats over the tile.");
@@ -199,6 +207,29 @@ TEST_F(Key_Test, dialogs_come_by_their_keys) {
     EXPECT_EQ(editor->documents().count(), 1);
 }
 
+// Plus, asterisk and digits stand elsewhere on each keyboard; a key that makes none of them stays what it is.
+TEST_F(Key_Test, a_character_counts_whatever_makes_it) {
+    const auto press_code = [this](SDL_Scancode code, SDL_Keymod held) {
+        SDL_Event event{};
+        event.type = SDL_EVENT_KEY_DOWN;
+        event.key.scancode = code;
+        event.key.key = SDL_GetKeyFromScancode(code, SDL_KMOD_NONE, true);
+        event.key.mod = held;
+        SDL_PushEvent(&event);
+        editor->handle_one_event();
+        editor->redraw(Present::yes);
+    };
+    press_code(SDL_SCANCODE_EQUALS, SDL_KMOD_LSHIFT);
+    press_code(SDL_SCANCODE_RIGHTBRACKET, SDL_KMOD_NONE);
+    EXPECT_EQ(editor->canvas().pixel_size(), 11);
+    EXPECT_EQ(tools().chosen_brush.size_index(), 1);
+    press_code(SDL_SCANCODE_EQUALS, SDL_KMOD_LCTRL | SDL_KMOD_LSHIFT);
+    press_code(SDL_SCANCODE_DELETE, SDL_KMOD_LSHIFT);
+    press_code(SDL_SCANCODE_Z, SDL_KMOD_LCTRL | SDL_KMOD_RALT);
+    EXPECT_EQ(editor->canvas().pixel_size(), 11);
+    EXPECT_EQ(report(), "There is nothing to undo.");
+}
+
 TEST_F(Key_Test, zoom_and_tools_stand_on_the_main_keys) {
     press('=');
     press('+');
@@ -210,6 +241,17 @@ TEST_F(Key_Test, zoom_and_tools_stand_on_the_main_keys) {
             EXPECT_EQ(tools().command, row.command);
         }
     }
+}
+
+// What is held goes on only where it went down.
+TEST_F(Key_Test, a_key_that_closed_a_menu_scrolls_nothing_while_it_is_held) {
+    const Tile_Picture before = tile_picture();
+    play(script().click(cell(3, 3)).key(key::down).key_up(key::down));
+    script().press({20, 12}).release({20, 12}).key(key::down).repeated_key(key::down);
+    expect_loop("main").repeated_key(key::down).key_up(key::down);
+    play();
+    EXPECT_EQ(tile_pixel(3, 4), white);
+    EXPECT_NE(tile_picture(), before);
 }
 
 // While Alt is held, whatever the tool.
@@ -254,7 +296,11 @@ TEST_F(Key_Test, shift_shows_the_line_from_the_last_stroke) {
     play(script().click(cell(8, 5)));
     EXPECT_EQ(tile_pixel(6, 4), white);
     hold(SDL_KMOD_NONE);
-    play(script().key_up(key::left_shift).motion(cell(8, 20)));
+    // What counts is what was held at the press, however late that is answered.
+    script().key(key::left_shift, Modifier::shift).press(cell(14, 5)).key_up(key::left_shift).at_once(3);
+    play(script().release(cell(14, 5)));
+    EXPECT_EQ(tile_pixel(11, 5), white);
+    play(script().motion(cell(8, 20)));
     EXPECT_EQ(pixel_at(cell(8, 12)), black);
 }
 
@@ -369,10 +415,22 @@ TEST_F(Dragged_Selection, with_alt_its_outline_moves_alone) {
     EXPECT_EQ(new_steps(), 1U);
     drag(SDL_KMOD_LALT, {8, 4}, {23, 4});
     EXPECT_EQ(bounds(), (Rectangle{22, 3, 2, 3}));
-    // Beside the selection Alt picks.
+    // Beside the selection Alt picks, and where nothing is dragged, and the right button.
     document().tileset().current_tile()->set_pixel(5, 6, red);
+    document().tileset().current_tile()->set_pixel(22, 4, {0, 0, 255});
     drag(SDL_KMOD_LALT, {5, 6}, {5, 6});
     EXPECT_EQ(tools().colors.left, red);
+    drag(SDL_KMOD_LALT, {22, 4}, {22, 4});
+    EXPECT_EQ(tools().colors.left, Color(0, 0, 255));
+    hold(SDL_KMOD_LALT);
+    play(script().drag({cell(22, 4), cell(23, 4)}, Mouse_Button::right));
+    EXPECT_EQ(tools().colors.right, black);
+    EXPECT_EQ(bounds(), (Rectangle{22, 3, 2, 3}));
+    // Left of the tile begins no column of it.
+    press('a', Modifier::control);
+    drag(SDL_KMOD_LCTRL, {-1, 4}, {3, 4});
+    EXPECT_FALSE(work().paste());
+    press('z', Modifier::control);
     press('z', Modifier::control);
     press('z', Modifier::control);
     EXPECT_EQ(bounds(), (Rectangle{2, 2, 3, 3}));
@@ -403,9 +461,16 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
     execute(Command::lightness_pen);
     expect_reports({{Command::swap_tool_colors, "Left and right button have changed their colors."},
                     {Command::color_up, "The tool in use draws in no color."}});
-    answer_files(File_Answer_State::chosen, path);
-    expect_reports(
-        {{Command::save, "Saved in " + path}, {Command::save, "Nothing has changed since it was saved."}});
+    // The pointer comes back from the system's dialog, and then it moves.
+    set_file_chooser([path](File_Dialog_Kind, const std::string&) {
+        static_cast<void>(idle("file dialog"));
+        return File_Answer{File_Answer_State::chosen, path};
+    });
+    play(script().motion({300, 100}).key('s', Modifier::control).pause(0).motion({400, 100}));
+    EXPECT_EQ(report(), "Saved in " + path);
+    play(script().motion({401, 100}));
+    EXPECT_NE(report(), "Saved in " + path);
+    expect_reports({{Command::save, "Nothing has changed since it was saved."}});
     execute(Command::pen);
     const Point store_button{110, 619};
     play(script().click(store_button));

@@ -33,7 +33,7 @@ TEST_F(Stroke_Test, keeps_every_point_of_motions_that_come_at_once) {
     const Tile_Picture one_by_one = tile_picture();
     editor->execute(Command::undo);
     ASSERT_EQ(count_of(white), 0);
-    play(script().press(points.front()).motions_at_once(points).release(points.back()));
+    play(script().drag(points).at_once(points.size() + 1));
     EXPECT_EQ(tile_picture(), one_by_one);
 }
 

@@ -102,6 +102,10 @@ TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
         expect_loop(row.pans ? "pan" : "stroke").release({500, 300}, Mouse_Button::right);
         play();
     }
+    // While a stroke goes on it is armed too.
+    script().press({500, 300}).key(key::left_control, Modifier::control).release({500, 300});
+    script().press({500, 300}, Mouse_Button::right);
+    expect_loop("pan").release({500, 300}, Mouse_Button::right).key_up(key::left_control);
     // The release may come while a menu is open.
     script().key(key::left_control, Modifier::control).press({20, 12}).key_up(key::left_control);
     script().key(key::escape).motion({500, 300}).press({500, 300}, Mouse_Button::right);
@@ -112,6 +116,16 @@ TEST_F(View_Test, pan_is_armed_by_control_and_disarmed_by_any_release) {
     script().press({500, 300}, Mouse_Button::right);
     expect_loop("stroke").release({500, 300}, Mouse_Button::right);
     play();
+}
+
+TEST_F(View_Test, control_and_the_right_button_never_paint) {
+    SDL_SetModState(SDL_KMOD_LCTRL);
+    script().key(key::left_control, Modifier::control).key('c', Modifier::control).key_up('c');
+    script().press({500, 300}, Mouse_Button::right);
+    expect_loop("main").release({500, 300}, Mouse_Button::right);
+    play();
+    SDL_SetModState(SDL_KMOD_NONE);
+    EXPECT_FALSE(document().is_modified());
 }
 
 TEST_F(View_Test, pan_ends_with_the_window_close_only) {
