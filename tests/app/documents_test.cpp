@@ -164,46 +164,6 @@ TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
     EXPECT_EQ(window_title(), product + "untitled0.qdl");
 }
 
-TEST_F(Documents_Test, the_last_tile_is_made_black_as_a_step) {
-    draw_pixel(2, 3);
-    draw_pixel(4, 5);
-    const Tile_Picture drawn = tile_picture();
-    execute(Command::delete_tile);
-    EXPECT_EQ(tile_picture(), Tile_Picture(24 * 24, black));
-    // There is nothing left to make black.
-    execute(Command::delete_tile);
-    play(script().key('z', Modifier::control));
-    EXPECT_EQ(tile_picture(), drawn);
-    play(script().key('z', Modifier::control));
-    EXPECT_EQ(tile_pixel(4, 5), black);
-    EXPECT_EQ(tile_pixel(2, 3), white);
-}
-
-// Which the hint lines say until the pointer moves.
-TEST_F(Documents_Test, a_paste_brings_the_picture_of_a_deleted_tile_back) {
-    const auto& lines = editor->panes().hint_lines().lines();
-    const auto hint = [&] { return lines.at(0); };
-    draw_pixel(2, 3);
-    const Tile_Picture drawn = tile_picture();
-    const std::string before = hint();
-    // A tile that is as new leaves nothing behind.
-    execute(Command::add_new_tile);
-    execute(Command::delete_tile);
-    EXPECT_EQ(hint(), before);
-    execute(Command::add_new_tile);
-    execute(Command::previous_tile);
-    execute(Command::delete_tile);
-    play(script().key_up('q'));
-    EXPECT_EQ(hint(), "Delete tile");
-    EXPECT_EQ(lines.size(), 2U);
-    play(script().motion(cell(9, 9)));
-    EXPECT_EQ(hint(), "Pixel 9, 9");
-    EXPECT_EQ(editor->copies().copies().size(), 1U);
-    execute(Command::paste);
-    execute(Command::plot_paste);
-    EXPECT_EQ(tile_picture(), drawn);
-}
-
 // The dialog is built anew each time it is shown; this one has the same layout.
 struct New_Dialog_Layout {
     Dialog_Container dialog{"New tileset"};

@@ -58,22 +58,6 @@ TEST_F(Canvas_View_Test, cells_are_found_with_truncation_toward_zero) {
     EXPECT_EQ(view.tile_point({415, 239}), (Tile_Point{1, 3}));
 }
 
-TEST_F(Canvas_View_Test, zoom_keeps_the_middle_and_comes_back) {
-    for (const int extent : {1, 2, 5, 24, 63, 255}) {
-        Tile tile(extent, extent + 1);
-        for (int pixel_size = smallest_pixel_size; pixel_size < largest_pixel_size; ++pixel_size) {
-            show(tile, pixel_size);
-            view.scroll_origin(-13, 7);
-            const Point before = view.origin();
-            ASSERT_TRUE(view.zoom(Zoom_Step::in));
-            EXPECT_EQ(view.origin(), (Point{before.x - extent / 2, before.y - (extent + 1) / 2}));
-            EXPECT_EQ(view.magnified_size().width, extent * (pixel_size + 1));
-            ASSERT_TRUE(view.zoom(Zoom_Step::out));
-            EXPECT_EQ(view.origin(), before);
-        }
-    }
-}
-
 // From the brush's corner to the pointer, half the brush without its first pixel.
 TEST(Canvas_Settings, pointer_offset_centres_a_precise_brush) {
     struct Case {

@@ -1,15 +1,8 @@
 #include "ui/dialog_container.h"
 
 #include "tests/support/window_test.h"
-#include "ui/modal_dialog.h"
-
-#include <gmock/gmock.h>
-
-#include <stdexcept>
 
 namespace quadrelle::testing {
-
-using ::testing::HasSubstr;
 
 namespace {
 
@@ -76,20 +69,6 @@ TEST_F(Dialog_Container_Test, a_number_goes_on_while_its_arrow_is_held) {
     EXPECT_TRUE(dialog->run());
 }
 
-TEST_F(Dialog_Container_Test, enter_y_and_ok_accept) {
-    make();
-    Script script;
-    for (const Keycode pressed : {key::enter, Keycode{'y'}, key::keypad_enter}) {
-        script.key(pressed);
-        EXPECT_TRUE(dialog->run());
-    }
-    for (const Mouse_Button button : {Mouse_Button::left, Mouse_Button::right}) {
-        script.press(ok(), button);
-        EXPECT_TRUE(dialog->run());
-    }
-    EXPECT_TRUE(script.is_played());
-}
-
 TEST_F(Dialog_Container_Test, the_wheel_steps_what_is_under_the_pointer) {
     make();
     Script script;
@@ -128,18 +107,6 @@ TEST_F(Dialog_Container_Test, escape_and_closing_the_window_leave_the_items_as_t
     change_all(script).quit();
     EXPECT_FALSE(dialog->run());
     expect_values(26, 2, 0);
-}
-
-TEST_F(Dialog_Container_Test, a_loop_that_waits_too_long_is_named) {
-    make();
-    const Script script;
-    try {
-        dialog->run();
-        FAIL();
-    } catch (const std::runtime_error& error) {
-        EXPECT_THAT(error.what(), HasSubstr("dialog \"Dialog\""));
-    }
-    show_backdrop();
 }
 
 TEST_F(Dialog_Container_Test, keeps_its_items_in_the_data_file_once_accepted) {

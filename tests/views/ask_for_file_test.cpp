@@ -67,13 +67,5 @@ TEST_F(File_Dialog_Test, asks_before_a_file_is_replaced_whose_extension_was_forc
     EXPECT_TRUE(script.is_played());
 }
 
-TEST_F(File_Dialog_Test, is_silent_when_cancelled_and_tells_of_an_error) {
-    Script script;
-    EXPECT_EQ(choose(File_Dialog_Kind::save_tileset, {File_Answer_State::cancelled, "/a/b"}), std::nullopt);
-    script.check_loop([](std::string_view loop) { EXPECT_EQ(loop, "dialog \"Note\""); }).key(key::enter);
-    EXPECT_EQ(choose(File_Dialog_Kind::load_tileset, {File_Answer_State::failed, "/a/b"}), std::nullopt);
-    EXPECT_TRUE(script.is_played());
-}
-
 } // namespace
 } // namespace quadrelle::testing

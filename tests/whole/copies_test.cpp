@@ -1,8 +1,8 @@
 // The panes of the copies, and the clipboard that is shared with other programs.
 
 #include "app/window_panes.h"
-#include "selection/copy_buffer.h"
 #include "pixels/picture_formats.h"
+#include "selection/copy_buffer.h"
 #include "tests/whole/selection_scene.h"
 
 #include <SDL3/SDL_clipboard.h>

@@ -1,14 +1,8 @@
 #include "app/window_panes.h"
-#include "canvas/stroke_table.h"
-#include "commands/command_table.h"
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "tests/whole/selection_scene.h"
-#include "tileset/tileset_file.h"
 #include "views/versions_layout.h"
-
-#include <tuple>
-#include <utility>
 
 namespace quadrelle::testing {
 namespace {
@@ -27,98 +21,6 @@ TEST_F(Selection_Test, preview_shows_what_floats_where_the_canvas_does) {
     EXPECT_EQ(count_in_preview(red), 0);
     execute(Command::deselect);
     EXPECT_EQ(count_in_preview(red), 4 * 6);
-}
-
-// With the tool that moves it, or fixed below another one.
-TEST_F(Selection_Test, commands_change_what_floats_in_view_and_leave_the_tile) {
-    const Art before{"ab ", "cde"};
-    struct Row {
-        Command command;
-        Art after; // none for nothing floating
-        Tile_Point position = {5, 6};
-    };
-    const std::vector<Row> rows{
-        {Command::fill, {"## ", "###"}},
-        {Command::clear, {}},
-        {Command::mirror, {" ba", "edc"}},
-        {Command::flip, {"cde", "ab "}},
-        {Command::rotate, {"ca", "db", "e "}},
-        {Command::rotate_back, {" e", "bd", "ac"}},
-        {Command::scroll_left, before, {4, 6}},
-        {Command::scroll_down, before, {5, 7}},
-        {Command::anti_alias, art(softened(make_tile(before)))},
-    };
-    for (const Selection_Mode mode : {Selection_Mode::standard, Selection_Mode::fixed}) {
-        tools().options.selection_mode = mode;
-        execute(mode == Selection_Mode::fixed ? Command::pen : Command::work_selection);
-        for (const Row& row : rows) {
-            SCOPED_TRACE(menu_text(row.command));
-            paint_noise(3);
-            document().history().reset(document().tileset());
-            work().float_paste({make_tile(before), {5, 6}});
-            const Tile_Picture tile_before = tile_picture();
-            execute(row.command);
-            EXPECT_EQ(tile_picture(), tile_before);
-            ASSERT_EQ(work().paste().has_value(), !row.after.empty());
-            EXPECT_TRUE(!work().paste() || art(work().paste()->picture) == row.after);
-            EXPECT_TRUE(!work().paste() || work().paste()->position == row.position);
-            execute(Command::undo);
-            EXPECT_EQ(art(work().paste()->picture), before);
-        }
-        work().drop_paste();
-    }
-}
-
-TEST_F(Selection_Test, arrow_keys_move_what_floats_and_else_scroll_the_tile) {
-    Tile picture(3, 2);
-    work().float_paste({picture, {5, 5}});
-    execute(Command::work_selection);
-    play(script().key(key::left).key(key::up).key(key::up).key(key::right, Modifier::shift));
-    EXPECT_EQ(work().paste()->position, (Tile_Point{12, 3}));
-    play(script().key(key::down, Modifier::shift));
-    EXPECT_EQ(work().paste()->position, (Tile_Point{12, 11}));
-    // One step of undo, for nothing came between.
-    execute(Command::undo);
-    EXPECT_EQ(work().paste()->position, (Tile_Point{5, 5}));
-    work().drop_paste();
-    tile().set_pixel(5, 5, red);
-    play(script().key(key::left).key(key::left, Modifier::shift));
-    EXPECT_EQ(tile_pixel(4, 5), red);
-}
-
-// Plotted twice in one place, what is translucent would get denser.
-TEST_F(Selection_Test, what_persists_is_plotted_again_when_it_was_moved_or_another_tile_came) {
-    make_set({24, 24}, 2, [](int, Point) { return black; });
-    tools().options.selection_mode = Selection_Mode::persistent;
-    execute(Command::work_selection);
-    Tile picture(1, 1);
-    picture.fill({255, 255, 255, 100});
-    work().float_paste({picture, {5, 5}});
-    const auto leave = [this] {
-        execute(Command::pen);
-        execute(Command::work_selection);
-    };
-    leave();
-    const Color once = tile_pixel(5, 5);
-    ASSERT_NE(once, black);
-    const std::size_t steps = document().history().entries().size();
-    leave();
-    execute(Command::plot_paste);
-    click({20, 20});
-    execute(Command::horizontal_seam_tool);
-    leave();
-    execute(Command::horizontal_seam_tool);
-    EXPECT_EQ(document().history().entries().size(), steps);
-    EXPECT_EQ(tile_pixel(5, 5), once);
-    play(script().key(key::right));
-    leave();
-    EXPECT_EQ(tile_pixel(6, 5), once);
-    execute(Command::next_tile);
-    leave();
-    EXPECT_EQ(tile_pixel(6, 5), once);
-    play(script().key(key::right).key(key::left));
-    leave();
-    EXPECT_NE(tile_pixel(6, 5), once);
 }
 
 // In whole cells on both sides of the tile's edges.
@@ -224,68 +126,6 @@ TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_wa
     }
 }
 
-// As a step of that tile; where no other one comes, it floats on.
-TEST_F(Selection_Test, what_was_lifted_drops_into_its_tile_before_another_one_comes) {
-    constexpr Point second_in_strip{4 + 24 + 12, 648};
-    constexpr Point second_in_grid{16 + 32 + 16, 32};
-    constexpr Point first_tab{270, 42};
-    const std::vector<std::function<void()>> ways{
-        [this] { execute(Command::next_tile); },
-        [this] { execute(Command::insert_new_tile); },
-        [&] { play(script().click(second_in_strip)); },
-        [&] { play(script().click(first_tab)); },
-        [&] { play(script().key(key::tab).press(second_in_grid)); },
-        [&] {
-            script().press(second_in_grid).key(key::space);
-            execute(Command::arrange_select);
-        },
-    };
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-        SCOPED_TRACE(i);
-        make_set({24, 24}, 2, [](int, Point pixel) { return pixel == Point{3, 3} ? red : black; });
-        const Tileset_Document& set = document();
-        select_rectangle({2, 2}, {5, 5});
-        execute(Command::work_selection);
-        drag({3, 3}, {10, 10});
-        execute(Command::previous_tile);
-        ASSERT_TRUE(work().paste());
-        EXPECT_EQ(tile_pixel(10, 10), black);
-        const std::size_t steps = set.history().entries().size();
-        ways[i]();
-        EXPECT_FALSE(work().paste());
-        const Undo_Entry& drop = set.history().entries()[steps];
-        EXPECT_EQ(drop.kind, Command::plot_paste);
-        EXPECT_EQ(drop.snapshot->tile.get_pixel(10, 10), red);
-        const int tile = drop.tile_index;
-        EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(10, 10), red);
-        EXPECT_EQ(set.tileset().tile_at(tile).get_pixel(3, 3), clear);
-    }
-}
-
-// Also fixed, or below a selection.
-TEST_F(Selection_Test, what_was_lifted_is_in_every_file_that_is_written) {
-    const std::string file = folder().path("set.qdl");
-    for (const Selection_Mode mode :
-         {Selection_Mode::standard, Selection_Mode::persistent, Selection_Mode::fixed}) {
-        for (const bool is_below_selection : {false, true}) {
-            SCOPED_TRACE(static_cast<int>(mode) * 10 + is_below_selection);
-            make_set({24, 24}, 1, [](int, Point pixel) { return pixel == Point{3, 3} ? red : black; });
-            tools().options.selection_mode = mode;
-            select_rectangle({2, 2}, {5, 5});
-            execute(Command::work_selection);
-            drag({3, 3}, {10, 10});
-            if (is_below_selection) {
-                work().select(selected_rectangle({24, 24}, {20, 20}, {22, 22}), Selection_Change::add);
-            }
-            answer_files(File_Answer_State::chosen, file);
-            execute(Command::save_as);
-            EXPECT_EQ(load_tileset(file).tileset->tile_at(0).get_pixel(10, 10), red);
-            EXPECT_EQ(work().paste().has_value(), mode != Selection_Mode::standard);
-            EXPECT_FALSE(document().is_modified());
-        }
-    }
-}
-
 // What was lifted, or is pasted: it settles when the file is written, and not when that is given up.
 TEST_F(Selection_Test, pictures_that_are_taken_show_what_floats) {
     execute(Command::work_selection);
@@ -308,63 +148,6 @@ TEST_F(Selection_Test, pictures_that_are_taken_show_what_floats) {
         EXPECT_EQ(count(red), is_given_up ? 0 : 4);
     }
     EXPECT_EQ(Surface(file).get_pixel(4, 5), to_rgba(red));
-}
-
-// The shift brought that edge of the tile into the middle.
-TEST_F(Selection_Test, what_was_lifted_across_the_seam_drops_whole_before_the_tile_is_shifted_back) {
-    const std::vector<std::function<void()>> ways{
-        [this] {
-            answer_files(File_Answer_State::chosen, folder().path("set.qdl"));
-            execute(Command::save_as);
-        },
-        [this] { execute(Command::next_tile); },
-        [this] {
-            play(script().key(key::tab).press({16 + 32 + 16, 32}));
-        },
-        [this] { execute(Command::horizontal_seam_tool); },
-        [this] { execute(Command::export_bitmap); },
-    };
-    for (std::size_t i = 0; i < ways.size(); ++i) {
-        SCOPED_TRACE(i);
-        make_set({24, 24}, 2, [](int, Point pixel) { return pixel.y == 4 ? red : black; });
-        const Tile& before = tile();
-        execute(Command::horizontal_seam_tool);
-        select_rectangle({8, 4}, {16, 5});
-        execute(Command::work_selection);
-        drag({9, 4}, {9, 6});
-        answer_files(File_Answer_State::cancelled);
-        script().set_afterwards([this](std::string_view) { script().key(key::escape); });
-        ways[i]();
-        script().set_afterwards({});
-        EXPECT_FALSE(editor->canvas().is_shifted());
-        EXPECT_EQ(std::ranges::count(before.pixels(), red), 24);
-        EXPECT_EQ(before.get_pixel(20, 6), red);
-        EXPECT_EQ(before.get_pixel(3, 6), red);
-    }
-    // The last one left the tile.
-    execute(Command::undo);
-    EXPECT_TRUE(editor->canvas().is_shifted());
-    EXPECT_EQ(work().paste()->position, (Tile_Point{8, 6}));
-}
-
-TEST_F(Selection_Test, only_what_is_wanted_there_is_plotted_on_another_tile) {
-    tools().options.selection_mode = Selection_Mode::persistent;
-    make_set({24, 24}, 2, [](int, Point) { return black; });
-    Tile picture(2, 2);
-    picture.fill(red);
-    work().float_paste({picture, {15, 15}});
-    execute(Command::work_selection);
-    execute(Command::rectangle_selector);
-    EXPECT_EQ(count(red), 4);
-    // It was plotted where it was seen.
-    execute(Command::next_tile);
-    select_rectangle({2, 2}, {5, 5});
-    execute(Command::work_selection);
-    drag({3, 3}, {6, 6});
-    EXPECT_EQ(count(red), 0);
-    // And what was lifted does not go on to other tiles.
-    execute(Command::previous_tile);
-    EXPECT_FALSE(work().paste());
 }
 
 TEST_F(Selection_Test, stays_for_the_tile_of_another_set_or_not_as_the_option_says) {

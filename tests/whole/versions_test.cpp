@@ -166,15 +166,6 @@ TEST_F(Versions_Test, buttons_show_when_they_cannot_be_used) {
     EXPECT_TRUE(editor->canvas().work_area().paste());
 }
 
-TEST_F(Versions_Test, a_press_on_copy_closes_also_where_there_is_nothing_to_take) {
-    script().key('v').press(take_button());
-    in_main();
-    script().key('v').key('2').key_up('2').press(take_button());
-    in_main();
-    play();
-    EXPECT_FALSE(editor->canvas().work_area().paste());
-}
-
 TEST_F(Versions_Test, keep_what_was_stored_when_the_tiles_get_another_size) {
     paint_probe();
     tile().set_pixel(20, 20, {9, 8, 7, 6});
