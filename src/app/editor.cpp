@@ -20,7 +20,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace quadrelle {
 
@@ -72,8 +71,8 @@ bool Editor::show_first_frame() {
     }
     parts_->panes.size_preview();
     tool_colors->reset();
-    if (const std::vector<std::string> notes = palette_list->take_notes(); !notes.empty()) {
-        parts_->panes.hint_lines().report({"Palettes", notes.front()});
+    if (const std::string note = palette_list->take_note(); !note.empty()) {
+        parts_->panes.hint_lines().report_lastingly({"Palettes", note});
     }
     redraw(Present::yes);
     return true;

@@ -230,11 +230,8 @@ void Window_Panes::store_color(Color color) {
 }
 
 void Window_Panes::report_palette(std::string_view what) {
-    std::string text;
-    for (const std::string& note : palette_.list().take_notes()) {
-        text += note + " ";
-    }
-    hint_lines_.report({"Palette", text.empty() ? std::string(what) : text});
+    const std::string note = palette_.list().take_note();
+    hint_lines_.report({"Palette", note.empty() ? std::string(what) : note});
 }
 
 // With Shift a click on the palette stores.

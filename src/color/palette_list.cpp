@@ -90,7 +90,7 @@ void Palette_List::read_file(const std::string& name) {
         reading = {std::nullopt, "It has more than " + std::to_string(most_palette_colors) + " colors."};
     }
     if (!reading.palette) {
-        notes_.push_back(name + " was left alone. " + reading.refusal);
+        note(name + " was left alone. " + reading.refusal);
         return;
     }
     reading.palette->name = free_name(clean_name(reading.palette->name), -1);
@@ -169,7 +169,7 @@ int Palette_List::rename(int index, const std::string& name) {
 void Palette_List::remove(int index) {
     const std::string file_name = kept(index).file_name;
     if (!file_name.empty() && !remove_file(path_of(file_name))) {
-        notes_.push_back(file_name + " cannot be removed.");
+        note(file_name + " cannot be removed.");
         return;
     }
     kept_.erase(kept_.begin() + (index - store_.size()));
@@ -204,7 +204,7 @@ void Palette_List::write(Kept_Palette& kept) {
     if (make_folder(folder_) && write_file(path_of(name), bytes_of(gpl_text(kept.palette))) >= 0) {
         kept.file_name = name;
     } else {
-        notes_.push_back(name + " cannot be written: the palette lasts until the program ends.");
+        note(name + " cannot be written: the palette lasts until the program ends.");
     }
 }
 
@@ -249,8 +249,12 @@ void Palette_List::read_first_shown() {
     }
 }
 
-std::vector<std::string> Palette_List::take_notes() {
-    return std::exchange(notes_, {});
+void Palette_List::note(const std::string& what) {
+    note_ += note_.empty() ? what : " " + what;
+}
+
+std::string Palette_List::take_note() {
+    return std::exchange(note_, {});
 }
 
 } // namespace quadrelle

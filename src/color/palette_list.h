@@ -44,8 +44,8 @@ public:
     [[nodiscard]] int first_shown() const { return first_shown_; }
     void set_first_shown(int index);
 
-    // Hands over what went wrong since the last time, as sentences.
-    [[nodiscard]] std::vector<std::string> take_notes();
+    // Hands over what went wrong since the last time, as sentences; empty for nothing.
+    [[nodiscard]] std::string take_note();
 
 private:
     struct Kept_Palette {
@@ -57,6 +57,7 @@ private:
 
     [[nodiscard]] Kept_Palette& kept(int index);
     [[nodiscard]] const Kept_Palette& kept(int index) const;
+    void note(const std::string& what);
     void read_folder();
     void read_file(const std::string& name);
     void read_first_shown();
@@ -70,7 +71,7 @@ private:
     const Palette_Store& store_;
     std::string folder_;
     std::vector<Kept_Palette> kept_; // by name
-    std::vector<std::string> notes_;
+    std::string note_;
     int first_shown_ = 0;
 };
 

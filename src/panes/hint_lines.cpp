@@ -26,7 +26,7 @@ void Hint_Lines::report(Command command, std::string_view what_it_did) {
 }
 
 void Hint_Lines::set_hint(const Hint& hint, std::optional<Point> pointer) {
-    if (report_ && report_->pointer && report_->pointer != pointer) {
+    if (report_ && !report_->is_lasting && report_->pointer && report_->pointer != pointer) {
         end_report();
     }
     if (report_) {

@@ -20,6 +20,8 @@ public:
     // be no longer than a line.
     void report(Command command, std::string_view what_it_did);
     void report(Hint what_was_done) { report_ = {std::move(what_was_done), {}}; }
+    // Stays although the pointer moves, until `end_report`.
+    void report_lastingly(Hint what_is_wrong) { report_ = {std::move(what_is_wrong), {}, true}; }
     void end_report() { report_.reset(); }
 
     // Takes the hint for what is under the pointer there. Where it comes back from elsewhere, it has not
@@ -36,6 +38,7 @@ private:
     struct Report {
         Hint hint;
         std::optional<Point> pointer; // when it was shown first
+        bool is_lasting = false;
     };
 
     // Brings the hint into lines that fit; what has no room is cut off with "...".

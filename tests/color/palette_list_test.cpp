@@ -55,7 +55,7 @@ TEST_F(Palette_List_Test, palettes_have_names_and_files_of_their_own) {
     const std::vector<std::string> all{"..", "a/b: c?", "b 2", "b 9", "b 10", "MSX 2", "Palette"};
     EXPECT_EQ(names(list), all);
     EXPECT_EQ(names(read()), all);
-    EXPECT_EQ(list.take_notes(), std::vector<std::string>());
+    EXPECT_EQ(list.take_note(), "");
     list.rename(*list.find("b 9"), "b 10");
     EXPECT_FALSE(list.find("b 9"));
     EXPECT_TRUE(list.find("b 3"));
@@ -74,8 +74,7 @@ TEST_F(Palette_List_Test, what_is_no_palette_is_left_alone_and_told) {
     store_text(file("sea.gpl"), "GIMP Palette\nName: MSX\n1 2 3\n");
     Palette_List list = read();
     EXPECT_EQ(names(list), std::vector<std::string>{"MSX 2"});
-    EXPECT_EQ(list.take_notes(),
-              std::vector<std::string>{"Default 2.gpl was left alone. Line 2 is no color: \"1 2\""});
+    EXPECT_EQ(list.take_note(), "Default 2.gpl was left alone. Line 2 is no color: \"1 2\"");
     EXPECT_EQ(list.palette(list.change(0, {red})).name, "Default 2");
     EXPECT_EQ(stored_text(file("Default 2.gpl")), broken);
     list.change(*list.find("MSX 2"), {blue});
@@ -91,8 +90,8 @@ TEST_F(Palette_List_Test, a_file_that_cannot_be_written_is_told_and_tried_again)
         const Fault fault(1);
         list.change(3, {blue});
     }
-    EXPECT_EQ(list.take_notes().size(), 1U);
-    EXPECT_TRUE(list.take_notes().empty());
+    EXPECT_EQ(list.take_note(), "Sea.gpl cannot be written: the palette lasts until the program ends.");
+    EXPECT_EQ(list.take_note(), "");
     EXPECT_EQ(stored_text(file("Sea.gpl")), old);
     EXPECT_EQ(list.palette(3).colors, std::vector<Color>{blue});
     list.change(3, {blue, red});
