@@ -10,7 +10,7 @@ namespace quadrelle {
 
 namespace {
 
-constexpr int keyboard_columns = 3;
+constexpr int keyboard_columns = 4;
 constexpr std::string_view key_legend =
     "^ stands for Ctrl, ~ for Alt, a capital letter for Shift and the letter.\r"
     "< and > are the key \\ without and with Shift; the first *, + and - are those of the keypad.";
