@@ -3,8 +3,8 @@
 // The system's clipboard as far as it holds pictures: what this program copied is offered to others, and what
 // others copied can be taken. SDL's video must be there.
 
-#include "pixels/shared_picture.h"
 #include "pixels/picture_formats.h"
+#include "pixels/shared_picture.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "selection/paste_shape.h"
 
-#include "selection/free_rotation.h"
 #include "pixels/picture_formats.h"
+#include "selection/free_rotation.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "tests/support/stored_picture.h"
 
 #include "base/platform_files.h"
-#include "screen/screen.h"
 #include "pixels/picture_formats.h"
+#include "screen/screen.h"
 #include "tests/support/files.h"
 
 #include <SDL3/SDL_stdinc.h>

@@ -74,7 +74,8 @@ TEST_F(Text_Field_Test, keeps_what_is_no_text_byte_by_byte) {
     field_.set_text(broken);
     EXPECT_EQ(field_.text(), broken);
     EXPECT_EQ(shown_text(broken), "?a?b??");
-    EXPECT_EQ(shown_text("caf\xc3\xa9 \xc5\x81\xc3\xb3" "d\xc5\xba \xc3\x9f\xe2\x80\x93\xc3\xbf \xc8\x98"),
+    EXPECT_EQ(shown_text("caf\xc3\xa9 \xc5\x81\xc3\xb3"
+                         "d\xc5\xba \xc3\x9f\xe2\x80\x93\xc3\xbf \xc8\x98"),
               "cafe Lodz s-y S");
     EXPECT_EQ(shown_text("\xe6\x97\xa5\xf0\x9f\x8d\x8e"), "??") << "without any like them";
     press({key::backspace, key::backspace});
