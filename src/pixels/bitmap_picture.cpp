@@ -21,7 +21,7 @@ public:
     explicit Channel(std::uint32_t mask) {
         constexpr int most_bits = 8;
         if (mask != 0) {
-            const int bits = std::bit_width(mask) - std::countr_zero(mask);
+            const int bits = static_cast<int>(std::bit_width(mask)) - std::countr_zero(mask);
             shift_ = std::countr_zero(mask) + std::max(bits - most_bits, 0);
             most_ = (1U << static_cast<unsigned>(std::min(bits, most_bits))) - 1;
             for (std::uint32_t value = 0; value <= most_; ++value) {

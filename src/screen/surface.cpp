@@ -41,9 +41,10 @@ bool holds_its_pixels(const std::string& file_name) {
     const std::int64_t bits = file.remaining() * 8;
     file.read_block(header);
     const auto number = [&header](std::size_t place) {
-        const std::uint32_t word = header.at(place) | header.at(place + 1) << 8U |
-                                   header.at(place + 2) << 16U |
-                                   static_cast<std::uint32_t>(header.at(place + 3)) << 24U;
+        std::uint32_t word = 0;
+        for (std::size_t i = 4; i-- > 0;) {
+            word = word << 8U | header.at(place + i);
+        }
         return std::abs(std::int64_t{static_cast<std::int32_t>(word)});
     };
     const std::int64_t width = number(width_place);

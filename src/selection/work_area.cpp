@@ -7,6 +7,7 @@
 #include "selection/transform_table.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace quadrelle {
@@ -19,8 +20,9 @@ int seen_extent(int position, int extent, int tile) {
 }
 
 int nearest_in_reach(int position, int extent, int tile) {
-    return std::ranges::max({position, position - tile, position + tile}, {},
-                            [=](int candidate) { return seen_extent(candidate, extent, tile); });
+    const std::array candidates{position, position - tile, position + tile};
+    return *std::ranges::max_element(candidates, {},
+                                     [=](int candidate) { return seen_extent(candidate, extent, tile); });
 }
 
 } // namespace
