@@ -126,7 +126,8 @@ Color Cut_Picture_Item::shown_color(const Line& across, const Line& down, Point 
         blended_over(picture_.get_pixel(across.source, down.source), checkerboard_color(place.x, place.y));
     const bool is_in_tile = across.cell >= 0 && down.cell >= 0;
     const auto fate = [&] {
-        return plan_->fates[static_cast<std::size_t>(down.cell * plan_->cells.width + across.cell)];
+        const int cell = down.cell * plan_->cells.width + across.cell;
+        return plan_->fates[static_cast<std::size_t>(cell)];
     };
     if (!is_in_tile || fate() != Cell_Fate::taken) {
         constexpr double left_of_it = 0.3;
