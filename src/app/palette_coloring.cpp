@@ -41,13 +41,9 @@ std::string pixels(std::size_t count) {
     return std::to_string(count) + (count == 1 ? " pixel" : " pixels");
 }
 
-bool look_alike(Color one, Color other) {
-    return one == other || (one.a == 0 && other.a == 0);
-}
-
 Color_Map replacement() {
     return [colors = colors_in_use()](Color color) {
-        return look_alike(color, colors.left) ? colors.right : color;
+        return as_seen(color) == as_seen(colors.left) ? colors.right : color;
     };
 }
 

@@ -27,6 +27,14 @@ std::string counted(std::size_t colors) {
     return std::to_string(colors) + (colors == 1 ? " color" : " colors");
 }
 
+// Of so many colours they may not all have been counted.
+std::string rest_in_words(std::size_t left_out) {
+    const bool may_be_more = left_out + most_palette_colors >= most_counted_colors;
+    return left_out == 0
+               ? ""
+               : (may_be_more ? " At least " : " ") + std::to_string(left_out) + " more had no room.";
+}
+
 void keep(Editor_Parts& editor, Palette_Reading reading) {
     if (!reading.palette) {
         dialogs->message("Note", "This is no palette. " + reading.refusal);
@@ -35,9 +43,8 @@ void keep(Editor_Parts& editor, Palette_Reading reading) {
     Palette_Area& palette = editor.panes.palette();
     const std::string count = counted(reading.palette->colors.size());
     palette.add(std::move(*reading.palette));
-    const std::string rest =
-        reading.left_out == 0 ? "" : " " + std::to_string(reading.left_out) + " more had no room.";
-    editor.panes.report_palette("\"" + palette.palette().name + "\" has " + count + "." + rest);
+    editor.panes.report_palette("\"" + palette.palette().name + "\" has " + count + "." +
+                                rest_in_words(reading.left_out));
 }
 
 Palette_Reading colors_of(std::span<const Tile* const> pictures, std::string name) {

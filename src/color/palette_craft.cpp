@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <tuple>
+#include <unordered_map>
 #include <utility>
 
 namespace quadrelle {
@@ -80,8 +81,14 @@ std::vector<Color> sorted_by_lightness(std::vector<Color> colors) {
 }
 
 std::vector<Color> sorted_as(std::vector<Color> colors, std::span<const Color> order) {
-    return sorted_by(std::move(colors),
-                     [order](Color color) { return std::ranges::find(order, color) - order.begin(); });
+    std::unordered_map<std::uint32_t, std::size_t> places;
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        places.try_emplace(as_seen(order[i]).word(), i);
+    }
+    return sorted_by(std::move(colors), [&places, &order](Color color) {
+        const auto found = places.find(as_seen(color).word());
+        return found == places.end() ? order.size() : found->second;
+    });
 }
 
 bool is_among(std::span<const Color> colors, Color color) {

@@ -6,6 +6,7 @@
 #include "base/text_lines.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -39,25 +40,40 @@ std::string without_number(const std::string& name) {
     return has_number ? name.substr(0, end) : name;
 }
 
+// Returns at most so many bytes of it, and no part of a character.
+std::string cut_at_character(const std::string& text, std::size_t most) {
+    std::size_t end = std::min(text.size(), most);
+    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end);
+}
+
+// Whether a file system takes it for a device, whatever extension follows.
+bool is_device(const std::string& stem) {
+    constexpr std::array<std::string_view, 4> plain{"con", "prn", "aux", "nul"};
+    constexpr std::array<std::string_view, 2> numbered{"com", "lpt"};
+    std::string name = stem.substr(0, stem.find('.'));
+    std::ranges::transform(name, name.begin(),
+                           [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter + 32 : letter; });
+    const bool has_number = name.size() == 4 && name[3] >= '1' && name[3] <= '9';
+    return std::ranges::count(plain, name) > 0 ||
+           (has_number && std::ranges::count(numbered, name.substr(0, 3)) > 0);
+}
+
 // What some file system takes for something else becomes "_".
 std::string stem_of(const std::string& palette_name) {
     constexpr std::string_view unfit = "/\\:*?\"<>|";
-    std::string stem = palette_name.substr(0, longest_stem);
-    const auto is_rest_of_character = [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
-    };
-    if (stem.size() < palette_name.size() && is_rest_of_character(palette_name[stem.size()])) {
-        while (is_rest_of_character(stem.back())) {
-            stem.pop_back();
-        }
-        stem.pop_back();
+    std::string stem = cut_at_character(palette_name, longest_stem);
+    if (stem.empty()) {
+        return "palette";
     }
     std::ranges::replace_if(
         stem, [unfit](char letter) { return unfit.find(letter) != std::string_view::npos; }, '_');
     for (char* const end : {&stem.front(), &stem.back()}) {
         *end = *end == '.' || *end == ' ' ? '_' : *end;
     }
-    return stem;
+    return is_device(stem) ? "_" + stem : stem;
 }
 
 std::span<const std::uint8_t> bytes_of(const std::string& text) {

@@ -12,7 +12,6 @@ constexpr std::size_t pixels_offset = 10;
 constexpr std::size_t second_header = 14;
 constexpr std::size_t old_header_length = 12;
 constexpr std::size_t header_length = 40;
-constexpr std::size_t length_with_masks = 52;
 constexpr std::size_t length_with_alpha = 56;
 constexpr std::size_t masks_offset = second_header + header_length;
 
@@ -102,7 +101,7 @@ private:
         }
         const bool has_alpha = packing_ == masked_with_alpha || length_ >= length_with_alpha;
         const std::size_t count = has_alpha ? 4 : 3;
-        if (length_ < length_with_masks && masks_offset + 4 * count > bytes_.size()) {
+        if (masks_offset + 4 * count > bytes_.size()) {
             return false;
         }
         for (std::size_t i = 0; i < count; ++i) {

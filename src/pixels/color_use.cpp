@@ -1,64 +1,64 @@
 #include "pixels/color_use.h"
 
+#include "color/palette_craft.h"
 #include "pixels/tile.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <unordered_map>
 #include <utility>
 
 namespace quadrelle {
 
 namespace {
 
-struct Counted {
-    Color_Use use;
-    std::size_t first = 0; // the place of its first pixel
-};
-
-Color seen(Color color) {
-    return color.a == 0 ? Color(0, 0, 0, 0) : color;
-}
-
-// Neighbours of one colour are counted together.
-std::vector<Counted> runs_of(std::span<const Tile* const> pictures) {
-    std::vector<Counted> runs;
-    std::size_t place = 0;
-    for (const Tile* const picture : pictures) {
-        for (const Color pixel : picture->pixels()) {
-            const Color color = seen(pixel);
-            if (runs.empty() || runs.back().use.color != color) {
-                runs.push_back({{color, 0}, place});
+// In the order in which they come first.
+class Color_Count {
+public:
+    // Neighbours of one colour are looked up once.
+    void add(const Tile& picture) {
+        Color_Use run;
+        for (const Color pixel : picture.pixels()) {
+            const Color color = as_seen(pixel);
+            if (color != run.color) {
+                add(run);
+                run = {color, 0};
             }
-            ++runs.back().use.count;
-            ++place;
+            ++run.count;
         }
+        add(run);
     }
-    return runs;
-}
 
-void unite_same_colors(std::vector<Counted>& runs) {
-    std::ranges::sort(runs, {},
-                      [](const Counted& run) { return std::pair(run.use.color.word(), run.first); });
-    std::size_t kept = 0;
-    for (std::size_t i = 1; i < runs.size(); ++i) {
-        if (runs[i].use.color == runs[kept].use.color) {
-            runs[kept].use.count += runs[i].use.count;
-        } else {
-            runs[++kept] = runs[i];
+    [[nodiscard]] std::vector<Color_Use> take() { return std::move(uses_); }
+
+private:
+    void add(const Color_Use& run) {
+        if (run.count == 0) {
+            return;
+        }
+        const auto found = places_.find(run.color.word());
+        if (found != places_.end()) {
+            uses_[found->second].count += run.count;
+        } else if (uses_.size() < most_counted_colors) {
+            places_.emplace(run.color.word(), uses_.size());
+            uses_.push_back(run);
         }
     }
-    runs.resize(std::min(runs.size(), kept + 1));
-}
+
+    std::unordered_map<std::uint32_t, std::size_t> places_;
+    std::vector<Color_Use> uses_;
+};
 
 } // namespace
 
 std::vector<Color_Use> colors_by_use(std::span<const Tile* const> pictures) {
-    std::vector<Counted> counted = runs_of(pictures);
-    unite_same_colors(counted);
-    std::ranges::sort(counted, [](const Counted& one, const Counted& other) {
-        return std::pair(other.use.count, one.first) < std::pair(one.use.count, other.first);
-    });
-    std::vector<Color_Use> uses(counted.size());
-    std::ranges::transform(counted, uses.begin(), &Counted::use);
+    Color_Count count;
+    for (const Tile* const picture : pictures) {
+        count.add(*picture);
+    }
+    std::vector<Color_Use> uses = count.take();
+    std::ranges::stable_sort(uses, std::ranges::greater(), &Color_Use::count);
     return uses;
 }
 

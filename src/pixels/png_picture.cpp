@@ -65,6 +65,9 @@ bool Png_Reader::read_header() {
     return info_ != nullptr && attempt([this] {
                constexpr png_uint_32 any_size = std::numeric_limits<std::int32_t>::max();
                png_set_user_limits(png_, any_size, any_size);
+               // Texts, profiles and the like are skipped: unpacked they may be as large as their writer
+               // likes.
+               png_set_keep_unknown_chunks(png_, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
                png_set_read_fn(png_, &rest_, take_bytes);
                png_read_info(png_, info_);
            });

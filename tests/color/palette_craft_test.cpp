@@ -43,8 +43,8 @@ TEST(Palette_Craft_Test, sorts_and_keeps_every_colour) {
     const Colors colors{blue, yellow, grey, dark_yellow, nothing, blue};
     EXPECT_EQ(sorted_by_hue(colors), (Colors{nothing, grey, dark_yellow, yellow, blue, blue}));
     EXPECT_EQ(sorted_by_lightness(colors), (Colors{nothing, blue, blue, grey, dark_yellow, yellow}));
-    EXPECT_EQ(sorted_as(colors, Colors{grey, yellow}),
-              (Colors{grey, yellow, blue, dark_yellow, nothing, blue}));
+    EXPECT_EQ(sorted_as(colors, Colors{grey, {0, 0, 0, 0}, yellow}),
+              (Colors{grey, nothing, yellow, blue, dark_yellow, blue}));
 }
 
 TEST(Palette_Craft_Test, the_nearest_colour_is_the_one_that_looks_most_like_it) {

@@ -66,6 +66,23 @@ TEST_F(Palette_List_Test, palettes_have_names_and_files_of_their_own) {
     EXPECT_EQ(names(list).size(), 7U);
 }
 
+TEST_F(Palette_List_Test, no_name_makes_a_file_that_some_system_cannot_have) {
+    const std::string rest_of_characters(80, '\x80');
+    const std::vector<std::pair<std::string, const char*>> names_and_files{
+        {rest_of_characters + "\x80", "palette.gpl"},
+        {"\xe3" + rest_of_characters, "palette 2.gpl"},
+        {"nul", "_nul.gpl"},
+        {"Com1.old", "_Com1.old.gpl"},
+        {"com", "com.gpl"},
+        {"lpt0", "lpt0.gpl"}};
+    for (const auto& [name, file_name] : names_and_files) {
+        Palette_List list = read();
+        list.add({name, {red}});
+        EXPECT_FALSE(stored_text(file(file_name)).empty()) << file_name;
+        EXPECT_EQ(read().size(), list.size());
+    }
+}
+
 TEST_F(Palette_List_Test, what_is_no_palette_is_left_alone_and_told) {
     std::filesystem::create_directory(native(folder_.path("palettes")));
     const std::string broken = "GIMP Palette\n1 2\n";

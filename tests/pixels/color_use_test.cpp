@@ -20,5 +20,13 @@ TEST(Color_Use_Test, the_most_used_colour_comes_first) {
     EXPECT_TRUE(colors_by_use({}).empty());
 }
 
+TEST(Color_Use_Test, only_so_many_colours_are_counted) {
+    Tile many(257, 256);
+    for (int i = 0; i < many.pixel_count(); ++i) {
+        many.set_pixel_at(i, Color(i & 255, i >> 8 & 255, i >> 16));
+    }
+    EXPECT_EQ(colors_by_use(std::array<const Tile*, 1>{&many}).size(), most_counted_colors);
+}
+
 } // namespace
 } // namespace quadrelle::testing

@@ -5,7 +5,11 @@
 #include "tests/support/tiles.h"
 
 #include <png.h>
+#ifndef _WIN32
+#include <sys/resource.h>
+#endif
 
+#include <cstdlib>
 #include <string_view>
 
 namespace quadrelle::testing {
@@ -51,7 +55,7 @@ Bytes row_of(const Png_Kind& kind, int y) {
     return row;
 }
 
-Bytes write_png(const Png_Kind& kind, int interlacing) {
+Bytes write_png(const Png_Kind& kind, int interlacing, int texts = 0) {
     Bytes bytes;
     png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
     png_infop info = png_create_info_struct(png);
@@ -64,6 +68,15 @@ Bytes write_png(const Png_Kind& kind, int interlacing) {
         nullptr);
     png_set_IHDR(png, info, png_size.width, png_size.height, kind.depth, kind.color_type, interlacing, 0, 0);
     png_set_gAMA(png, info, 0.2);
+    std::string key_word = "Comment";
+    std::string long_text(std::size_t{7} << 20U, ' ');
+    png_text text{};
+    text.compression = PNG_TEXT_COMPRESSION_zTXt;
+    text.key = key_word.data();
+    text.text = long_text.data();
+    for (int i = 0; i < texts; ++i) {
+        png_set_text(png, info, &text, 1);
+    }
     std::array<png_color, 256> palette{};
     std::array<png_byte, 256> alphas{};
     for (std::size_t i = 0; i < palette.size(); ++i) {
@@ -133,6 +146,25 @@ TEST(Foreign_Pictures, every_kind_of_png_gives_its_colours) {
     }
 }
 
+#ifndef _WIN32
+
+TEST(Foreign_Pictures, texts_in_a_png_take_no_memory) {
+    const Bytes file = write_png({"rgb 8", 2, 8}, PNG_INTERLACE_NONE, 12);
+    const auto most_memory = [] {
+        rusage usage{};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss; // in kilobytes
+    };
+    const auto decode = [&] {
+        const long before = most_memory();
+        const bool is_read = decode_png(file).picture.has_value();
+        std::_Exit(is_read && most_memory() - before < 20'000 ? 0 : 1);
+    };
+    EXPECT_EXIT(decode(), ::testing::ExitedWithCode(0), "");
+}
+
+#endif
+
 void append(Bytes& bytes, std::uint32_t number, int length) {
     for (int i = 0; i < length; ++i, number >>= 8U) {
         bytes.push_back(static_cast<std::uint8_t>(number));
@@ -156,7 +188,8 @@ Bytes file_of(const Bitmap_Case& bitmap, std::uint32_t width, std::uint32_t heig
     const bool has_masks_in_header = bitmap.depth > 8 && bitmap.header > 40;
     Bytes bytes{'B', 'M', 0, 0, 0, 0, 0, 0, 0, 0};
     const auto beside = static_cast<std::uint32_t>(bitmap.masks_or_palette.size()) * entry;
-    append(bytes, 14 + bitmap.header + (has_masks_in_header ? 0 : beside), 4);
+    append(bytes, 14 + (has_masks_in_header ? std::max(bitmap.header, 40 + beside) : bitmap.header + beside),
+           4);
     append(bytes, bitmap.header, 4);
     append(bytes, width, is_old ? 2 : 4);
     append(bytes, bitmap.from_top ? 0U - height : height, is_old ? 2 : 4);
@@ -204,6 +237,7 @@ const std::vector<Bitmap_Case> bitmap_cases{
     {"24 bits, old", 24, 0, 12, false, {}, {255, 255, 255, 0, 0, 0, 0, 0, 255, 0, 0, 0, 0, 0, 255, 0, 255, 0, 255, 0, 0, 0, 0, 0}},
     {"32 bits without alpha", 32, 0, 40, true, {}, {0, 0, 255, 0, 0, 255, 0, 0, 255, 0, 0, 0, 255, 255, 255, 0, 0, 0, 0, 0, 0, 0, 255, 0}},
     {"32 bits with alpha", 32, 0, 40, true, {}, {0, 0, 255, 255, 0, 0, 255, 0, 255, 0, 0, 255, 255, 255, 255, 255, 0, 0, 0, 255, 0, 0, 255, 0}, {"rtb", "wkt"}},
+    {"32 bits, the last mask behind the header", 32, 6, 52, true, {0xff0000, 0xff00, 0xff, 0xff000000}, {0, 0, 255, 255, 0, 0, 255, 0, 255, 0, 0, 255, 255, 255, 255, 255, 0, 0, 0, 255, 0, 0, 255, 0}, {"rtb", "wkt"}},
     {"32 bits, ten of red, masks in the header", 32, 3, 56, true, {0xffc00000, 0x3fc, 0x3fc00, 0x3}, {3, 0, 0xc0, 0xff, 0xff, 3, 0, 0, 3, 0xfc, 3, 0, 0xff, 0xff, 0xc3, 0xff, 3, 0, 0, 0, 0, 0, 0xc0, 0xff}, {"rgb", "wkt"}},
 };
 // clang-format on
