@@ -120,6 +120,11 @@ TEST(Floating_Paste, is_softened_within_its_own_alpha) {
         EXPECT_EQ(soft.get_pixel_at(i).a, before.a) << i;
         EXPECT_TRUE(before.a != 0 || soft.get_pixel_at(i) == before) << i;
     }
+    Work_Area work;
+    work.resize({9, 9});
+    work.float_paste({picture, {1, 2}});
+    EXPECT_EQ(work.transform_paste(Command::anti_alias), Outcome::done);
+    EXPECT_TRUE(work.paste()->picture->same_pixels(soft));
     // What lies beside it does not darken it.
     Tile plain = make_tile({"    ", " ## ", "    "});
     EXPECT_EQ(art(softened(plain)), art(plain));

@@ -2,6 +2,7 @@
 #include "screen/screen.h"
 #include "screen/surface.h"
 #include "tests/whole/selection_scene.h"
+#include "tileset/tileset_file.h"
 #include "views/versions_layout.h"
 
 namespace quadrelle::testing {
@@ -123,6 +124,30 @@ TEST_F(Selection_Test, turning_the_tile_starts_from_what_it_was_when_the_tool_wa
         execute(Command::undo);
         execute(Command::undo);
         EXPECT_EQ(tile_picture(), before);
+    }
+}
+
+// Also fixed, or below a selection.
+TEST_F(Selection_Test, what_was_lifted_is_in_every_file_that_is_written) {
+    const std::string file = folder().path("set.qdl");
+    for (const Selection_Mode mode :
+         {Selection_Mode::standard, Selection_Mode::persistent, Selection_Mode::fixed}) {
+        for (const bool is_below_selection : {false, true}) {
+            SCOPED_TRACE(static_cast<int>(mode) * 10 + is_below_selection);
+            make_set({24, 24}, 1, [](int, Point pixel) { return pixel == Point{3, 3} ? red : black; });
+            tools().options.selection_mode = mode;
+            select_rectangle({2, 2}, {5, 5});
+            execute(Command::work_selection);
+            drag({3, 3}, {10, 10});
+            if (is_below_selection) {
+                work().select(selected_rectangle({24, 24}, {20, 20}, {22, 22}), Selection_Change::add);
+            }
+            answer_files(File_Answer_State::chosen, file);
+            execute(Command::save_as);
+            EXPECT_EQ(load_tileset(file).tileset->tile_at(0).get_pixel(10, 10), red);
+            EXPECT_EQ(work().paste().has_value(), mode != Selection_Mode::standard);
+            EXPECT_FALSE(document().is_modified());
+        }
     }
 }
 
