@@ -5,6 +5,7 @@
 #include "app/editor_parts.h"
 #include "app/file_commands.h"
 #include "app/help_commands.h"
+#include "app/map_commands.h"
 #include "app/tile_commands.h"
 #include "app/tileset_commands.h"
 #include "app/tool_commands.h"
@@ -50,10 +51,6 @@ Outcome with(Editor_Parts& editor) {
 
 Outcome nothing(Editor_Parts& /*editor*/) {
     return Outcome::done;
-}
-
-Outcome nobody(Editor_Parts& /*editor*/) {
-    return Outcome::unknown;
 }
 
 // clang-format off
@@ -136,7 +133,7 @@ constexpr std::array<Handler_Row, command_count> handlers{{
     {Command::zoom_tile_up,          with<view_commands::zoom, Zoom_Step::in>},
     {Command::zoom_tile_down,        with<view_commands::zoom, Zoom_Step::out>},
     {Command::color_editor,          tool_commands::edit_color},
-    {Command::map_editor,            nobody},
+    {Command::map_editor,            map_commands::edit},
     {Command::versions,              tile_commands::versions},
     {Command::options,               file_commands::edit_options},
     {Command::context_info,          help_commands::context_info},

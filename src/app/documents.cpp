@@ -2,8 +2,9 @@
 
 #include "base/debug_monitor.h"
 #include "base/file_names.h"
+#include "map/map_file.h"
 #include "screen/screen.h"
-#include "tileset/tileset_file.h"
+#include "tileset/document_file.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
 #include "views/ask_for_file.h"
@@ -29,6 +30,13 @@ std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset, int number) {
     auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
     document->history().reset(document->tileset());
     return document;
+}
+
+void tell_failure(Save_Outcome outcome) {
+    const std::string what = outcome == Save_Outcome::failed
+                                 ? "Unable to create a save file in the destination device."
+                                 : "The tiles are saved. Unable to create the file of the map beside them.";
+    dialogs->message("Note", what + "\rCheck out write access properties.");
 }
 
 } // namespace
@@ -95,45 +103,51 @@ void Documents::show_tile(int index) {
 
 void Documents::resize_current(Size tile_size) {
     leaving_();
-    current().tileset().resize_all(tile_size);
-    current().history().clear();
+    current().resize_tiles(tile_size);
     current().strip().show_current();
     current_changed_();
 }
 
 bool Documents::load_document(const std::string& path) {
-    Loaded_Tileset loaded = load_tileset(path);
-    if (loaded.outcome != Load_Outcome::loaded) {
+    std::unique_ptr<Tileset_Document> document = quadrelle::load_document(path);
+    if (!document) {
         return false;
     }
-    trace("Loaded " + path + ", tiles: " + std::to_string(loaded.tileset->count()));
-    auto document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
-    document->set_file(path);
+    trace("Loaded " + path + ", tiles: " + std::to_string(document->tileset().count()));
     add(std::move(document));
     return true;
 }
 
 std::optional<std::string> Documents::ask_where_to_save(Save_As save_as) const {
     if (save_as == Save_As::no && current().is_named()) {
-        return confirms_save() ? std::optional(current().file_name()) : std::nullopt;
+        const std::string& path = current().file_name();
+        return confirms_save() && confirms_map(path) ? std::optional(path) : std::nullopt;
     }
     std::string path = current().file_name();
-    return choose_file(File_Dialog_Kind::save_tileset, path) ? std::optional(path) : std::nullopt;
+    const bool is_chosen = choose_file(File_Dialog_Kind::save_tileset, path);
+    return is_chosen && confirms_map(path) ? std::optional(path) : std::nullopt;
+}
+
+// There may be anything: other programs have files with that ending too.
+bool Documents::confirms_map(const std::string& path) const {
+    return !replaces_strange_map(current(), path) ||
+           dialogs->ask("Save",
+                        file_part(map_path(path)) +
+                            " is there already, and is not the map of this set.\rReplace it by the map?");
 }
 
 bool Documents::save_document(const std::string& path) {
     Tileset_Document& document = current();
     document.set_file(path);
-    const bool is_saved = save_tileset(document.tileset(), document.file_name()) >= 0;
+    const Save_Outcome outcome = quadrelle::save_document(document);
+    const bool is_saved = outcome == Save_Outcome::saved;
     trace((is_saved ? "Saved " : "Could not save ") + path);
     if (is_saved) {
         document.clear_modified();
     }
     refresh_titles();
     if (!is_saved) {
-        dialogs->message("Note",
-                         "Unable to create a save file in the destination device.\rCheck out write access "
-                         "properties.");
+        tell_failure(outcome);
     }
     return is_saved;
 }

@@ -68,6 +68,7 @@ private:
     bool go_to(std::size_t index);
     void refresh_titles();
     [[nodiscard]] bool confirms_save() const;
+    [[nodiscard]] bool confirms_map(const std::string& path) const;
 
     std::function<void()> leaving_;
     std::function<void()> current_changed_;

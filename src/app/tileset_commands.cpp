@@ -7,6 +7,7 @@
 #include "views/tile_array.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quadrelle::tileset_commands {
@@ -27,12 +28,18 @@ std::string_view obstacle(const Tileset& tileset, Command command) {
 }
 
 // No step of the history brings a tile back. One that is as when it was added has no picture to lose.
-void keep_picture(Editor_Parts& editor, const Tile& tile) {
-    if (!tile.is_as_new()) {
-        editor.desk.keep(tile);
-        editor.report(Command::delete_tile,
-                      "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.");
+std::string keep_picture(Editor_Parts& editor, const Tile& tile) {
+    if (tile.is_as_new()) {
+        return "";
     }
+    editor.desk.keep(tile);
+    return "Its picture is kept in \"Previous copies\": Paste (^v) brings it back.";
+}
+
+std::string places_emptied(int places) {
+    return places == 0   ? ""
+           : places == 1 ? "One place of the map is empty now."
+                         : std::to_string(places) + " places of the map are empty now.";
 }
 
 // That is a step, which can be undone.
@@ -71,14 +78,18 @@ Outcome delete_tile(Editor_Parts& editor) {
     if (tileset.count() == 1) {
         return make_tile_black(editor);
     }
-    keep_picture(editor, *tileset.current_tile());
+    const std::string kept = keep_picture(editor, *tileset.current_tile());
+    const std::string emptied = places_emptied(editor.documents.current().uses_of_current());
+    if (!kept.empty() || !emptied.empty()) {
+        editor.report(Command::delete_tile, kept + (kept.empty() || emptied.empty() ? "" : " ") + emptied);
+    }
     return leave_to_document(editor, Command::delete_tile);
 }
 
 Outcome arrange_select(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     const int before = document.tileset().current_index();
-    const bool has_swapped = Arrangement(document.tileset()).run([&editor] { editor.leave_tile(); });
+    const bool has_swapped = Arrangement(document).run([&editor] { editor.leave_tile(); });
     editor.show_current_tile();
     if (document.tileset().current_index() != before) {
         document.strip().show_current();

@@ -33,7 +33,7 @@ Command Tileset_Document::handle_command(Command command) {
     switch (command) {
     case Command::next_tile: return done(tileset_.next());
     case Command::previous_tile: return done(tileset_.previous());
-    case Command::add_new_tile: return done(tileset_.add_tile());
+    case Command::add_new_tile: return done(add_tile());
     case Command::insert_new_tile: return done(insert_tile());
     case Command::delete_tile: return done(delete_tile());
     case Command::rewind_strip:
@@ -54,11 +54,26 @@ Command Tileset_Document::scroll_strip(Command command) {
     return command;
 }
 
+void Tileset_Document::note_new_tile(int index) {
+    if (map_) {
+        map_->tile_inserted(index);
+    }
+}
+
+bool Tileset_Document::add_tile() {
+    if (!tileset_.add_tile()) {
+        return false;
+    }
+    note_new_tile(tileset_.current_index());
+    return true;
+}
+
 bool Tileset_Document::insert_tile() {
     if (!tileset_.insert_tile()) {
         return false;
     }
     history_.tile_inserted(tileset_.current_index());
+    note_new_tile(tileset_.current_index());
     return true;
 }
 
@@ -70,8 +85,43 @@ bool Tileset_Document::delete_tile() {
     const int index = tileset_.current_index();
     if (tileset_.delete_current()) {
         history_.tile_deleted(index, tileset_);
+        if (map_) {
+            map_->tile_deleted(index);
+        }
     }
     return true;
+}
+
+bool Tileset_Document::swap_tiles(int i, int j) {
+    if (!tileset_.swap_tiles(i, j)) {
+        return false;
+    }
+    if (map_) {
+        map_->tiles_swapped(i, j);
+    }
+    return true;
+}
+
+void Tileset_Document::resize_tiles(Size tile_size) {
+    tileset_.resize_all(tile_size);
+    history_.clear();
+    map_desk_.reset();
+}
+
+Edited_Map& Tileset_Document::set_map(Tile_Map map) {
+    map_ = std::make_unique<Edited_Map>(std::move(map));
+    return *map_;
+}
+
+Map_Desk& Tileset_Document::map_desk() {
+    if (!map_desk_) {
+        map_desk_ = std::make_unique<Map_Desk>();
+    }
+    return *map_desk_;
+}
+
+int Tileset_Document::uses_of_current() const {
+    return map_ && tileset_.has_tiles() ? map_->uses_of(tileset_.current_index()) : 0;
 }
 
 } // namespace quadrelle

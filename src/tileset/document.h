@@ -1,15 +1,18 @@
 #pragma once
 
-// One open tileset: its tiles, their history, versions and strip, the file they belong to, and whether they
-// are saved.
+// One open tileset: its tiles, their history, versions and strip, the map that is laid out with them, the
+// file they belong to, and whether they are saved.
 
 #include "commands/command.h"
+#include "map/edited_map.h"
+#include "map/map_desk.h"
 #include "tileset/sheet_export.h"
 #include "tileset/tile_strip.h"
 #include "tileset/tile_versions.h"
 #include "tileset/tileset.h"
 #include "tileset/undo_history.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -31,6 +34,19 @@ public:
     [[nodiscard]] Tile_Versions& versions() { return versions_; }
     [[nodiscard]] Tile_Strip& strip() { return strip_; }
     [[nodiscard]] const Tile_Strip& strip() const { return strip_; }
+    // The map follows the tiles wherever they go; null until there is one.
+    [[nodiscard]] Edited_Map* map() { return map_.get(); }
+    [[nodiscard]] const Edited_Map* map() const { return map_.get(); }
+    // The cells have indices of tiles.
+    Edited_Map& set_map(Tile_Map map);
+    // The file that the map was read from or written to last; empty without one.
+    [[nodiscard]] const std::string& map_file() const { return map_file_; }
+    void set_map_file(const std::string& path) { map_file_ = path; }
+    // What the map editor stands at, from the first time on that it was opened, as long as the tiles have
+    // their size.
+    [[nodiscard]] Map_Desk& map_desk();
+    // Returns how many places of the map the current tile is in.
+    [[nodiscard]] int uses_of_current() const;
     [[nodiscard]] const std::string& file_name() const { return file_name_; }
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
@@ -57,11 +73,18 @@ public:
     // Commands on the current tile, the order of tiles and the strip: the command to record, "Skip command"
     // where it was refused, or none for every other command.
     Command handle_command(Command command);
+    // Answers false for one and the same tile, or where there is none.
+    bool swap_tiles(int i, int j);
+    // Resamples every tile and selects the first; the history is empty then.
+    void resize_tiles(Size tile_size);
 
 private:
     Command scroll_strip(Command command);
+    bool add_tile();
     bool insert_tile();
     bool delete_tile();
+    // A tile stands at that index that was not there before.
+    void note_new_tile(int index);
 
     std::string file_name_;
     Tileset tileset_;
@@ -69,6 +92,9 @@ private:
     Tile_Versions versions_;
     Tile_Strip strip_{tileset_};
     std::optional<Export_Record> last_export_;
+    std::unique_ptr<Edited_Map> map_;
+    std::unique_ptr<Map_Desk> map_desk_;
+    std::string map_file_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

@@ -1,6 +1,6 @@
 #include "views/arrange_select.h"
 
-#include "tileset/tileset.h"
+#include "tileset/document.h"
 #include "ui/modal_dialog.h"
 
 #include <utility>
@@ -13,10 +13,11 @@ constexpr const char* title = "Arrange/Select";
 
 } // namespace
 
-Arrangement::Arrangement(Tileset& tileset) : tileset_(tileset), grid_(title, tileset) {}
+Arrangement::Arrangement(Tileset_Document& document)
+    : document_(document), tileset_(document.tileset()), grid_(title, tileset_) {}
 
-Arrangement::Arrangement(Tileset& tileset, Size cells, Size cell)
-    : tileset_(tileset), grid_(title, tileset, cells, cell) {}
+Arrangement::Arrangement(Tileset_Document& document, Size cells, Size cell)
+    : document_(document), tileset_(document.tileset()), grid_(title, tileset_, cells, cell) {}
 
 bool Arrangement::run(const std::function<void()>& before_change) {
     before_change_ = before_change;
@@ -86,7 +87,7 @@ void Arrangement::swap() {
         return;
     }
     before_change_();
-    if (tileset_.swap_tiles(primary_, secondary_)) {
+    if (document_.swap_tiles(primary_, secondary_)) {
         std::swap(primary_, secondary_);
         has_swapped_ = true;
     }

@@ -13,12 +13,13 @@
 namespace quadrelle {
 
 class Tileset;
+class Tileset_Document;
 
 class Arrangement {
 public:
     // Shows 16 x 16 cells of 32 x 32. Tiles that the grid has no cell for can neither be seen nor picked.
-    explicit Arrangement(Tileset& tileset);
-    Arrangement(Tileset& tileset, Size cells, Size cell);
+    explicit Arrangement(Tileset_Document& document);
+    Arrangement(Tileset_Document& document, Size cells, Size cell);
 
     // Waits until it is closed. `before_change` is called before a swap, and before another tile becomes the
     // current one. Returns true when any swap was made, even one that was taken back.
@@ -34,6 +35,7 @@ private:
     void swap();
     void select_primary();
 
+    Tileset_Document& document_;
     Tileset& tileset_;
     Tile_Grid grid_;
     std::function<void()> before_change_;

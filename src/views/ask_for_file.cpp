@@ -22,7 +22,7 @@ struct File_Dialog_Row {
 };
 
 // clang-format off
-constexpr std::array<File_Dialog_Row, 11> file_dialog_table{{
+constexpr std::array<File_Dialog_Row, 13> file_dialog_table{{
     {File_Dialog_Kind::load_tileset,    {"Load",   File_Direction::open, "Quadrelle file (*.qdl)", "qdl", ""}},
     {File_Dialog_Kind::save_tileset,    {"Save",   File_Direction::save, "Quadrelle file (*.qdl)", "qdl", "qdl"}},
     {File_Dialog_Kind::open_any,        {"Open",   File_Direction::open, "All files (*.*)",        "*",   ""}},
@@ -34,6 +34,8 @@ constexpr std::array<File_Dialog_Row, 11> file_dialog_table{{
     {File_Dialog_Kind::export_hex,      {"Export palette", File_Direction::save, "Hexadecimal colors (*.hex)", "hex", "hex"}},
     {File_Dialog_Kind::export_png_palette, {"Export palette", File_Direction::save, "Picture (*.png)", "png", "png"}},
     {File_Dialog_Kind::export_png,      {"Export", File_Direction::save, "Picture (*.png)", "png", "png"}},
+    {File_Dialog_Kind::import_map,      {"Import", File_Direction::open, "TMX map (*.tmx)",        "tmx", ""}},
+    {File_Dialog_Kind::export_map,      {"Export", File_Direction::save, "Map or picture (*.tmx, *.png, *.bmp)", "*", ""}},
 }};
 // clang-format on
 

@@ -22,6 +22,8 @@ enum class File_Dialog_Kind : std::int32_t {
     export_hex,
     export_png_palette,
     export_png,
+    import_map,
+    export_map,
     count
 };
 

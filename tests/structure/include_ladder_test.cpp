@@ -14,9 +14,9 @@
 namespace quadrelle::testing {
 namespace {
 
-constexpr std::array<std::string_view, 13> ladder{"base",      "color",   "commands", "pixels", "tools",
-                                                  "selection", "tileset", "screen",   "ui",     "canvas",
-                                                  "panes",     "views",   "app"};
+constexpr std::array<std::string_view, 14> ladder{"base",      "color", "commands", "pixels", "tools",
+                                                  "selection", "map",   "tileset",  "screen", "ui",
+                                                  "canvas",    "panes", "views",    "app"};
 
 // Files are named from src/ on. What stands in no folder, main.cpp, is above all.
 struct Include {

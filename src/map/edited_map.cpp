@@ -1,0 +1,134 @@
+#include "map/edited_map.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace quadrelle {
+
+Edited_Map::Edited_Map(Tile_Map map) : map_(std::move(map)) {
+    give_ids();
+}
+
+void Edited_Map::give_ids() {
+    for (Map_Cell& cell : map_.cells()) {
+        if (!cell.is_empty()) {
+            cell = cell.with_tile(ids_.id_of(cell.tile()));
+        }
+    }
+}
+
+Tile_Map Edited_Map::indexed_map() const {
+    Tile_Map result(map_);
+    for (Map_Cell& cell : result.cells()) {
+        cell = indexed(cell);
+    }
+    return result;
+}
+
+std::vector<int> Edited_Map::uses(int tiles) const {
+    std::vector<int> of_ids(static_cast<std::size_t>(ids_.count()) + 1);
+    for (const Map_Cell cell : map_.cells()) {
+        ++of_ids[static_cast<std::size_t>(cell.tile() + 1)];
+    }
+    std::vector<int> uses(static_cast<std::size_t>(tiles));
+    for (int id = 0; id < ids_.count(); ++id) {
+        const int index = ids_.index_of(id);
+        if (index >= 0 && index < tiles) {
+            uses[static_cast<std::size_t>(index)] = of_ids[static_cast<std::size_t>(id) + 1];
+        }
+    }
+    return uses;
+}
+
+int Edited_Map::uses_of(int index) const {
+    return uses(index + 1).back();
+}
+
+void Edited_Map::begin() {
+    give_up();
+    before_ = map_;
+}
+
+void Edited_Map::set(Map_Point point, Map_Cell cell) {
+    map_.set(point, cell);
+    ++version_;
+}
+
+void Edited_Map::restart() {
+    if (before_) {
+        map_ = *before_;
+        ++version_;
+    }
+}
+
+bool Edited_Map::end_step(const Tile_Map& before) {
+    ++version_;
+    return history_.add(before, map_);
+}
+
+bool Edited_Map::commit() {
+    if (!before_) {
+        return false;
+    }
+    const Tile_Map before = *std::exchange(before_, std::nullopt);
+    return end_step(before);
+}
+
+void Edited_Map::give_up() {
+    restart();
+    before_.reset();
+}
+
+bool Edited_Map::resize(const Map_Sides& sides) {
+    give_up();
+    const Tile_Map before = std::exchange(map_, map_.resized(sides));
+    return end_step(before);
+}
+
+bool Edited_Map::replace(Tile_Map map) {
+    give_up();
+    const Tile_Map before = std::exchange(map_, std::move(map));
+    give_ids();
+    return end_step(before);
+}
+
+bool Edited_Map::undo() {
+    give_up();
+    const bool is_done = history_.undo(map_);
+    empty_gone();
+    return is_done;
+}
+
+bool Edited_Map::redo() {
+    give_up();
+    const bool is_done = history_.redo(map_);
+    empty_gone();
+    return is_done;
+}
+
+bool Edited_Map::take_back() {
+    give_up();
+    const bool is_done = history_.take_back(map_);
+    empty_gone();
+    return is_done;
+}
+
+int Edited_Map::tile_deleted(int index) {
+    give_up();
+    ids_.deleted(index);
+    return empty_gone();
+}
+
+int Edited_Map::empty_gone() {
+    int count = 0;
+    for (Map_Cell& cell : map_.cells()) {
+        if (!cell.is_empty() && ids_.index_of(cell.tile()) < 0) {
+            cell = {};
+            ++count;
+        }
+    }
+    ++version_;
+    return count;
+}
+
+} // namespace quadrelle

@@ -1,0 +1,75 @@
+#pragma once
+
+// A map of a set while it is edited: its cells, what names their tiles, and its history. A gesture, from a
+// press to the release, is one step.
+
+#include "map/map_history.h"
+#include "map/tile_ids.h"
+#include "map/tile_map.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace quadrelle {
+
+class Edited_Map {
+public:
+    // The cells have the indices of tiles.
+    explicit Edited_Map(Tile_Map map);
+
+    // The cells have ids, of tiles that are there.
+    [[nodiscard]] const Tile_Map& map() const { return map_; }
+    [[nodiscard]] Tile_Ids& ids() { return ids_; }
+    [[nodiscard]] const Tile_Ids& ids() const { return ids_; }
+    // Returns the cell, or the map, with indices.
+    [[nodiscard]] Map_Cell indexed(Map_Cell cell) const { return cell.with_tile(ids_.index_of(cell.tile())); }
+    [[nodiscard]] Tile_Map indexed_map() const;
+    // Counts each change of the cells.
+    [[nodiscard]] std::uint64_t version() const { return version_; }
+    // Returns how often each of so many tiles is in the map.
+    [[nodiscard]] std::vector<int> uses(int tiles) const;
+    [[nodiscard]] int uses_of(int index) const;
+
+    // What is set from here on until the end is one step.
+    void begin();
+    [[nodiscard]] bool is_in_gesture() const { return before_.has_value(); }
+    void set(Map_Point point, Map_Cell cell);
+    // The cells are as they were at the beginning; the gesture goes on.
+    void restart();
+    // Ends the gesture. False when nothing is different.
+    bool commit();
+    // Ends it with the cells as they were.
+    void give_up();
+
+    // Each is a step of its own, and false when nothing is different. A size must be one of a map.
+    bool resize(const Map_Sides& sides);
+    // The cells have indices.
+    bool replace(Tile_Map map);
+
+    bool undo();
+    bool redo();
+    // Takes the newest step back as if it had never been.
+    bool take_back();
+    [[nodiscard]] const Map_History& history() const { return history_; }
+
+    // The tiles of the set have changed places: the map shows the same pictures. Returns how many cells a
+    // deleted tile has emptied.
+    void tile_inserted(int index) { ids_.inserted(index); }
+    void tiles_swapped(int index, int other) { ids_.swapped(index, other); }
+    int tile_deleted(int index);
+
+private:
+    // Cells of tiles that are gone become empty; returns how many.
+    int empty_gone();
+    void give_ids();
+    bool end_step(const Tile_Map& before);
+
+    Tile_Ids ids_;
+    Tile_Map map_;
+    std::optional<Tile_Map> before_;
+    Map_History history_;
+    std::uint64_t version_ = 0;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,126 @@
+#include "map/map_painter.h"
+
+#include "color/standard_colors.h"
+#include "color/translucency.h"
+
+#include <algorithm>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Color surround = standard_color(Standard_Color::dark_frame);
+constexpr int checker_edge = 6;
+constexpr Color grid_color{0, 0, 0, 90};
+// In smaller cells lines would hide more than they show.
+constexpr int smallest_cell_with_grid = 8;
+
+bool has_room_for_grid(const Map_Camera& camera) {
+    const Rectangle cell = camera.area_of({0, 0, 1, 1});
+    return std::min(cell.width, cell.height) >= smallest_cell_with_grid;
+}
+
+void darken(Color& pixel) {
+    pixel = blended_over(grid_color, pixel);
+}
+
+} // namespace
+
+void Map_Picture::set(Map_Point point, Map_Cell cell) {
+    if (area.contains({point.x, point.y})) {
+        cells[static_cast<std::size_t>((point.y - area.y) * area.width + point.x - area.x)] = cell;
+    }
+}
+
+void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& part) {
+    const Map_Camera& camera = picture.camera;
+    stretches_.clear();
+    tile_x_.assign(static_cast<std::size_t>(part.width), 0);
+    for (int kind = 0; kind < 2; ++kind) {
+        std::vector<Color>& checkers = checkers_[static_cast<std::size_t>(kind)];
+        checkers.clear();
+        for (int x = part.x; x < part.right(); ++x) {
+            checkers.push_back(checkerboard_color(x, kind * checker_edge, {checker_edge, checker_edge}));
+        }
+    }
+    for (int i = 0; i < picture.area.width; ++i) {
+        const int column = picture.area.x + i;
+        const Rectangle cell = camera.area_of({column, picture.area.y, 1, 1});
+        const int begin = std::max(cell.x - part.x, 0);
+        const int end = std::min(cell.right() - part.x, part.width);
+        if (begin >= end) {
+            continue;
+        }
+        stretches_.push_back({i, begin, end, cell.x >= part.x});
+        for (int x = begin; x < end; ++x) {
+            tile_x_[static_cast<std::size_t>(x)] =
+                camera.pixel_at({part.x + x, 0}).x - column * camera.tile().width;
+        }
+    }
+}
+
+void Map_Painter::paint(const Map_Picture& picture, const Rectangle& part, const Pixel_Rows& target) {
+    const Map_Camera& camera = picture.camera;
+    find_stretches(picture, part);
+    const Cell_Pixels pixels(picture.tiles);
+    const bool has_grid = picture.grid == Map_Grid::shown && has_room_for_grid(camera);
+    const int end = stretches_.empty() ? 0 : stretches_.back().end;
+    int row_above = camera.cell_at({0, part.y - 1}).y;
+    for (int y = 0; y < part.height; ++y) {
+        Color* const row = target.row(y);
+        const int cell_row = camera.cell_at({0, part.y + y}).y;
+        const bool is_inside = cell_row >= picture.area.y && cell_row < picture.area.bottom() && end > 0;
+        std::fill_n(row, is_inside ? stretches_.front().begin : part.width, surround);
+        if (is_inside) {
+            std::fill(row + end, row + part.width, surround);
+            const int tile_y = camera.pixel_at({0, part.y + y}).y - cell_row * camera.tile().height;
+            paint_row(picture.row(cell_row), pixels, tile_y, part.y + y, row);
+        }
+        if (is_inside && has_grid) {
+            paint_grid(cell_row != row_above, row);
+        }
+        row_above = cell_row;
+    }
+}
+
+void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
+    for (const Stretch& stretch : stretches_) {
+        const int end = is_cell_edge ? stretch.end : stretch.begin + (stretch.has_edge ? 1 : 0);
+        std::for_each(row + stretch.begin, row + end, darken);
+    }
+}
+
+void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels& pixels, int tile_y, int y,
+                            Color* row) const {
+    const Color* const checkers = checkers_[static_cast<std::size_t>(y / checker_edge % 2)].data();
+    for (const Stretch& stretch : stretches_) {
+        const Oriented_Pixels from = pixels.of(cells[stretch.column]);
+        if (from.first == nullptr) {
+            std::copy(checkers + stretch.begin, checkers + stretch.end, row + stretch.begin);
+            continue;
+        }
+        const Color* const line = from.first + tile_y * from.step_y;
+        for (int x = stretch.begin; x < stretch.end; ++x) {
+            row[x] = blended_over(line[tile_x_[static_cast<std::size_t>(x)] * from.step_x], checkers[x]);
+        }
+    }
+}
+
+Tile map_picture(const Tile_Map& map, Tile_Pictures tiles, Size tile) {
+    Tile picture(map.size().width * tile.width, map.size().height * tile.height);
+    const Cell_Pixels cell_pixels(tiles);
+    picture.change_pixels([&](std::span<Color> pixels) {
+        for (int y = 0; y < picture.height(); ++y) {
+            Color* pixel = pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width();
+            for (const Map_Cell cell : map.row(y / tile.height)) {
+                const Oriented_Pixels from = cell_pixels.of(cell);
+                for (int x = 0; x < tile.width; ++x) {
+                    *pixel++ = from.first == nullptr ? Color{0, 0, 0, 0} : from.at(x, y % tile.height);
+                }
+            }
+        }
+    });
+    return picture;
+}
+
+} // namespace quadrelle

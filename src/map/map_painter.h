@@ -1,0 +1,58 @@
+#pragma once
+
+// Composes the picture of a map in memory. Knows neither window nor events.
+
+#include "color/pixel_rows.h"
+#include "map/map_camera.h"
+#include "map/oriented_tile.h"
+#include "map/tile_map.h"
+
+#include <array>
+#include <vector>
+
+namespace quadrelle {
+
+enum class Map_Grid { hidden, shown };
+
+// What is seen of a map.
+struct Map_Picture {
+    Map_Camera camera;
+    Tile_Pictures tiles;
+    Map_Grid grid = Map_Grid::shown;
+    Rectangle area = {};              // the cells that are seen
+    std::vector<Map_Cell> cells = {}; // row by row, with the indices of tiles
+
+    [[nodiscard]] const Map_Cell* row(int y) const {
+        return cells.data() + static_cast<std::ptrdiff_t>(y - area.y) * area.width;
+    }
+    // Nothing happens to a cell that is not seen.
+    void set(Map_Point point, Map_Cell cell);
+};
+
+class Map_Painter {
+public:
+    // Writes every pixel of that part of the view, all opaque; `target` is as large as the part.
+    void paint(const Map_Picture& picture, const Rectangle& part, const Pixel_Rows& target);
+
+private:
+    // The pixels in a row of the part that show one column of cells.
+    struct Stretch {
+        int column = 0;
+        int begin = 0;
+        int end = 0;
+        bool has_edge = false; // the cell begins there too
+    };
+    void find_stretches(const Map_Picture& picture, const Rectangle& part);
+    void paint_row(const Map_Cell* cells, const Cell_Pixels& pixels, int tile_y, int y, Color* row) const;
+    void paint_grid(bool is_cell_edge, Color* row) const;
+
+    std::vector<Stretch> stretches_;
+    // Of rows of both kinds, squares that begin dark and squares that begin light.
+    std::array<std::vector<Color>, 2> checkers_;
+    std::vector<int> tile_x_; // which pixel of its tile each pixel of a row shows
+};
+
+// Returns the whole map in its real size; empty cells are transparent black. The cells have indices.
+[[nodiscard]] Tile map_picture(const Tile_Map& map, Tile_Pictures tiles, Size tile);
+
+} // namespace quadrelle

@@ -1,0 +1,44 @@
+#include "map/oriented_tile.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace quadrelle {
+
+Oriented_Pixels oriented(const Tile& tile, Orientation orientation) {
+    const std::ptrdiff_t width = tile.width();
+    Oriented_Pixels pixels{tile.pixels().data(), 1, width};
+    if (orientation.is_swapped && tile.width() == tile.height()) {
+        std::swap(pixels.step_x, pixels.step_y);
+    }
+    if (orientation.is_mirrored) {
+        pixels.first += pixels.step_x * (width - 1);
+        pixels.step_x = -pixels.step_x;
+    }
+    if (orientation.is_flipped) {
+        pixels.first += pixels.step_y * (tile.height() - 1);
+        pixels.step_y = -pixels.step_y;
+    }
+    return pixels;
+}
+
+Oriented_Pixels pixels_of(Map_Cell cell, Tile_Pictures tiles) {
+    const int index = cell.tile();
+    if (index < 0 || index >= static_cast<int>(tiles.size())) {
+        return {};
+    }
+    return oriented(*tiles[static_cast<std::size_t>(index)], cell.orientation());
+}
+
+Cell_Pixels::Cell_Pixels(Tile_Pictures tiles) {
+    for (const Tile* tile : tiles) {
+        first_pixels_.push_back(tile->pixels().data());
+    }
+    for (std::uint32_t i = 0; i < steps_.size() && !tiles.empty(); ++i) {
+        const Map_Cell cell = Map_Cell::of_word((i << 29U) | 1U);
+        const Oriented_Pixels pixels = oriented(*tiles.front(), cell.orientation());
+        steps_[i] = {pixels.first - first_pixels_.front(), pixels.step_x, pixels.step_y};
+    }
+}
+
+} // namespace quadrelle

@@ -1,0 +1,56 @@
+#pragma once
+
+// The pixels of a tile as a cell of a map shows them.
+
+#include "map/map_cell.h"
+#include "pixels/tile.h"
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace quadrelle {
+
+// The pixel at (x, y) of the cell is `first[x * step_x + y * step_y]`.
+struct Oriented_Pixels {
+    const Color* first = nullptr; // none for a cell that shows nothing
+    std::ptrdiff_t step_x = 0;
+    std::ptrdiff_t step_y = 0;
+
+    [[nodiscard]] Color at(int x, int y) const { return first[x * step_x + y * step_y]; }
+};
+
+// A tile that is not square is not turned: its columns and rows stay.
+[[nodiscard]] Oriented_Pixels oriented(const Tile& tile, Orientation orientation);
+
+// The cell has an index; of one that no tile has there is nothing to show.
+using Tile_Pictures = std::span<const Tile* const>;
+[[nodiscard]] Oriented_Pixels pixels_of(Map_Cell cell, Tile_Pictures tiles);
+
+// The same for many cells: what all tiles have in common is found once.
+class Cell_Pixels {
+public:
+    explicit Cell_Pixels(Tile_Pictures tiles);
+
+    [[nodiscard]] Oriented_Pixels of(Map_Cell cell) const {
+        const auto index = static_cast<std::size_t>(cell.tile());
+        if (index >= first_pixels_.size()) {
+            return {};
+        }
+        const Orientation_Steps& steps = steps_[cell.orientation_index()];
+        return {first_pixels_[index] + steps.first, steps.step_x, steps.step_y};
+    }
+
+private:
+    struct Orientation_Steps {
+        std::ptrdiff_t first = 0;
+        std::ptrdiff_t step_x = 0;
+        std::ptrdiff_t step_y = 0;
+    };
+
+    std::vector<const Color*> first_pixels_;
+    std::array<Orientation_Steps, Map_Cell::orientation_count> steps_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,83 @@
+#pragma once
+
+// Cells in columns and rows. Knows neither tiles nor the window.
+
+#include "base/geometry.h"
+#include "map/map_cell.h"
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace quadrelle {
+
+constexpr int largest_map_edge = 1000;
+
+// A cell of a map; it may lie outside of the map.
+struct Map_Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Map_Point&) const = default;
+};
+
+// How many columns and rows are added at each side; fewer than none are taken away.
+struct Map_Sides {
+    int left = 0;
+    int top = 0;
+    int right = 0;
+    int bottom = 0;
+
+    bool operator==(const Map_Sides&) const = default;
+};
+
+[[nodiscard]] constexpr bool is_map_size(Size size) {
+    return size.width >= 1 && size.height >= 1 && size.width <= largest_map_edge &&
+           size.height <= largest_map_edge;
+}
+
+[[nodiscard]] constexpr Size resized(Size size, const Map_Sides& sides) {
+    return {size.width + sides.left + sides.right, size.height + sides.top + sides.bottom};
+}
+
+class Tile_Map {
+public:
+    // Every cell is empty. The size must be one of a map.
+    explicit Tile_Map(Size size);
+
+    [[nodiscard]] Size size() const { return size_; }
+    [[nodiscard]] Rectangle area() const { return {0, 0, size_.width, size_.height}; }
+    [[nodiscard]] bool contains(Map_Point point) const { return area().contains({point.x, point.y}); }
+    // Nothing lies outside.
+    [[nodiscard]] Map_Cell at(Map_Point point) const {
+        return contains(point) ? cells_[offset(point)] : Map_Cell();
+    }
+    // Nothing happens outside.
+    void set(Map_Point point, Map_Cell cell) {
+        if (contains(point)) {
+            cells_[offset(point)] = cell;
+        }
+    }
+    // Row by row from the top.
+    [[nodiscard]] std::span<const Map_Cell> cells() const { return cells_; }
+    [[nodiscard]] std::span<Map_Cell> cells() { return cells_; }
+    [[nodiscard]] std::span<const Map_Cell> row(int y) const {
+        return cells().subspan(offset({0, y}), static_cast<std::size_t>(size_.width));
+    }
+
+    // The size that comes of it must be one of a map.
+    [[nodiscard]] Tile_Map resized(const Map_Sides& sides) const;
+
+    bool operator==(const Tile_Map&) const = default;
+
+private:
+    [[nodiscard]] std::size_t offset(Map_Point point) const {
+        return static_cast<std::size_t>(point.y) * static_cast<std::size_t>(size_.width) +
+               static_cast<std::size_t>(point.x);
+    }
+
+    Size size_;
+    std::vector<Map_Cell> cells_;
+};
+
+} // namespace quadrelle

@@ -1,0 +1,105 @@
+#pragma once
+
+// "Map editor": a map of the set's tiles is laid out over the whole window.
+
+#include "base/input.h"
+#include "map/edited_map.h"
+#include "map/map_desk.h"
+#include "screen/events.h"
+#include "ui/text_pane.h"
+#include "views/map_actions.h"
+#include "views/map_gestures.h"
+#include "views/map_tile_list.h"
+#include "views/map_view.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle {
+
+class Tileset;
+class Tileset_Document;
+
+// What the map editor leaves to others.
+struct Map_Editor_Links {
+    std::function<void()> note_change; // the map is another one than before
+    std::function<std::string()> save; // returns what came of it
+};
+
+// A place of the map that the user went to, and the tile there.
+struct Map_Visit {
+    Map_Point place;
+    int tile = 0;
+};
+
+class Map_Editor {
+public:
+    // Borrows both. The document has a map, and tiles with pixels.
+    Map_Editor(Tileset_Document& document, const Map_Editor_Links& links);
+
+    // Waits until it is closed.
+    [[nodiscard]] std::optional<Map_Visit> run();
+
+private:
+    void draw();
+    void draw_outlines() const;
+    void draw_hint() const;
+    [[nodiscard]] std::string info();
+    [[nodiscard]] Map_Button_State state_of(Map_Action action) const;
+    [[nodiscard]] Map_Pattern pattern(Map_Point anchor) const;
+    [[nodiscard]] Map_Overlay overlay() const;
+    [[nodiscard]] bool is_over_map() const;
+    [[nodiscard]] Map_Point cell_at(Point point) const;
+    [[nodiscard]] Map_Camera& camera() const { return *desk_.camera; }
+    [[nodiscard]] Map_Gesture gesture();
+
+    Loop_Step handle(const Input_Event& event);
+    Loop_Step handle_key(const Input_Event& event);
+    bool pan_by_key(Key_Chord chord);
+    void turn_wheel(const Input_Event& event);
+    Loop_Step press(const Input_Event& event);
+    void press_on_list(const Input_Event& event);
+    Loop_Step press_on_map(const Input_Event& event);
+    void place(Map_Point cell);
+    void take_stamp(Map_Point cell);
+    void pan();
+    Loop_Step visit(Map_Point cell, bool has_placed);
+
+    Loop_Step act(Map_Action action);
+    void toggle(Stamp_Use use);
+    void change_stamp(Stamp_Change change);
+    void zoom(int steps, Point about);
+    void change_size();
+    void import();
+    void report_export();
+    void note_change_if(bool is_changed, std::string_view otherwise);
+    void choose(int tile);
+    // All between the two in the list, as a whole.
+    void choose_to(int tile, int other);
+
+    Tileset_Document& document_;
+    const Tileset& tileset_;
+    Edited_Map& map_;
+    Map_Desk& desk_;
+    const Map_Editor_Links& links_;
+    Text_Pane pane_;
+    Map_Buttons buttons_;
+    Map_Tile_List list_;
+    Map_View view_;
+    Point pointer_{-1, -1};
+    Map_Point position_;             // the cell that the pointer was on last
+    std::string report_;             // until the pointer moves
+    std::optional<Rectangle> taken_; // the cells that a drag takes
+    bool is_placing_ = false;
+    std::optional<Map_Point> last_press_; // of the left button
+    std::optional<Map_Point> placed_;     // by it, without a drag
+    std::vector<int> uses_;
+    std::optional<std::uint64_t> uses_version_;
+    std::optional<Map_Visit> visit_;
+};
+
+} // namespace quadrelle

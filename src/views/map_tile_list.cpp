@@ -1,0 +1,90 @@
+#include "views/map_tile_list.h"
+
+#include "base/fitting.h"
+#include "color/standard_colors.h"
+#include "screen/screen.h"
+#include "tileset/tileset.h"
+#include "ui/checkerboard.h"
+#include "views/map_layout.h"
+
+#include <algorithm>
+#include <string>
+
+namespace quadrelle {
+
+namespace {
+
+using namespace map_layout;
+
+constexpr int cells_in_view = list_columns * list_rows;
+
+} // namespace
+
+Map_Tile_List::Map_Tile_List(const Tileset& tileset)
+    : tileset_(tileset), pane_(below_title(tiles), "Tiles"),
+      checkerboard_(make_checkerboard({list.width, list.height})), shown_(cells_in_view) {}
+
+int Map_Tile_List::tile_at(Point point) const {
+    if (!list.contains(point)) {
+        return -1;
+    }
+    const int column = (point.x - list.x) / list_cell;
+    const int row = (point.y - list.y) / list_cell;
+    const int tile = (first_row_ + row) * list_columns + column;
+    return tile < tileset_.count() ? tile : -1;
+}
+
+Size Map_Tile_List::rectangle_between(int tile, int other, std::vector<int>& tiles) const {
+    const auto [left, right] = std::minmax({tile % list_columns, other % list_columns});
+    const auto [top, bottom] = std::minmax({tile / list_columns, other / list_columns});
+    for (int row = top; row <= bottom; ++row) {
+        for (int column = left; column <= right; ++column) {
+            const int index = row * list_columns + column;
+            tiles.push_back(index < tileset_.count() ? index : -1);
+        }
+    }
+    return {right - left + 1, bottom - top + 1};
+}
+
+int Map_Tile_List::scroll_to(int row) {
+    const int rows = (tileset_.count() + list_columns - 1) / list_columns;
+    first_row_ = std::clamp(row, 0, std::max(rows - list_rows, 0));
+    return first_row_;
+}
+
+void Map_Tile_List::bring_into_view(int tile) {
+    const int row = tile / list_columns;
+    scroll_to(std::clamp(first_row_, row - list_rows + 1, row));
+}
+
+Rectangle Map_Tile_List::cell_of(int tile) const {
+    const int cell = tile - first_row_ * list_columns;
+    return {list.x + cell % list_columns * list_cell, list.y + cell / list_columns * list_cell, list_cell,
+            list_cell};
+}
+
+void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::string_view info) {
+    pane_.draw();
+    screen->draw_texture(*checkerboard_, corner_of(list));
+    const int first = first_row_ * list_columns;
+    const int end = std::min(tileset_.count(), first + cells_in_view);
+    const Size shown = fitted(tileset_.tile_size(), {list_cell - 2, list_cell - 2});
+    for (int tile = first; tile < end; ++tile) {
+        const Rectangle cell = cell_of(tile);
+        shown_[static_cast<std::size_t>(tile - first)].draw(tileset_.tile_at(tile), centred(shown, cell));
+        const int weight = weight_of(tile);
+        if (weight > 0) {
+            screen->draw_outline(cell, standard_color(Standard_Color::black));
+            screen->draw_outline(cell.inset(1), standard_color(Standard_Color::highlight));
+        }
+        if (weight > 1) {
+            const std::string text = std::to_string(weight);
+            const int width = screen->text_width(Font::pane, text) + 4;
+            screen->fill_rect({cell.right() - width - 2, cell.y + 2, width, 17}, {0, 0, 0, 170});
+            screen->draw_text(Font::pane, {cell.right() - width, cell.y}, text);
+        }
+    }
+    screen->draw_text(Font::pane, map_layout::info, info);
+}
+
+} // namespace quadrelle

@@ -1,0 +1,46 @@
+#pragma once
+
+// The tiles of the set beside the map, row by row, some of them chosen, and the lines below them.
+
+#include "map/tile_map.h"
+#include "ui/shown_tile.h"
+#include "ui/text_pane.h"
+
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace quadrelle {
+
+class Tileset;
+
+class Map_Tile_List {
+public:
+    // The set is borrowed.
+    explicit Map_Tile_List(const Tileset& tileset);
+
+    // Returns the tile at that place of the window, or -1.
+    [[nodiscard]] int tile_at(Point point) const;
+    // Returns the tiles between two, as a rectangle of the list; -1 where there is none.
+    [[nodiscard]] Size rectangle_between(int tile, int other, std::vector<int>& tiles) const;
+    // Stops at both ends. Returns the first row that is seen.
+    int scroll_to(int row);
+    void scroll(int rows) { scroll_to(first_row_ + rows); }
+    [[nodiscard]] int first_row() const { return first_row_; }
+    void bring_into_view(int tile);
+
+    // `weight_of` a tile is 0 where it is not chosen; others than 1 are shown.
+    void draw(const std::function<int(int tile)>& weight_of, std::string_view info);
+
+private:
+    [[nodiscard]] Rectangle cell_of(int tile) const;
+
+    const Tileset& tileset_;
+    Text_Pane pane_;
+    std::unique_ptr<Texture> checkerboard_;
+    std::vector<Shown_Tile> shown_;
+    int first_row_ = 0;
+};
+
+} // namespace quadrelle

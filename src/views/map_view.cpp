@@ -1,0 +1,68 @@
+#include "views/map_view.h"
+
+#include "tileset/tileset.h"
+#include "views/map_layout.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Rectangle area = map_layout::view;
+
+} // namespace
+
+Map_View::Map_View(const Edited_Map& map, const Tileset& tileset)
+    : map_(map), tiles_(tileset.tiles()), texture_({area.width, area.height}) {}
+
+Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay) const {
+    const Tile_Map& map = map_.map();
+    Map_Picture picture{camera, tiles_, grid, camera.seen_cells(map.size()), {}};
+    const Rectangle& seen = picture.area;
+    picture.cells.reserve(static_cast<std::size_t>(seen.width) * static_cast<std::size_t>(seen.height));
+    for (int y = seen.y; y < seen.bottom(); ++y) {
+        for (const Map_Cell cell :
+             map.row(y).subspan(static_cast<std::size_t>(seen.x), static_cast<std::size_t>(seen.width))) {
+            picture.cells.push_back(map_.indexed(cell));
+        }
+    }
+    for (const Map_Overlay::Place& place : overlay.places) {
+        picture.set(place.point, map_.indexed(place.cell));
+    }
+    return picture;
+}
+
+Rectangle Map_View::changed_part(const Map_Picture& picture) const {
+    const Rectangle whole{0, 0, area.width, area.height};
+    if (!shown_ || shown_->camera != picture.camera || shown_->grid != picture.grid ||
+        shown_->area != picture.area) {
+        return whole;
+    }
+    Rectangle cells;
+    for (int y = 0; y < picture.area.height; ++y) {
+        const Map_Cell* const row = picture.row(picture.area.y + y);
+        const Map_Cell* const before = shown_->row(picture.area.y + y);
+        const int first = static_cast<int>(std::mismatch(row, row + picture.area.width, before).first - row);
+        int end = picture.area.width;
+        while (end > first && row[end - 1] == before[end - 1]) {
+            --end;
+        }
+        cells = bounds_of(cells, {picture.area.x + first, picture.area.y + y, end - first, 1});
+    }
+    return cells.is_empty() ? Rectangle{} : intersection(picture.camera.area_of(cells), whole);
+}
+
+void Map_View::draw(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay) {
+    Map_Picture picture = picture_of(camera, grid, overlay);
+    const Rectangle part = changed_part(picture);
+    if (!part.is_empty()) {
+        texture_.update_part(part, [&](const Pixel_Rows& target) { painter_.paint(picture, part, target); });
+    }
+    shown_ = std::move(picture);
+    texture_.draw_at(corner_of(area));
+}
+
+} // namespace quadrelle

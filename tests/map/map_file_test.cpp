@@ -1,0 +1,185 @@
+#include "map/map_file.h"
+#include "map/map_code.h"
+#include "map/tmx.h"
+#include "tests/support/files.h"
+#include "tests/support/tiles.h"
+#include "tileset/document_file.h"
+
+namespace quadrelle::testing {
+namespace {
+
+Tile_Map random_map(Size size, int tiles, unsigned seed) {
+    std::mt19937 random(seed);
+    Tile_Map map(size);
+    for (Map_Cell& cell : map.cells()) {
+        const int tile = static_cast<int>(random() % static_cast<unsigned>(tiles + 1));
+        const unsigned bits = random() % 8;
+        cell = tile == tiles ? Map_Cell() : Map_Cell(tile, {bits % 2 == 1, bits / 2 % 2 == 1, bits > 3});
+    }
+    return map;
+}
+
+TEST(Map_File, gives_every_map_back) {
+    for (const auto& [size, tiles] :
+         {std::pair(Size{1, 1}, 1), std::pair(Size{7, 3}, 1), std::pair(Size{60, 40}, 30),
+          std::pair(Size{1000, 1000}, most_mapped_tiles)}) {
+        const Tile_Map map = random_map(size, tiles, 1);
+        EXPECT_EQ(decode_map(encode_map(map)), map);
+    }
+    EXPECT_LT(encode_map(Tile_Map({1000, 1000})).size(), 100U);
+}
+
+TEST(Map_File, what_is_broken_is_no_map) {
+    const Bytes whole = encode_map(random_map({5, 4}, 300, 2));
+    for (std::size_t length = 0; length < whole.size(); ++length) {
+        EXPECT_FALSE(decode_map(std::span(whole).first(length))) << length;
+    }
+    for (std::size_t i = 0; i < whole.size(); ++i) {
+        Bytes bytes = whole;
+        bytes[i] ^= 0x10U;
+        EXPECT_FALSE(decode_map(bytes)) << i;
+    }
+    EXPECT_FALSE(decode_map(encode_map([] {
+        Tile_Map map({1, 1});
+        map.set({0, 0}, Map_Cell(most_mapped_tiles));
+        return map;
+    }())));
+}
+
+// Bytes at random behind a right head: nothing outside of them is read, whatever they say.
+TEST(Map_Code, any_bytes_are_read_without_harm) {
+    std::mt19937 random(5);
+    for (int i = 0; i < 3000; ++i) {
+        Bytes bytes(random() % 40);
+        for (std::uint8_t& byte : bytes) {
+            byte = static_cast<std::uint8_t>(random() % 3 == 0 ? random() : random() % 4);
+        }
+        std::vector<Map_Cell> cells(random() % 50);
+        Map_Code_Reader reader(bytes);
+        reader.cells(cells);
+        EXPECT_TRUE(reader.has_failed() || reader.is_at_end() || reader.number() < 0xffffffffU);
+    }
+}
+
+class Map_Beside_Set : public ::testing::Test {
+protected:
+    [[nodiscard]] std::unique_ptr<Tileset_Document> made_document() const {
+        Tileset tileset({3, 2});
+        tileset.add_tile();
+        tileset.add_tile();
+        auto document = std::make_unique<Tileset_Document>("untitled", std::move(tileset));
+        document->set_file(path);
+        document->set_map(map);
+        return document;
+    }
+
+    Temporary_Folder folder;
+    std::string path = folder.path("level.qdl");
+    std::string map_file = folder.path("level.map");
+    Tile_Map map = random_map({6, 5}, 2, 3);
+};
+
+TEST_F(Map_Beside_Set, is_saved_and_loaded_with_it) {
+    EXPECT_EQ(save_document(*made_document()), Save_Outcome::saved);
+    EXPECT_EQ(folder.entry_count(), 2);
+    const auto loaded = load_document(path);
+    EXPECT_EQ(loaded->map()->indexed_map(), map);
+    EXPECT_FALSE(replaces_strange_map(*loaded, path));
+    EXPECT_TRUE(replaces_strange_map(*made_document(), path));
+}
+
+TEST_F(Map_Beside_Set, never_hinders_loading_and_is_not_lost_where_it_cannot_be_read) {
+    ASSERT_EQ(save_document(*made_document()), Save_Outcome::saved);
+    const Bytes whole = stored(map_file);
+    for (const Bytes& bytes : {Bytes{}, Bytes{'x'}, Bytes(whole.begin(), whole.end() - 1)}) {
+        store(map_file, bytes);
+        const auto loaded = load_document(path);
+        ASSERT_NE(loaded, nullptr);
+        EXPECT_EQ(loaded->map(), nullptr);
+        EXPECT_TRUE(has_unreadable_map(*loaded));
+        EXPECT_EQ(save_document(*loaded), Save_Outcome::saved);
+        EXPECT_EQ(stored(map_file), bytes);
+        loaded->set_map(map);
+        EXPECT_TRUE(replaces_strange_map(*loaded, path));
+    }
+    std::filesystem::remove(native(map_file));
+    const auto loaded = load_document(path);
+    EXPECT_EQ(loaded->map(), nullptr);
+    EXPECT_FALSE(has_unreadable_map(*loaded));
+}
+
+TEST_F(Map_Beside_Set, is_as_it_was_where_saving_fails) {
+    const auto document = made_document();
+    document->set_map(Tile_Map({1, 1}));
+    int failures = 0;
+    for (bool is_reached = true; is_reached; ++failures) {
+        ASSERT_EQ(save_document(*made_document()), Save_Outcome::saved);
+        const Bytes old_map = stored(map_file);
+        const Fault fault(failures);
+        const Save_Outcome outcome = save_document(*document);
+        is_reached = Fault::is_reached();
+        EXPECT_EQ(stored(map_file) == old_map, outcome != Save_Outcome::saved);
+        EXPECT_EQ(folder.entry_count(), 2);
+    }
+    EXPECT_GE(failures, 8);
+    EXPECT_EQ(load_document(path)->map()->map().size(), (Size{1, 1}));
+}
+
+TEST(Tmx, gives_every_map_back) {
+    const Tmx_Tileset tileset{"a <set> & \"more\"", "level.png", {8, 8}, 30, 16};
+    const Tile_Map map = random_map({60, 40}, 30, 4);
+    const Read_Tmx read = read_tmx(tmx_text(map, tileset), {8, 8}, 30);
+    EXPECT_EQ(read.fault, "");
+    EXPECT_EQ(read.map, map);
+}
+
+struct Tmx_Row {
+    std::string part;
+    std::string instead;
+    std::string fault;
+};
+
+TEST(Tmx, says_why_a_map_does_not_fit) {
+    Tile_Map map({2, 1});
+    map.set({0, 0}, Map_Cell(1, {true, false, false}));
+    const std::string text = tmx_text(map, {"set", "set.png", {8, 8}, 2, 2});
+    const std::vector<Tmx_Row> rows{
+        {"536870914,0", "1,\n 2\n", ""},
+        {"width=\"2\"", "width = '2' other=\"a>b\"", ""},
+        {"<?xml", "<!-- <map> --><?xml", ""},
+        {"firstgid=\"1\"", "firstgid=\"2\"", ""},
+        {"536870914,0", "3,0", "It has tiles that this set does not have."},
+        {"536870914,0", "1", "It has fewer cells than its size says."},
+        {"536870914,0", "1,0,0", "It has more cells than its size says."},
+        {"536870914,0", "1,x", "A cell is no number."},
+        {"536870914,0", "1,-1", "A cell is no number."},
+        {"536870914,0", "99999999999,1", "A cell is no number."},
+        {"\"csv\"", "\"base64\"", "Its layer is not written as numbers between commas (CSV)."},
+        {"</layer>", "</layer><layer>", "It has several layers."},
+        {"<layer", "<tileset firstgid=\"9\"/><layer", "It has tiles of several sets."},
+        {"orthogonal", "isometric", "Its cells are not in straight rows and columns."},
+        {"infinite=\"0\"", "infinite=\"1\"", "It has no fixed size."},
+        {"width=\"2\"", "width=\"1001\"", "Its size is not from 1 x 1 to 1000 x 1000."},
+        {"width=\"2\"", "width=\"99999999999\"", "Its size is not from 1 x 1 to 1000 x 1000."},
+        {"tilewidth=\"8\"", "tilewidth=\"9\"", "Its tiles are 9 x 8 pixels, those of this set 8 x 8."},
+        {"<map", "<nothing", "It is no map."},
+        {"</map>", "", "It is no whole map."},
+        {"<data", "<other", "It has no layer of tiles."},
+    };
+    for (const Tmx_Row& row : rows) {
+        SCOPED_TRACE(row.part + " becomes " + row.instead);
+        std::string changed = text;
+        changed.replace(changed.find(row.part), row.part.size(), row.instead);
+        const Read_Tmx read = read_tmx(changed, {8, 8}, 2);
+        EXPECT_EQ(read.fault, row.fault);
+        EXPECT_EQ(read.map.has_value(), row.fault.empty());
+    }
+    EXPECT_EQ(read_tmx(text, {8, 8}, 2).map, map);
+    EXPECT_FALSE(read_tmx(tmx_text(map, {"set", "set.png", {8, 4}, 2, 2}), {8, 4}, 2).map);
+    for (std::size_t length = 0; length < text.size() - 2; ++length) {
+        EXPECT_FALSE(read_tmx(text.substr(0, length), {8, 8}, 2).map) << length;
+    }
+}
+
+} // namespace
+} // namespace quadrelle::testing

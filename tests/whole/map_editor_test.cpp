@@ -1,0 +1,196 @@
+#include "map/map_file.h"
+#include "map/map_strokes.h"
+#include "tests/whole/program_test.h"
+#include "tileset/document_file.h"
+#include "views/map_layout.h"
+
+#include <SDL3/SDL_keyboard.h>
+
+namespace quadrelle::testing {
+namespace {
+
+constexpr Size tile_size{24, 24};
+
+// The middle of a place of a map of 60 x 40, which lies in real size in the middle of the view.
+Point at(int column, int row) {
+    constexpr Rectangle view = map_layout::view;
+    return {view.x + (view.width - 60 * 24) / 2 + 24 * column + 12,
+            view.y + (view.height - 40 * 24) / 2 + 24 * row + 12};
+}
+
+Point in_list(int tile) {
+    return {map_layout::list.x + tile % 6 * 32 + 16, map_layout::list.y + tile / 6 * 32 + 16};
+}
+
+class Map_Editor_Test : public Program_Test {
+protected:
+    static Edited_Map& map() { return *document().map(); }
+    static int tile_at(int column, int row) { return map().indexed(map().map().at({column, row})).tile(); }
+
+    void make_tiles(int count) {
+        make_set(tile_size, count, [](int tile, Point) { return Color(40 * tile, 100, 200); });
+        document().history().reset(document().tileset());
+    }
+
+    // What the script does in the map editor, which it then closes.
+    void edit_map() {
+        script().key(key::escape);
+        execute(Command::map_editor);
+    }
+
+    Script& with(SDL_Keymod modifiers) {
+        return script().check([modifiers] { SDL_SetModState(modifiers); });
+    }
+};
+
+TEST_F(Map_Editor_Test, lays_out_a_map_by_mouse_and_keys) {
+    make_tiles(8);
+    script().key(key::enter).click(in_list(3)).click(at(10, 10)).drag({at(12, 10), at(15, 12)});
+    script().click(in_list(5));
+    with(SDL_KMOD_SHIFT).drag({at(20, 10), at(22, 13)});
+    with(SDL_KMOD_NONE).key('f').click(at(30, 20)).key('p');
+    edit_map();
+    ASSERT_NE(document().map(), nullptr);
+    EXPECT_TRUE(document().is_modified());
+    EXPECT_EQ(map().map().size(), (Size{60, 40}));
+    EXPECT_EQ(map().uses(8), (std::vector<int>{0, 0, 0, 5, 0, 2400 - 5, 0, 0}));
+    EXPECT_EQ(tile_at(13, 11), 3);
+
+    script().click(at(10, 10), Mouse_Button::right).key('r').click(at(0 + 25, 20));
+    script().key('e').drag({at(20, 10), at(22, 10)}).key('e').key('z', Modifier::control);
+    script().drag({at(12, 10), at(15, 12)}, Mouse_Button::right).key('x').click(at(40, 20));
+    edit_map();
+    EXPECT_EQ(map().map().at({25, 20}).orientation(), Orientation().then_turned_right());
+    EXPECT_EQ(tile_at(21, 10), 5);
+    EXPECT_EQ(tile_at(43, 20), 3);
+    EXPECT_EQ(map().map().at({43, 20}).orientation(), Orientation().then_mirrored());
+
+    for (int i = 0; i < 6; ++i) {
+        script().key('z', Modifier::control);
+    }
+    edit_map();
+    EXPECT_EQ(map().uses(8), std::vector<int>(8));
+    script().key('r', Modifier::control);
+    edit_map();
+    EXPECT_EQ(tile_at(10, 10), 3);
+    script().press(at(11, 11)).motion(at(20, 11)).key(key::escape).release(at(20, 11));
+    edit_map();
+    EXPECT_EQ(map().uses_of(3), 1);
+}
+
+TEST_F(Map_Editor_Test, tiles_are_chosen_for_a_stamp_and_at_random) {
+    make_tiles(8);
+    script().key(key::enter).drag({in_list(0), in_list(7)}).click(at(10, 10));
+    edit_map();
+    EXPECT_EQ(map().uses(8), (std::vector<int>{1, 1, 0, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(tile_at(11, 11), 7);
+    script().click(in_list(2));
+    with(SDL_KMOD_CTRL).click(in_list(4));
+    with(SDL_KMOD_NONE).click(in_list(4), Mouse_Button::right).key('a').key('f').click(at(30, 20));
+    edit_map();
+    EXPECT_EQ(map().uses_of(2) + map().uses_of(4), 2396);
+    EXPECT_GT(map().uses_of(4), map().uses_of(2) * 3 / 2);
+}
+
+TEST_F(Map_Editor_Test, a_double_click_goes_to_the_tile_that_was_there) {
+    make_tiles(4);
+    script().key(key::enter).click(in_list(2)).click(at(10, 10)).click(in_list(1));
+    edit_map();
+    script().click(at(10, 10)).second_press(at(10, 10));
+    execute(Command::map_editor);
+    EXPECT_EQ(document().tileset().current_index(), 2);
+    EXPECT_EQ(tile_at(10, 10), 2);
+}
+
+TEST_F(Map_Editor_Test, shows_the_same_pictures_whatever_becomes_of_the_tiles) {
+    make_tiles(4);
+    script()
+        .key(key::enter)
+        .click(in_list(3))
+        .drag({at(10, 10), at(12, 10)})
+        .click(in_list(0))
+        .click(at(14, 10));
+    edit_map();
+    execute(Command::delete_tile);
+    EXPECT_EQ(tile_at(10, 10), 2);
+    EXPECT_EQ(tile_at(14, 10), -1);
+    execute(Command::insert_new_tile);
+    EXPECT_EQ(tile_at(11, 10), 3);
+    script()
+        .press({16 + 5, 16 + 5})
+        .press_number({16 + 3 * 32 + 5, 16 + 5}, 2)
+        .key(key::tab)
+        .key(key::escape);
+    execute(Command::arrange_select);
+    EXPECT_EQ(tile_at(11, 10), 0);
+}
+
+TEST_F(Map_Editor_Test, the_view_follows_wheel_keys_and_drags_and_is_as_it_was_afterwards) {
+    make_tiles(2);
+    script().key(key::enter).wheel(1, at(30, 20)).key('*').key(key::left).motion(at(30, 20));
+    with(SDL_KMOD_CTRL).drag({at(30, 20), at(32, 21)}, Mouse_Button::right);
+    with(SDL_KMOD_NONE);
+    edit_map();
+    const Map_Camera camera = *document().map_desk().camera;
+    EXPECT_EQ(camera.scale(), (Map_Scale{2, 1}));
+    Map_Camera expected({map_layout::view.width, map_layout::view.height}, tile_size);
+    expected.zoom(1, {0, 0});
+    expected.centre({60, 40});
+    expected.move({48 + 48, 24});
+    EXPECT_EQ(camera, expected);
+    edit_map();
+    EXPECT_EQ(*document().map_desk().camera, expected);
+    editor->documents().resize_current({16, 16});
+    EXPECT_FALSE(document().map_desk().camera);
+    EXPECT_NE(document().map(), nullptr);
+}
+
+TEST_F(Map_Editor_Test, is_saved_with_its_set_and_replaces_no_strange_file_unasked) {
+    make_tiles(3);
+    script().key(key::enter).click(in_list(2)).click(at(10, 10));
+    edit_map();
+    const std::string path = folder().path("level.qdl");
+    store_text(map_path(path), "something else");
+    answer_files(File_Answer_State::chosen, path);
+    const std::string question =
+        "level.map is there already, and is not the map of this set.\rReplace it by the map?";
+    expect_question("Save", question).key(key::escape);
+    execute(Command::save_as);
+    EXPECT_EQ(stored_text(map_path(path)), "something else");
+    EXPECT_TRUE(document().is_modified());
+    expect_question("Save", question).key(key::enter);
+    execute(Command::save_as);
+    EXPECT_EQ(load_document(path)->map()->indexed_map(), map().indexed_map());
+    script().click(at(11, 10)).key('s', Modifier::control).key(key::enter);
+    edit_map();
+    EXPECT_EQ(load_document(path)->map()->indexed_map(), map().indexed_map());
+}
+
+TEST_F(Map_Editor_Test, a_map_goes_out_and_comes_back_in) {
+    make_tiles(3);
+    script().key(key::enter).click(in_list(2)).key('x').drag({at(10, 10), at(20, 14)});
+    const auto export_to = [&](const char* name) {
+        script().check([this, name] { answer_files(File_Answer_State::chosen, folder().path(name)); });
+        script().key('e', Modifier::control);
+    };
+    export_to("level.tmx");
+    export_to("level.bmp");
+    export_to("level.txt");
+    expect_message("Note", "The name has to end in .tmx, .png or .bmp.").key(key::enter);
+    edit_map();
+    EXPECT_FALSE(stored(folder().path("level.png")).empty());
+    EXPECT_FALSE(stored(folder().path("level.bmp")).empty());
+    const Tile_Map before = map().indexed_map();
+    document().set_map(Tile_Map({1, 1}));
+    answer_files(File_Answer_State::chosen, folder().path("level.tmx"));
+    script().key('o', Modifier::control);
+    edit_map();
+    EXPECT_EQ(map().indexed_map(), before);
+    answer_files(File_Answer_State::chosen, folder().path("level.bmp"));
+    script().key('o', Modifier::control);
+    expect_message("Note", "This map does not fit.\rIt is no whole map.").key(key::enter);
+    edit_map();
+}
+
+} // namespace
+} // namespace quadrelle::testing
