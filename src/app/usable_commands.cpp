@@ -53,7 +53,6 @@ bool can_do(Command command, const Command_Subjects& subjects) {
     case Command::rotate_back: return can_turn(canvas);
     case Command::add_new_tile:
     case Command::insert_new_tile: return !document.tileset().is_full();
-    case Command::map_editor:
     case Command::copy:
     case Command::paste: return canvas.tile() != nullptr;
     default: return !needs_tile(command) || canvas.tile() != nullptr;

@@ -37,7 +37,9 @@ void draw_chosen(const Rectangle& area, std::string_view label) {
 
 std::optional<Map_Action> action_of_key(const Input_Event& press) {
     const Command command = find_command(press.chord);
-    const Key_Row* const further = find_key(press.chord, press.character);
+    const Key_Row* const by_chord = find_key(press.chord);
+    const Key_Row* const further =
+        by_chord != nullptr ? by_chord : find_key(Key_Chord{press.character, Modifier::none});
     const auto has_key = [&](const Map_Action_Row& row) {
         if (row.further.key != key::none && row.further == press.chord) {
             return true;

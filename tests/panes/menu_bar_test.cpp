@@ -37,7 +37,7 @@ TEST_F(Menu_Bar_Test, every_row_carries_out_its_command) {
     for (std::size_t menu = 0; menu < menu_table.size(); ++menu) {
         for (std::size_t row = 0; row < menu_table.at(menu).rows.size(); ++row) {
             const Command command = menu_table.at(menu).rows[row].command;
-            if (command == Command::none || command == Command::quit || command == Command::map_editor) {
+            if (command == Command::none || command == Command::quit) {
                 continue;
             }
             const std::size_t lines = message_log->lines().size();
