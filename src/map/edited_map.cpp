@@ -28,7 +28,8 @@ Tile_Map Edited_Map::indexed_map() const {
 std::vector<int> Edited_Map::uses(int tiles) const {
     std::vector<int> of_ids(static_cast<std::size_t>(ids_.count()) + 1);
     for (const Map_Cell cell : map_.cells()) {
-        ++of_ids[static_cast<std::size_t>(cell.tile() + 1)];
+        const int place = cell.tile() + 1;
+        ++of_ids[static_cast<std::size_t>(place)];
     }
     std::vector<int> uses(static_cast<std::size_t>(tiles));
     for (int id = 0; id < ids_.count(); ++id) {

@@ -34,13 +34,13 @@ int Map_Tile_List::tile_at(Point point) const {
     return tile < tileset_.count() ? tile : -1;
 }
 
-Size Map_Tile_List::rectangle_between(int tile, int other, std::vector<int>& tiles) const {
+Size Map_Tile_List::rectangle_between(int tile, int other, std::vector<int>& chosen) const {
     const auto [left, right] = std::minmax({tile % list_columns, other % list_columns});
     const auto [top, bottom] = std::minmax({tile / list_columns, other / list_columns});
     for (int row = top; row <= bottom; ++row) {
         for (int column = left; column <= right; ++column) {
             const int index = row * list_columns + column;
-            tiles.push_back(index < tileset_.count() ? index : -1);
+            chosen.push_back(index < tileset_.count() ? index : -1);
         }
     }
     return {right - left + 1, bottom - top + 1};
@@ -63,7 +63,7 @@ Rectangle Map_Tile_List::cell_of(int tile) const {
             list_cell};
 }
 
-void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::string_view info) {
+void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::string_view text_below) {
     pane_.draw();
     screen->draw_texture(*checkerboard_, corner_of(list));
     const int first = first_row_ * list_columns;
@@ -84,7 +84,7 @@ void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::str
             screen->draw_text(Font::pane, {cell.right() - width, cell.y}, text);
         }
     }
-    screen->draw_text(Font::pane, map_layout::info, info);
+    screen->draw_text(Font::pane, info, text_below);
 }
 
 } // namespace quadrelle

@@ -23,7 +23,7 @@ public:
     // Returns the tile at that place of the window, or -1.
     [[nodiscard]] int tile_at(Point point) const;
     // Returns the tiles between two, as a rectangle of the list; -1 where there is none.
-    [[nodiscard]] Size rectangle_between(int tile, int other, std::vector<int>& tiles) const;
+    [[nodiscard]] Size rectangle_between(int tile, int other, std::vector<int>& chosen) const;
     // Stops at both ends. Returns the first row that is seen.
     int scroll_to(int row);
     void scroll(int rows) { scroll_to(first_row_ + rows); }
@@ -31,7 +31,7 @@ public:
     void bring_into_view(int tile);
 
     // `weight_of` a tile is 0 where it is not chosen; others than 1 are shown.
-    void draw(const std::function<int(int tile)>& weight_of, std::string_view info);
+    void draw(const std::function<int(int tile)>& weight_of, std::string_view text_below);
 
 private:
     [[nodiscard]] Rectangle cell_of(int tile) const;
