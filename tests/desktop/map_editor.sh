@@ -25,7 +25,10 @@ make_set() {
 
 # In the middle of the place at COLUMN ROW, in real size and with the middle of the map in the middle of the view.
 place() { echo $((9 + (1008 - 60 * edge) / 2 + edge * $1 + edge / 2)) $((61 + (549 - 40 * edge) / 2 + edge * $2 + edge / 2)); }
-in_list() { echo $((1031 + $1 % 6 * 32 + 16)) $((61 + $1 / 6 * 32 + 16)); }
+in_list() {
+    local row=$(($1 / 6))
+    echo $((1031 + $1 % 6 * 32 + 16)) $((61 + row * 32 + 16))
+}
 # shellcheck disable=SC2046 # two numbers each
 choose() { click $(in_list "$1"); }
 # shellcheck disable=SC2046
