@@ -12,29 +12,6 @@ namespace quadrelle {
 
 namespace {
 
-// In what is between quotes of XML.
-std::string quotable(std::string_view text) {
-    std::string result;
-    for (const char letter : text) {
-        switch (letter) {
-        case '&': result += "&amp;"; break;
-        case '<': result += "&lt;"; break;
-        case '>': result += "&gt;"; break;
-        case '"': result += "&quot;"; break;
-        default: result += letter;
-        }
-    }
-    return result;
-}
-
-std::string value(std::string_view name, std::string_view text) {
-    return " " + std::string(name) + "=\"" + quotable(text) + "\"";
-}
-
-std::string value(std::string_view name, int number) {
-    return value(name, std::to_string(number));
-}
-
 std::string rows_of_numbers(const Tile_Map& map, int tile_count) {
     std::string text;
     for (int y = 0; y < map.size().height; ++y) {
@@ -172,18 +149,20 @@ private:
 
 std::string tmx_text(const Tile_Map& map, const Tmx_Tileset& tileset) {
     const int rows = (tileset.count + tileset.columns - 1) / tileset.columns;
-    const std::string map_size = value("width", map.size().width) + value("height", map.size().height);
+    const std::string map_size =
+        xml_attribute("width", map.size().width) + xml_attribute("height", map.size().height);
     const std::string tile_size =
-        value("tilewidth", tileset.tile.width) + value("tileheight", tileset.tile.height);
+        xml_attribute("tilewidth", tileset.tile.width) + xml_attribute("tileheight", tileset.tile.height);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<map version=\"1.0\" orientation=\"orthogonal\" renderorder=\"right-down\"" +
            map_size + tile_size + " infinite=\"0\" nextlayerid=\"2\" nextobjectid=\"1\">\n" +
-           " <tileset firstgid=\"1\"" + value("name", tileset.name) + tile_size +
-           value("tilecount", tileset.count) + value("columns", tileset.columns) + ">\n  <image" +
-           value("source", tileset.picture) + value("width", tileset.columns * tileset.tile.width) +
-           value("height", rows * tileset.tile.height) + "/>\n </tileset>\n <layer id=\"1\" name=\"Map\"" +
-           map_size + ">\n  <data encoding=\"csv\">\n" + rows_of_numbers(map, tileset.count) +
-           "</data>\n </layer>\n</map>\n";
+           " <tileset firstgid=\"1\"" + xml_attribute("name", tileset.name) + tile_size +
+           xml_attribute("tilecount", tileset.count) + xml_attribute("columns", tileset.columns) +
+           ">\n  <image" + xml_attribute("source", tileset.picture) +
+           xml_attribute("width", tileset.columns * tileset.tile.width) +
+           xml_attribute("height", rows * tileset.tile.height) +
+           "/>\n </tileset>\n <layer id=\"1\" name=\"Map\"" + map_size + ">\n  <data encoding=\"csv\">\n" +
+           rows_of_numbers(map, tileset.count) + "</data>\n </layer>\n</map>\n";
 }
 
 Read_Tmx read_tmx(std::string_view text, Size tile, int tile_count) {

@@ -101,4 +101,23 @@ std::optional<Xml_Tag> Xml_Tags::next() {
     }
 }
 
+std::string xml_attribute(std::string_view name, std::string_view value) {
+    std::string text = " ";
+    text.append(name).append("=\"");
+    for (const char letter : value) {
+        switch (letter) {
+        case '&': text += "&amp;"; break;
+        case '<': text += "&lt;"; break;
+        case '>': text += "&gt;"; break;
+        case '"': text += "&quot;"; break;
+        default: text += letter;
+        }
+    }
+    return text + "\"";
+}
+
+std::string xml_attribute(std::string_view name, int value) {
+    return xml_attribute(name, std::to_string(value));
+}
+
 } // namespace quadrelle

@@ -4,6 +4,7 @@
 // numbers are wanted.
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quadrelle {
@@ -35,5 +36,9 @@ private:
 
     std::string_view rest_;
 };
+
+// Returns a blank and the attribute with its value in quotes, whatever stands in it.
+[[nodiscard]] std::string xml_attribute(std::string_view name, std::string_view value);
+[[nodiscard]] std::string xml_attribute(std::string_view name, int value);
 
 } // namespace quadrelle

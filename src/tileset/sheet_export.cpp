@@ -1,6 +1,7 @@
 #include "tileset/sheet_export.h"
 
 #include <algorithm>
+#include "map/xml_tags.h"
 
 namespace quadrelle {
 
@@ -25,28 +26,6 @@ void draw_cell(const Tile& tile, Point corner, const Sheet_Layout& layout, Tile&
             picture.set_pixel(corner.x + x, corner.y + y, color);
         }
     }
-}
-
-std::string escaped(const std::string& text) {
-    std::string result;
-    for (const char letter : text) {
-        switch (letter) {
-        case '&': result += "&amp;"; break;
-        case '<': result += "&lt;"; break;
-        case '>': result += "&gt;"; break;
-        case '"': result += "&quot;"; break;
-        default: result += letter;
-        }
-    }
-    return result;
-}
-
-std::string attribute(const std::string& name, const std::string& value) {
-    return " " + name + "=\"" + escaped(value) + "\"";
-}
-
-std::string attribute(const std::string& name, int value) {
-    return attribute(name, std::to_string(value));
 }
 
 } // namespace
@@ -85,14 +64,14 @@ std::string sheet_description(const std::string& picture_name, Size tile, int co
                               const Sheet_Layout& layout) {
     const Size size = sheet_size(tile, count, layout);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<tileset version=\"1.8\"" +
-           attribute("name", picture_name.substr(0, picture_name.rfind('.'))) +
-           attribute("tilewidth", tile.width * layout.scale) +
-           attribute("tileheight", tile.height * layout.scale) +
-           attribute("spacing", (layout.spacing + 2 * layout.extrusion) * layout.scale) +
-           attribute("margin", (layout.margin + layout.extrusion) * layout.scale) +
-           attribute("tilecount", count) + attribute("columns", columns_of(count, layout)) + ">\n <image" +
-           attribute("source", picture_name) + attribute("width", size.width) +
-           attribute("height", size.height) + "/>\n</tileset>\n";
+           xml_attribute("name", picture_name.substr(0, picture_name.rfind('.'))) +
+           xml_attribute("tilewidth", tile.width * layout.scale) +
+           xml_attribute("tileheight", tile.height * layout.scale) +
+           xml_attribute("spacing", (layout.spacing + 2 * layout.extrusion) * layout.scale) +
+           xml_attribute("margin", (layout.margin + layout.extrusion) * layout.scale) +
+           xml_attribute("tilecount", count) + xml_attribute("columns", columns_of(count, layout)) +
+           ">\n <image" + xml_attribute("source", picture_name) + xml_attribute("width", size.width) +
+           xml_attribute("height", size.height) + "/>\n</tileset>\n";
 }
 
 } // namespace quadrelle
