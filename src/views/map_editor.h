@@ -3,6 +3,7 @@
 // "Map editor": a map of the set's tiles is laid out over the whole window.
 
 #include "base/input.h"
+#include "base/wheel_steps.h"
 #include "map/edited_map.h"
 #include "map/map_desk.h"
 #include "screen/events.h"
@@ -94,6 +95,7 @@ private:
     Map_Point position_;             // the cell that the pointer was on last
     std::string report_;             // until the pointer moves
     std::optional<Rectangle> taken_; // the cells that a drag takes
+    Wheel_Steps wheel_;
     bool is_placing_ = false;
     std::optional<Map_Point> last_press_; // of the left button
     std::optional<Map_Point> placed_;     // by it, without a drag

@@ -22,10 +22,6 @@ Point in_view(Point point) {
     return {point.x - view.x, point.y - view.y};
 }
 
-int sign_of(float amount) {
-    return amount > 0 ? 1 : amount < 0 ? -1 : 0;
-}
-
 } // namespace
 
 Loop_Step Map_Editor::handle(const Input_Event& event) {
@@ -85,10 +81,11 @@ void Map_Editor::zoom(int steps, Point about) {
 
 void Map_Editor::turn_wheel(const Input_Event& event) {
     gesture().follow(event.pointer.point());
+    const int steps = wheel_.take(event.moved.y);
     if (map_layout::tiles.contains(pointer_)) {
-        list_.scroll(-sign_of(event.moved.y));
+        list_.scroll(-steps);
     } else {
-        zoom(sign_of(event.moved.y), in_view(pointer_));
+        zoom(steps, in_view(pointer_));
     }
 }
 
