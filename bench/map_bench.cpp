@@ -76,9 +76,9 @@ void map_fill(benchmark::State& state) {
 }
 
 void map_open(benchmark::State& state) {
-    const std::vector<std::uint8_t> bytes = encode_map(many_coloured_map());
+    const std::vector<std::uint8_t> bytes = encode_map(many_coloured_map(), {});
     for (auto _ : state) {
-        const Edited_Map map(*decode_map(bytes));
+        const Edited_Map map(decode_map(bytes)->map);
         benchmark::DoNotOptimize(map.map().cells().data());
     }
 }

@@ -32,11 +32,34 @@ std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset, int number) {
     return document;
 }
 
-void tell_failure(Save_Outcome outcome) {
-    const std::string what = outcome == Save_Outcome::failed
-                                 ? "Unable to create a save file in the destination device."
-                                 : "The tiles are saved. Unable to create the file of the map beside them.";
-    dialogs->message("Note", what + "\rCheck out write access properties.");
+std::string text_of_failure(Save_Outcome outcome, const std::string& map_name) {
+    switch (outcome) {
+    case Save_Outcome::map_refused: return "Unable to create " + map_name + " for the map. Nothing is saved.";
+    case Save_Outcome::map_failed:
+        return "The tiles are saved. Unable to create " + map_name + " for the map beside them.";
+    default: return "Unable to create a save file in the destination device.";
+    }
+}
+
+void tell_failure(Save_Outcome outcome, const std::string& path) {
+    dialogs->message("Note", text_of_failure(outcome, file_part(map_path(path))) +
+                                 "\rCheck out write access properties.");
+}
+
+// A map that is not shown as it was is never hidden.
+std::string text_of_map(const Loaded_Document& loaded, const std::string& name) {
+    switch (loaded.map) {
+    case Found_Map::unreadable:
+        return name + " beside the tiles is no map that can be read. It stays as it is.";
+    case Found_Map::strange:
+        return name + " beside the tiles was laid out with others, and is not shown. It stays as it is.";
+    case Found_Map::other_tiles:
+        return "The tiles are not all those that " + name +
+               " was laid out with. Each place shows the tile\r"
+               "that it had, wherever that is now. Places that are empty because it is gone: " +
+               std::to_string(loaded.emptied) + ".";
+    default: return "";
+    }
 }
 
 } // namespace
@@ -109,12 +132,16 @@ void Documents::resize_current(Size tile_size) {
 }
 
 bool Documents::load_document(const std::string& path) {
-    std::unique_ptr<Tileset_Document> document = quadrelle::load_document(path);
-    if (!document) {
+    Loaded_Document loaded = quadrelle::load_document(path);
+    if (!loaded.document) {
         return false;
     }
-    trace("Loaded " + path + ", tiles: " + std::to_string(document->tileset().count()));
-    add(std::move(document));
+    trace("Loaded " + path + ", tiles: " + std::to_string(loaded.document->tileset().count()));
+    const std::string note = text_of_map(loaded, file_part(map_path(path)));
+    add(std::move(loaded.document));
+    if (!note.empty()) {
+        dialogs->message("Note", note);
+    }
     return true;
 }
 
@@ -130,10 +157,14 @@ std::optional<std::string> Documents::ask_where_to_save(Save_As save_as) const {
 
 // There may be anything: other programs have files with that ending too.
 bool Documents::confirms_map(const std::string& path) const {
+    const std::string name = file_part(map_path(path));
+    if (lies_beside_strange_map(current(), path)) {
+        return dialogs->ask("Save", name + " there is the map of another set, and stays as it is.\r"
+                                           "Save the tiles beside it all the same?");
+    }
     return !replaces_strange_map(current(), path) ||
-           dialogs->ask("Save",
-                        file_part(map_path(path)) +
-                            " is there already, and is not the map of this set.\rReplace it by the map?");
+           dialogs->ask("Save", name + " is there already, and is not the map of this set.\r"
+                                       "Replace it by the map?");
 }
 
 bool Documents::save_document(const std::string& path) {
@@ -147,7 +178,7 @@ bool Documents::save_document(const std::string& path) {
     }
     refresh_titles();
     if (!is_saved) {
-        tell_failure(outcome);
+        tell_failure(outcome, path);
     }
     return is_saved;
 }

@@ -67,8 +67,13 @@ Outcome edit(Editor_Parts& editor) {
     }
     const Map_Editor_Links links{[&editor] { editor.documents.mark_changed(); },
                                  [&editor] { return save(editor); }};
-    if (const std::optional<Map_Visit> visit = Map_Editor(document, links).run()) {
+    Map_Editor map_editor(document, links);
+    if (const std::optional<Map_Visit> visit = map_editor.run()) {
         go_to_tile(editor, visit->tile);
+    }
+    if (map_editor.is_map_unwanted()) {
+        document.remove_map();
+        editor.documents.mark_changed();
     }
     return Outcome::done;
 }

@@ -1,5 +1,6 @@
 #include "map/map_file.h"
 
+#include "base/checksum.h"
 #include "base/file_names.h"
 #include "base/platform_files.h"
 #include "map/map_code.h"
@@ -7,6 +8,8 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string_view>
+#include <utility>
 
 namespace quadrelle {
 
@@ -14,12 +17,14 @@ namespace {
 
 // A line that no text has: what changes line ends or cuts at a zero breaks it.
 constexpr std::array<std::uint8_t, 8> magic{'Q', 'D', 'L', 'M', 'A', 'P', '\n', 0};
-constexpr std::uint32_t format_version = 1;
+// Of the first version nothing is known of the tiles.
+constexpr std::uint32_t version_without_tiles = 1;
+constexpr std::uint32_t version_with_tiles = 2;
 constexpr std::size_t number_bytes = 4;
 constexpr std::size_t head_bytes = magic.size() + 3 * number_bytes;
 constexpr std::size_t smallest_file = head_bytes + number_bytes;
-// Each cell a run of its own with the largest word.
-constexpr std::int64_t largest_file = std::int64_t{largest_map_edge} * largest_map_edge * 6 + 64;
+// There is room for cells that are each a run of its own, and for more tiles than any set has.
+constexpr std::int64_t largest_file = std::int64_t{64} << 20U;
 
 void append_word(Map_Bytes& bytes, std::uint32_t word) {
     for (unsigned shift = 0; shift < 32; shift += 8) {
@@ -35,29 +40,8 @@ std::uint32_t word_at(std::span<const std::uint8_t> bytes, std::size_t offset) {
     return word;
 }
 
-// CRC-32, as in PNG files.
-std::uint32_t checksum(std::span<const std::uint8_t> bytes) {
-    static const std::array<std::uint32_t, 256> table = [] {
-        std::array<std::uint32_t, 256> words{};
-        for (std::uint32_t i = 0; i < words.size(); ++i) {
-            std::uint32_t word = i;
-            for (int bit = 0; bit < 8; ++bit) {
-                word = (word >> 1U) ^ ((word & 1U) != 0 ? 0xedb88320U : 0U);
-            }
-            words[i] = word;
-        }
-        return words;
-    }();
-    std::uint32_t sum = 0xffffffffU;
-    for (const std::uint8_t byte : bytes) {
-        sum = (sum >> 8U) ^ table[(sum ^ byte) & 0xffU];
-    }
-    return ~sum;
-}
-
 bool is_whole(std::span<const std::uint8_t> bytes) {
     return bytes.size() >= smallest_file && std::ranges::equal(bytes.first(magic.size()), magic) &&
-           word_at(bytes, magic.size()) == format_version &&
            checksum(bytes.first(bytes.size() - number_bytes)) == word_at(bytes, bytes.size() - number_bytes);
 }
 
@@ -70,34 +54,65 @@ std::optional<Size> size_of(std::span<const std::uint8_t> bytes) {
     return Size{static_cast<int>(width), static_cast<int>(height)};
 }
 
+// Returns the sums and takes them off the bytes, which begin with their count.
+std::optional<Tile_Sums> take_sums(std::span<const std::uint8_t>& bytes) {
+    const std::size_t most = bytes.size() / number_bytes;
+    if (most == 0 || word_at(bytes, 0) > most - 1) {
+        return std::nullopt;
+    }
+    Tile_Sums sums(word_at(bytes, 0));
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        sums[i] = word_at(bytes, (i + 1) * number_bytes);
+    }
+    bytes = bytes.subspan((sums.size() + 1) * number_bytes);
+    return sums;
+}
+
 } // namespace
 
 std::string map_path(const std::string& tileset_path) {
-    return with_extension(tileset_path, "map");
+    constexpr std::string_view ending = "qdl";
+    if (!has_extension(tileset_path, ending)) {
+        return tileset_path + ".qdlmap";
+    }
+    std::string path = tileset_path;
+    const std::size_t start = path.size() - ending.size();
+    for (std::size_t i = 0; i < ending.size(); ++i) {
+        path[start + i] = path[start + i] == ending[i] ? "map"[i] : "MAP"[i];
+    }
+    return path;
 }
 
-std::vector<std::uint8_t> encode_map(const Tile_Map& map) {
+std::vector<std::uint8_t> encode_map(const Tile_Map& map, const Tile_Sums& tiles) {
     Map_Bytes bytes(magic.begin(), magic.end());
-    append_word(bytes, format_version);
+    append_word(bytes, version_with_tiles);
     append_word(bytes, static_cast<std::uint32_t>(map.size().width));
     append_word(bytes, static_cast<std::uint32_t>(map.size().height));
+    append_word(bytes, static_cast<std::uint32_t>(tiles.size()));
+    for (const std::uint32_t sum : tiles) {
+        append_word(bytes, sum);
+    }
     append_cells(bytes, map.cells());
     append_word(bytes, checksum(bytes));
     return bytes;
 }
 
-std::optional<Tile_Map> decode_map(std::span<const std::uint8_t> bytes) {
+std::optional<Stored_Map> decode_map(std::span<const std::uint8_t> bytes) {
     const std::optional<Size> size = is_whole(bytes) ? size_of(bytes) : std::nullopt;
     if (!size) {
         return std::nullopt;
     }
+    const std::uint32_t version = word_at(bytes, magic.size());
+    std::span<const std::uint8_t> rest = bytes.subspan(head_bytes, bytes.size() - smallest_file);
+    std::optional<Tile_Sums> tiles = version == version_with_tiles ? take_sums(rest) : std::nullopt;
+    if (!tiles && version != version_without_tiles) {
+        return std::nullopt;
+    }
     Tile_Map map(*size);
-    Map_Code_Reader reader(bytes.subspan(head_bytes, bytes.size() - smallest_file));
+    Map_Code_Reader reader(rest);
     reader.cells(map.cells());
     const bool is_exact = !reader.has_failed() && reader.is_at_end();
-    const bool has_known_tiles =
-        std::ranges::all_of(map.cells(), [](Map_Cell cell) { return cell.tile() < most_mapped_tiles; });
-    return is_exact && has_known_tiles ? std::optional(std::move(map)) : std::nullopt;
+    return is_exact ? std::optional(Stored_Map{std::move(map), std::move(tiles)}) : std::nullopt;
 }
 
 Read_Map read_map(const std::string& path) {
@@ -111,7 +126,7 @@ Read_Map read_map(const std::string& path) {
     }
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
     bytes.resize(read_bytes(file.get(), bytes));
-    std::optional<Tile_Map> map = decode_map(bytes);
+    std::optional<Stored_Map> map = decode_map(bytes);
     const Map_File_State state = map ? Map_File_State::read : Map_File_State::unreadable;
     return {state, std::move(map)};
 }

@@ -113,6 +113,11 @@ Edited_Map& Tileset_Document::set_map(Tile_Map map) {
     return *map_;
 }
 
+void Tileset_Document::remove_map() {
+    map_.reset();
+    map_desk_.reset();
+}
+
 Map_Desk& Tileset_Document::map_desk() {
     if (!map_desk_) {
         map_desk_ = std::make_unique<Map_Desk>();

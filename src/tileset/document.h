@@ -39,6 +39,8 @@ public:
     [[nodiscard]] const Edited_Map* map() const { return map_.get(); }
     // The cells have indices of tiles.
     Edited_Map& set_map(Tile_Map map);
+    // Its file goes when the document is saved.
+    void remove_map();
     // The file that the map was read from or written to last; empty without one.
     [[nodiscard]] const std::string& map_file() const { return map_file_; }
     void set_map_file(const std::string& path) { map_file_ = path; }

@@ -3,41 +3,81 @@
 #include "base/atomic_file.h"
 #include "base/platform_files.h"
 #include "map/map_file.h"
+#include "map/map_fit.h"
 #include "tileset/tileset_file.h"
 
 #include <utility>
 
 namespace quadrelle {
 
-std::unique_ptr<Tileset_Document> load_document(const std::string& path) {
+namespace {
+
+// The document takes the map as far as it fits.
+void find_map(Loaded_Document& loaded, const std::string& path) {
+    Read_Map read = read_map(path);
+    if (!read.map) {
+        loaded.map = read.state == Map_File_State::missing ? Found_Map::none : Found_Map::unreadable;
+        return;
+    }
+    Tileset_Document& document = *loaded.document;
+    Fitted_Map map = fitted(*std::move(read.map), sums_of(document.tileset().tiles()));
+    if (!map.map) {
+        loaded.map = Found_Map::strange;
+        return;
+    }
+    loaded.map = map.has_other_tiles ? Found_Map::other_tiles : Found_Map::whole;
+    loaded.emptied = map.emptied;
+    document.set_map(*std::move(map.map));
+    // What has lost places takes the place of the whole one only when the user says so.
+    document.set_map_file(map.emptied == 0 ? path : "");
+    if (map.has_other_tiles) {
+        document.mark_changed();
+    }
+}
+
+Save_Outcome save_tiles(const Tileset_Document& document) {
+    return save_tileset(document.tileset(), document.file_name()) >= 0 ? Save_Outcome::saved
+                                                                       : Save_Outcome::failed;
+}
+
+Save_Outcome save_without_map(Tileset_Document& document) {
+    const Save_Outcome outcome = save_tiles(document);
+    if (outcome == Save_Outcome::saved && document.map_file() == map_path(document.file_name())) {
+        remove_file(document.map_file());
+        document.set_map_file("");
+    }
+    return outcome;
+}
+
+} // namespace
+
+Loaded_Document load_document(const std::string& path) {
+    Loaded_Document result;
     Loaded_Tileset loaded = load_tileset(path);
-    if (loaded.outcome != Load_Outcome::loaded) {
-        return nullptr;
+    if (loaded.outcome == Load_Outcome::loaded) {
+        result.document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
+        result.document->set_file(path);
+        find_map(result, map_path(path));
     }
-    auto document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
-    document->set_file(path);
-    Read_Map read = read_map(map_path(path));
-    if (read.map) {
-        document->set_map(*std::move(read.map));
-        document->set_map_file(map_path(path));
-    }
-    return document;
+    return result;
 }
 
 Save_Outcome save_document(Tileset_Document& document) {
-    const std::string& path = document.file_name();
     if (document.map() == nullptr) {
-        return save_tileset(document.tileset(), path) >= 0 ? Save_Outcome::saved : Save_Outcome::failed;
+        return save_without_map(document);
     }
-    Atomic_File map_file(map_path(path));
-    const bool is_written = map_file.write(encode_map(document.map()->indexed_map()));
-    if (save_tileset(document.tileset(), path) < 0) {
+    const std::string path = map_path(document.file_name());
+    Atomic_File map_file(path);
+    if (!map_file.write(encode_map(document.map()->indexed_map(), sums_of(document.tileset().tiles())))) {
+        return Save_Outcome::map_refused;
+    }
+    if (save_tiles(document) != Save_Outcome::saved) {
         return Save_Outcome::failed;
     }
-    if (!is_written || !map_file.commit()) {
+    if (!map_file.commit()) {
         return Save_Outcome::map_failed;
     }
-    document.set_map_file(map_path(path));
+    document.set_map_file(path);
     return Save_Outcome::saved;
 }
 
@@ -45,6 +85,12 @@ bool replaces_strange_map(const Tileset_Document& document, const std::string& p
     const std::string map_file = map_path(path);
     return document.map() != nullptr && map_file != document.map_file() &&
            path_kind(map_file) != Path_Kind::nothing;
+}
+
+bool lies_beside_strange_map(const Tileset_Document& document, const std::string& path) {
+    const std::string map_file = map_path(path);
+    return document.map() == nullptr && map_file != document.map_file() &&
+           read_map(map_file).state == Map_File_State::read;
 }
 
 bool has_unreadable_map(const Tileset_Document& document) {

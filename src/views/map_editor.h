@@ -44,6 +44,8 @@ public:
 
     // Waits until it is closed.
     [[nodiscard]] std::optional<Map_Visit> run();
+    // The user was asked: the map is to go.
+    [[nodiscard]] bool is_map_unwanted() const { return is_map_unwanted_; }
 
 private:
     void draw();
@@ -71,6 +73,7 @@ private:
     Loop_Step visit(Map_Point cell, bool has_placed);
 
     Loop_Step act(Map_Action action);
+    Loop_Step ask_to_remove();
     void toggle(Stamp_Use use);
     void change_stamp(Stamp_Change change);
     void zoom(int steps, Point about);
@@ -102,6 +105,7 @@ private:
     std::vector<int> uses_;
     std::optional<std::uint64_t> uses_version_;
     std::optional<Map_Visit> visit_;
+    bool is_map_unwanted_ = false;
 };
 
 } // namespace quadrelle

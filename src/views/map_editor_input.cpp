@@ -1,5 +1,6 @@
 #include "map/map_strokes.h"
 #include "tileset/document.h"
+#include "ui/dialogs.h"
 #include "ui/modal_dialog.h"
 #include "views/map_editor.h"
 #include "views/map_exchange.h"
@@ -240,6 +241,7 @@ Loop_Step Map_Editor::act(Map_Action action) {
     case Map_Action::zoom_in: zoom(1, {view.width / 2, view.height / 2}); break;
     case Map_Action::centre: camera().centre(map_.map().size()); break;
     case Map_Action::size: change_size(); break;
+    case Map_Action::remove: return ask_to_remove();
     case Map_Action::import_map: import(); break;
     case Map_Action::export_map: report_export(); break;
     case Map_Action::save:
@@ -270,6 +272,13 @@ void Map_Editor::change_size() {
     if (const std::optional<Map_Sides> sides = ask_map_sides(map_.map().size())) {
         note_change_if(map_.resize(*sides), "The map has this size already.");
     }
+}
+
+Loop_Step Map_Editor::ask_to_remove() {
+    is_map_unwanted_ =
+        dialogs->ask("Map editor", "The map goes with all its steps, and its file when the set "
+                                   "is saved.\rThis cannot be undone. Take the map away?");
+    return is_map_unwanted_ ? Loop_Step::end : Loop_Step::go_on;
 }
 
 void Map_Editor::import() {

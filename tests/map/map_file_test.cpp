@@ -1,9 +1,13 @@
 #include "map/map_file.h"
+#include "base/checksum.h"
 #include "map/map_code.h"
 #include "map/tmx.h"
 #include "tests/support/files.h"
 #include "tests/support/tiles.h"
 #include "tileset/document_file.h"
+#include "tileset/tileset_file.h"
+
+#include <set>
 
 namespace quadrelle::testing {
 namespace {
@@ -19,18 +23,45 @@ Tile_Map random_map(Size size, int tiles, unsigned seed) {
     return map;
 }
 
-TEST(Map_File, gives_every_map_back) {
-    for (const auto& [size, tiles] :
-         {std::pair(Size{1, 1}, 1), std::pair(Size{7, 3}, 1), std::pair(Size{60, 40}, 30),
-          std::pair(Size{1000, 1000}, most_mapped_tiles)}) {
-        const Tile_Map map = random_map(size, tiles, 1);
-        EXPECT_EQ(decode_map(encode_map(map)), map);
+// A set whose tiles look like these letters.
+Tile_Sums sums(std::string_view letters) {
+    return {letters.begin(), letters.end()};
+}
+
+void append_checksum(Bytes& bytes) {
+    const std::uint32_t sum = checksum(bytes);
+    for (const unsigned shift : {0U, 8U, 16U, 24U}) {
+        bytes.push_back(static_cast<std::uint8_t>(sum >> shift));
     }
-    EXPECT_LT(encode_map(Tile_Map({1000, 1000})).size(), 100U);
+}
+
+TEST(Map_File, gives_every_map_back) {
+    for (const auto& [size, tiles] : {std::pair(Size{1, 1}, 1), std::pair(Size{7, 3}, 1),
+                                      std::pair(Size{60, 40}, 30), std::pair(Size{1000, 1000}, 70000)}) {
+        const Tile_Map map = random_map(size, tiles, 1);
+        const auto decoded = decode_map(encode_map(map, sums("abc")));
+        EXPECT_EQ(decoded->map, map);
+        EXPECT_EQ(decoded->tiles, sums("abc"));
+    }
+    EXPECT_LT(encode_map(Tile_Map({1000, 1000}), {}).size(), 100U);
+}
+
+// Without the count of tiles, and with the first version's number.
+TEST(Map_File, of_the_first_version_is_read) {
+    const Tile_Map map = random_map({5, 4}, 3, 1);
+    Bytes bytes = encode_map(map, {});
+    bytes[8] = 1;
+    bytes.erase(bytes.begin() + 20, bytes.begin() + 24);
+    bytes.resize(bytes.size() - 4);
+    append_checksum(bytes);
+    const auto decoded = decode_map(bytes);
+    ASSERT_TRUE(decoded);
+    EXPECT_EQ(decoded->map, map);
+    EXPECT_FALSE(decoded->tiles);
 }
 
 TEST(Map_File, what_is_broken_is_no_map) {
-    const Bytes whole = encode_map(random_map({5, 4}, 300, 2));
+    const Bytes whole = encode_map(random_map({5, 4}, 300, 2), sums("ab"));
     for (std::size_t length = 0; length < whole.size(); ++length) {
         EXPECT_FALSE(decode_map(std::span(whole).first(length))) << length;
     }
@@ -39,11 +70,71 @@ TEST(Map_File, what_is_broken_is_no_map) {
         bytes[i] ^= 0x10U;
         EXPECT_FALSE(decode_map(bytes)) << i;
     }
-    EXPECT_FALSE(decode_map(encode_map([] {
-        Tile_Map map({1, 1});
-        map.set({0, 0}, Map_Cell(most_mapped_tiles));
-        return map;
-    }())));
+}
+
+// Bytes at random in a whole file: no memory is taken for what they only announce.
+TEST(Map_File, any_bytes_are_read_without_harm) {
+    std::mt19937 random(7);
+    const Bytes whole = encode_map(random_map({9, 9}, 300, 2), sums("abc"));
+    for (int i = 0; i < 3000; ++i) {
+        Bytes bytes = whole;
+        bytes.resize(bytes.size() - 4);
+        for (int change = 0; change < 3; ++change) {
+            bytes[8 + random() % (bytes.size() - 8)] = static_cast<std::uint8_t>(random());
+        }
+        append_checksum(bytes);
+        if (auto decoded = decode_map(bytes)) {
+            const Fitted_Map map = fitted(*std::move(decoded), sums("abc"));
+            EXPECT_TRUE(!map.map ||
+                        std::ranges::all_of(map.map->cells(), [](Map_Cell cell) { return cell.tile() < 3; }));
+        }
+    }
+}
+
+TEST(Map_File, has_another_name_for_each_set) {
+    for (const auto& [set, map] :
+         {std::pair("a/level.qdl", "a/level.map"), std::pair("level.QDL", "level.MAP"),
+          std::pair("level.bak", "level.bak.qdlmap"), std::pair("level", "level.qdlmap"),
+          std::pair("level.map", "level.map.qdlmap"), std::pair("a.qdl/level", "a.qdl/level.qdlmap")}) {
+        EXPECT_EQ(map_path(set), map);
+    }
+}
+
+struct Fit_Row {
+    std::string_view before; // the tiles
+    std::string_view now;
+    std::string_view shown; // a place for each tile of before; '-' is empty, nothing that it does not fit
+};
+
+TEST(Map_Fit, each_place_keeps_the_picture_that_it_had) {
+    for (const Fit_Row& row : {
+             Fit_Row{"abcd", "abcd", "abcd"},
+             Fit_Row{"abcd", "xabcd", "abcd"},
+             Fit_Row{"abcd", "dcba", "abcd"},
+             Fit_Row{"abcd", "abd", "ab-d"},
+             Fit_Row{"abcd", "abxd", "abxd"}, // it was changed there
+             Fit_Row{"abcd", "axyz", "a---"}, // too much is new for that
+             Fit_Row{"aabb", "bbaa", "aabb"},
+             Fit_Row{"aaab", "a", "aaa-"},
+             Fit_Row{"abcd", "wxyz", ""},
+             Fit_Row{"ab", "", ""},
+         }) {
+        SCOPED_TRACE(std::string(row.before) + " " + std::string(row.now));
+        Tile_Map map({static_cast<int>(row.before.size()), 1});
+        for (int i = 0; i < map.size().width; ++i) {
+            map.set({i, 0}, Map_Cell(i));
+        }
+        const Fitted_Map fit = fitted({map, sums(row.before)}, sums(row.now));
+        EXPECT_EQ(fit.has_other_tiles, row.before != row.now);
+        std::string shown;
+        for (int i = 0; fit.map && i < map.size().width; ++i) {
+            const int tile = fit.map->at({i, 0}).tile();
+            shown += tile < 0 ? '-' : row.now[static_cast<std::size_t>(tile)];
+        }
+        EXPECT_EQ(shown, row.shown);
+        EXPECT_EQ(fit.emptied, std::ranges::count(row.shown, '-'));
+    }
+    EXPECT_EQ(fitted({Tile_Map({1, 1}), std::nullopt}, sums("ab")).map, Tile_Map({1, 1}));
 }
 
 // Bytes at random behind a right head: nothing outside of them is read, whatever they say.
@@ -74,6 +165,11 @@ protected:
     }
 
     Temporary_Folder folder;
+    // A tile of which an edge is lit is no longer that of before.
+    static void light(Tileset_Document& document, int tile) {
+        document.tileset().tile_at(tile).set_pixel(0, 0, {255, 255, 255});
+    }
+
     std::string path = folder.path("level.qdl");
     std::string map_file = folder.path("level.map");
     Tile_Map map = random_map({6, 5}, 2, 3);
@@ -82,7 +178,7 @@ protected:
 TEST_F(Map_Beside_Set, is_saved_and_loaded_with_it) {
     EXPECT_EQ(save_document(*made_document()), Save_Outcome::saved);
     EXPECT_EQ(folder.entry_count(), 2);
-    const auto loaded = load_document(path);
+    const auto loaded = load_document(path).document;
     EXPECT_EQ(loaded->map()->indexed_map(), map);
     EXPECT_FALSE(replaces_strange_map(*loaded, path));
     EXPECT_TRUE(replaces_strange_map(*made_document(), path));
@@ -93,8 +189,10 @@ TEST_F(Map_Beside_Set, never_hinders_loading_and_is_not_lost_where_it_cannot_be_
     const Bytes whole = stored(map_file);
     for (const Bytes& bytes : {Bytes{}, Bytes{'x'}, Bytes(whole.begin(), whole.end() - 1)}) {
         store(map_file, bytes);
-        const auto loaded = load_document(path);
+        const Loaded_Document found = load_document(path);
+        const auto& loaded = found.document;
         ASSERT_NE(loaded, nullptr);
+        EXPECT_EQ(found.map, Found_Map::unreadable);
         EXPECT_EQ(loaded->map(), nullptr);
         EXPECT_TRUE(has_unreadable_map(*loaded));
         EXPECT_EQ(save_document(*loaded), Save_Outcome::saved);
@@ -103,26 +201,75 @@ TEST_F(Map_Beside_Set, never_hinders_loading_and_is_not_lost_where_it_cannot_be_
         EXPECT_TRUE(replaces_strange_map(*loaded, path));
     }
     std::filesystem::remove(native(map_file));
-    const auto loaded = load_document(path);
+    const auto loaded = load_document(path).document;
     EXPECT_EQ(loaded->map(), nullptr);
     EXPECT_FALSE(has_unreadable_map(*loaded));
 }
 
+// Neither the set nor the map without the other, unless the very last step fails.
 TEST_F(Map_Beside_Set, is_as_it_was_where_saving_fails) {
     const auto document = made_document();
     document->set_map(Tile_Map({1, 1}));
+    light(*document, 0);
     int failures = 0;
+    std::set<Save_Outcome> outcomes;
     for (bool is_reached = true; is_reached; ++failures) {
         ASSERT_EQ(save_document(*made_document()), Save_Outcome::saved);
         const Bytes old_map = stored(map_file);
+        const Bytes old_set = stored(path);
         const Fault fault(failures);
         const Save_Outcome outcome = save_document(*document);
+        outcomes.insert(outcome);
         is_reached = Fault::is_reached();
         EXPECT_EQ(stored(map_file) == old_map, outcome != Save_Outcome::saved);
+        EXPECT_EQ(stored(path) == old_set,
+                  outcome == Save_Outcome::failed || outcome == Save_Outcome::map_refused);
         EXPECT_EQ(folder.entry_count(), 2);
     }
-    EXPECT_GE(failures, 8);
-    EXPECT_EQ(load_document(path)->map()->map().size(), (Size{1, 1}));
+    EXPECT_EQ(outcomes.size(), 4U);
+    EXPECT_EQ(load_document(path).document->map()->map().size(), (Size{1, 1}));
+}
+
+TEST_F(Map_Beside_Set, is_tied_to_the_tiles_that_it_was_laid_out_with) {
+    const auto document = made_document();
+    light(*document, 1);
+    ASSERT_EQ(save_document(*document), Save_Outcome::saved);
+    const auto store_set = [&](Tileset_Document& other) {
+        ASSERT_GE(save_tileset(other.tileset(), path), 0);
+    };
+    document->tileset().swap_tiles(0, 1);
+    store_set(*document);
+    Loaded_Document loaded = load_document(path);
+    EXPECT_EQ(loaded.map, Found_Map::other_tiles);
+    EXPECT_EQ(loaded.emptied, 0);
+    EXPECT_TRUE(loaded.document->is_modified());
+    EXPECT_EQ(loaded.document->map()->uses_of(0), std::ranges::count(map.cells(), 1, &Map_Cell::tile));
+
+    document->tileset().select(0);
+    document->tileset().delete_current();
+    store_set(*document);
+    loaded = load_document(path);
+    EXPECT_EQ(loaded.emptied, std::ranges::count(map.cells(), 1, &Map_Cell::tile));
+    EXPECT_TRUE(replaces_strange_map(*loaded.document, path));
+
+    light(*document, 0);
+    document->tileset().tile_at(0).set_pixel(1, 1, {9, 9, 9});
+    const auto without_map = made_document();
+    without_map->remove_map();
+    EXPECT_TRUE(lies_beside_strange_map(*without_map, path));
+    store_set(*document);
+    loaded = load_document(path);
+    EXPECT_EQ(loaded.map, Found_Map::strange);
+    EXPECT_EQ(loaded.document->map(), nullptr);
+}
+
+TEST_F(Map_Beside_Set, goes_with_the_next_save_when_it_was_taken_away) {
+    ASSERT_EQ(save_document(*made_document()), Save_Outcome::saved);
+    const auto loaded = load_document(path).document;
+    loaded->remove_map();
+    EXPECT_EQ(folder.entry_count(), 2);
+    EXPECT_EQ(save_document(*loaded), Save_Outcome::saved);
+    EXPECT_EQ(folder.entry_count(), 1);
 }
 
 TEST(Tmx, gives_every_map_back) {

@@ -2,6 +2,7 @@
 #include "map/map_strokes.h"
 #include "tests/whole/program_test.h"
 #include "tileset/document_file.h"
+#include "views/map_actions.h"
 #include "views/map_layout.h"
 
 #include <SDL3/SDL_keyboard.h>
@@ -30,6 +31,11 @@ protected:
     void make_tiles(int count) {
         make_set(tile_size, count, [](int tile, Point) { return Color(40 * tile, 100, 200); });
         document().history().reset(document().tileset());
+    }
+
+    static Point middle_of(Map_Action action) {
+        const Rectangle area = Map_Buttons().area_of(action);
+        return {area.x + area.width / 2, area.y + area.height / 2};
     }
 
     // What the script does in the map editor, which it then closes.
@@ -160,10 +166,33 @@ TEST_F(Map_Editor_Test, is_saved_with_its_set_and_replaces_no_strange_file_unask
     EXPECT_TRUE(document().is_modified());
     expect_question("Save", question).key(key::enter);
     execute(Command::save_as);
-    EXPECT_EQ(load_document(path)->map()->indexed_map(), map().indexed_map());
+    EXPECT_EQ(load_document(path).document->map()->indexed_map(), map().indexed_map());
     script().click(at(11, 10)).key('s', Modifier::control).key(key::enter);
     edit_map();
-    EXPECT_EQ(load_document(path)->map()->indexed_map(), map().indexed_map());
+    EXPECT_EQ(load_document(path).document->map()->indexed_map(), map().indexed_map());
+
+    // A set without a map is not saved beside that one unasked, nor does the map of other tiles show unseen.
+    make_set(tile_size, 1, [](int, Point point) { return Color(point.x, 1, 2); });
+    expect_question("Save", "level.map there is the map of another set, and stays as it is.\r"
+                            "Save the tiles beside it all the same?")
+        .key(key::enter);
+    execute(Command::save_as);
+    expect_message("Note",
+                   "level.map beside the tiles was laid out with others, and is not shown. It stays as "
+                   "it is.")
+        .key(key::enter);
+    execute(Command::load);
+    EXPECT_EQ(document().map(), nullptr);
+}
+
+TEST_F(Map_Editor_Test, a_map_is_taken_away_when_the_user_says_so) {
+    make_tiles(1);
+    script().key(key::enter).click(middle_of(Map_Action::remove)).key(key::escape);
+    edit_map();
+    EXPECT_NE(document().map(), nullptr);
+    script().click(middle_of(Map_Action::remove)).key(key::enter);
+    execute(Command::map_editor);
+    EXPECT_EQ(document().map(), nullptr);
 }
 
 TEST_F(Map_Editor_Test, a_map_goes_out_and_comes_back_in) {
