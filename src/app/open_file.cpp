@@ -2,6 +2,7 @@
 
 #include "app/editor_parts.h"
 #include "app/palette_exchange.h"
+#include "base/file_names.h"
 #include "color/palette_formats.h"
 #include "pixels/picture_formats.h"
 #include "tileset/tileset_file.h"
@@ -21,6 +22,8 @@ Outcome make_set_of(Editor_Parts& editor, const Tile& picture) {
     }
     const int count = tileset->count();
     if (!editor.documents.add_unsaved(std::move(*tileset))) {
+        dialogs->message("Note",
+                         "There were so many untitled sets that no more can be made until the next start.");
         return Outcome::refused;
     }
     // What was selected in another set means nothing here.
@@ -45,7 +48,9 @@ bool open_set(Editor_Parts& editor, const std::string& path, File_Origin origin)
 } // namespace
 
 Outcome open_file(Editor_Parts& editor, const std::string& path, File_Origin origin) {
-    const Decoded_Picture decoded = read_picture(path);
+    const bool is_table = is_color_table(path);
+    const Decoded_Picture decoded =
+        is_table ? Decoded_Picture{{}, Picture_Fault::unknown} : read_picture(path);
     if (decoded.picture) {
         return make_set_of(editor, *decoded.picture);
     }
@@ -53,7 +58,7 @@ Outcome open_file(Editor_Parts& editor, const std::string& path, File_Origin ori
         dialogs->message("Note", text_of(decoded.fault));
         return Outcome::refused;
     }
-    if (read_palette_file(path).palette) {
+    if (is_table || has_extension(file_part(path), "gpl") || read_palette_file(path).palette) {
         palette_exchange::import_palette(editor, path);
         return Outcome::refused;
     }

@@ -114,6 +114,7 @@ void sort_by_lightness(Editor_Parts& editor) {
 }
 
 void sort_by_use(Editor_Parts& editor) {
+    editor.desk.drop_lifted();
     std::vector<Color> order;
     for (const Color_Use& use : colors_by_use(editor.documents.current().tileset().tiles())) {
         order.push_back(use.color);
@@ -126,6 +127,9 @@ void replace_color(Editor_Parts& editor) {
     const std::optional<Where> where = ask_where(editor, map);
     if (!where) {
         return;
+    }
+    if (*where == Where::tile) {
+        editor.desk.drop_lifted();
     }
     const auto change = [&] {
         return *where == Where::tile ? editor.desk.recolor_tile(map) : editor.desk.recolor(map);

@@ -5,6 +5,7 @@
 #include "panes/toolbox.h"
 #include "ui/dialogs.h"
 #include "ui/name_prompt.h"
+#include "ui/shown_text.h"
 
 #include <cstddef>
 #include <optional>
@@ -48,7 +49,9 @@ void rename(Editor_Parts& editor) {
 void delete_shown(Editor_Parts& editor) {
     Palette_Area& palette = editor.panes.palette();
     const std::string name = quoted_name(palette);
-    if (dialogs->ask("Delete palette", "Delete " + name + " with its file?\rThis can't be undone.")) {
+    constexpr int widest_name = 300;
+    const std::string asked = fitted_text(Font::regular, name, widest_name, Left_Out::middle);
+    if (dialogs->ask("Delete palette", "Delete " + asked + " with its file?\rThis can't be undone.")) {
         palette.list().remove(palette.index());
         palette.show(palette.index());
         editor.panes.report_palette(name + " is deleted.");

@@ -78,7 +78,9 @@ std::span<const std::uint8_t> bytes_of(const std::string& text) {
 } // namespace
 
 void import_palette(Editor_Parts& editor, const std::string& path) {
-    const Decoded_Picture decoded = read_picture(path);
+    const bool is_table = is_color_table(path);
+    const Decoded_Picture decoded =
+        is_table ? Decoded_Picture{{}, Picture_Fault::unknown} : read_picture(path);
     if (decoded.picture) {
         keep(editor, colors_of(std::array{&*decoded.picture}, name_of_file(path)));
     } else if (decoded.fault == Picture_Fault::unknown) {
@@ -96,19 +98,21 @@ void import_file(Editor_Parts& editor) {
 
 void paste_colors(Editor_Parts& editor) {
     Palette_Reading reading = read_hex_colors(clipboard_text());
-    if (reading.palette) {
+    if (reading.palette && reading.palette->name.empty()) {
         reading.palette->name = "Clipboard";
     }
     keep(editor, std::move(reading));
 }
 
 void take_from_tile(Editor_Parts& editor) {
+    editor.desk.drop_lifted();
     if (const Tile* const tile = editor.canvas.tile()) {
         keep(editor, colors_of(std::array{tile}, "Tile"));
     }
 }
 
 void take_from_set(Editor_Parts& editor) {
+    editor.desk.drop_lifted();
     keep(editor, colors_of(editor.documents.current().tileset().tiles(), "Tileset"));
 }
 

@@ -15,6 +15,7 @@ Outcome recolor_step(Editor_Parts& editor, Command name, const std::function<Out
 }
 
 Outcome recolor_set(Editor_Parts& editor, std::string_view title, const Color_Map& map) {
+    editor.desk.drop_lifted();
     Tileset_Document& document = editor.documents.current();
     Tileset& tileset = document.tileset();
     int changed = 0;

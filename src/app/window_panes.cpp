@@ -222,6 +222,10 @@ Double_Click Window_Panes::double_click(const Pointer_State& pointer, int count)
 }
 
 void Window_Panes::store_color(Color color) {
+    if (!palette_.has_entries()) {
+        report_palette("It has no entry for a color.");
+        return;
+    }
     const int before = palette_.index();
     palette_.store(color);
     const bool is_copy = palette_.index() != before;

@@ -234,12 +234,16 @@ std::string name_of_file(const std::string& path) {
     return dot == 0 ? name : name.substr(0, dot);
 }
 
+bool is_color_table(const std::string& path) {
+    return has_extension(file_part(path), "act");
+}
+
 Palette_Reading read_palette(std::span<const std::uint8_t> content, const std::string& file_name) {
     std::string name = name_of_file(file_name);
     if (has_text_at(content, 0, riff_start) && has_text_at(content, 8, riff_kind)) {
         return read_riff(content, std::move(name));
     }
-    if (has_extension(file_part(file_name), "act")) {
+    if (is_color_table(file_name)) {
         return read_act(content, std::move(name));
     }
     const std::string text = plain_text(content);
@@ -267,7 +271,7 @@ Palette_Reading read_palette_file(const std::string& path) {
 }
 
 Palette_Reading read_hex_colors(std::string_view text) {
-    return read_hex_text(Text_Lines(text), {}, Alpha_Place::last);
+    return read_hex_text(Text_Lines(text), {}, alpha_place(text, {}));
 }
 
 std::string gpl_text(const Palette& palette) {

@@ -3,12 +3,12 @@
 #include "base/block_file.h"
 #include "base/file_names.h"
 #include "base/platform_files.h"
-#include "base/text_lines.h"
+#include "color/palette_names.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <utility>
 
@@ -20,60 +20,20 @@ namespace {
 
 constexpr std::string_view extension = "gpl";
 constexpr const char* first_shown_file = "shown.txt";
-constexpr std::size_t longest_name = 1000;
 constexpr std::size_t most_files = 1000;
 constexpr std::size_t most_steps = 100;
-constexpr std::size_t longest_stem = 80; // in bytes
 
-// Without what no line or no name can have.
-std::string clean_name(std::string name) {
-    std::ranges::replace_if(
-        name, [](char letter) { return static_cast<unsigned char>(letter) < ' '; }, ' ');
-    name = trimmed(name);
-    return name.empty() ? "Palette" : name;
-}
-
-// "Sea" of "Sea 2".
-std::string without_number(const std::string& name) {
-    const std::size_t end = name.find_last_not_of("0123456789");
-    const bool has_number = end != std::string::npos && end > 0 && end + 1 < name.size() && name[end] == ' ';
-    return has_number ? name.substr(0, end) : name;
-}
-
-// Returns at most so many bytes of it, and no part of a character.
-std::string cut_at_character(const std::string& text, std::size_t most) {
-    std::size_t end = std::min(text.size(), most);
-    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xc0U) == 0x80U) {
-        --end;
+// 0 for a file that cannot be read, or that nobody wrote here.
+std::size_t fingerprint_of(const std::string& path) {
+    const File_Handle file = open_file(path, File_Mode::read);
+    const std::int64_t size = file ? file_size(file.get()) : -1;
+    constexpr std::int64_t largest = 4 << 20;
+    if (size < 0 || size > largest) {
+        return 0;
     }
-    return text.substr(0, end);
-}
-
-// Whether a file system takes it for a device, whatever extension follows.
-bool is_device(const std::string& stem) {
-    constexpr std::array<std::string_view, 4> plain{"con", "prn", "aux", "nul"};
-    constexpr std::array<std::string_view, 2> numbered{"com", "lpt"};
-    std::string name = stem.substr(0, stem.find('.'));
-    std::ranges::transform(name, name.begin(),
-                           [](char letter) { return letter >= 'A' && letter <= 'Z' ? letter + 32 : letter; });
-    const bool has_number = name.size() == 4 && name[3] >= '1' && name[3] <= '9';
-    return std::ranges::count(plain, name) > 0 ||
-           (has_number && std::ranges::count(numbered, name.substr(0, 3)) > 0);
-}
-
-// What some file system takes for something else becomes "_".
-std::string stem_of(const std::string& palette_name) {
-    constexpr std::string_view unfit = "/\\:*?\"<>|";
-    std::string stem = cut_at_character(palette_name, longest_stem);
-    if (stem.empty()) {
-        return "palette";
-    }
-    std::ranges::replace_if(
-        stem, [unfit](char letter) { return unfit.find(letter) != std::string_view::npos; }, '_');
-    for (char* const end : {&stem.front(), &stem.back()}) {
-        *end = *end == '.' || *end == ' ' ? '_' : *end;
-    }
-    return is_device(stem) ? "_" + stem : stem;
+    std::string content(static_cast<std::size_t>(size), ' ');
+    content.resize(read_bytes(file.get(), {reinterpret_cast<std::uint8_t*>(content.data()), content.size()}));
+    return std::hash<std::string>()(content);
 }
 
 std::span<const std::uint8_t> bytes_of(const std::string& text) {
@@ -91,12 +51,16 @@ Palette_List::Palette_List(const Palette_Store& store, std::string folder)
 void Palette_List::read_folder() {
     std::vector<std::string> names;
     for (const Folder_Entry& entry : folder_entries(folder_).value_or(std::vector<Folder_Entry>())) {
-        if (entry.kind == Path_Kind::file && has_extension(entry.name, extension) &&
-            names.size() < most_files) {
+        if (entry.kind == Path_Kind::file && has_extension(entry.name, extension)) {
             names.push_back(entry.name);
         }
     }
     std::ranges::sort(names, is_listed_before);
+    if (names.size() > most_files) {
+        note("Of " + std::to_string(names.size()) + " palettes only " + std::to_string(most_files) +
+             " are read.");
+        names.resize(most_files);
+    }
     std::ranges::for_each(names, [this](const std::string& name) { read_file(name); });
 }
 
@@ -110,7 +74,7 @@ void Palette_List::read_file(const std::string& name) {
         return;
     }
     reading.palette->name = free_name(clean_name(reading.palette->name), -1);
-    insert({std::move(*reading.palette), name});
+    insert({std::move(*reading.palette), name, fingerprint_of(path_of(name))});
 }
 
 const Palette& Palette_List::palette(int index) const {
@@ -136,7 +100,11 @@ std::optional<int> Palette_List::find(std::string_view name) const {
 
 int Palette_List::add(Palette palette) {
     palette.name = free_name(clean_name(palette.name), -1);
-    palette.colors.resize(std::min(palette.colors.size(), most_palette_colors));
+    if (palette.colors.size() > most_palette_colors) {
+        note("Only " + std::to_string(most_palette_colors) + " of its " +
+             std::to_string(palette.colors.size()) + " colors have room in the copy.");
+        palette.colors.resize(most_palette_colors);
+    }
     Kept_Palette kept{std::move(palette), {}};
     write(kept);
     return insert(std::move(kept));
@@ -152,6 +120,11 @@ int Palette_List::insert(Kept_Palette kept) {
 
 int Palette_List::change(int index, std::vector<Color> colors) {
     if (colors == palette(index).colors) {
+        return index;
+    }
+    if (!is_kept(index) && colors.size() > most_palette_colors) {
+        note("Nothing is changed: a copy has room for " + std::to_string(most_palette_colors) +
+             " colors only.");
         return index;
     }
     colors.resize(std::min(colors.size(), most_palette_colors));
@@ -171,11 +144,13 @@ int Palette_List::rename(int index, const std::string& name) {
     const int renamed = is_kept(index) ? index : add(palette(index));
     Kept_Palette taken = kept(renamed);
     taken.palette.name = free_name(clean_name(name), renamed);
-    const std::string old_file = std::exchange(taken.file_name, {});
-    write(taken);
-    if (taken.file_name.empty()) {
-        taken.file_name = old_file;
-    } else if (!old_file.empty()) {
+    const bool may_remove = !taken.file_name.empty() && !was_changed_by_others(taken);
+    const std::string old_file = taken.file_name;
+    if (!try_to_write(taken, free_file_name(taken.palette.name))) {
+        note("The new name cannot be written: it is called " + kept(renamed).palette.name + " as before.");
+        return renamed;
+    }
+    if (may_remove) {
         remove_file(path_of(old_file));
     }
     kept_.erase(kept_.begin() + (renamed - store_.size()));
@@ -216,12 +191,36 @@ void Palette_List::step(int index, std::vector<std::vector<Color>>& from,
 
 // What cannot be written is tried again with the next change.
 void Palette_List::write(Kept_Palette& kept) {
+    if (was_changed_by_others(kept)) {
+        leave_changed_file(kept);
+    }
     const std::string name = kept.file_name.empty() ? free_file_name(kept.palette.name) : kept.file_name;
-    if (make_folder(folder_) && write_file(path_of(name), bytes_of(gpl_text(kept.palette))) >= 0) {
-        kept.file_name = name;
-    } else {
+    if (!try_to_write(kept, name)) {
         note(name + " cannot be written: the palette lasts until the program ends.");
     }
+}
+
+bool Palette_List::try_to_write(Kept_Palette& kept, const std::string& name) {
+    const std::string text = gpl_text(kept.palette);
+    if (!make_folder(folder_) || write_file(path_of(name), bytes_of(text)) < 0) {
+        return false;
+    }
+    kept.file_name = name;
+    kept.fingerprint = std::hash<std::string>()(text);
+    return true;
+}
+
+// The other program's file keeps the name.
+void Palette_List::leave_changed_file(Kept_Palette& kept) {
+    const std::string file_name = std::exchange(kept.file_name, {});
+    kept.palette.name = free_name(kept.palette.name, -1);
+    note(file_name + " was changed by another program and stays as it is: the palette is called " +
+         kept.palette.name + " now.");
+}
+
+bool Palette_List::was_changed_by_others(const Kept_Palette& kept) const {
+    return !kept.file_name.empty() && path_kind(path_of(kept.file_name)) == Path_Kind::file &&
+           fingerprint_of(path_of(kept.file_name)) != kept.fingerprint;
 }
 
 std::string Palette_List::free_name(const std::string& wanted, int own) const {
@@ -237,7 +236,7 @@ std::string Palette_List::free_name(const std::string& wanted, int own) const {
 }
 
 std::string Palette_List::free_file_name(const std::string& palette_name) const {
-    const std::string stem = stem_of(palette_name);
+    const std::string stem = palette_stem(palette_name);
     std::string name = stem + "." + std::string(extension);
     for (int number = 2; path_kind(path_of(name)) != Path_Kind::nothing; ++number) {
         name = stem + " " + std::to_string(number) + "." + std::string(extension);
@@ -252,16 +251,20 @@ std::string Palette_List::path_of(const std::string& file_name) const {
 // It is no loss when it cannot be written.
 void Palette_List::set_first_shown(int index) {
     first_shown_ = index;
-    if (!kept_.empty()) {
-        static_cast<void>(write_file(path_of(first_shown_file), bytes_of(palette(index).name)));
+    const std::string path = path_of(first_shown_file);
+    const bool is_wanted = !kept_.empty() || path_kind(path) == Path_Kind::file;
+    if (is_wanted && palette(index).name != first_shown_name_) {
+        first_shown_name_ = palette(index).name;
+        static_cast<void>(write_file(path, bytes_of(first_shown_name_)));
     }
 }
 
 void Palette_List::read_first_shown() {
-    std::string name(longest_name, ' ');
+    std::string name(longest_palette_name, ' ');
     if (const File_Handle file = open_file(path_of(first_shown_file), File_Mode::read)) {
         name.resize(read_bytes(file.get(), {reinterpret_cast<std::uint8_t*>(name.data()), name.size()}));
         first_shown_ = find(name).value_or(0);
+        first_shown_name_ = name;
     }
 }
 

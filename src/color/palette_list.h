@@ -6,6 +6,7 @@
 #include "color/palette_formats.h"
 #include "color/palette_store.h"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -50,7 +51,8 @@ public:
 private:
     struct Kept_Palette {
         Palette palette;
-        std::string file_name; // none before it was written first
+        std::string file_name;       // none before it was written first
+        std::size_t fingerprint = 0; // of what was read from the file or written last
         std::vector<std::vector<Color>> before = {};
         std::vector<std::vector<Color>> after = {};
     };
@@ -63,6 +65,9 @@ private:
     void read_first_shown();
     int insert(Kept_Palette kept);
     void write(Kept_Palette& kept);
+    [[nodiscard]] bool try_to_write(Kept_Palette& kept, const std::string& name);
+    void leave_changed_file(Kept_Palette& kept);
+    [[nodiscard]] bool was_changed_by_others(const Kept_Palette& kept) const;
     void step(int index, std::vector<std::vector<Color>>& from, std::vector<std::vector<Color>>& to);
     [[nodiscard]] std::string free_name(const std::string& wanted, int own) const;
     [[nodiscard]] std::string free_file_name(const std::string& palette_name) const;
@@ -73,6 +78,7 @@ private:
     std::vector<Kept_Palette> kept_; // by name
     std::string note_;
     int first_shown_ = 0;
+    std::string first_shown_name_; // as it is kept
 };
 
 // Built at start-up after the store, destroyed before it.

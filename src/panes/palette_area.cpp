@@ -222,9 +222,7 @@ std::optional<int> Palette_Area::entry_at(Point point) const {
 
 void Palette_Area::show(int index) {
     palette_ = std::clamp(index, 0, list_.size() - 1);
-    if (list_.first_shown() != palette_) {
-        list_.set_first_shown(palette_);
-    }
+    list_.set_first_shown(palette_);
     select(entry_);
 }
 

@@ -14,7 +14,11 @@ constexpr std::int64_t most_file_bytes =
 
 const Picture_Format* format_of(Picture_Bytes start) {
     const auto* const found = std::ranges::find_if(picture_formats, [&](const Picture_Format& format) {
-        return std::ranges::equal(format.start, start);
+        const auto is_byte = [](char letter, std::uint8_t byte) {
+            return static_cast<std::uint8_t>(letter) == byte;
+        };
+        return start.size() >= format.start.size() &&
+               std::ranges::equal(format.start, start.first(format.start.size()), is_byte);
     });
     return found == picture_formats.end() ? nullptr : found;
 }

@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quadrelle {
@@ -38,7 +39,7 @@ constexpr int largest_file_edge = 8192;
 
 struct Picture_Format {
     const char* media_type;
-    std::array<std::uint8_t, 2> start; // of each file
+    std::string_view start; // of each file
     Decoded_Picture (*decoder)(Picture_Bytes bytes, int largest_edge);
     std::vector<std::uint8_t> (*encode)(const Tile& picture); // empty when that failed
 
@@ -56,8 +57,8 @@ struct Picture_Format {
 
 // The best format comes first.
 constexpr std::array picture_formats = std::to_array<Picture_Format>({
-    {"image/png", {0x89, 'P'}, decode_png, encode_png},
-    {"image/bmp", {'B', 'M'}, decode_bitmap, encode_bitmap},
+    {"image/png", "\x89PNG\r\n\x1a\n", decode_png, encode_png},
+    {"image/bmp", "BM", decode_bitmap, encode_bitmap},
 });
 
 // Judges the size that a file announces. It is asked before memory is taken.

@@ -48,7 +48,7 @@ struct Cut_Plan {
 };
 
 // The smallest and largest tiles that are cut out of pictures.
-constexpr int smallest_cut_edge = 4;
+constexpr int smallest_cut_edge = 1;
 constexpr int largest_cut_edge = 255;
 
 [[nodiscard]] Cut_Plan plan_cut(const Tile& picture, const Picture_Cut& cut);

@@ -83,6 +83,33 @@ TEST_F(Palette_List_Test, no_name_makes_a_file_that_some_system_cannot_have) {
     }
 }
 
+TEST_F(Palette_List_Test, a_file_that_another_program_changed_stays_as_it_is) {
+    Palette_List list = read();
+    list.add({"Sea", {red}});
+    const std::string other = "GIMP Palette\nName: Sea\n1 2 3\n";
+    store_text(file("Sea.gpl"), other);
+    EXPECT_EQ(list.palette(list.change(3, {blue})), Palette("Sea 2", {blue}));
+    EXPECT_NE(list.take_note(), "");
+    EXPECT_EQ(stored_text(file("Sea.gpl")), other);
+    EXPECT_EQ(names(read()), (std::vector<std::string>{"Sea", "Sea 2"}));
+    list.change(3, {red});
+    EXPECT_EQ(list.take_note(), "") << "the new file is its own";
+}
+
+TEST_F(Palette_List_Test, the_palette_that_is_shown_is_found_again_when_others_are_renamed_or_deleted) {
+    Palette_List list = read();
+    list.add({"b", {red}});
+    list.set_first_shown(list.rename(3, "c"));
+    list.add({"a", {red}});
+    EXPECT_EQ(read().palette(read().first_shown()).name, "c");
+    list.remove(3);
+    list.set_first_shown(3);
+    EXPECT_EQ(read().first_shown(), 3);
+    list.remove(3);
+    list.set_first_shown(2);
+    EXPECT_EQ(read().first_shown(), 2);
+}
+
 TEST_F(Palette_List_Test, what_is_no_palette_is_left_alone_and_told) {
     std::filesystem::create_directory(native(folder_.path("palettes")));
     const std::string broken = "GIMP Palette\n1 2\n";
@@ -111,8 +138,16 @@ TEST_F(Palette_List_Test, a_file_that_cannot_be_written_is_told_and_tried_again)
     EXPECT_EQ(list.take_note(), "");
     EXPECT_EQ(stored_text(file("Sea.gpl")), old);
     EXPECT_EQ(list.palette(3).colors, std::vector<Color>{blue});
+    {
+        const Fault fault(1);
+        list.rename(3, "Lake");
+    }
+    EXPECT_EQ(list.palette(3).name, "Sea");
+    EXPECT_NE(list.take_note(), "");
     list.change(3, {blue, red});
     EXPECT_EQ(read().palette(3), list.palette(3));
+    list.rename(3, std::string(5000, 'x'));
+    EXPECT_EQ(list.palette(3).name, std::string(100, 'x'));
 }
 
 } // namespace

@@ -69,7 +69,7 @@ Bytes write_png(const Png_Kind& kind, int interlacing, int texts = 0) {
     png_set_IHDR(png, info, png_size.width, png_size.height, kind.depth, kind.color_type, interlacing, 0, 0);
     png_set_gAMA(png, info, 0.2);
     std::string key_word = "Comment";
-    std::string long_text(std::size_t{7} << 20U, ' ');
+    std::string long_text(texts == 0 ? 0 : std::size_t{7} << 20U, ' ');
     png_text text{};
     text.compression = PNG_TEXT_COMPRESSION_zTXt;
     text.key = key_word.data();
@@ -149,7 +149,7 @@ TEST(Foreign_Pictures, every_kind_of_png_gives_its_colours) {
 #ifndef _WIN32
 
 TEST(Foreign_Pictures, texts_in_a_png_take_no_memory) {
-    const Bytes file = write_png({"rgb 8", 2, 8}, PNG_INTERLACE_NONE, 12);
+    const Bytes file = write_png({"rgb 8", 2, 8}, PNG_INTERLACE_NONE, 4);
     const auto most_memory = [] {
         rusage usage{};
         getrusage(RUSAGE_SELF, &usage);
@@ -158,7 +158,7 @@ TEST(Foreign_Pictures, texts_in_a_png_take_no_memory) {
     const auto decode = [&] {
         const long before = most_memory();
         const bool is_read = decode_png(file).picture.has_value();
-        std::_Exit(is_read && most_memory() - before < 20'000 ? 0 : 1);
+        std::_Exit(is_read && most_memory() - before < 10'000 ? 0 : 1);
     };
     EXPECT_EXIT(decode(), ::testing::ExitedWithCode(0), "");
 }
@@ -272,7 +272,8 @@ TEST(Foreign_Pictures, files_are_known_by_what_they_hold) {
     }
     for (const auto& [bytes, fault] :
          {std::pair{Bytes{'Q', 'D', 'L', '\n'}, Picture_Fault::unknown},
-          std::pair{Bytes{}, Picture_Fault::unknown}, std::pair{Bytes{'B', 'M'}, Picture_Fault::broken},
+          std::pair{Bytes{}, Picture_Fault::unknown}, std::pair{Bytes{0x89, 'P', 7}, Picture_Fault::unknown},
+          std::pair{Bytes{'B', 'M'}, Picture_Fault::broken},
           std::pair{encode_png(Tile(8193, 1)), Picture_Fault::too_large}}) {
         store(path, bytes);
         EXPECT_EQ(read_picture(path).fault, fault);
