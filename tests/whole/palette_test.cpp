@@ -154,7 +154,7 @@ TEST_F(Palette_Test, palettes_come_from_tiles_files_and_the_clipboard_and_go_the
         EXPECT_EQ(editor->panes().palette().palette().colors, colors(3));
     }
     EXPECT_EQ(names(), (std::vector<std::string>{"Clipboard", "Clipboard 2", "out", "Tile", "Tileset"}));
-    store_text(folder().path("out.png"), "\x89PNG");
+    store_text(folder().path("out.png"), "\x89PNG\r\n\x1a\nIHDR");
     choose("Import file");
     expect_message("Note", text_of(Picture_Fault::broken)).key(key::enter);
     play();
