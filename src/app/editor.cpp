@@ -72,6 +72,7 @@ bool Editor::show_first_frame() {
     parts_->panes.size_preview();
     tool_colors->reset();
     if (const std::string note = palette_list->take_note(); !note.empty()) {
+        trace(note);
         parts_->panes.hint_lines().report_lastingly({"Palettes", note});
     }
     redraw(Present::yes);

@@ -54,10 +54,14 @@ struct Found {
     int tiles = 0;
 };
 
-Found count_in_tiles(Tileset& tileset, const Color_Map& map) {
+// What was lifted off the current tile counts as dropped into it.
+Found count_in_tiles(Editor_Parts& editor, const Color_Map& map) {
+    Tileset& tileset = editor.documents.current().tileset();
+    std::optional<Tile> current = editor.desk.tile_with_lifted();
     Found found;
     for (int i = 0; i < tileset.count(); ++i) {
-        const int count = count_changes(Drawing_Target(tileset.tile_at(i)), map);
+        Tile& tile = current && i == tileset.current_index() ? *current : tileset.tile_at(i);
+        const int count = count_changes(Drawing_Target(tile), map);
         found.in_set += static_cast<std::size_t>(count);
         found.tiles += count > 0 ? 1 : 0;
         found.in_tile = i == tileset.current_index() ? count : found.in_tile;
@@ -68,7 +72,7 @@ Found count_in_tiles(Tileset& tileset, const Color_Map& map) {
 enum class Where { title, selection, tile, set };
 
 std::optional<Where> ask_where(Editor_Parts& editor, const Color_Map& map) {
-    const Found found = count_in_tiles(editor.documents.current().tileset(), map);
+    const Found found = count_in_tiles(editor, map);
     const bool has_something = editor.desk.has_something();
     const auto selected = static_cast<std::size_t>(has_something ? editor.desk.count_changes(map) : 0);
     const Popup popup{

@@ -328,13 +328,21 @@ void Selection_Desk::settle_before_leaving() {
 
 std::optional<Tile> Selection_Desk::settled_tile() const {
     const Work_Area& work = canvas_.work_area();
-    const bool is_to_plot = work.has_lifted() || (settles_before_leaving() && !work.is_plotted());
-    if (!is_to_plot || canvas_.tile() == nullptr) {
+    return work.has_lifted() || (settles_before_leaving() && !work.is_plotted()) ? tile_with_paste()
+                                                                                 : std::nullopt;
+}
+
+std::optional<Tile> Selection_Desk::tile_with_lifted() const {
+    return canvas_.work_area().has_lifted() ? tile_with_paste() : std::nullopt;
+}
+
+std::optional<Tile> Selection_Desk::tile_with_paste() const {
+    if (canvas_.tile() == nullptr) {
         return std::nullopt;
     }
     Tile settled(*canvas_.tile());
     Drawing_Target target(settled);
-    work.paste()->plot(target);
+    canvas_.work_area().paste()->plot(target);
     return settled;
 }
 

@@ -85,6 +85,8 @@ public:
     [[nodiscard]] bool has_to_settle() const;
     // Returns the tile with what would be plotted then; none if that is nothing.
     [[nodiscard]] std::optional<Tile> settled_tile() const;
+    // Returns the tile as it is when what was lifted off it drops; none if nothing was.
+    [[nodiscard]] std::optional<Tile> tile_with_lifted() const;
     // Plots what was lifted off the tile, as a step of its own, before another tile comes into view or this
     // one is shifted. It floats no longer, whatever the mode; copies float on.
     void drop_lifted();
@@ -100,6 +102,7 @@ private:
     [[nodiscard]] bool is_to_settle() const;
     [[nodiscard]] bool settles_before_leaving() const;
     void settle();
+    [[nodiscard]] std::optional<Tile> tile_with_paste() const;
 
     Canvas_View& canvas_;
     Recorder& recorder_;

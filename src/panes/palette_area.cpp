@@ -49,7 +49,12 @@ Palette_Area::Palette_Area(Point position, Palette_List& list, const Tool_Colors
 Palette_Area::Grid Palette_Area::grid() const {
     constexpr int column_step = 4;
     Grid best;
-    for (int columns = least_columns; columns <= grid_size.width; columns += column_step) {
+    // More columns make narrower cells.
+    const auto can_be_better = [&best](int columns) {
+        return grid_size.width / columns >= std::min(best.cell.width, best.cell.height);
+    };
+    for (int columns = least_columns; columns <= grid_size.width && can_be_better(columns);
+         columns += column_step) {
         const int rows = std::max((count() + columns - 1) / columns, 1);
         const Size cell{grid_size.width / columns, std::min(grid_size.height / rows, largest_cell_height)};
         const auto worth = [](Size size) {
@@ -129,8 +134,10 @@ void Palette_Area::draw_marks() const {
         draw_color_in_use(Mouse_Button::left);
         draw_color_in_use(Mouse_Button::right);
     }
-    if (const std::optional<int> pointed = entry_at(followed_pointer().position);
-        pointed && is_pointed_at(client_area())) {
+    if (!is_pointed_at(client_area())) {
+        return;
+    }
+    if (const std::optional<int> pointed = entry_at(followed_pointer().position)) {
         draw_outlined_answer(grid().at(*pointed));
     }
 }
@@ -160,13 +167,15 @@ void Palette_Area::draw_color_in_use(Mouse_Button button) const {
     const Rectangle place = is_selected ? grid().at(entry_).inset(cell_mark_width)
                                         : grid().at(static_cast<int>(found - colors.begin()));
     const int edge = std::min({corner_edge, place.width / 2, place.height});
+    const bool is_left = button == Mouse_Button::left;
     for (int row = 0; row < edge; ++row) {
         const int length = edge - row;
-        const int x = button == Mouse_Button::left ? place.x : place.right() - length;
-        const int end = button == Mouse_Button::left ? x + length - 1 : x;
+        const int x = is_left ? place.x : place.right() - length;
         screen->fill_rect({x, place.y + row, length, 1}, standard_color(Standard_Color::white));
-        screen->fill_rect({end, place.y + row, 1, 1}, standard_color(Standard_Color::black));
     }
+    const int side = is_left ? place.x : place.right() - 1;
+    const int end = is_left ? side + edge - 1 : side - edge + 1;
+    screen->draw_line({end, place.y}, {side, place.y + edge - 1}, standard_color(Standard_Color::black));
 }
 
 void Palette_Area::draw_step_button(Sprite sprite, const Rectangle& place) const {

@@ -12,12 +12,6 @@ namespace {
 
 Frame* the_frame = nullptr;
 
-// Whether the two show the same image in the same place in the same way, whatever its pixels are.
-bool same_but_for_version(const Drawing_Call& one, const Drawing_Call& other) {
-    return one.kind == Call_Kind::image && other.kind == Call_Kind::image && one.image_id == other.image_id &&
-           one.area == other.area && one.source == other.source;
-}
-
 // What of the window an image in its own size changed, when only its last change is new; all of it otherwise.
 Rectangle changed_area(const Drawing_Call& call, const Drawing_Call& before) {
     const bool is_unstretched =
@@ -103,20 +97,15 @@ void Frame::release_images() {
     }
 }
 
-bool Frame::same(const Drawing_Call& call, const Frame& before, const Drawing_Call& other) const {
-    return call.kind == other.kind && call.area == other.area && call.color == other.color &&
-           call.source == other.source && call.image_id == other.image_id &&
-           call.image_version == other.image_version && call.font == other.font &&
-           text_of(call) == before.text_of(other);
-}
-
 bool Frame::meets(std::size_t here, const Frame& before, std::size_t there) const {
     if (here >= calls_.size() || there >= before.calls_.size()) {
         return false;
     }
     const Drawing_Call& call = calls_[here];
     const Drawing_Call& other = before.calls_[there];
-    return same(call, before, other) || same_but_for_version(call, other);
+    return call.kind == other.kind && call.area == other.area && call.source == other.source &&
+           call.image_id == other.image_id && call.color == other.color && call.font == other.font &&
+           (call.kind != Call_Kind::text || text_of(call) == before.text_of(other));
 }
 
 // As many calls further in both lists, or in one of them; else at their ends.

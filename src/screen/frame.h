@@ -71,8 +71,9 @@ private:
     };
     void add(Drawing_Call call);
     [[nodiscard]] Places next_meeting(Places from, const Frame& before) const;
+    // Whether the two calls draw the same thing in the same place in the same way; of an image the pixels may
+    // differ.
     [[nodiscard]] bool meets(std::size_t here, const Frame& before, std::size_t there) const;
-    [[nodiscard]] bool same(const Drawing_Call& call, const Frame& before, const Drawing_Call& other) const;
 
     Rectangle window_;
     bool is_complete_ = false;

@@ -58,5 +58,27 @@ shown drag 420 260 480 260
 xdotool key ctrl+e
 is_exported_anew() { [ "$(cksum <"$work/out.png")" != "$before" ]; }
 wait_until is_exported_anew || fail "it was not exported again"
+
+# A colour of the tile is stored in a palette, which then is one of its own: it is there at the next start.
+click 60 542 # the second entry of the fourth row
+xdotool keydown alt
+click 560 290
+xdotool keyup alt
+shown click 110 619
+# Its name and colours, with that entry selected.
+sum_of_palette() {
+    click 60 542
+    move 1200 400
+    settle
+    part=200x104+34+452 fingerprint
+}
+kept=$(sum_of_palette)
+take_picture palette_kept
+quit_editor
+grep -q "^Name: Default 2" "$work/run/data/palettes/Default 2.gpl" || fail "the palette has no file"
+start_editor
+found=$(sum_of_palette)
+take_picture palette_found
+[ "$found" = "$kept" ] || fail "the palette is not as it was left"
 quit_editor
 echo "passed"
