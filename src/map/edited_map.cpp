@@ -62,9 +62,15 @@ void Edited_Map::restart() {
     }
 }
 
-bool Edited_Map::end_step(const Tile_Map& before) {
+std::span<Map_Cell> Edited_Map::row_to_change(Map_Point first, int length) {
     ++version_;
-    return history_.add(before, map_);
+    const std::ptrdiff_t start = std::ptrdiff_t{first.y} * map_.size().width + first.x;
+    return map_.cells().subspan(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+}
+
+bool Edited_Map::end_step(const Tile_Map& before, const Map_Sides& sides) {
+    ++version_;
+    return history_.add(before, map_, sides);
 }
 
 bool Edited_Map::commit() {
@@ -83,14 +89,15 @@ void Edited_Map::give_up() {
 bool Edited_Map::resize(const Map_Sides& sides) {
     give_up();
     const Tile_Map before = std::exchange(map_, map_.resized(sides));
-    return end_step(before);
+    return end_step(before, sides);
 }
 
 bool Edited_Map::replace(Tile_Map map) {
     give_up();
     const Tile_Map before = std::exchange(map_, std::move(map));
     give_ids();
-    return end_step(before);
+    const Size size = before.size();
+    return end_step(before, {0, 0, map_.size().width - size.width, map_.size().height - size.height});
 }
 
 bool Edited_Map::undo() {

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace quadrelle {
@@ -35,6 +36,8 @@ public:
     void begin();
     [[nodiscard]] bool is_in_gesture() const { return before_.has_value(); }
     void set(Map_Point point, Map_Cell cell);
+    // Returns so many cells of a row, all inside of the map, to be changed.
+    [[nodiscard]] std::span<Map_Cell> row_to_change(Map_Point first, int length);
     // The cells are as they were at the beginning; the gesture goes on.
     void restart();
     // Ends the gesture. False when nothing is different.
@@ -49,9 +52,11 @@ public:
 
     bool undo();
     bool redo();
-    // Takes the newest step back as if it had never been.
+    // Takes the step that was just made back as if it had never been, also for what can be redone.
     bool take_back();
     [[nodiscard]] const Map_History& history() const { return history_; }
+    // Returns where the first cell of the first map lies now: columns and rows may have come before it.
+    [[nodiscard]] Map_Point origin() const { return history_.origin(); }
 
     // The tiles of the set have changed places: the map shows the same pictures. Returns how many cells a
     // deleted tile has emptied.
@@ -63,7 +68,7 @@ private:
     // Cells of tiles that are gone become empty; returns how many.
     int empty_gone();
     void give_ids();
-    bool end_step(const Tile_Map& before);
+    bool end_step(const Tile_Map& before, const Map_Sides& sides = {});
 
     Tile_Ids ids_;
     Tile_Map map_;

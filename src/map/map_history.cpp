@@ -1,83 +1,76 @@
 #include "map/map_history.h"
 
-#include <algorithm>
-#include <span>
 #include <utility>
 
 namespace quadrelle {
 
-namespace {
-
-Map_Bytes runs_of_changes(std::span<const Map_Cell> before, std::span<const Map_Cell> after) {
-    Map_Bytes bytes;
-    std::size_t written = 0;
-    for (std::size_t start = 0; start < before.size();) {
-        if (before[start] == after[start]) {
-            ++start;
-            continue;
-        }
-        std::size_t end = start + 1;
-        while (end < before.size() && before[end] != after[end]) {
-            ++end;
-        }
-        append_number(bytes, static_cast<std::uint32_t>(start - written));
-        append_number(bytes, static_cast<std::uint32_t>(end - start));
-        append_cells(bytes, before.subspan(start, end - start));
-        append_cells(bytes, after.subspan(start, end - start));
-        written = end;
-        start = end;
-    }
-    bytes.shrink_to_fit();
-    return bytes;
+void Map_History::push(Map_Step step) {
+    bytes_ += step.memory_size();
+    steps_.push_back(std::move(step));
 }
 
-} // namespace
-
-Map_History::Step Map_History::step_of(const Tile_Map& before, const Tile_Map& after) {
-    Step step{before.size(), after.size(), {}};
-    if (step.before == step.after) {
-        step.changes = runs_of_changes(before.cells(), after.cells());
-    } else {
-        append_cells(step.changes, before.cells());
-        append_cells(step.changes, after.cells());
-    }
-    return step;
+void Map_History::pop_back() {
+    bytes_ -= steps_.back().memory_size();
+    steps_.pop_back();
 }
 
-bool Map_History::add(const Tile_Map& before, const Tile_Map& after) {
-    Step step = step_of(before, after);
-    if (step.changes.empty()) {
+void Map_History::pop_front() {
+    bytes_ -= steps_.front().memory_size();
+    steps_.pop_front();
+    --position_;
+}
+
+void Map_History::forget_what_newest_forgot() {
+    for (const Map_Step& step : std::exchange(forgotten_, {})) {
+        bytes_ -= step.memory_size();
+    }
+}
+
+bool Map_History::add(const Tile_Map& before, const Tile_Map& after, const Map_Sides& sides) {
+    if (before == after) {
         return false;
     }
-    forget_undone();
-    bytes_ += step.changes.capacity() + sizeof(Step);
-    steps_.push_back(std::move(step));
-    position_ = steps_.size();
-    while (bytes_ > most_bytes && steps_.size() > 1) {
-        forget_oldest();
+    forget_what_newest_forgot();
+    while (can_redo()) {
+        forgotten_.push_front(std::move(steps_.back()));
+        steps_.pop_back();
     }
+    push(Map_Step(after, before, {-sides.left, -sides.top, -sides.right, -sides.bottom}));
+    position_ = steps_.size();
+    origin_ = {origin_.x + sides.left, origin_.y + sides.top};
+    forget_too_many();
     return true;
 }
 
-void Map_History::forget_undone() {
-    while (can_redo()) {
-        bytes_ -= steps_.back().changes.capacity() + sizeof(Step);
-        steps_.pop_back();
+void Map_History::forget_too_many() {
+    while (bytes_ > most_bytes && !forgotten_.empty()) {
+        bytes_ -= forgotten_.back().memory_size();
+        forgotten_.pop_back();
+    }
+    while (bytes_ > most_bytes && position_ + 1 < steps_.size()) {
+        pop_back();
+    }
+    while (bytes_ > most_bytes && position_ > 1) {
+        pop_front();
     }
 }
 
-void Map_History::forget_oldest() {
-    bytes_ -= steps_.front().changes.capacity() + sizeof(Step);
-    steps_.pop_front();
-    --position_;
+// The step leads the other way from then on.
+void Map_History::pass(std::size_t index, Tile_Map& map) {
+    Map_Step& step = steps_[index];
+    origin_ = {origin_.x + step.sides().left, origin_.y + step.sides().top};
+    bytes_ -= step.memory_size();
+    step = step.apply(map);
+    bytes_ += step.memory_size();
 }
 
 bool Map_History::undo(Tile_Map& map) {
     if (!can_undo()) {
         return false;
     }
-    --position_;
-    restore(steps_[position_], Side::before, map);
+    forget_what_newest_forgot();
+    pass(--position_, map);
+    forget_too_many();
     return true;
 }
 
@@ -85,46 +78,22 @@ bool Map_History::redo(Tile_Map& map) {
     if (!can_redo()) {
         return false;
     }
-    restore(steps_[position_], Side::after, map);
-    ++position_;
+    forget_what_newest_forgot();
+    pass(position_++, map);
+    forget_too_many();
     return true;
 }
 
 bool Map_History::take_back(Tile_Map& map) {
-    const bool is_done = undo(map);
-    forget_undone();
-    return is_done;
-}
-
-void Map_History::restore(const Step& step, Side side, Tile_Map& map) {
-    if (step.before == step.after) {
-        restore_runs(step, side, map);
-        return;
+    if (!can_undo()) {
+        return false;
     }
-    Map_Code_Reader reader(step.changes);
-    Tile_Map before(step.before);
-    reader.cells(before.cells());
-    if (side == Side::after) {
-        map = Tile_Map(step.after);
-        reader.cells(map.cells());
-    } else {
-        map = std::move(before);
+    pass(--position_, map);
+    pop_back();
+    for (Map_Step& step : std::exchange(forgotten_, {})) {
+        steps_.push_back(std::move(step));
     }
-}
-
-void Map_History::restore_runs(const Step& step, Side side, Tile_Map& map) {
-    Map_Code_Reader reader(step.changes);
-    std::vector<Map_Cell> other;
-    std::size_t start = 0;
-    while (!reader.is_at_end()) {
-        start += reader.number();
-        const std::size_t count = reader.number();
-        other.resize(count);
-        const std::span<Map_Cell> cells = map.cells().subspan(start, count);
-        reader.cells(side == Side::before ? cells : other);
-        reader.cells(side == Side::before ? other : cells);
-        start += count;
-    }
+    return true;
 }
 
 } // namespace quadrelle

@@ -26,12 +26,6 @@ void darken(Color& pixel) {
 
 } // namespace
 
-void Map_Picture::set(Map_Point point, Map_Cell cell) {
-    if (area.contains({point.x, point.y})) {
-        cells[static_cast<std::size_t>((point.y - area.y) * area.width + point.x - area.x)] = cell;
-    }
-}
-
 void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& part) {
     const Map_Camera& camera = picture.camera;
     stretches_.clear();

@@ -8,6 +8,8 @@
 #include "map/tile_map.h"
 
 #include <array>
+#include <cstddef>
+#include <span>
 #include <vector>
 
 namespace quadrelle {
@@ -25,8 +27,12 @@ struct Map_Picture {
     [[nodiscard]] const Map_Cell* row(int y) const {
         return cells.data() + static_cast<std::ptrdiff_t>(y - area.y) * area.width;
     }
-    // Nothing happens to a cell that is not seen.
-    void set(Map_Point point, Map_Cell cell);
+    // Returns cells of a row that are all seen.
+    [[nodiscard]] std::span<Map_Cell> cells_from(Map_Point first, int length) {
+        const std::ptrdiff_t start =
+            static_cast<std::ptrdiff_t>(first.y - area.y) * area.width + (first.x - area.x);
+        return std::span(cells).subspan(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    }
 };
 
 class Map_Painter {

@@ -70,46 +70,61 @@ Map_Stamp changed(const Map_Stamp& stamp, Stamp_Change change) {
     return result;
 }
 
-Map_Pattern::Map_Pattern(const Map_Stamp& stamp, Stamp_Use use, Map_Point anchor, std::uint32_t seed)
-    : stamp_(stamp), use_(use), anchor_(anchor), seed_(seed) {
+Stamp_Chances::Stamp_Chances(const Map_Stamp& stamp) {
+    std::uint32_t sum = 0;
     for (const Stamp_Cell& cell : stamp.cells) {
-        all_weights_ += cell.cell.is_empty() ? 0 : cell.weight;
-    }
-}
-
-std::optional<Map_Cell> Map_Pattern::at(Map_Point point) const {
-    if (use_ == Stamp_Use::erase) {
-        return Map_Cell();
-    }
-    if (all_weights_ == 0) {
-        return std::nullopt;
-    }
-    if (use_ == Stamp_Use::at_random) {
-        return random_cell(point);
-    }
-    const Map_Cell cell = stamp_
-                              .at(remainder_of(point.x - anchor_.x, stamp_.size.width),
-                                  remainder_of(point.y - anchor_.y, stamp_.size.height))
-                              .cell;
-    return cell.is_empty() ? std::nullopt : std::optional(cell);
-}
-
-std::optional<Map_Cell> Map_Pattern::random_cell(Map_Point point) const {
-    const auto x = static_cast<std::uint32_t>(point.x);
-    const auto y = static_cast<std::uint32_t>(point.y);
-    const std::uint32_t number = scattered(scattered(scattered(seed_) ^ x) ^ y);
-    int left = static_cast<int>(number % static_cast<std::uint32_t>(all_weights_));
-    for (const Stamp_Cell& cell : stamp_.cells) {
-        left -= cell.cell.is_empty() ? 0 : cell.weight;
-        if (left < 0) {
-            return cell.cell;
+        if (!cell.cell.is_empty()) {
+            sum += static_cast<std::uint32_t>(cell.weight);
+            cells_.push_back(cell.cell);
+            ends_.push_back(sum);
         }
     }
-    return std::nullopt;
+}
+
+Map_Cell Stamp_Chances::of(std::uint32_t random_number) const {
+    const auto found = std::ranges::upper_bound(ends_, random_number % ends_.back());
+    return cells_[static_cast<std::size_t>(found - ends_.begin())];
+}
+
+Map_Pattern::Map_Pattern(const Map_Stamp& stamp, Stamp_Use use, Map_Point anchor, std::uint32_t seed)
+    : stamp_(stamp), use_(use), anchor_(anchor), seed_(seed), has_nothing_(stamp.is_empty()) {
+    if (use == Stamp_Use::at_random && !has_nothing_) {
+        chances_ = Stamp_Chances(stamp);
+    }
+}
+
+void Map_Pattern::place(Map_Point first, std::span<Map_Cell> cells) const {
+    if (use_ == Stamp_Use::erase) {
+        std::ranges::fill(cells, Map_Cell());
+    } else if (has_nothing_) {
+        return;
+    } else if (use_ == Stamp_Use::at_random) {
+        place_at_random(first, cells);
+    } else {
+        place_stamp(first, cells);
+    }
+}
+
+void Map_Pattern::place_stamp(Map_Point first, std::span<Map_Cell> cells) const {
+    const Stamp_Cell* const row = &stamp_.at(0, remainder_of(first.y - anchor_.y, stamp_.size.height));
+    int x = remainder_of(first.x - anchor_.x, stamp_.size.width);
+    for (Map_Cell& cell : cells) {
+        cell = row[x].cell.is_empty() ? cell : row[x].cell;
+        x = x + 1 == stamp_.size.width ? 0 : x + 1;
+    }
+}
+
+void Map_Pattern::place_at_random(Map_Point first, std::span<Map_Cell> cells) const {
+    const std::uint32_t row_seed = scattered(seed_);
+    auto x = static_cast<std::uint32_t>(first.x);
+    for (Map_Cell& cell : cells) {
+        cell = chances_.of(scattered(scattered(row_seed ^ x) ^ static_cast<std::uint32_t>(first.y)));
+        ++x;
+    }
 }
 
 Rectangle Map_Pattern::reach(Map_Point point) const {
-    const bool is_whole = use_ == Stamp_Use::whole && all_weights_ > 0;
+    const bool is_whole = use_ == Stamp_Use::whole && !has_nothing_;
     const Size size = is_whole ? stamp_.size : Size{1, 1};
     return {point.x, point.y, size.width, size.height};
 }

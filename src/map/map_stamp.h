@@ -5,7 +5,7 @@
 #include "map/tile_map.h"
 
 #include <cstdint>
-#include <optional>
+#include <span>
 #include <vector>
 
 namespace quadrelle {
@@ -42,25 +42,42 @@ enum class Stamp_Change { mirror, flip, turn_right, turn_left };
 
 enum class Stamp_Use { whole, at_random, erase };
 
+// What comes at random, each as often as its weight says. Holes do not come.
+class Stamp_Chances {
+public:
+    Stamp_Chances() = default;
+    // Not all cells are holes.
+    explicit Stamp_Chances(const Map_Stamp& stamp);
+
+    [[nodiscard]] Map_Cell of(std::uint32_t random_number) const;
+
+private:
+    std::vector<Map_Cell> cells_;
+    std::vector<std::uint32_t> ends_; // the weights of each cell and those before it
+};
+
 // The stamp repeated all over the plane from the anchor on, or its cells at random: the same seed gives the
-// same cell at the same place. Has none where nothing is to be placed.
+// same cell at the same place.
 class Map_Pattern {
 public:
     // The stamp is borrowed.
     Map_Pattern(const Map_Stamp& stamp, Stamp_Use use, Map_Point anchor, std::uint32_t seed);
 
-    [[nodiscard]] std::optional<Map_Cell> at(Map_Point point) const;
-    // Returns the cells that one press at that point places.
+    // Writes what it has into cells of one row that begin at the point; the others stay.
+    void place(Map_Point first, std::span<Map_Cell> cells) const;
+    // Returns the cells that one press of the pen at that point places.
     [[nodiscard]] Rectangle reach(Map_Point point) const;
 
 private:
-    [[nodiscard]] std::optional<Map_Cell> random_cell(Map_Point point) const;
+    void place_stamp(Map_Point first, std::span<Map_Cell> cells) const;
+    void place_at_random(Map_Point first, std::span<Map_Cell> cells) const;
 
     const Map_Stamp& stamp_;
     Stamp_Use use_;
     Map_Point anchor_;
     std::uint32_t seed_;
-    int all_weights_ = 0;
+    bool has_nothing_;
+    Stamp_Chances chances_; // where they are asked for
 };
 
 } // namespace quadrelle

@@ -12,12 +12,11 @@ namespace {
 
 void place_in(Edited_Map& map, const Map_Pattern& pattern, const Rectangle& area) {
     const Rectangle inside = intersection(area, map.map().area());
+    if (inside.is_empty()) {
+        return;
+    }
     for (int y = inside.y; y < inside.bottom(); ++y) {
-        for (int x = inside.x; x < inside.right(); ++x) {
-            if (const std::optional<Map_Cell> cell = pattern.at({x, y})) {
-                map.set({x, y}, *cell);
-            }
-        }
+        pattern.place({inside.x, y}, map.row_to_change({inside.x, y}, inside.width));
     }
 }
 
@@ -32,9 +31,17 @@ void place_at(Edited_Map& map, const Map_Pattern& pattern, Map_Point point) {
     place_in(map, pattern, pattern.reach(point));
 }
 
+// What lies in both places is there already: a stamp as large as the map would take seconds each time.
 void place_line(Edited_Map& map, const Map_Pattern& pattern, Map_Point from, Map_Point to) {
+    Rectangle before = pattern.reach(from);
     walk_line({from.x, from.y}, {to.x, to.y}, [&](Tile_Point point) {
-        place_at(map, pattern, {point.x, point.y});
+        const Rectangle next = pattern.reach({point.x, point.y});
+        const Rectangle both = intersection(before, next);
+        place_in(map, pattern, {next.x, next.y, next.width, both.y - next.y});
+        place_in(map, pattern, {next.x, both.bottom(), next.width, next.bottom() - both.bottom()});
+        place_in(map, pattern, {next.x, both.y, both.x - next.x, both.height});
+        place_in(map, pattern, {both.right(), both.y, next.right() - both.right(), both.height});
+        before = next;
     });
 }
 

@@ -8,7 +8,7 @@
 namespace quadrelle {
 
 void place_at(Edited_Map& map, const Map_Pattern& pattern, Map_Point point);
-// Along a line without gaps, with both ends.
+// Along a line without gaps, on from where it was placed.
 void place_line(Edited_Map& map, const Map_Pattern& pattern, Map_Point from, Map_Point to);
 // In all cells between two corners, both included.
 void place_rectangle(Edited_Map& map, const Map_Pattern& pattern, Map_Point corner, Map_Point other);

@@ -7,6 +7,9 @@
 #include "ui/wrapped_text.h"
 #include "views/map_layout.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace quadrelle {
 
 namespace {
@@ -49,21 +52,47 @@ Map_Pattern Map_Editor::pattern(Map_Point anchor) const {
     return {desk_.stamp, desk_.use, anchor, desk_.seed};
 }
 
-Map_Overlay Map_Editor::overlay() const {
+Map_Tool Map_Editor::tool() const {
+    return held_modifiers().shift ? Map_Tool::rectangle : desk_.tool;
+}
+
+// It is the same as long as the pointer stays in it, and so is looked for when it comes to another one.
+const std::vector<Map_Run>& Map_Editor::region() {
+    const auto has_pointer = [this](const Map_Run& run) {
+        return run.first.y == position_.y && position_.x >= run.first.x &&
+               position_.x < run.first.x + run.length;
+    };
+    if (region_version_ != map_.version() || std::ranges::none_of(region_, has_pointer)) {
+        region_ = filled_region(map_.map(), position_);
+        region_version_ = map_.version();
+    }
+    return region_;
+}
+
+// What a press would place.
+Map_Overlay Map_Editor::overlay() {
     Map_Overlay overlay;
     if (!is_over_map() || is_placing_ || taken_) {
         return overlay;
     }
-    const Map_Pattern placed = pattern(position_);
-    const Rectangle reach = intersection(placed.reach(position_), camera().seen_cells(map_.map().size()));
-    for (int y = reach.y; y < reach.bottom(); ++y) {
-        for (int x = reach.x; x < reach.right(); ++x) {
-            if (const std::optional<Map_Cell> cell = placed.at({x, y})) {
-                overlay.places.push_back({{x, y}, *cell});
-            }
-        }
+    overlay.pattern.emplace(desk_.stamp, desk_.use, position_, desk_.seed);
+    const Rectangle seen = camera().seen_cells(map_.map().size());
+    if (tool() == Map_Tool::fill) {
+        std::ranges::copy_if(region(), std::back_inserter(overlay.runs), [&seen](const Map_Run& run) {
+            return run.first.y >= seen.y && run.first.y < seen.bottom();
+        });
+        return overlay;
+    }
+    const Rectangle reach = intersection(reach_of_press(), seen);
+    for (int y = reach.y; y < reach.bottom() && reach.width > 0; ++y) {
+        overlay.runs.push_back({{reach.x, y}, reach.width});
     }
     return overlay;
+}
+
+Rectangle Map_Editor::reach_of_press() const {
+    return tool() == Map_Tool::pen ? pattern(position_).reach(position_)
+                                   : Rectangle{position_.x, position_.y, 1, 1};
 }
 
 void Map_Editor::draw() {
@@ -89,7 +118,7 @@ void Map_Editor::draw_outlines() const {
     if (taken_) {
         draw(*taken_, Standard_Color::white);
     } else if (is_over_map() && !is_placing_) {
-        draw(pattern(position_).reach(position_), Standard_Color::highlight);
+        draw(reach_of_press(), Standard_Color::highlight);
     }
 }
 

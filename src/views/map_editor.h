@@ -54,7 +54,11 @@ private:
     [[nodiscard]] std::string info();
     [[nodiscard]] Map_Button_State state_of(Map_Action action) const;
     [[nodiscard]] Map_Pattern pattern(Map_Point anchor) const;
-    [[nodiscard]] Map_Overlay overlay() const;
+    [[nodiscard]] Map_Overlay overlay();
+    [[nodiscard]] const std::vector<Map_Run>& region();
+    // Those of a press now.
+    [[nodiscard]] Map_Tool tool() const;
+    [[nodiscard]] Rectangle reach_of_press() const;
     [[nodiscard]] bool is_over_map() const;
     [[nodiscard]] Map_Point cell_at(Point point) const;
     [[nodiscard]] Map_Camera& camera() const { return *desk_.camera; }
@@ -66,7 +70,7 @@ private:
     void turn_wheel(const Input_Event& event);
     Loop_Step press(const Input_Event& event);
     void press_on_list(const Input_Event& event);
-    Loop_Step press_on_map(const Input_Event& event);
+    void press_on_map(const Input_Event& event);
     void place(Map_Point cell);
     void take_stamp(Map_Point cell);
     void pan();
@@ -78,6 +82,7 @@ private:
     void change_stamp(Stamp_Change change);
     void zoom(int steps, Point about);
     void change_size();
+    void follow_origin(Map_Point before);
     void import();
     void report_export();
     void note_change_if(bool is_changed, std::string_view otherwise);
@@ -100,8 +105,15 @@ private:
     std::optional<Rectangle> taken_; // the cells that a drag takes
     Wheel_Steps wheel_;
     bool is_placing_ = false;
-    std::optional<Map_Point> last_press_; // of the left button
-    std::optional<Map_Point> placed_;     // by it, without a drag
+    // The first of what may become two clicks; all else that happens ends that.
+    struct First_Click {
+        Map_Point place;
+        bool has_placed = false;
+    };
+    std::optional<First_Click> first_click_;
+    // What a fill reaches: of that version of the map.
+    std::vector<Map_Run> region_;
+    std::optional<std::uint64_t> region_version_;
     std::vector<int> uses_;
     std::optional<std::uint64_t> uses_version_;
     std::optional<Map_Visit> visit_;

@@ -26,6 +26,9 @@ Point in_view(Point point) {
 } // namespace
 
 Loop_Step Map_Editor::handle(const Input_Event& event) {
+    if (event.kind == Input_Kind::key_press || event.kind == Input_Kind::wheel) {
+        first_click_.reset();
+    }
     switch (event.kind) {
     case Input_Kind::key_press: return handle_key(event);
     case Input_Kind::pointer_motion: gesture().follow(event.pointer.point()); return Loop_Step::go_on;
@@ -107,10 +110,15 @@ Loop_Step Map_Editor::press(const Input_Event& event) {
     if (event.pointer.button == Mouse_Button::none) {
         return Loop_Step::go_on;
     }
-    if (is_over_map()) {
-        return press_on_map(event);
+    const std::optional<First_Click> first_click = std::exchange(first_click_, std::nullopt);
+    if (is_over_map() && event.pointer.button == Mouse_Button::left && event.clicks == 2 && first_click &&
+        first_click->place == position_) {
+        return visit(position_, first_click->has_placed);
     }
-    placed_.reset();
+    if (is_over_map()) {
+        press_on_map(event);
+        return Loop_Step::go_on;
+    }
     if (const std::optional<Map_Action> action = buttons_.at(pointer_)) {
         return act(*action);
     }
@@ -145,36 +153,26 @@ void Map_Editor::choose_to(int tile, int other) {
     }
 }
 
-Loop_Step Map_Editor::press_on_map(const Input_Event& event) {
-    const std::optional<Map_Point> placed = std::exchange(placed_, std::nullopt);
+void Map_Editor::press_on_map(const Input_Event& event) {
     if (event.pointer.button == Mouse_Button::left) {
-        if (event.clicks == 2 && last_press_ == position_) {
-            last_press_.reset();
-            return visit(position_, placed.has_value());
-        }
-        last_press_ = position_;
         place(position_);
-        return Loop_Step::go_on;
-    }
-    if (held_modifiers().control) {
+    } else if (held_modifiers().control) {
         pan();
     } else {
         take_stamp(position_);
     }
-    return Loop_Step::go_on;
 }
 
 void Map_Editor::place(Map_Point cell) {
-    const Map_Tool tool = held_modifiers().shift ? Map_Tool::rectangle : desk_.tool;
     is_placing_ = true;
-    const bool is_changed = place_while_held(map_, pattern(cell), tool, cell, gesture());
+    const bool is_changed = place_while_held(map_, pattern(cell), tool(), cell, gesture());
     is_placing_ = false;
     if (is_changed) {
         ++desk_.seed;
         links_.note_change();
     }
-    if (is_changed && position_ == cell) {
-        placed_ = cell;
+    if (position_ == cell) {
+        first_click_ = {cell, is_changed};
     }
 }
 
@@ -224,6 +222,7 @@ void Map_Editor::pan() {
 
 Loop_Step Map_Editor::act(Map_Action action) {
     report_.clear();
+    const Map_Point origin = map_.origin();
     switch (action) {
     case Map_Action::pen: desk_.tool = Map_Tool::pen; break;
     case Map_Action::rectangle: desk_.tool = Map_Tool::rectangle; break;
@@ -251,6 +250,7 @@ Loop_Step Map_Editor::act(Map_Action action) {
     case Map_Action::close: return Loop_Step::end;
     case Map_Action::count: break;
     }
+    follow_origin(origin);
     camera().keep_in_view(map_.map().size());
     return Loop_Step::go_on;
 }
@@ -274,6 +274,18 @@ void Map_Editor::change_size() {
     }
 }
 
+// Columns and rows that come or go before the others leave what is seen where it is.
+void Map_Editor::follow_origin(Map_Point before) {
+    const Map_Point by{map_.origin().x - before.x, map_.origin().y - before.y};
+    const Rectangle was = camera().area_of({0, 0, 1, 1});
+    const Rectangle is = camera().area_of({by.x, by.y, 1, 1});
+    camera().move({was.x - is.x, was.y - is.y});
+    position_ = {position_.x + by.x, position_.y + by.y};
+    if (desk_.place) {
+        desk_.place = Map_Point{desk_.place->x + by.x, desk_.place->y + by.y};
+    }
+}
+
 Loop_Step Map_Editor::ask_to_remove() {
     is_map_unwanted_ =
         dialogs->ask("Map editor", "The map goes with all its steps, and its file when the set "
@@ -285,6 +297,7 @@ void Map_Editor::import() {
     if (std::optional<Tile_Map> map = import_map(document_)) {
         note_change_if(map_.replace(*std::move(map)), "The map is the same already.");
         camera().centre(map_.map().size());
+        desk_.place.reset();
     }
 }
 

@@ -26,11 +26,17 @@ Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const 
     for (int y = seen.y; y < seen.bottom(); ++y) {
         for (const Map_Cell cell :
              map.row(y).subspan(static_cast<std::size_t>(seen.x), static_cast<std::size_t>(seen.width))) {
-            picture.cells.push_back(map_.indexed(cell));
+            picture.cells.push_back(cell);
         }
     }
-    for (const Map_Overlay::Place& place : overlay.places) {
-        picture.set(place.point, map_.indexed(place.cell));
+    for (const Map_Run& run : overlay.runs) {
+        const Rectangle part = intersection(seen, {run.first.x, run.first.y, run.length, 1});
+        if (!part.is_empty()) {
+            overlay.pattern->place({part.x, part.y}, picture.cells_from({part.x, part.y}, part.width));
+        }
+    }
+    for (Map_Cell& cell : picture.cells) {
+        cell = map_.indexed(cell);
     }
     return picture;
 }

@@ -4,6 +4,8 @@
 
 #include "map/edited_map.h"
 #include "map/map_painter.h"
+#include "map/map_region.h"
+#include "map/map_stamp.h"
 #include "screen/opaque_texture.h"
 
 #include <optional>
@@ -13,13 +15,10 @@ namespace quadrelle {
 
 class Tileset;
 
-// Cells that show in the place of those of the map, with ids.
+// What shows in the place of cells of the map.
 struct Map_Overlay {
-    struct Place {
-        Map_Point point;
-        Map_Cell cell;
-    };
-    std::vector<Place> places;
+    std::vector<Map_Run> runs;
+    std::optional<Map_Pattern> pattern; // there is one where there are runs
 };
 
 class Map_View {

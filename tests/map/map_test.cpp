@@ -57,6 +57,7 @@ TEST(Map_Strokes, place_what_the_pattern_has_there) {
          {"a"},
          whole,
          [](Edited_Map& map, const Map_Pattern& pattern) {
+             place_at(map, pattern, {3, 0});
              place_line(map, pattern, {3, 0}, {0, 2});
          },
          {"...a", ".aa.", "a..."}},
@@ -73,6 +74,7 @@ TEST(Map_Strokes, place_what_the_pattern_has_there) {
          {"ab", "cd"},
          whole,
          [](Edited_Map& map, const Map_Pattern& pattern) {
+             place_at(map, pattern, {0, 0});
              place_line(map, pattern, {0, 0}, {3, 0});
          },
          {"ababa.", "cdcdc."}},
@@ -113,6 +115,7 @@ TEST(Map_Strokes, place_what_the_pattern_has_there) {
          {"ab"},
          erase,
          [](Edited_Map& map, const Map_Pattern& pattern) {
+             place_at(map, pattern, {0, 0});
              place_line(map, pattern, {0, 0}, {1, 0});
          },
          {"..c"}},
@@ -153,14 +156,22 @@ TEST(Map_Strokes, place_what_the_pattern_has_there) {
     }
 }
 
+Map_Cell cell_of(const Map_Pattern& pattern, Map_Point point) {
+    Map_Cell cell;
+    pattern.place(point, {&cell, 1});
+    return cell;
+}
+
 TEST(Map_Pattern, at_random_keeps_to_the_weights_and_to_the_seed) {
     Map_Stamp stamp = stamp_from({"abc"});
     stamp.cells[1].weight = 7;
+    const Map_Pattern pattern(stamp, Stamp_Use::at_random, {0, 0}, 5);
+    const Map_Pattern elsewhere(stamp, Stamp_Use::at_random, {9, 9}, 5);
     std::map<int, int> counts;
     for (int i = 0; i < 9000; ++i) {
         const Map_Point point{i % 90, i / 90};
-        const Map_Cell cell = *Map_Pattern(stamp, Stamp_Use::at_random, {0, 0}, 5).at(point);
-        EXPECT_EQ(cell, *Map_Pattern(stamp, Stamp_Use::at_random, {9, 9}, 5).at(point));
+        const Map_Cell cell = cell_of(pattern, point);
+        EXPECT_EQ(cell, cell_of(elsewhere, point));
         ++counts[cell.tile()];
     }
     EXPECT_NEAR(counts[0], 1000, 150);
@@ -232,8 +243,18 @@ TEST(Edited_Map, undo_and_redo_lead_through_the_same_maps) {
         ASSERT_EQ(map.map(), states[i]);
     }
     EXPECT_FALSE(map.redo());
+    // A step that is taken back has never been: what could be redone before it still can be.
+    ASSERT_TRUE(map.undo());
+    ASSERT_TRUE(map.undo());
+    map.begin();
+    map.set({0, 0}, Map_Cell(map.ids().id_of(500)));
+    ASSERT_TRUE(map.commit());
     EXPECT_TRUE(map.take_back());
-    EXPECT_EQ(map.map(), states[states.size() - 2]);
+    EXPECT_EQ(map.map(), states[states.size() - 3]);
+    for (const std::size_t i : {2U, 1U}) {
+        EXPECT_TRUE(map.redo());
+        EXPECT_EQ(map.map(), states[states.size() - i]);
+    }
     EXPECT_FALSE(map.redo());
 }
 
@@ -281,6 +302,20 @@ TEST(Edited_Map, shows_the_same_pictures_while_tiles_come_and_go) {
     while (map.undo()) {
         EXPECT_EQ(shown().find('?'), std::string::npos);
     }
+}
+
+// Of as many steps as anybody takes back there is room, however large each is.
+TEST(Map_History, keeps_large_steps_in_few_bytes) {
+    Edited_Map map(Tile_Map({1000, 1000}));
+    const Map_Stamp stamp = stamp_from({"ab", "cd"});
+    for (int step = 0; step < 4; ++step) {
+        map.begin();
+        place_rectangle(map, Map_Pattern(stamp, Stamp_Use::whole, {step, 0}, 1), {0, 0}, {999, 999});
+        ASSERT_TRUE(map.commit());
+        ASSERT_TRUE(map.resize({-1, 0, 0, 0}));
+        ASSERT_TRUE(map.resize({1, 0, 0, 0}));
+    }
+    EXPECT_LT(map.history().bytes(), 4 * Map_History::most_bytes / 200);
 }
 
 TEST(Map_History, forgets_the_oldest_steps_rather_than_take_all_memory) {

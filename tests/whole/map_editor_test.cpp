@@ -100,12 +100,20 @@ TEST_F(Map_Editor_Test, tiles_are_chosen_for_a_stamp_and_at_random) {
 
 TEST_F(Map_Editor_Test, a_double_click_goes_to_the_tile_that_was_there) {
     make_tiles(4);
-    script().key(key::enter).click(in_list(2)).click(at(10, 10)).click(in_list(1));
+    script().key(key::enter).click(in_list(2)).click(at(10, 10)).click(in_list(1)).click(at(20, 10));
+    script().key('z', Modifier::control);
     edit_map();
     script().click(at(10, 10)).second_press(at(10, 10));
     execute(Command::map_editor);
     EXPECT_EQ(document().tileset().current_index(), 2);
     EXPECT_EQ(tile_at(10, 10), 2);
+    EXPECT_TRUE(map().history().can_redo());
+
+    // A key between two clicks makes them two presses.
+    script().click(at(10, 10)).key('z', Modifier::control).second_press(at(10, 10)).release(at(10, 10));
+    edit_map();
+    EXPECT_EQ(tile_at(10, 10), 1);
+    EXPECT_EQ(document().tileset().current_index(), 2);
 }
 
 TEST_F(Map_Editor_Test, shows_the_same_pictures_whatever_becomes_of_the_tiles) {
@@ -146,6 +154,14 @@ TEST_F(Map_Editor_Test, the_view_follows_wheel_keys_and_drags_and_is_as_it_was_a
     EXPECT_EQ(camera, expected);
     edit_map();
     EXPECT_EQ(*document().map_desk().camera, expected);
+    // Columns that go at the left leave what is seen where it is.
+    map().resize({2, 1, 0, 0});
+    document().map_desk().place = Map_Point{5, 5};
+    script().key('z', Modifier::control);
+    edit_map();
+    expected.move({2 * 48, 48});
+    EXPECT_EQ(*document().map_desk().camera, expected);
+    EXPECT_EQ(document().map_desk().place, (Map_Point{3, 4}));
     editor->documents().resize_current({16, 16});
     EXPECT_FALSE(document().map_desk().camera);
     EXPECT_NE(document().map(), nullptr);
