@@ -45,7 +45,7 @@ elseif(desktop_tests AND TARGET quadrelle)
             COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x800x24" bash ${script}
             WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
         set_tests_properties(desktop.${name} PROPERTIES
-            LABELS desktop TIMEOUT 120 RESOURCE_LOCK display
+            LABELS desktop TIMEOUT 300 RESOURCE_LOCK display
             COST 100 # they take longest, so they begin first
             ENVIRONMENT "QUADRELLE_PROGRAM=$<TARGET_FILE:quadrelle>;QUADRELLE_SOURCE_DIR=${CMAKE_SOURCE_DIR};\
 QUADRELLE_DROP_FILES=$<TARGET_FILE:drop_files>")

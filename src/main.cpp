@@ -1,4 +1,5 @@
 #include "app/start_up.h"
+#include "base/fatal.h"
 
 #define SDL_MAIN_HANDLED
 #include <SDL3/SDL_main.h>
@@ -13,6 +14,7 @@ bool has_ended = false;
 // apart then: what the objects refer to is gone.
 void end_at_once() {
     if (!has_ended) {
+        quadrelle::run_last_act();
         std::_Exit(1);
     }
 }

@@ -10,6 +10,8 @@
 #include "views/ask_for_file.h"
 
 #include <algorithm>
+#include <charconv>
+#include <string_view>
 #include <utility>
 
 namespace quadrelle {
@@ -25,8 +27,20 @@ Tileset set_of_one_tile(Size tile_size) {
     return tileset;
 }
 
+constexpr std::string_view untitled_name = "untitled";
+
+// Of another name -1.
+int untitled_number(std::string_view name) {
+    int number = -1;
+    if (name.starts_with(untitled_name)) {
+        name.remove_prefix(untitled_name.size());
+        std::from_chars(name.data(), name.data() + name.size(), number);
+    }
+    return std::min(number, last_untitled);
+}
+
 std::unique_ptr<Tileset_Document> make_untitled(Tileset tileset, int number) {
-    const std::string name = "untitled" + std::to_string(number) + ".qdl";
+    const std::string name = std::string(untitled_name) + std::to_string(number) + ".qdl";
     auto document = std::make_unique<Tileset_Document>(name, std::move(tileset));
     document->history().reset(document->tileset());
     return document;
@@ -93,6 +107,20 @@ bool Documents::add_unsaved(Tileset tileset) {
     document->mark_changed();
     add(std::move(document));
     return true;
+}
+
+void Documents::add_recovered(std::vector<std::unique_ptr<Tileset_Document>> documents) {
+    const bool replaces_first = is_untouched() && !documents.empty();
+    for (std::unique_ptr<Tileset_Document>& document : documents) {
+        if (!document->is_named()) {
+            untitled_counter_ = std::max(untitled_counter_, untitled_number(document->file_name()) + 1);
+        }
+        add(std::move(document));
+    }
+    if (replaces_first) {
+        documents_.erase(documents_.begin());
+        make_current(documents_.size() - 1);
+    }
 }
 
 void Documents::add(std::unique_ptr<Tileset_Document> document) {
@@ -177,6 +205,7 @@ bool Documents::save_document(const std::string& path) {
         document.clear_modified();
     }
     refresh_titles();
+    tell_watcher();
     if (!is_saved) {
         tell_failure(outcome, path);
     }
@@ -211,6 +240,13 @@ bool Documents::close_document() {
 void Documents::mark_changed() {
     if (current().mark_changed()) {
         refresh_titles();
+    }
+    tell_watcher();
+}
+
+void Documents::tell_watcher() const {
+    if (watcher_) {
+        watcher_();
     }
 }
 

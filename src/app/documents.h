@@ -9,7 +9,9 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quadrelle {
@@ -22,6 +24,8 @@ public:
     // document, tile or set of tiles became current.
     Documents(std::function<void()> leaving, std::function<void()> current_changed);
     ~Documents();
+    // Called whenever a document was changed or saved.
+    void set_watcher(std::function<void()> watcher) { watcher_ = std::move(watcher); }
 
     // Between the first `new_document` and the end there is always one.
     [[nodiscard]] Tileset_Document& current() { return *documents_.at(current_); }
@@ -30,6 +34,7 @@ public:
     // Returns whether there is nothing but one new set.
     [[nodiscard]] bool is_untouched() const;
     [[nodiscard]] int count() const { return static_cast<int>(documents_.size()); }
+    [[nodiscard]] std::span<const std::unique_ptr<Tileset_Document>> all() const { return documents_; }
 
     // An untitled tileset of one tile. False, with nothing done, after 1000 of them.
     bool new_document(Size tile_size);
@@ -41,6 +46,8 @@ public:
     void resize_current(Size tile_size);
     // An untitled and unsaved set of these tiles. False, with nothing done, after 1000 of them.
     bool add_unsaved(Tileset tileset);
+    // Opens what another run of the program has left, in the place of a set that nothing was done to.
+    void add_recovered(std::vector<std::unique_ptr<Tileset_Document>> documents);
     // Opens a set beside the others. False where the file holds none.
     bool load_document(const std::string& path);
     // Returns the file to save the current document to, after asking for a name where one is needed, or
@@ -67,11 +74,13 @@ private:
     void make_current(std::size_t index);
     bool go_to(std::size_t index);
     void refresh_titles();
+    void tell_watcher() const;
     [[nodiscard]] bool confirms_save() const;
     [[nodiscard]] bool confirms_map(const std::string& path) const;
 
     std::function<void()> leaving_;
     std::function<void()> current_changed_;
+    std::function<void()> watcher_;
     std::vector<std::unique_ptr<Tileset_Document>> documents_;
     std::size_t current_ = 0;
     int untitled_counter_ = 0;

@@ -6,6 +6,7 @@
 #include "app/hover.h"
 #include "app/key_press.h"
 #include "app/mouse_press.h"
+#include "app/recovery.h"
 #include "base/debug_monitor.h"
 #include "color/palette_list.h"
 #include "commands/command_table.h"
@@ -59,6 +60,7 @@ void Editor::run() {
     if (!show_first_frame()) {
         return;
     }
+    offer_recovery();
     while (!parts_->is_quit_requested) {
         handle_one_event();
         draw_next_frame([this] { redraw(Present::yes); });
@@ -79,6 +81,12 @@ bool Editor::show_first_frame() {
     return true;
 }
 
+void Editor::offer_recovery() {
+    if (recover_journals(*parts_)) {
+        redraw(Present::yes);
+    }
+}
+
 void Editor::redraw(Present present) {
     // The canvas draws nothing outside its viewport, so the frame around it can be there first.
     screen->clear();
@@ -90,7 +98,7 @@ void Editor::redraw(Present present) {
 }
 
 void Editor::handle_one_event() {
-    handle(wait_event("main"));
+    handle(wait_event(main_loop));
     while (const std::optional<std::string> file = take_dropped_file()) {
         open_file(*file);
     }
@@ -105,6 +113,19 @@ void Editor::handle_one_event() {
     show_hover(parts_->canvas, parts_->pointer);
     show_pixel_under(parts_->canvas, parts_->pointer);
     show_shape(parts_->canvas);
+    keep_journal();
+}
+
+void Editor::keep_journal() {
+    parts_->journal.follow();
+    const bool has_failed = parts_->journal.has_failed();
+    if (has_failed && !journal_has_failed_) {
+        parts_->panes.hint_lines().report_lastingly(
+            {"Not protected",
+             "The journal in the folder data can't be written: what is not saved would be lost "
+             "if the program were ended in the midst of it."});
+    }
+    journal_has_failed_ = has_failed;
 }
 
 void Editor::handle(const Input_Event& event) {

@@ -27,8 +27,9 @@ public:
 
     // Returns when the user has confirmed quitting.
     void run();
-    // The two halves of `run`: the first tileset in view, and one event answered.
+    // The parts of `run`: the first tileset in view, what an earlier run has left, and one event answered.
     bool show_first_frame();
+    void offer_recovery();
     void handle_one_event();
     // Carries the command out and records it.
     void execute(Command command) { execute(command, Held::no); }
@@ -53,7 +54,10 @@ private:
     // Carries the command out. Returns the command to record, or none when it failed or was refused.
     [[nodiscard]] Command perform(Command command);
 
+    void keep_journal();
+
     std::unique_ptr<Editor_Parts> parts_;
+    bool journal_has_failed_ = false;
 };
 
 // Built at start-up, when everything it works with is there.

@@ -10,7 +10,9 @@ Editor_Parts::Editor_Parts(const Redraw& redraw_window)
     : redraw(redraw_window), canvas(options->value(Option::editor_pixel_size)),
       documents([this] { leave_tile(); }, [this] { show_current_tile(); }),
       recorder(documents, canvas, *toolbox), desk(canvas, recorder, *toolbox),
-      panes(canvas, documents, desk.copies(), redraw_window) {}
+      panes(canvas, documents, desk.copies(), redraw_window), journal(documents, canvas, desk) {
+    documents.set_watcher([this] { journal.follow(); });
+}
 
 void Editor_Parts::show_current_tile() {
     Tileset& tileset = documents.current().tileset();

@@ -3,6 +3,7 @@
 // What the editor consists of, and what commands, keys and the mouse work on.
 
 #include "app/documents.h"
+#include "app/journal_keeper.h"
 #include "app/recorder.h"
 #include "app/redraw.h"
 #include "app/selection_desk.h"
@@ -51,6 +52,7 @@ struct Editor_Parts {
     Recorder recorder;
     Selection_Desk desk;
     Window_Panes panes;
+    Journal_Keeper journal;
 };
 
 } // namespace quadrelle

@@ -3,6 +3,7 @@
 #include "app/editor.h"
 #include "base/data_directory.h"
 #include "base/debug_monitor.h"
+#include "base/end_signals.h"
 #include "base/fatal.h"
 #include "color/color_data.h"
 #include "color/palette_list.h"
@@ -26,6 +27,7 @@ void start_video() {
     if (!SDL_Init(SDL_INIT_VIDEO)) {
         fatal("Unable to initialize SDL video.");
     }
+    catch_end_signals();
     // A video program keeps the screen from sleeping unless it says otherwise.
     SDL_EnableScreenSaver();
 }
@@ -68,6 +70,7 @@ void shut_down_application() {
     dialogs.reset();
     screen.reset();
     message_log.reset();
+    release_end_signals();
     SDL_QuitSubSystem(SDL_INIT_VIDEO);
     SDL_Quit();
 }

@@ -89,7 +89,8 @@ Outcome delete_tile(Editor_Parts& editor) {
 Outcome arrange_select(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     const int before = document.tileset().current_index();
-    const bool has_swapped = Arrangement(document).run([&editor] { editor.leave_tile(); });
+    const bool has_swapped = Arrangement(document).run([&editor] { editor.leave_tile(); },
+                                                       [&editor] { editor.documents.mark_changed(); });
     editor.show_current_tile();
     if (document.tileset().current_index() != before) {
         document.strip().show_current();

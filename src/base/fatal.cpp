@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace quadrelle {
 
@@ -12,10 +13,27 @@ namespace {
 [[noreturn]] void print_and_exit(const std::string& text) {
     std::fputs(text.c_str(), stdout);
     std::fflush(stdout);
+    run_last_act();
     std::_Exit(1);
 }
 
+std::function<void()>& last_act() {
+    static std::function<void()> the_act;
+    return the_act;
+}
+
 } // namespace
+
+void set_last_act(std::function<void()> act) {
+    last_act() = std::move(act);
+}
+
+// Once: it may end in the same way.
+void run_last_act() {
+    if (const std::function<void()> act = std::exchange(last_act(), {})) {
+        act();
+    }
+}
 
 void fatal(std::string_view message) {
     print_and_exit("Error: " + std::string(message) + "!\n");

@@ -12,7 +12,8 @@ struct File_Closer {
 };
 using File_Handle = std::unique_ptr<std::FILE, File_Closer>;
 
-// `write` empties a file that is there, `create` fails when there is one.
-enum class File_Mode { read, write, create };
+// `write` empties a file that is there, `create` fails when there is one, `append` goes on at the end of one
+// that is there.
+enum class File_Mode { read, write, create, append };
 
 } // namespace quadrelle

@@ -8,7 +8,8 @@ namespace quadrelle {
 
 namespace {
 
-File_Fault_Hook fault_hook = nullptr;
+// Of the thread that has set it: a test counts its own operations.
+thread_local File_Fault_Hook fault_hook = nullptr;
 
 bool is_made_to_fail() {
     return fault_hook != nullptr && fault_hook();
@@ -79,6 +80,21 @@ bool replace_file(const std::string& from, const std::string& to) {
 Path_Kind path_kind(const std::string& name) {
     SDL_PathInfo info{};
     return SDL_GetPathInfo(name.c_str(), &info) ? kind_of(info.type) : Path_Kind::nothing;
+}
+
+std::optional<std::vector<std::uint8_t>> file_bytes(const std::string& name) {
+    const File_Handle file = open_file(name, File_Mode::read);
+    const std::int64_t size = file ? file_size(file.get()) : -1;
+    if (size < 0) {
+        return std::nullopt;
+    }
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
+    bytes.resize(read_bytes(file.get(), bytes));
+    return bytes;
+}
+
+void remove_folder(const std::string& name) {
+    SDL_RemovePath(name.c_str());
 }
 
 bool make_folder(const std::string& name) {

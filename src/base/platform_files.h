@@ -58,6 +58,11 @@ struct Folder_Entry {
 // folder.
 [[nodiscard]] std::vector<std::string> folder_names(const std::string& folder);
 
+// Returns all that the file holds; nothing when it cannot be read.
+[[nodiscard]] std::optional<std::vector<std::uint8_t>> file_bytes(const std::string& name);
+
+// Only an empty one goes.
+void remove_folder(const std::string& name);
 // Makes the folder, and those above it that are missing.
 [[nodiscard]] bool make_folder(const std::string& name);
 

@@ -19,8 +19,17 @@ int flags(File_Mode mode) {
     case File_Mode::read: return O_RDONLY;
     case File_Mode::write: return O_WRONLY | O_CREAT;
     case File_Mode::create: return O_WRONLY | O_CREAT | O_EXCL;
+    case File_Mode::append: return O_WRONLY | O_APPEND;
     }
     return O_RDONLY;
+}
+
+const char* stream_mode(File_Mode mode) {
+    switch (mode) {
+    case File_Mode::read: return "rb";
+    case File_Mode::append: return "ab";
+    default: return "wb";
+    }
 }
 
 bool is_regular(int descriptor) {
@@ -53,7 +62,7 @@ File_Handle platform::open_regular_file(const std::string& name, File_Mode mode)
     }
     std::FILE* file = nullptr;
     if (prepare(descriptor, mode)) {
-        file = fdopen(descriptor, mode == File_Mode::read ? "rb" : "wb");
+        file = fdopen(descriptor, stream_mode(mode));
     }
     if (file == nullptr) {
         close(descriptor);

@@ -37,6 +37,7 @@ int flags(File_Mode mode) {
     case File_Mode::read: return _O_RDONLY;
     case File_Mode::write: return _O_WRONLY | _O_CREAT | _O_TRUNC;
     case File_Mode::create: return _O_WRONLY | _O_CREAT | _O_EXCL;
+    case File_Mode::append: return _O_WRONLY | _O_APPEND;
     }
     return _O_RDONLY;
 }
@@ -62,7 +63,7 @@ File_Handle platform::open_regular_file(const std::string& name, File_Mode mode)
     }
     std::FILE* file = nullptr;
     if (GetFileType(handle_of(descriptor)) == FILE_TYPE_DISK) {
-        file = _fdopen(descriptor, mode == File_Mode::read ? "rb" : "wb");
+        file = _fdopen(descriptor, mode == File_Mode::read ? "rb" : mode == File_Mode::append ? "ab" : "wb");
     }
     if (file == nullptr) {
         _close(descriptor);

@@ -1,5 +1,7 @@
 #include "screen/events.h"
 
+#include "base/end_signals.h"
+
 #include <SDL3/SDL.h>
 
 #include <deque>
@@ -35,6 +37,7 @@ struct Taken {
     bool pointer_was_lost = false;
     Held_Modifiers held;     // at the last key
     std::string key_went_to; // the loop that took the last press of a key
+    bool is_ending = false;  // a signal asked the program to end, and the main loop does not know yet
 };
 
 Taken& taken() {
@@ -92,9 +95,23 @@ void note(const SDL_Event& event) {
     }
 }
 
+// That of a signal ends the program, or asks whether it may, and not only what is in view. The loop that
+// waits next gets it.
+void pass_on(const SDL_Event& quit, std::string_view loop) {
+    const bool is_asked_to_end = take_end_signal();
+    taken().is_ending = loop != main_loop && (taken().is_ending || is_asked_to_end);
+    if (taken().is_ending) {
+        SDL_Event next = quit;
+        SDL_PushEvent(&next);
+    }
+}
+
 // A key that is held goes on only where it went down.
 Input_Event answered_in(std::string_view loop, const SDL_Event& event) {
     note(event);
+    if (event.type == SDL_EVENT_QUIT) {
+        pass_on(event, loop);
+    }
     if (event.type == SDL_EVENT_KEY_DOWN && !event.key.repeat) {
         taken().key_went_to = loop;
     }

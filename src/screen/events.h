@@ -14,6 +14,10 @@ union SDL_Event;
 
 namespace quadrelle {
 
+// The loop that all others run in. A request to quit ends the other ones only, but one that a signal made
+// goes on from each to the next, as far as this one.
+constexpr std::string_view main_loop = "main";
+
 // Blocks until one event is there. `loop` names the waiting loop for whoever watches it. What a key that is
 // held adds goes to no other loop than the one that took its press: it was meant for what was there then.
 [[nodiscard]] Input_Event wait_event(std::string_view loop);

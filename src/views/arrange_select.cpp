@@ -19,8 +19,9 @@ Arrangement::Arrangement(Tileset_Document& document)
 Arrangement::Arrangement(Tileset_Document& document, Size cells, Size cell)
     : document_(document), tileset_(document.tileset()), grid_(title, tileset_, cells, cell) {}
 
-bool Arrangement::run(const std::function<void()>& before_change) {
+bool Arrangement::run(const std::function<void()>& before_change, const std::function<void()>& swapped) {
     before_change_ = before_change;
+    swapped_ = swapped;
     start_ = tileset_.current_index();
     primary_ = start_;
     secondary_ = 0;
@@ -90,6 +91,7 @@ void Arrangement::swap() {
     if (document_.swap_tiles(primary_, secondary_)) {
         std::swap(primary_, secondary_);
         has_swapped_ = true;
+        swapped_();
     }
 }
 

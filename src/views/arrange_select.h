@@ -22,8 +22,8 @@ public:
     Arrangement(Tileset_Document& document, Size cells, Size cell);
 
     // Waits until it is closed. `before_change` is called before a swap, and before another tile becomes the
-    // current one. Returns true when any swap was made, even one that was taken back.
-    bool run(const std::function<void()>& before_change);
+    // current one, `swapped` after a swap. Returns true when any was made, even one that was taken back.
+    bool run(const std::function<void()>& before_change, const std::function<void()>& swapped);
 
 private:
     void draw();
@@ -39,6 +39,7 @@ private:
     Tileset& tileset_;
     Tile_Grid grid_;
     std::function<void()> before_change_;
+    std::function<void()> swapped_;
     int start_ = 0;
     int primary_ = 0;
     int secondary_ = 0;

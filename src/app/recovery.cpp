@@ -1,0 +1,119 @@
+#include "app/recovery.h"
+
+#include "app/editor_parts.h"
+#include "base/data_directory.h"
+#include "base/file_lock.h"
+#include "base/file_names.h"
+#include "base/platform_files.h"
+#include "tileset/journal_file.h"
+#include "tileset/recovered_document.h"
+#include "ui/dialogs.h"
+#include "views/recovery_dialog.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace quadrelle {
+
+namespace {
+
+struct Found_Journal {
+    std::string path;
+    std::unique_ptr<File_Lock> lock; // as long as another program could take it for its own to recover
+    Read_Journal read;
+};
+
+// Nothing where the program that writes it still runs.
+std::optional<Found_Journal> found_journal(const std::string& path) {
+    auto lock = std::make_unique<File_Lock>(journal_lock_path(path));
+    const std::optional<Bytes> bytes = lock->is_taken() ? file_bytes(path) : std::nullopt;
+    if (!bytes) {
+        return std::nullopt;
+    }
+    return Found_Journal{path, std::move(lock), read_journal(*bytes)};
+}
+
+std::vector<Found_Journal> found_journals(const std::string& folder) {
+    std::vector<std::string> names = folder_names(folder);
+    std::ranges::sort(names);
+    std::vector<Found_Journal> journals;
+    for (const std::string& name : names) {
+        std::optional<Found_Journal> journal =
+            name.ends_with(journal_ending) ? found_journal(joined_path(folder, name)) : std::nullopt;
+        if (journal) {
+            journals.push_back(*std::move(journal));
+        }
+    }
+    return journals;
+}
+
+std::vector<std::unique_ptr<Tileset_Document>> documents_of(const std::vector<Found_Journal>& journals) {
+    std::vector<std::unique_ptr<Tileset_Document>> documents;
+    for (const Found_Journal& journal : journals) {
+        for (const auto& [number, set] : journal.read.sets) {
+            documents.push_back(recovered_document(set));
+        }
+    }
+    return documents;
+}
+
+// A damaged one is kept under another name.
+void remove(const Found_Journal& journal) {
+    remove_file(journal_rest_path(journal.path));
+    if (!journal.read.is_damaged || !replace_file(journal.path, journal.path + ".damaged")) {
+        remove_file(journal.path);
+    }
+}
+
+bool tell_damage(const std::vector<Found_Journal>& journals) {
+    const auto damaged =
+        std::ranges::find_if(journals, [](const Found_Journal& journal) { return journal.read.is_damaged; });
+    if (damaged == journals.end()) {
+        return false;
+    }
+    dialogs->message("Note", "The journal of unsaved work was damaged. What is whole in it was taken;\r" +
+                                 file_part(damaged->path) +
+                                 ".damaged in the folder data/journal keeps it as it was.");
+    return true;
+}
+
+std::string text_of_recovered(std::size_t count) {
+    return count == 1 ? "One set is as it was. It is not saved yet."
+                      : std::to_string(count) + " sets are as they were. They are not saved yet.";
+}
+
+// Nothing of the old journals goes before the new one has it.
+bool take(Editor_Parts& editor, std::vector<std::unique_ptr<Tileset_Document>> documents) {
+    const std::size_t count = documents.size();
+    editor.documents.add_recovered(std::move(documents));
+    editor.panes.hint_lines().report_lastingly({"Recovered", text_of_recovered(count)});
+    editor.journal.follow();
+    editor.journal.drain();
+    return !editor.journal.has_failed();
+}
+
+} // namespace
+
+bool recover_journals(Editor_Parts& editor) {
+    const std::string folder = data_directory().path("journal");
+    const std::vector<Found_Journal> journals = found_journals(folder);
+    std::vector<std::unique_ptr<Tileset_Document>> documents = documents_of(journals);
+    bool is_over = true;
+    const bool asks = !documents.empty();
+    if (asks) {
+        const Recovery_Answer answer = ask_recovery(documents);
+        is_over = answer == Recovery_Answer::discard ||
+                  (answer == Recovery_Answer::recover && take(editor, std::move(documents)));
+    }
+    if (is_over) {
+        std::ranges::for_each(journals, remove);
+    }
+    const bool tells = is_over && tell_damage(journals);
+    return asks || tells;
+}
+
+} // namespace quadrelle

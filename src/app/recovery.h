@@ -1,0 +1,12 @@
+#pragma once
+
+// The start after a run of the program that did not end as it should: what it had not saved comes back.
+
+namespace quadrelle {
+
+struct Editor_Parts;
+
+// Asks where there is something to recover. False when nothing was asked or told.
+bool recover_journals(Editor_Parts& editor);
+
+} // namespace quadrelle

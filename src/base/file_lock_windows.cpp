@@ -1,0 +1,40 @@
+#ifdef _WIN32
+
+#include "base/file_lock.h"
+
+#include <windows.h>
+
+namespace quadrelle {
+
+namespace {
+
+std::wstring wide(const std::string& text) {
+    const int size = static_cast<int>(text.size());
+    const int length = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
+    std::wstring result(static_cast<std::size_t>(length), L'\0');
+    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, result.data(), length);
+    return result;
+}
+
+} // namespace
+
+// Shared with nobody, and gone when it is closed.
+File_Lock::File_Lock(const std::string& path) : path_(path) {
+    const HANDLE handle = CreateFileW(wide(path).c_str(), GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                      FILE_ATTRIBUTE_NORMAL | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    if (handle != INVALID_HANDLE_VALUE) {
+        handle_ = reinterpret_cast<std::intptr_t>(handle);
+    } else {
+        is_held_elsewhere_ = GetLastError() == ERROR_SHARING_VIOLATION;
+    }
+}
+
+File_Lock::~File_Lock() {
+    if (is_taken()) {
+        CloseHandle(reinterpret_cast<HANDLE>(handle_));
+    }
+}
+
+} // namespace quadrelle
+
+#endif

@@ -1,0 +1,182 @@
+// What was not saved when the program was ended in the midst of something is there at the next start.
+
+#include "app/start_up.h"
+#include "base/fatal.h"
+#include "base/file_lock.h"
+#include "base/platform_files.h"
+#include "screen/events.h"
+#include "tests/whole/program_test.h"
+#include "tileset/journal_file.h"
+#include "tileset/tileset_file.h"
+
+#include <csignal>
+
+namespace quadrelle::testing {
+namespace {
+
+// Of the dialog with one set.
+constexpr Point discard_button{850, 400};
+
+class Recovery_Test : public Program_Test {
+protected:
+    // The journals as they are when the program is killed now.
+    void keep_journals() {
+        run_last_act();
+        std::filesystem::copy(journals(), native(folder().path("killed")));
+    }
+    void start_after_kill() {
+        shut_down_application();
+        EXPECT_FALSE(std::filesystem::exists(journals()));
+        std::filesystem::rename(native(folder().path("killed")), journals());
+        start_again();
+    }
+    void kill_and_start() {
+        keep_journals();
+        start_after_kill();
+    }
+    void end_and_start() {
+        shut_down_application();
+        start_again();
+    }
+    void recover(Keycode answer = key::enter) {
+        script().key(answer);
+        editor->offer_recovery();
+        EXPECT_TRUE(script().is_played());
+    }
+    [[nodiscard]] std::filesystem::path journals() { return native(folder().data_path("journal")); }
+    [[nodiscard]] std::string journal() {
+        for (const std::string& name : files()) {
+            if (name.ends_with(journal_ending)) {
+                return folder().data_path("journal/" + name);
+            }
+        }
+        return {};
+    }
+    [[nodiscard]] std::vector<std::string> files() { return folder_names(folder().data_path("journal")); }
+    static std::vector<std::string> names() {
+        std::vector<std::string> names;
+        for (const auto& document : editor->documents().all()) {
+            names.push_back(document->title());
+        }
+        return names;
+    }
+
+private:
+    static void start_again() {
+        start_application();
+        ASSERT_TRUE(editor->show_first_frame());
+    }
+};
+
+TEST_F(Recovery_Test, brings_back_all_sets_as_a_save_would_write_them) {
+    Tileset saved({24, 24});
+    for (int i = 0; i < 200; ++i) {
+        saved.add_tile();
+        saved.current_tile()->fill(Color(i, 100, 200));
+    }
+    const std::string path = folder().path("saved.qdl");
+    ASSERT_GT(save_tileset(saved, path), 0);
+    play(script().click(cell(3, 4)).click(cell(5, 6)));
+    answer_files(File_Answer_State::chosen, path);
+    execute(Command::load);
+    play(script().click(cell(1, 2)));
+    execute(Command::insert_new_tile);
+    execute(Command::horizontal_seam_tool);
+    play(script().click(cell(0, 0)));
+    // What is lifted off the tile is in it where it floats.
+    execute(Command::rectangle_selector);
+    play(script().drag({cell(0, 0), cell(2, 2)}));
+    execute(Command::work_selection);
+    play(script().drag({cell(1, 1), cell(9, 9)}));
+    ASSERT_TRUE(editor->canvas().work_area().has_lifted());
+    keep_journals();
+    const std::string copy = folder().path("copy.qdl");
+    answer_files(File_Answer_State::chosen, copy);
+    execute(Command::save_as);
+
+    start_after_kill();
+    recover();
+    EXPECT_EQ(names(), (std::vector<std::string>{"untitled0.qdl*", path + "*"}));
+    const Loaded_Tileset expected = load_tileset(copy);
+    ASSERT_EQ(document().tileset().count(), 201);
+    for (int i = 0; i < 201; ++i) {
+        ASSERT_TRUE(document().tileset().tile_at(i).same_pixels(expected.tileset->tile_at(i))) << i;
+    }
+    const Tileset& untitled = editor->documents().all().front()->tileset();
+    EXPECT_EQ(untitled.tile_at(0).get_pixel(5, 6), white);
+    // The next new set has another name, and what was recovered is as safe as before.
+    execute(Command::add_new_tile);
+    kill_and_start();
+    recover();
+    EXPECT_EQ(document().tileset().count(), 202);
+    ASSERT_TRUE(editor->documents().new_document({8, 8}));
+    EXPECT_EQ(document().title(), "untitled1.qdl");
+    end_and_start();
+    editor->offer_recovery();
+    EXPECT_EQ(names(), std::vector<std::string>{"untitled0.qdl"});
+    EXPECT_FALSE(std::filesystem::exists(journals()));
+}
+
+TEST_F(Recovery_Test, asks_again_until_there_is_an_answer) {
+    play(script().click(cell(3, 4)));
+    kill_and_start();
+    recover(key::escape);
+    EXPECT_EQ(names(), std::vector<std::string>{"untitled0.qdl"});
+    end_and_start();
+    // Another one that recovers it right now is left alone.
+    {
+        const File_Lock lock(journal_lock_path(journal()));
+        ASSERT_TRUE(lock.is_taken());
+        editor->offer_recovery();
+        EXPECT_EQ(names(), std::vector<std::string>{"untitled0.qdl"});
+    }
+    script().click({0, 0});
+    recover();
+    EXPECT_EQ(tile_pixel(3, 4), white);
+    EXPECT_EQ(files().size(), 2U);
+}
+
+TEST_F(Recovery_Test, forgets_what_was_saved_closed_or_discarded) {
+    play(script().click(cell(3, 4)));
+    answer_files(File_Answer_State::chosen, folder().path("set.qdl"));
+    execute(Command::save);
+    execute(Command::add_new_tile);
+    script().key(key::enter);
+    execute(Command::close);
+    play(script().key(key::none).click(cell(7, 7)));
+    kill_and_start();
+    script().click(discard_button);
+    editor->offer_recovery();
+    EXPECT_EQ(names(), std::vector<std::string>{"untitled0.qdl"});
+    EXPECT_TRUE(files().empty());
+}
+
+TEST_F(Recovery_Test, sets_a_damaged_journal_aside_and_takes_what_is_whole) {
+    play(script().click(cell(3, 4)).click(cell(5, 5)));
+    kill_and_start();
+    const std::string path = journal();
+    Bytes bytes = stored(path);
+    bytes.at(0) ^= 1;
+    store(path, bytes);
+    script().key(key::enter);
+    expect_loop("dialog \"Note\"").key(key::enter);
+    editor->offer_recovery();
+    EXPECT_EQ(tile_pixel(5, 5), white);
+    EXPECT_EQ(stored(path + ".damaged"), bytes);
+}
+
+#ifndef _WIN32
+// The dialog that is open is given up.
+TEST_F(Recovery_Test, passes_a_signal_to_end_on_to_the_question_whether_to_quit) {
+    for (const int signal : {SIGTERM, SIGHUP}) {
+        script().check([=] { std::raise(signal); }).key(key::f1);
+        script().check_loop([](std::string_view loop) { EXPECT_NE(loop, main_loop); });
+        script().motion({1, 1}).motion({2, 2}).motion({3, 3});
+        expect_question("Quit", "Quit Quadrelle?").key(key::escape);
+        play();
+    }
+}
+#endif
+
+} // namespace
+} // namespace quadrelle::testing
