@@ -65,6 +65,9 @@ Outcome edit(Editor_Parts& editor) {
     if (document.map() == nullptr && !make_map(editor)) {
         return Outcome::refused;
     }
+    // The map shows the tile as it is seen, and as it really lies.
+    editor.desk.settle_to_save();
+    editor.undo_seam_shifts();
     const Map_Editor_Links links{[&editor] { editor.documents.mark_changed(); },
                                  [&editor] { return save(editor); }};
     Map_Editor map_editor(document, links);

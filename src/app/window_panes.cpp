@@ -11,6 +11,7 @@
 #include "ui/window_layout.h"
 
 #include <array>
+#include <string>
 #include <utility>
 
 namespace quadrelle {
@@ -136,7 +137,23 @@ Hint Window_Panes::hint_at(Point point) const {
     if (thing == Pointed(Place::tabs) && document->is_named()) {
         hint.text = document->file_name() + "\r" + hint.text;
     }
+    hint.text += places_in_map(thing, point);
     return hint;
+}
+
+// How often the map has the tile there, or the one that would be deleted.
+std::string Window_Panes::places_in_map(const Pointed& thing, Point point) const {
+    const Tileset_Document& document = documents_.current();
+    const int tile = thing == Pointed(Place::strip)           ? tile_at(document.strip(), point)
+                     : thing == Pointed(Command::delete_tile) ? document.tileset().current_index()
+                                                              : -1;
+    if (tile < 0 || document.map() == nullptr) {
+        return "";
+    }
+    const int uses = document.map()->uses_of(tile);
+    return "\rThe map has " +
+           std::string(thing == Pointed(Place::strip) ? "tile " + std::to_string(tile) : "it") + " at " +
+           std::to_string(uses) + (uses == 1 ? " place." : " places.");
 }
 
 std::optional<Pointed> Window_Panes::pointed_on_canvas(Point point) const {

@@ -20,6 +20,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quadrelle {
@@ -92,6 +93,7 @@ private:
     [[nodiscard]] bool is_lit(Command icon) const;
     [[nodiscard]] Command_Subjects subjects() const { return {canvas_, documents_, copies_}; }
     [[nodiscard]] Hint hint_at(Point point) const;
+    [[nodiscard]] std::string places_in_map(const Pointed& thing, Point point) const;
     [[nodiscard]] std::optional<Pointed> thing_at(Point point) const;
     [[nodiscard]] std::optional<Pointed> pointed_on_canvas(Point point) const;
     [[nodiscard]] Command command_at(Point point) const;

@@ -1,6 +1,7 @@
 #include "map/edited_map.h"
 
 #include <cstddef>
+#include <set>
 #include <utility>
 
 namespace quadrelle {
@@ -25,24 +26,16 @@ Tile_Map Edited_Map::indexed_map() const {
     return result;
 }
 
-std::vector<int> Edited_Map::uses(int tiles) const {
-    std::vector<int> of_ids(static_cast<std::size_t>(ids_.count()) + 1);
-    for (const Map_Cell cell : map_.cells()) {
-        const int place = cell.tile() + 1;
-        ++of_ids[static_cast<std::size_t>(place)];
-    }
-    std::vector<int> uses(static_cast<std::size_t>(tiles));
-    for (int id = 0; id < ids_.count(); ++id) {
-        const int index = ids_.index_of(id);
-        if (index >= 0 && index < tiles) {
-            uses[static_cast<std::size_t>(index)] = of_ids[static_cast<std::size_t>(id) + 1];
-        }
-    }
-    return uses;
-}
-
 int Edited_Map::uses_of(int index) const {
-    return uses(index + 1).back();
+    if (uses_version_ != version_) {
+        uses_.assign(static_cast<std::size_t>(ids_.count()) + 1, 0);
+        for (const Map_Cell cell : map_.cells()) {
+            ++uses_[static_cast<std::size_t>(cell.tile() + 1)];
+        }
+        uses_version_ = version_;
+    }
+    const auto place = static_cast<std::size_t>(ids_.known_id_of(index) + 1);
+    return place == 0 || place >= uses_.size() ? 0 : uses_[place];
 }
 
 void Edited_Map::begin() {
@@ -100,17 +93,17 @@ bool Edited_Map::replace(Tile_Map map) {
     return end_step(before, {0, 0, map_.size().width - size.width, map_.size().height - size.height});
 }
 
-bool Edited_Map::undo() {
+bool Edited_Map::undo(const Bring_Back& bring_back) {
     give_up();
     const bool is_done = history_.undo(map_);
-    empty_gone();
+    ask_for_gone(bring_back);
     return is_done;
 }
 
-bool Edited_Map::redo() {
+bool Edited_Map::redo(const Bring_Back& bring_back) {
     give_up();
     const bool is_done = history_.redo(map_);
-    empty_gone();
+    ask_for_gone(bring_back);
     return is_done;
 }
 
@@ -121,10 +114,44 @@ bool Edited_Map::take_back() {
     return is_done;
 }
 
+void Edited_Map::tile_inserted(int index) {
+    ids_.inserted(index);
+    ++version_;
+}
+
+void Edited_Map::tiles_swapped(int index, int other) {
+    ids_.swapped(index, other);
+    ++version_;
+}
+
 int Edited_Map::tile_deleted(int index) {
     give_up();
+    if (uses_of(index) == 0) {
+        ids_.deleted(index);
+        ++version_;
+        return 0;
+    }
+    const Tile_Map before = map_;
     ids_.deleted(index);
-    return empty_gone();
+    const int count = empty_gone();
+    history_.add(before, map_);
+    return count;
+}
+
+void Edited_Map::ask_for_gone(const Bring_Back& bring_back) {
+    std::set<int> gone;
+    for (const Map_Cell cell : map_.cells()) {
+        if (!cell.is_empty() && ids_.index_of(cell.tile()) < 0) {
+            gone.insert(cell.tile());
+        }
+    }
+    for (const int id : gone) {
+        const int index = bring_back ? bring_back(id) : -1;
+        if (index >= 0) {
+            ids_.returned(id, index);
+        }
+    }
+    empty_gone();
 }
 
 int Edited_Map::empty_gone() {

@@ -8,6 +8,7 @@
 #include "map/tile_map.h"
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -28,8 +29,7 @@ public:
     [[nodiscard]] Tile_Map indexed_map() const;
     // Counts each change of the cells.
     [[nodiscard]] std::uint64_t version() const { return version_; }
-    // Returns how often each of so many tiles is in the map.
-    [[nodiscard]] std::vector<int> uses(int tiles) const;
+    // Returns how often the map has the tile. They are counted once for all tiles, until the next change.
     [[nodiscard]] int uses_of(int index) const;
 
     // What is set from here on until the end is one step.
@@ -50,23 +50,27 @@ public:
     // The cells have indices.
     bool replace(Tile_Map map);
 
-    bool undo();
-    bool redo();
+    // Tiles that were deleted are asked for, to be set behind all others: the answer is the index, or -1. The
+    // places of those that do not come back stay empty.
+    using Bring_Back = std::function<int(int id)>;
+    bool undo(const Bring_Back& bring_back = {});
+    bool redo(const Bring_Back& bring_back = {});
     // Takes the step that was just made back as if it had never been, also for what can be redone.
     bool take_back();
     [[nodiscard]] const Map_History& history() const { return history_; }
     // Returns where the first cell of the first map lies now: columns and rows may have come before it.
     [[nodiscard]] Map_Point origin() const { return history_.origin(); }
 
-    // The tiles of the set have changed places: the map shows the same pictures. Returns how many cells a
-    // deleted tile has emptied.
-    void tile_inserted(int index) { ids_.inserted(index); }
-    void tiles_swapped(int index, int other) { ids_.swapped(index, other); }
+    // The tiles of the set have changed places: the map shows the same pictures. That places of a deleted
+    // tile become empty is a step. Returns how many there were.
+    void tile_inserted(int index);
+    void tiles_swapped(int index, int other);
     int tile_deleted(int index);
 
 private:
     // Cells of tiles that are gone become empty; returns how many.
     int empty_gone();
+    void ask_for_gone(const Bring_Back& bring_back);
     void give_ids();
     bool end_step(const Tile_Map& before, const Map_Sides& sides = {});
 
@@ -75,6 +79,8 @@ private:
     std::optional<Tile_Map> before_;
     Map_History history_;
     std::uint64_t version_ = 0;
+    mutable std::vector<int> uses_; // of each id, behind those of nothing
+    mutable std::optional<std::uint64_t> uses_version_;
 };
 
 } // namespace quadrelle

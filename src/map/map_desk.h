@@ -21,6 +21,7 @@ struct Map_Desk {
     // Another one for each gesture at random.
     std::uint32_t seed = 1;
     bool shows_grid = true;
+    bool shows_uses = false;          // how often the map has each tile
     std::optional<Map_Camera> camera; // from the first time on that the map was seen
     int first_row = 0;                // of the list of tiles
     // Where the user went to the tile that is drawn; what lies around it there are its neighbours.

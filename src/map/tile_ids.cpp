@@ -38,6 +38,12 @@ void Tile_Ids::deleted(int index) {
     number_anew();
 }
 
+void Tile_Ids::returned(int id, int index) {
+    reach(index - 1);
+    id_of_.push_back(id);
+    number_anew();
+}
+
 void Tile_Ids::swapped(int index, int other) {
     reach(std::max(index, other));
     std::swap(id_of_[static_cast<std::size_t>(index)], id_of_[static_cast<std::size_t>(other)]);

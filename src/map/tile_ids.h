@@ -24,6 +24,8 @@ public:
 
     void inserted(int index);
     void deleted(int index);
+    // The tile with that number, which was gone, stands behind all others now.
+    void returned(int id, int index);
     void swapped(int index, int other);
 
 private:

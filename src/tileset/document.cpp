@@ -94,13 +94,46 @@ bool Tileset_Document::delete_tile() {
         return false;
     }
     const int index = tileset_.current_index();
+    const Tile picture(*tileset_.current_tile());
     if (tileset_.delete_current()) {
         history_.tile_deleted(index, tileset_);
-        if (map_) {
-            map_->tile_deleted(index);
-        }
+        forget_in_map(index, picture);
     }
     return true;
+}
+
+void Tileset_Document::forget_in_map(int index, const Tile& picture) {
+    constexpr std::size_t most_gone_tiles = 64;
+    if (!map_) {
+        return;
+    }
+    if (const int id = map_->ids().known_id_of(index); id >= 0) {
+        gone_tiles_.emplace(id, picture);
+    }
+    if (gone_tiles_.size() > most_gone_tiles) {
+        gone_tiles_.erase(gone_tiles_.begin());
+    }
+    map_->tile_deleted(index);
+}
+
+int Tileset_Document::bring_tile_back(int id) {
+    const auto found = gone_tiles_.find(id);
+    if (found == gone_tiles_.end() || tileset_.is_full()) {
+        return -1;
+    }
+    auto tile = std::make_unique<Tile>(tileset_.tile_width(), tileset_.tile_height());
+    found->second.resample_into(*tile);
+    gone_tiles_.erase(found);
+    tileset_.append_loaded(std::move(tile));
+    return tileset_.count() - 1;
+}
+
+bool Tileset_Document::undo_map() {
+    return map_->undo([this](int id) { return bring_tile_back(id); });
+}
+
+bool Tileset_Document::redo_map() {
+    return map_->redo([this](int id) { return bring_tile_back(id); });
 }
 
 bool Tileset_Document::swap_tiles(int i, int j) {
@@ -121,12 +154,14 @@ void Tileset_Document::resize_tiles(Size tile_size) {
 
 Edited_Map& Tileset_Document::set_map(Tile_Map map) {
     map_ = std::make_unique<Edited_Map>(std::move(map));
+    gone_tiles_.clear();
     return *map_;
 }
 
 void Tileset_Document::remove_map() {
     map_.reset();
     map_desk_.reset();
+    gone_tiles_.clear();
 }
 
 Map_Desk& Tileset_Document::map_desk() {

@@ -13,6 +13,7 @@
 #include "tileset/undo_history.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -42,6 +43,10 @@ public:
     Edited_Map& set_map(Tile_Map map);
     // Its file goes when the document is saved.
     void remove_map();
+    // A deleted tile comes back, behind all others, where a step of the map brings its places back. False
+    // when there is no step.
+    bool undo_map();
+    bool redo_map();
     // The file that the map was read from or written to last; empty without one.
     [[nodiscard]] const std::string& map_file() const { return map_file_; }
     void set_map_file(const std::string& path) { map_file_ = path; }
@@ -90,6 +95,10 @@ private:
     bool add_tile();
     bool insert_tile();
     bool delete_tile();
+    // The tile is deleted.
+    void forget_in_map(int index, const Tile& picture);
+    // Returns where the tile that had this number in the map stands now, or -1.
+    int bring_tile_back(int id);
     // A tile stands at that index that was not there before.
     void note_new_tile(int index);
 
@@ -104,6 +113,8 @@ private:
     std::unique_ptr<Edited_Map> map_;
     std::unique_ptr<Map_Desk> map_desk_;
     std::string map_file_;
+    // Pictures of deleted tiles that the map knew, by their numbers there; those with the highest are kept.
+    std::map<int, Tile> gone_tiles_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

@@ -58,19 +58,24 @@ void Pair_List::draw() const {
     }
 }
 
+// The letters may reach into the row below: they are drawn when all rows stand.
 void Pair_List::draw_column(const Column& column) const {
     const int first_width = column.second_x - gap_in_pair / 2 - column.x;
     const int height = row_step_ - row_gap;
     const int rise = (line_height(font) - height) / 2;
-    int y = area.y;
-    for (std::size_t i = column.first_pair; i < column.end; ++i) {
-        const int x = area.x + column.x;
-        const Rectangle second{x + first_width + 1, y, column.width - first_width - 1, height};
-        screen->fill_rect({x, y, first_width, second.height}, standard_color(Standard_Color::list_passive));
-        screen->fill_rect(second, standard_color(Standard_Color::pane_frame));
-        screen->draw_text(font, {x + inset, y - rise}, pairs_[i].first);
-        screen->draw_text(font, {area.x + column.second_x + inset, y - rise}, pairs_[i].second);
-        y += row_step_;
+    const int x = area.x + column.x;
+    const int rows = static_cast<int>(column.end - column.first_pair);
+    for (int row = 0; row < rows; ++row) {
+        const int y = area.y + row * row_step_;
+        screen->fill_rect({x, y, first_width, height}, standard_color(Standard_Color::list_passive));
+        screen->fill_rect({x + first_width + 1, y, column.width - first_width - 1, height},
+                          standard_color(Standard_Color::pane_frame));
+    }
+    for (int row = 0; row < rows; ++row) {
+        const int y = area.y + row * row_step_ - rise;
+        const Text_Pair& pair = pairs_[column.first_pair + static_cast<std::size_t>(row)];
+        screen->draw_text(font, {x + inset, y}, pair.first);
+        screen->draw_text(font, {area.x + column.second_x + inset, y}, pair.second);
     }
 }
 

@@ -102,7 +102,13 @@ void Map_Editor::draw() {
     pane_.draw_around(view);
     view_.draw(camera(), desk_.shows_grid ? Map_Grid::shown : Map_Grid::hidden, overlay());
     draw_outlines();
-    list_.draw([this](int tile) { return weight_of(desk_.stamp, map_.ids().known_id_of(tile)); }, info());
+    const bool shows_uses = desk_.shows_uses && !is_placing_;
+    list_.draw(
+        [&](int tile) {
+            return Listed_Tile{weight_of(desk_.stamp, map_.ids().known_id_of(tile)),
+                               shows_uses ? std::optional(map_.uses_of(tile)) : std::nullopt};
+        },
+        info());
     draw_hint();
 }
 
@@ -122,17 +128,14 @@ void Map_Editor::draw_outlines() const {
     }
 }
 
-std::string Map_Editor::info() {
-    if (uses_version_ != map_.version() || uses_.size() != static_cast<std::size_t>(tileset_.count())) {
-        uses_ = map_.uses(tileset_.count());
-        uses_version_ = map_.version();
-    }
+std::string Map_Editor::info() const {
     const int listed = list_.tile_at(pointer_);
     const int tile = listed >= 0 ? listed : map_.indexed(map_.map().at(position_)).tile();
     std::string text = "Pos: " + std::to_string(position_.x) + "," + std::to_string(position_.y) +
                        "  \rTile: " + std::to_string(tile);
-    if (tile >= 0 && tile < tileset_.count()) {
-        text += "\rUsed: " + std::to_string(uses_[static_cast<std::size_t>(tile)]);
+    // While cells are placed they are not counted at each of them.
+    if (tile >= 0 && tile < tileset_.count() && !is_placing_) {
+        text += "\rUsed: " + std::to_string(map_.uses_of(tile));
     }
     return text;
 }
@@ -164,6 +167,7 @@ Map_Button_State Map_Editor::state_of(Map_Action action) const {
     case Map_Action::erase: return chosen_if(desk_.use == Stamp_Use::erase);
     case Map_Action::random: return chosen_if(desk_.use == Stamp_Use::at_random);
     case Map_Action::grid: return chosen_if(desk_.shows_grid);
+    case Map_Action::uses: return chosen_if(desk_.shows_uses);
     case Map_Action::turn_right:
     case Map_Action::turn_left: return useless_unless(tileset_.tile_width() == tileset_.tile_height());
     case Map_Action::undo: return useless_unless(map_.history().can_undo());

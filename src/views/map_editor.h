@@ -51,7 +51,7 @@ private:
     void draw();
     void draw_outlines() const;
     void draw_hint() const;
-    [[nodiscard]] std::string info();
+    [[nodiscard]] std::string info() const;
     [[nodiscard]] Map_Button_State state_of(Map_Action action) const;
     [[nodiscard]] Map_Pattern pattern(Map_Point anchor) const;
     [[nodiscard]] Map_Overlay overlay();
@@ -85,6 +85,7 @@ private:
     void follow_origin(Map_Point before);
     void import();
     void report_export();
+    void step_back_or_on(bool (Tileset_Document::*step)(), std::string_view otherwise);
     void note_change_if(bool is_changed, std::string_view otherwise);
     void choose(int tile);
     // All between the two in the list, as a whole.
@@ -114,8 +115,6 @@ private:
     // What a fill reaches: of that version of the map.
     std::vector<Map_Run> region_;
     std::optional<std::uint64_t> region_version_;
-    std::vector<int> uses_;
-    std::optional<std::uint64_t> uses_version_;
     std::optional<Map_Visit> visit_;
     bool is_map_unwanted_ = false;
 };

@@ -233,9 +233,14 @@ Loop_Step Map_Editor::act(Map_Action action) {
     case Map_Action::flip: change_stamp(Stamp_Change::flip); break;
     case Map_Action::turn_right: change_stamp(Stamp_Change::turn_right); break;
     case Map_Action::turn_left: change_stamp(Stamp_Change::turn_left); break;
-    case Map_Action::undo: note_change_if(map_.undo(), "There is nothing to take back."); break;
-    case Map_Action::redo: note_change_if(map_.redo(), "There is nothing to do again."); break;
+    case Map_Action::undo:
+        step_back_or_on(&Tileset_Document::undo_map, "There is nothing to take back.");
+        break;
+    case Map_Action::redo:
+        step_back_or_on(&Tileset_Document::redo_map, "There is nothing to do again.");
+        break;
     case Map_Action::grid: desk_.shows_grid = !desk_.shows_grid; break;
+    case Map_Action::uses: desk_.shows_uses = !desk_.shows_uses; break;
     case Map_Action::zoom_out: zoom(-1, {view.width / 2, view.height / 2}); break;
     case Map_Action::zoom_in: zoom(1, {view.width / 2, view.height / 2}); break;
     case Map_Action::centre: camera().centre(map_.map().size()); break;
@@ -253,6 +258,16 @@ Loop_Step Map_Editor::act(Map_Action action) {
     follow_origin(origin);
     camera().keep_in_view(map_.map().size());
     return Loop_Step::go_on;
+}
+
+// A deleted tile may come back with its places.
+void Map_Editor::step_back_or_on(bool (Tileset_Document::*step)(), std::string_view otherwise) {
+    const int tiles = tileset_.count();
+    note_change_if((document_.*step)(), otherwise);
+    if (tileset_.count() > tiles) {
+        view_.take_tiles(tileset_);
+        report_ = "The deleted tile is back, behind all others.";
+    }
 }
 
 void Map_Editor::toggle(Stamp_Use use) {

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace quadrelle {
 
@@ -17,6 +18,22 @@ namespace {
 using namespace map_layout;
 
 constexpr int cells_in_view = list_columns * list_rows;
+constexpr int number_height = 14;
+
+// The top right corner of its ground is given.
+void draw_number(std::string_view text, Point corner) {
+    const int width = screen->text_width(Font::pane, text) + 2;
+    screen->fill_rect({corner.x - width, corner.y, width, number_height}, {0, 0, 0, 170});
+    screen->draw_text(Font::pane, {corner.x - width + 1, corner.y - 3}, text);
+}
+
+// As a cell of the list has room for it.
+std::string short_number(int number) {
+    constexpr int thousand = 1000;
+    return number < thousand              ? std::to_string(number)
+           : number < thousand * thousand ? std::to_string(number / thousand) + "k"
+                                          : "1M";
+}
 
 } // namespace
 
@@ -63,7 +80,7 @@ Rectangle Map_Tile_List::cell_of(int tile) const {
             list_cell};
 }
 
-void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::string_view text_below) {
+void Map_Tile_List::draw(const std::function<Listed_Tile(int tile)>& look_of, std::string_view text_below) {
     pane_.draw();
     screen->draw_texture(*checkerboard_, corner_of(list));
     const int first = first_row_ * list_columns;
@@ -72,19 +89,22 @@ void Map_Tile_List::draw(const std::function<int(int tile)>& weight_of, std::str
     for (int tile = first; tile < end; ++tile) {
         const Rectangle cell = cell_of(tile);
         shown_[static_cast<std::size_t>(tile - first)].draw(tileset_.tile_at(tile), centred(shown, cell));
-        const int weight = weight_of(tile);
-        if (weight > 0) {
-            screen->draw_outline(cell, standard_color(Standard_Color::black));
-            screen->draw_outline(cell.inset(1), standard_color(Standard_Color::highlight));
-        }
-        if (weight > 1) {
-            const std::string text = std::to_string(weight);
-            const int width = screen->text_width(Font::pane, text) + 4;
-            screen->fill_rect({cell.right() - width - 2, cell.y + 2, width, 17}, {0, 0, 0, 170});
-            screen->draw_text(Font::pane, {cell.right() - width, cell.y}, text);
-        }
+        draw_look(look_of(tile), cell);
     }
     screen->draw_text(Font::pane, info, text_below);
+}
+
+void Map_Tile_List::draw_look(const Listed_Tile& look, const Rectangle& cell) {
+    if (look.weight > 0) {
+        screen->draw_outline(cell, standard_color(Standard_Color::black));
+        screen->draw_outline(cell.inset(1), standard_color(Standard_Color::highlight));
+    }
+    if (look.weight > 1) {
+        draw_number(std::to_string(look.weight), {cell.right() - 2, cell.y + 2});
+    }
+    if (look.uses) {
+        draw_number(short_number(*look.uses), {cell.right() - 2, cell.bottom() - 2 - number_height});
+    }
 }
 
 } // namespace quadrelle

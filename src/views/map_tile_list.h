@@ -8,12 +8,19 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 namespace quadrelle {
 
 class Tileset;
+
+// What is shown of a tile beside its picture.
+struct Listed_Tile {
+    int weight = 0;          // 0 where it is not chosen; others than 1 are shown
+    std::optional<int> uses; // shown where there is one
+};
 
 class Map_Tile_List {
 public:
@@ -30,11 +37,11 @@ public:
     [[nodiscard]] int first_row() const { return first_row_; }
     void bring_into_view(int tile);
 
-    // `weight_of` a tile is 0 where it is not chosen; others than 1 are shown.
-    void draw(const std::function<int(int tile)>& weight_of, std::string_view text_below);
+    void draw(const std::function<Listed_Tile(int tile)>& look_of, std::string_view text_below);
 
 private:
     [[nodiscard]] Rectangle cell_of(int tile) const;
+    static void draw_look(const Listed_Tile& look, const Rectangle& cell);
 
     const Tileset& tileset_;
     Text_Pane pane_;

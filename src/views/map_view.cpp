@@ -18,6 +18,11 @@ constexpr Rectangle area = map_layout::view;
 Map_View::Map_View(const Edited_Map& map, const Tileset& tileset)
     : map_(map), tiles_(tileset.tiles()), texture_({area.width, area.height}) {}
 
+void Map_View::take_tiles(const Tileset& tileset) {
+    tiles_ = tileset.tiles();
+    forget();
+}
+
 Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay) const {
     const Tile_Map& map = map_.map();
     Map_Picture picture{camera, tiles_, grid, camera.seen_cells(map.size()), {}};

@@ -29,6 +29,8 @@ public:
     void draw(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay);
     // A tile has changed.
     void forget() { shown_.reset(); }
+    // The set has others than before.
+    void take_tiles(const Tileset& tileset);
 
 private:
     [[nodiscard]] Map_Picture picture_of(const Map_Camera& camera, Map_Grid grid,

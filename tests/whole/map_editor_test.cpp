@@ -1,5 +1,8 @@
+#include "app/window_panes.h"
+#include "commands/menu_table.h"
 #include "map/map_file.h"
 #include "map/map_strokes.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
 #include "tileset/document_file.h"
 #include "views/map_actions.h"
@@ -26,6 +29,13 @@ Point in_list(int tile) {
 class Map_Editor_Test : public Program_Test {
 protected:
     static Edited_Map& map() { return *document().map(); }
+    static std::vector<int> uses(int tiles) {
+        std::vector<int> result;
+        for (int tile = 0; tile < tiles; ++tile) {
+            result.push_back(map().uses_of(tile));
+        }
+        return result;
+    }
     static int tile_at(int column, int row) { return map().indexed(map().map().at({column, row})).tile(); }
 
     void make_tiles(int count) {
@@ -59,7 +69,7 @@ TEST_F(Map_Editor_Test, lays_out_a_map_by_mouse_and_keys) {
     ASSERT_NE(document().map(), nullptr);
     EXPECT_TRUE(document().is_modified());
     EXPECT_EQ(map().map().size(), (Size{60, 40}));
-    EXPECT_EQ(map().uses(8), (std::vector<int>{0, 0, 0, 5, 0, 2400 - 5, 0, 0}));
+    EXPECT_EQ(uses(8), (std::vector<int>{0, 0, 0, 5, 0, 2400 - 5, 0, 0}));
     EXPECT_EQ(tile_at(13, 11), 3);
 
     script().click(at(10, 10), Mouse_Button::right).key('r').click(at(0 + 25, 20));
@@ -75,7 +85,7 @@ TEST_F(Map_Editor_Test, lays_out_a_map_by_mouse_and_keys) {
         script().key('z', Modifier::control);
     }
     edit_map();
-    EXPECT_EQ(map().uses(8), std::vector<int>(8));
+    EXPECT_EQ(uses(8), std::vector<int>(8));
     script().key('r', Modifier::control);
     edit_map();
     EXPECT_EQ(tile_at(10, 10), 3);
@@ -88,7 +98,7 @@ TEST_F(Map_Editor_Test, tiles_are_chosen_for_a_stamp_and_at_random) {
     make_tiles(8);
     script().key(key::enter).drag({in_list(0), in_list(7)}).click(at(10, 10));
     edit_map();
-    EXPECT_EQ(map().uses(8), (std::vector<int>{1, 1, 0, 0, 0, 0, 1, 1}));
+    EXPECT_EQ(uses(8), (std::vector<int>{1, 1, 0, 0, 0, 0, 1, 1}));
     EXPECT_EQ(tile_at(11, 11), 7);
     script().click(in_list(2));
     with(SDL_KMOD_CTRL).click(in_list(4));
@@ -128,6 +138,14 @@ TEST_F(Map_Editor_Test, shows_the_same_pictures_whatever_becomes_of_the_tiles) {
     execute(Command::delete_tile);
     EXPECT_EQ(tile_at(10, 10), 2);
     EXPECT_EQ(tile_at(14, 10), -1);
+    // Undo in the map brings the tile back with its places.
+    script().key('z', Modifier::control);
+    edit_map();
+    EXPECT_EQ(tile_at(14, 10), 3);
+    EXPECT_EQ(document().tileset().tile_at(3).get_pixel(0, 0), Color(0, 100, 200));
+    script().key('r', Modifier::control);
+    edit_map();
+    EXPECT_EQ(tile_at(14, 10), -1);
     execute(Command::insert_new_tile);
     EXPECT_EQ(tile_at(11, 10), 3);
     script()
@@ -137,6 +155,36 @@ TEST_F(Map_Editor_Test, shows_the_same_pictures_whatever_becomes_of_the_tiles) {
         .key(key::escape);
     execute(Command::arrange_select);
     EXPECT_EQ(tile_at(11, 10), 0);
+}
+
+TEST_F(Map_Editor_Test, its_places_are_told_before_a_tile_is_deleted) {
+    make_tiles(4);
+    script().key(key::enter).click(in_list(2)).drag({at(10, 10), at(14, 10)});
+    edit_map();
+    const Point third{window_layout::tile_strip.x + 2 * 24 + 5, window_layout::tile_strip.y + 5};
+    play(script().motion(third));
+    EXPECT_EQ(editor->panes().hint_lines().lines().back(), "The map has tile 2 at 5 places.");
+    document().tileset().select(2);
+    int menu = 8;
+    for (std::size_t i = 0; menu_table.at(i).header != " Tileset "; ++i) {
+        menu += screen->text_width(Font::regular, menu_table.at(i).header);
+    }
+    script().press({menu, 12}).motion({menu, 25 + 5 * 25 + 12}).check([] {
+        EXPECT_EQ(editor->panes().hint_lines().lines().back(), "The map has it at 5 places.");
+    });
+    play(script().key(key::escape));
+}
+
+// What floats is in the tile that the map shows, as it is in an exported one.
+TEST_F(Map_Editor_Test, shows_what_floats_over_the_tile) {
+    make_tiles(1);
+    document().tileset().current_tile()->set_pixel(0, 0, {255, 0, 0});
+    execute(Command::copy);
+    execute(Command::paste);
+    play(script().key(key::right));
+    script().key(key::enter);
+    edit_map();
+    EXPECT_EQ(tile_pixel(1, 0), Color(255, 0, 0));
 }
 
 TEST_F(Map_Editor_Test, the_view_follows_wheel_keys_and_drags_and_is_as_it_was_afterwards) {
