@@ -1,6 +1,7 @@
 #include "app/document_export.h"
 
 #include "app/selection_desk.h"
+#include "base/atomic_file.h"
 #include "base/block_file.h"
 #include "base/file_names.h"
 #include "base/platform_files.h"
@@ -55,16 +56,19 @@ private:
 
 bool write_sheet(const Sheet_Tiles& tiles, const Export_Record& record) {
     const std::vector<std::uint8_t> picture = encode_png(sheet_picture(tiles, record.choice->layout));
-    if (picture.empty() || write_file(record.path, picture) < 0) {
+    Atomic_File picture_file(record.path);
+    if (picture.empty() || !picture_file.write(picture)) {
         return false;
     }
     if (!record.choice->has_description) {
-        return true;
+        return picture_file.commit();
     }
+    // Neither takes the place of an old file before both could be written.
+    Atomic_File description(with_extension(record.path, "tsx"));
     const std::string text = sheet_description(file_part(record.path), tiles.front()->size(),
                                                static_cast<int>(tiles.size()), record.choice->layout);
-    return write_file(with_extension(record.path, "tsx"),
-                      {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}) >= 0;
+    return description.write({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()}) &&
+           picture_file.commit() && description.commit();
 }
 
 // What was lifted is in the pictures of the tiles, and settles.

@@ -92,7 +92,7 @@ void export_again(Editor_Parts& editor) {
     Tileset_Document& document = editor.documents.current();
     if (!document.last_export()) {
         editor.panes.hint_lines().report(
-            {name, "This set has not been exported yet: see File, Export as .bmp."});
+            {name, "This set was not exported since it was opened: see File, Export as .bmp."});
         return;
     }
     editor.undo_seam_shifts();

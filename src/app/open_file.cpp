@@ -2,7 +2,6 @@
 
 #include "app/editor_parts.h"
 #include "app/palette_exchange.h"
-#include "base/file_names.h"
 #include "color/palette_formats.h"
 #include "pixels/picture_formats.h"
 #include "tileset/tileset_file.h"
@@ -58,7 +57,7 @@ Outcome open_file(Editor_Parts& editor, const std::string& path, File_Origin ori
         dialogs->message("Note", text_of(decoded.fault));
         return Outcome::refused;
     }
-    if (is_table || has_extension(file_part(path), "gpl") || read_palette_file(path).palette) {
+    if (is_named_as_palette(path) || read_palette_file(path).palette) {
         palette_exchange::import_palette(editor, path);
         return Outcome::refused;
     }

@@ -4,6 +4,7 @@
 #include "base/block_file.h"
 #include "base/file_names.h"
 #include "color/palette_formats.h"
+#include "color/palette_names.h"
 #include "pixels/color_use.h"
 #include "pixels/picture_formats.h"
 #include "pixels/tile.h"
@@ -60,7 +61,8 @@ Palette_Reading colors_of(std::span<const Tile* const> pictures, std::string nam
 }
 
 void save(Editor_Parts& editor, File_Dialog_Kind kind, std::span<const std::uint8_t> content) {
-    std::string path = editor.panes.palette().palette().name;
+    // Its extension becomes that of the kind.
+    std::string path = palette_stem(editor.panes.palette().palette().name) + ".gpl";
     if (!choose_file(kind, path)) {
         return;
     }

@@ -112,6 +112,9 @@ Palette_Reading read_jasc(Text_Lines lines, std::string name) {
             return refused("It says " + std::to_string(*count) + " colors and ends after " +
                            std::to_string(colors.size()) + ".");
         }
+        if (trimmed(*line).empty()) {
+            continue;
+        }
         const std::optional<Color_Line> four = color_in_numbers(*line, 4);
         const std::optional<Color_Line> found = four ? four : color_in_numbers(*line, 3);
         if (!found || !found->rest.empty()) {
@@ -179,8 +182,10 @@ Palette_Reading read_act(Bytes content, std::string name) {
     if (content.size() == with_count) {
         const std::size_t count = std::size_t{content[768]} << 8U | content[769];
         const std::size_t transparent = std::size_t{content[770]} << 8U | content[771];
+        // Nothing but zeros only fills the file up.
+        const bool says_something = count > 0 || transparent > 0;
         colors.resize(count == 0 ? colors.size() : std::min(count, colors.size()));
-        if (transparent < colors.size()) {
+        if (says_something && transparent < colors.size()) {
             colors[transparent].a = 0;
         }
     }
@@ -209,7 +214,9 @@ Palette_Reading read_hex_text(Text_Lines lines, std::string name, Alpha_Place al
             continue;
         }
         for (std::string_view word = take_word(*line); !word.empty(); word = take_word(*line)) {
-            const std::optional<Color> color = read_hex(word).color;
+            // Three digits alone may as well be a number up to 255.
+            const bool may_be_number = word.size() == 3;
+            const std::optional<Color> color = may_be_number ? std::nullopt : read_hex(word).color;
             if (!color) {
                 return refused_line(lines, word);
             }
@@ -236,6 +243,13 @@ std::string name_of_file(const std::string& path) {
 
 bool is_color_table(const std::string& path) {
     return has_extension(file_part(path), "act");
+}
+
+bool is_named_as_palette(const std::string& path) {
+    constexpr std::array extensions{"gpl", "hex", "pal", "act"};
+    return std::ranges::any_of(extensions, [name = file_part(path)](const char* extension) {
+        return has_extension(name, extension);
+    });
 }
 
 Palette_Reading read_palette(std::span<const std::uint8_t> content, const std::string& file_name) {

@@ -26,6 +26,8 @@ struct Palette_Reading {
                                            const std::string& file_name);
 // Whether only the name says that the file is a palette: what it begins with may look like a picture.
 [[nodiscard]] bool is_color_table(const std::string& path);
+// Whether the name says that the file is a palette, whatever is in it.
+[[nodiscard]] bool is_named_as_palette(const std::string& path);
 // Reads that file, unless it is too large for any palette.
 [[nodiscard]] Palette_Reading read_palette_file(const std::string& path);
 // Returns the file's name without folders and extension, as palettes from it are called.

@@ -141,6 +141,9 @@ int Palette_List::change(int index, std::vector<Color> colors) {
 
 // The old file goes when the new one is there.
 int Palette_List::rename(int index, const std::string& name) {
+    if (clean_name(name) == palette(index).name) {
+        return index;
+    }
     const int renamed = is_kept(index) ? index : add(palette(index));
     Kept_Palette taken = kept(renamed);
     taken.palette.name = free_name(clean_name(name), renamed);
@@ -159,7 +162,10 @@ int Palette_List::rename(int index, const std::string& name) {
 
 void Palette_List::remove(int index) {
     const std::string file_name = kept(index).file_name;
-    if (!file_name.empty() && !remove_file(path_of(file_name))) {
+    if (was_changed_by_others(kept(index))) {
+        note(file_name + " was changed by another program and stays.");
+    } else if (!file_name.empty() && !remove_file(path_of(file_name)) &&
+               path_kind(path_of(file_name)) != Path_Kind::nothing) {
         note(file_name + " cannot be removed.");
         return;
     }

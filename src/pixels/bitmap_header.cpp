@@ -12,6 +12,8 @@ constexpr std::size_t pixels_offset = 10;
 constexpr std::size_t second_header = 14;
 constexpr std::size_t old_header_length = 12;
 constexpr std::size_t header_length = 40;
+// Of the kind that may leave out what is 0 at its end.
+constexpr std::size_t least_header_length = 16;
 constexpr std::size_t length_with_alpha = 56;
 constexpr std::size_t masks_offset = second_header + header_length;
 
@@ -40,8 +42,13 @@ public:
 private:
     [[nodiscard]] bool is_old() const { return length_ == old_header_length; }
     [[nodiscard]] bool is_a_known_length() const {
-        return (is_old() || length_ >= header_length) && bytes_.size() >= second_header &&
+        return (is_old() || length_ >= least_header_length) && bytes_.size() >= second_header &&
                length_ <= bytes_.size() - second_header;
+    }
+
+    // Of four bytes, 0 where the header ends before it does.
+    [[nodiscard]] std::uint32_t number_in_header(std::size_t offset) const {
+        return offset + 4 <= second_header + length_ ? number_at(bytes_, offset, 4) : 0;
     }
 
     Picture_Fault read_size(int largest_edge) {
@@ -60,7 +67,7 @@ private:
 
     bool read_packing() {
         header_.depth = static_cast<int>(number_at(bytes_, is_old() ? 24 : 28, 2));
-        packing_ = is_old() ? plain : number_at(bytes_, 30, 4);
+        packing_ = is_old() ? plain : number_in_header(30);
         header_.has_runs = packing_ == runs_of_8 || packing_ == runs_of_4;
         constexpr std::array depths{1, 2, 4, 8, 16, 24, 32};
         switch (packing_) {
@@ -78,7 +85,7 @@ private:
         const std::size_t entry = is_old() ? 3 : 4;
         const std::size_t start = second_header + length_;
         const std::size_t all = std::size_t{1} << static_cast<unsigned>(header_.depth);
-        const std::size_t used = is_old() ? 0 : number_at(bytes_, used_offset, 4);
+        const std::size_t used = is_old() ? 0 : number_in_header(used_offset);
         const std::size_t count = used == 0 || used > all ? all : used;
         if (count * entry > bytes_.size() - start) {
             return false;

@@ -149,10 +149,14 @@ public:
                 escape(value);
             }
         }
-        return is_over_ || y_ >= header_.size.height ? rows_.take() : std::vector<Color>{};
+        return is_over_ || is_complete() ? rows_.take() : std::vector<Color>{};
     }
 
 private:
+    // Not every program says where the last row ends.
+    [[nodiscard]] bool is_complete() const {
+        return y_ >= header_.size.height || (y_ == header_.size.height - 1 && x_ == header_.size.width);
+    }
     // In four bits, the two halves of the value take turns.
     void repeat(int count, std::uint8_t value) {
         const std::array pair{value};

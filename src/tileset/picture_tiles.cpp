@@ -79,8 +79,8 @@ public:
               0, [&cells](int cell) { return cells.fingerprint(cell); },
               [&cells](int cell, int other) { return cells.are_equal(cell, other); }) {}
 
-    // Whether there was none like it.
-    bool add(int cell) { return seen_.insert(cell).second; }
+    [[nodiscard]] bool has(int cell) const { return seen_.contains(cell); }
+    void add(int cell) { seen_.insert(cell); }
 
 private:
     std::unordered_set<int, std::function<std::size_t(int)>, std::function<bool(int, int)>> seen_;
@@ -93,6 +93,9 @@ Size Picture_Grid::cells(Size picture) const {
             cells_along(picture.height, tile.height, margin, spacing)};
 }
 
+// When the set is full, so many more cells are told apart, and all the others have no room.
+constexpr int most_told_apart = 1 << 16;
+
 Cut_Plan plan_cut(const Tile& picture, const Picture_Cut& cut) {
     Cut_Plan plan;
     plan.cells = cut.grid.cells(picture.size());
@@ -100,13 +103,20 @@ Cut_Plan plan_cut(const Tile& picture, const Picture_Cut& cut) {
     const Cells cells(picture, cut.grid, plan.cells.width);
     Seen_Tiles seen(cells);
     const auto fate_of = [&](int cell) {
+        if (plan.beyond >= most_told_apart) {
+            ++plan.beyond;
+            return Cell_Fate::beyond;
+        }
         if (cut.empty == Skip::yes && cells.is_empty(cell)) {
             ++plan.empty;
             return Cell_Fate::empty;
         }
-        if (cut.equal == Skip::yes && !seen.add(cell)) {
+        if (cut.equal == Skip::yes && seen.has(cell)) {
             ++plan.equal;
             return Cell_Fate::equal;
+        }
+        if (cut.equal == Skip::yes) {
+            seen.add(cell);
         }
         const bool has_room = plan.taken < default_tile_limit;
         ++(has_room ? plan.taken : plan.beyond);

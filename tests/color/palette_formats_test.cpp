@@ -39,7 +39,10 @@ TEST(Palette_Formats_Test, takes_what_other_programs_write) {
               "Dusk",
               {{1, 2, 3, 128}, {255, 128, 0}}},
              {"80010203\nff8000", "a.txt", "a", {{1, 2, 3, 128}, {255, 128, 0}}},
-             {"JASC-PAL\r\n0100\r\n2\r\n1 2 3\r\n255 128 0\r\n", "a.pal", "a", {{1, 2, 3}, {255, 128, 0}}},
+             {"JASC-PAL\r\n0100\r\n2\r\n\r\n1 2 3\r\n255 128 0\r\n",
+              "a.pal",
+              "a",
+              {{1, 2, 3}, {255, 128, 0}}},
              {"JASC-PAL\n0100\n1\n1 2 3 128", "a.pal", "a", {{1, 2, 3, 128}}},
              {riff("", "\x02\x00"s, "\x01\x02\x03\x00\xff\x80\x00\x04"s),
               "a.pal",
@@ -56,7 +59,12 @@ TEST(Palette_Formats_Test, takes_what_other_programs_write) {
         const Palette_Reading reading = read(test.content, test.file_name);
         EXPECT_EQ(reading.palette, Palette(test.name, test.colors)) << test.content << reading.refusal;
     }
-    EXPECT_EQ(read(act_colors, "a.act").palette->colors.size(), 256U);
+    const std::string filled_up = act_colors + "\x00\x00\x00\x00"s;
+    for (const std::string& table : {act_colors, filled_up}) {
+        const std::vector<Color> colors = read(table, "a.act").palette->colors;
+        EXPECT_EQ(colors.size(), 256U);
+        EXPECT_EQ(colors.front(), Color(1, 2, 3));
+    }
 }
 
 TEST(Palette_Formats_Test, says_what_is_wrong) {
@@ -69,6 +77,7 @@ TEST(Palette_Formats_Test, says_what_is_wrong) {
              {"GIMP Palette\n1 2 256\n", "a.gpl", "Line 2 is no color: \"1 2 256\""},
              {"GIMP Palette\n-1 2 5x\n", "a.gpl", "Line 2 is no color: \"-1 2 5x\""},
              {"ff8000\nan ordinary text\n", "a.txt", "Line 2 is no color: \"an\""},
+             {"128 128 128\n", "a.txt", "Line 1 is no color: \"128\""},
              {"\x89PNG\r\n\x1a\n"s, "a.png", "Line 1 is no color: \"\x89PNG\""},
              {"JASC-PAL\n0100\nmany\n", "a.pal", "Line 3 does not say how many colors there are."},
              {"JASC-PAL\n0100\n2\n1 2 3\n", "a.pal", "It says 2 colors and ends after 1."},

@@ -94,6 +94,15 @@ TEST_F(Palette_List_Test, a_file_that_another_program_changed_stays_as_it_is) {
     EXPECT_EQ(names(read()), (std::vector<std::string>{"Sea", "Sea 2"}));
     list.change(3, {red});
     EXPECT_EQ(list.take_note(), "") << "the new file is its own";
+    store_text(file("Sea 2.gpl"), other);
+    list.remove(3);
+    EXPECT_EQ(stored_text(file("Sea 2.gpl")), other);
+    EXPECT_NE(list.take_note(), "");
+    list.add({"Gone", {red}});
+    std::filesystem::remove(native(file("Gone.gpl")));
+    list.remove(*list.find("Gone"));
+    EXPECT_FALSE(list.find("Gone"));
+    EXPECT_EQ(list.take_note(), "");
 }
 
 TEST_F(Palette_List_Test, the_palette_that_is_shown_is_found_again_when_others_are_renamed_or_deleted) {

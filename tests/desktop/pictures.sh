@@ -80,5 +80,17 @@ start_editor
 found=$(sum_of_palette)
 take_picture palette_found
 [ "$found" = "$kept" ] || fail "the palette is not as it was left"
+
+# A bitmap, a palette and a set can be dropped as well.
+convert "$work/blue.png" "BMP3:$work/blue.bmp"
+part=$dialog shown "$QUADRELLE_DROP_FILES" "$editor_window" "file://$work/blue.bmp"
+shown xdotool key Return
+wait_for_title untitled1.qdl*
+printf 'GIMP Palette\n1 2 3\n' >"$work/sun.gpl"
+"$QUADRELLE_DROP_FILES" "$editor_window" "file://$work/sun.gpl"
+wait_until test -s "$work/run/data/palettes/sun.gpl" || fail "the palette was not kept"
+printf 'QDL\n\0\1\1\1\0\0\0\377\0\0\377' >"$work/one.qdl"
+"$QUADRELLE_DROP_FILES" "$editor_window" "file://$work/one.qdl"
+wait_for_title "$work/one.qdl"
 quit_editor
 echo "passed"

@@ -142,6 +142,7 @@ TEST(Foreign_Pictures, every_kind_of_png_gives_its_colours) {
                 expected.set_pixel_at(i, expected_color(kind, i % png_size.width, i / png_size.width));
             }
             EXPECT_EQ(picture_of(*picture), picture_of(expected));
+            EXPECT_TRUE(decode_png(encode_png(*picture)).picture.value().same_pixels(*picture));
         }
     }
 }
@@ -225,6 +226,7 @@ const std::vector<std::uint32_t> palette{0x000000, 0xff0000, 0x00ff00, 0x0000ff,
 // clang-format off
 const std::vector<Bitmap_Case> bitmap_cases{
     {"1 bit", 1, 0, 40, false, {0x000000, 0xffffff}, {0x40, 0, 0, 0, 0xa0, 0, 0, 0}, {"wkw", "kwk"}},
+    {"1 bit, a header that ends early", 1, 0, 16, false, {0x000000, 0xffffff}, {0x40, 0, 0, 0, 0xa0, 0, 0, 0}, {"wkw", "kwk"}},
     {"2 bits", 2, 0, 40, true, {0x000000, 0xff0000, 0x00ff00, 0x0000ff}, {0x6c, 0, 0, 0, 0x04, 0, 0, 0}, {"rgb", "kkr"}},
     {"4 bits", 4, 0, 40, false, palette, {0x40, 0x10, 0, 0, 0x12, 0x30, 0, 0}},
     {"4 bits, from the top", 4, 0, 108, true, palette, {0x12, 0x30, 0, 0, 0x40, 0x10, 0, 0}},
@@ -253,8 +255,13 @@ TEST(Foreign_Pictures, every_kind_of_bitmap_gives_its_colours_or_is_broken) {
             const char letter = bitmap.rows[static_cast<std::size_t>(i / 3)][static_cast<std::size_t>(i % 3)];
             EXPECT_EQ(picture->get_pixel_at(i), color_of(letter)) << i;
         }
+        // Runs need no end when all rows are there.
+        const bool has_runs = bitmap.packing == 1 || bitmap.packing == 2;
+        EXPECT_EQ(decode_bitmap(Picture_Bytes(file).first(file.size() - 2)).picture.has_value(), has_runs);
         for (std::size_t length = 0; length < file.size(); ++length) {
-            EXPECT_EQ(decode_bitmap(Picture_Bytes(file).first(length)).fault, Picture_Fault::broken)
+            const Decoded_Picture cut = decode_bitmap(Picture_Bytes(file).first(length));
+            EXPECT_TRUE(cut.picture ? has_runs && cut.picture->same_pixels(*picture)
+                                    : cut.fault == Picture_Fault::broken)
                 << length;
         }
         EXPECT_EQ(decode_bitmap(file_of(bitmap, 8192, 8192), 8192).fault, Picture_Fault::broken);

@@ -106,6 +106,10 @@ TEST_F(Open_File_Test, load_takes_pictures_and_tells_what_is_wrong_with_a_file) 
         expect_message("Note", text).key(key::enter);
         play();
     }
+    store_text(folder().data_path("a.hex"), "0xff0000\n");
+    script().drop_file(folder().data_path("a.hex"));
+    expect_message("Note", "This is no palette. Line 1 is no color: \"0xff0000\"").key(key::enter);
+    play();
     EXPECT_EQ(editor->documents().count(), 2);
     store(path, {'#', 'f', 'f', '0', '0', '8', '0', '\n'});
     play(script().drop_file(path));
