@@ -100,18 +100,26 @@ void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels& pixels, in
     }
 }
 
+Map_Rows::Map_Rows(const Tile_Map& map, Tile_Pictures tiles, Size tile)
+    : map_(map), tile_(tile), pixels_(tiles) {}
+
+void Map_Rows::write(int y, std::span<Color> row) const {
+    Color* pixel = row.data();
+    for (const Map_Cell cell : map_.row(y / tile_.height)) {
+        const Oriented_Pixels from = pixels_.of(cell);
+        for (int x = 0; x < tile_.width; ++x) {
+            *pixel++ = from.first == nullptr ? Color{0, 0, 0, 0} : from.at(x, y % tile_.height);
+        }
+    }
+}
+
 Tile map_picture(const Tile_Map& map, Tile_Pictures tiles, Size tile) {
-    Tile picture(map.size().width * tile.width, map.size().height * tile.height);
-    const Cell_Pixels cell_pixels(tiles);
+    const Map_Rows rows(map, tiles, tile);
+    Tile picture(rows.size().width, rows.size().height);
     picture.change_pixels([&](std::span<Color> pixels) {
+        const auto width = static_cast<std::size_t>(picture.width());
         for (int y = 0; y < picture.height(); ++y) {
-            Color* pixel = pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width();
-            for (const Map_Cell cell : map.row(y / tile.height)) {
-                const Oriented_Pixels from = cell_pixels.of(cell);
-                for (int x = 0; x < tile.width; ++x) {
-                    *pixel++ = from.first == nullptr ? Color{0, 0, 0, 0} : from.at(x, y % tile.height);
-                }
-            }
+            rows.write(y, pixels.subspan(static_cast<std::size_t>(y) * width, width));
         }
     });
     return picture;

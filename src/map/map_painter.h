@@ -58,7 +58,24 @@ private:
     std::vector<int> tile_x_; // which pixel of its tile each pixel of a row shows
 };
 
-// Returns the whole map in its real size; empty cells are transparent black. The cells have indices.
+// The whole map in its real size, row by row. Borrows map and tiles.
+class Map_Rows {
+public:
+    Map_Rows(const Tile_Map& map, Tile_Pictures tiles, Size tile);
+
+    [[nodiscard]] Size size() const {
+        return {map_.size().width * tile_.width, map_.size().height * tile_.height};
+    }
+    // The row is as wide as that.
+    void write(int y, std::span<Color> row) const;
+
+private:
+    const Tile_Map& map_;
+    Size tile_;
+    Cell_Pixels pixels_;
+};
+
+// Returns all of that; empty cells are transparent black. The cells have indices.
 [[nodiscard]] Tile map_picture(const Tile_Map& map, Tile_Pictures tiles, Size tile);
 
 } // namespace quadrelle

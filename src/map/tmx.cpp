@@ -12,12 +12,14 @@ namespace quadrelle {
 
 namespace {
 
-std::string rows_of_numbers(const Tile_Map& map, int tile_count) {
+std::string rows_of_numbers(const Tile_Map& map, int tile_count, Size tile) {
+    // Only square tiles are turned; others may have become what they are after they were placed.
+    const std::uint32_t kept_bits = tile.width == tile.height ? ~0U : ~Map_Cell::swapped_bit;
     std::string text;
     for (int y = 0; y < map.size().height; ++y) {
         for (const Map_Cell cell : map.row(y)) {
             // It is the number that the format has for a tile of the only set, bits of its orientation too.
-            text += std::to_string(cell.tile() < tile_count ? cell.word() : 0U);
+            text += std::to_string(cell.tile() < tile_count ? cell.word() & kept_bits : 0U);
             text += ',';
         }
         text += '\n';
@@ -36,16 +38,16 @@ public:
         while (const std::optional<Xml_Tag> tag = tags.next()) {
             take(*tag, tags.text());
             if (!fault_.empty()) {
-                return {std::nullopt, fault_};
+                return {std::nullopt, fault_, false};
             }
         }
         if (!has_ended_) {
-            return {std::nullopt, "It is no whole map."};
+            return {std::nullopt, "It is no whole map.", false};
         }
         if (!has_cells_) {
-            return {std::nullopt, "It has no layer of tiles."};
+            return {std::nullopt, "It has no layer of tiles.", false};
         }
-        return {std::move(map_), ""};
+        return {std::move(map_), "", has_more_};
     }
 
 private:
@@ -62,6 +64,8 @@ private:
             require(++layers_ == 1, "It has several layers.");
         } else if (tag.name == "data") {
             take_data(tag, text);
+        } else if (tag.name == "objectgroup" || tag.name == "imagelayer" || tag.name == "group") {
+            has_more_ = true;
         }
     }
 
@@ -142,6 +146,7 @@ private:
     int layers_ = 0;
     bool has_cells_ = false;
     bool has_ended_ = false;
+    bool has_more_ = false;
     std::string fault_;
 };
 
@@ -162,7 +167,7 @@ std::string tmx_text(const Tile_Map& map, const Tmx_Tileset& tileset) {
            xml_attribute("width", tileset.columns * tileset.tile.width) +
            xml_attribute("height", rows * tileset.tile.height) +
            "/>\n </tileset>\n <layer id=\"1\" name=\"Map\"" + map_size + ">\n  <data encoding=\"csv\">\n" +
-           rows_of_numbers(map, tileset.count) + "</data>\n </layer>\n</map>\n";
+           rows_of_numbers(map, tileset.count, tileset.tile) + "</data>\n </layer>\n</map>\n";
 }
 
 Read_Tmx read_tmx(std::string_view text, Size tile, int tile_count) {

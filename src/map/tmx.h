@@ -25,6 +25,7 @@ struct Tmx_Tileset {
 struct Read_Tmx {
     std::optional<Tile_Map> map; // with indices of tiles
     std::string fault;           // why there is none, in words for people
+    bool has_more = false;       // layers of other kinds, which are left out
 };
 
 // The map must have one layer, and fit so many tiles of that size.

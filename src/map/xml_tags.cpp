@@ -30,6 +30,11 @@ std::size_t end_of_tag(std::string_view text) {
     return std::string_view::npos;
 }
 
+// No XML may have it, in whatever form.
+constexpr bool has_no_place(char letter) {
+    return letter >= 0 && letter < ' ';
+}
+
 } // namespace
 
 int number_from(std::string_view digits) {
@@ -110,7 +115,10 @@ std::string xml_attribute(std::string_view name, std::string_view value) {
         case '<': text += "&lt;"; break;
         case '>': text += "&gt;"; break;
         case '"': text += "&quot;"; break;
-        default: text += letter;
+        case '\t': text += "&#9;"; break;
+        case '\n': text += "&#10;"; break;
+        case '\r': text += "&#13;"; break;
+        default: text += has_no_place(letter) ? '_' : letter;
         }
     }
     return text + "\"";

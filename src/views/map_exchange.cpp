@@ -5,7 +5,7 @@
 #include "base/platform_files.h"
 #include "map/map_painter.h"
 #include "map/tmx.h"
-#include "pixels/picture_formats.h"
+#include "pixels/picture_rows.h"
 #include "tileset/document.h"
 #include "ui/dialogs.h"
 #include "views/ask_for_file.h"
@@ -21,7 +21,8 @@ namespace quadrelle {
 
 namespace {
 
-constexpr std::int64_t most_pixels = std::int64_t{32} << 20U;
+// More than that takes minutes.
+constexpr std::int64_t most_pixels = std::int64_t{256} << 20U;
 constexpr int picture_columns = 16;
 constexpr std::int64_t largest_tmx = std::int64_t{32} << 20U;
 
@@ -30,19 +31,21 @@ bool tell(std::string_view what) {
     return false;
 }
 
-bool save_picture(const Tile& picture, const std::string& path) {
-    const std::vector<std::uint8_t> bytes =
-        has_extension(path, "bmp") ? encode_bitmap(picture) : encode_png(picture);
-    return (!bytes.empty() && write_file(path, bytes) >= 0) || tell("Could not save the file.");
+bool save_picture(const Tile_Map& map, const Tileset& tileset, const std::string& path) {
+    const std::vector<const Tile*> tiles = tileset.tiles();
+    const Map_Rows rows(map, tiles, tileset.tile_size());
+    const auto write = has_extension(path, "bmp") ? write_bitmap_rows : write_png_rows;
+    return write(path, rows.size(), [&rows](int y, std::span<Color> row) { rows.write(y, row); }) ||
+           tell("Could not save the file.");
 }
 
-// All tiles row by row, as a map of them.
-Tile picture_of_tiles(const Tileset& tileset, int columns) {
+// All tiles row by row.
+Tile_Map map_of_tiles(const Tileset& tileset, int columns) {
     Tile_Map map({columns, (tileset.count() + columns - 1) / columns});
     for (int i = 0; i < tileset.count(); ++i) {
         map.set({i % columns, i / columns}, Map_Cell(i));
     }
-    return map_picture(map, tileset.tiles(), tileset.tile_size());
+    return map;
 }
 
 bool export_picture(const Tileset_Document& document, const std::string& path) {
@@ -54,8 +57,7 @@ bool export_picture(const Tileset_Document& document, const std::string& path) {
         return tell("A picture of " + std::to_string(width) + " x " + std::to_string(height) +
                     " pixels is too large.\rThe ending .tmx keeps maps of every size.");
     }
-    return save_picture(map_picture(document.map()->indexed_map(), tileset.tiles(), tileset.tile_size()),
-                        path);
+    return save_picture(document.map()->indexed_map(), tileset, path);
 }
 
 bool export_tmx(const Tileset_Document& document, const std::string& path) {
@@ -72,7 +74,7 @@ bool export_tmx(const Tileset_Document& document, const std::string& path) {
                                        file_part(picture), tileset.tile_size(), tileset.count(), columns});
     const std::span<const std::uint8_t> bytes(reinterpret_cast<const std::uint8_t*>(text.data()),
                                               text.size());
-    return save_picture(picture_of_tiles(tileset, columns), picture) &&
+    return save_picture(map_of_tiles(tileset, columns), tileset, picture) &&
            (write_file(path, bytes) >= 0 || tell("Could not save the file."));
 }
 
@@ -119,6 +121,9 @@ std::optional<Tile_Map> import_map(const Tileset_Document& document) {
     Read_Tmx read = read_tmx(*text, document.tileset().tile_size(), document.tileset().count());
     if (!read.map) {
         tell("This map does not fit.\r" + read.fault);
+    } else if (read.has_more) {
+        tell("Only the layer of tiles is taken over: objects, pictures and groups of layers\r"
+             "have no place in a map here.");
     }
     return std::move(read.map);
 }

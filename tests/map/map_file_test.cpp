@@ -273,11 +273,31 @@ TEST_F(Map_Beside_Set, goes_with_the_next_save_when_it_was_taken_away) {
 }
 
 TEST(Tmx, gives_every_map_back) {
-    const Tmx_Tileset tileset{"a <set> & \"more\"", "level.png", {8, 8}, 30, 16};
+    const Tmx_Tileset tileset{"a <set>\n\x02& \"more\"", "level.png", {8, 8}, 30, 16};
+    EXPECT_NE(tmx_text(Tile_Map({1, 1}), tileset).find("\"a &lt;set&gt;&#10;_&amp; &quot;more&quot;\""),
+              std::string::npos);
     const Tile_Map map = random_map({60, 40}, 30, 4);
     const Read_Tmx read = read_tmx(tmx_text(map, tileset), {8, 8}, 30);
     EXPECT_EQ(read.fault, "");
     EXPECT_EQ(read.map, map);
+}
+
+// Texts that are nearly maps are read or refused, and nothing outside of them is read.
+TEST(Tmx, any_text_is_read_without_harm) {
+    std::mt19937 random(8);
+    const std::string whole = tmx_text(random_map({6, 5}, 3, 4), {"set", "set.png", {8, 8}, 3, 2});
+    for (int i = 0; i < 3000; ++i) {
+        std::string text = whole;
+        for (int change = 0; change < 4; ++change) {
+            const std::size_t place = random() % text.size();
+            text[place] = "<>/\"' =,09\0a"[random() % 13];
+            text.erase(random() % text.size(), random() % 3);
+        }
+        if (const Read_Tmx read = read_tmx(text, {8, 8}, 3); read.map) {
+            EXPECT_TRUE(
+                std::ranges::all_of(read.map->cells(), [](Map_Cell cell) { return cell.tile() < 3; }));
+        }
+    }
 }
 
 struct Tmx_Row {
@@ -295,6 +315,7 @@ TEST(Tmx, says_why_a_map_does_not_fit) {
         {"width=\"2\"", "width = '2' other=\"a>b\"", ""},
         {"<?xml", "<!-- <map> --><?xml", ""},
         {"firstgid=\"1\"", "firstgid=\"2\"", ""},
+        {"<layer", "<objectgroup id=\"3\"><object id=\"1\"/></objectgroup><layer", ""},
         {"536870914,0", "3,0", "It has tiles that this set does not have."},
         {"536870914,0", "1", "It has fewer cells than its size says."},
         {"536870914,0", "1,0,0", "It has more cells than its size says."},
@@ -320,9 +341,15 @@ TEST(Tmx, says_why_a_map_does_not_fit) {
         const Read_Tmx read = read_tmx(changed, {8, 8}, 2);
         EXPECT_EQ(read.fault, row.fault);
         EXPECT_EQ(read.map.has_value(), row.fault.empty());
+        EXPECT_EQ(read.has_more, row.instead.starts_with("<objectgroup"));
     }
     EXPECT_EQ(read_tmx(text, {8, 8}, 2).map, map);
-    EXPECT_FALSE(read_tmx(tmx_text(map, {"set", "set.png", {8, 4}, 2, 2}), {8, 4}, 2).map);
+    // What was turned before the tiles became others is as it is drawn.
+    map.set({1, 0}, Map_Cell(1, {true, true, false}));
+    const Read_Tmx as_drawn = read_tmx(tmx_text(map, {"set", "set.png", {8, 4}, 2, 2}), {8, 4}, 2);
+    map.set({0, 0}, Map_Cell(1));
+    map.set({1, 0}, Map_Cell(1, {false, true, false}));
+    EXPECT_EQ(as_drawn.map, map);
     for (std::size_t length = 0; length < text.size() - 2; ++length) {
         EXPECT_FALSE(read_tmx(text.substr(0, length), {8, 8}, 2).map) << length;
     }

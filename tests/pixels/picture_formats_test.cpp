@@ -1,13 +1,13 @@
 #include "pixels/picture_formats.h"
+#include "pixels/picture_rows.h"
 
+#include "tests/support/files.h"
 #include "tests/support/tiles.h"
 
 #include <string_view>
 
 namespace quadrelle::testing {
 namespace {
-
-using Bytes = std::vector<std::uint8_t>;
 
 // A bitmap of one pixel that says so of another size, in four bytes for the width and four for the height.
 Decoded_Picture decoded_as(const std::array<std::uint8_t, 8>& size) {
@@ -26,6 +26,23 @@ TEST(Picture_Formats, give_back_what_they_took) {
             EXPECT_EQ(decoded.picture->size(), size);
             EXPECT_TRUE(std::ranges::equal(decoded.picture->pixels(), tile.pixels()));
         }
+    }
+}
+
+TEST(Picture_Rows, give_the_same_pictures_or_leave_the_old_file) {
+    const Tile picture = random_tile({700, 390}, 3);
+    for (const auto& write : {write_png_rows, write_bitmap_rows}) {
+        const auto write_to = [&](const std::string& path) {
+            return write(path, picture.size(), [&](int y, std::span<Color> row) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    row[static_cast<std::size_t>(x)] = picture.get_pixel(x, y);
+                }
+            });
+        };
+        EXPECT_GE(failures_of(write_to), 5);
+        const Temporary_Folder folder;
+        EXPECT_TRUE(write_to(folder.path("picture")));
+        EXPECT_TRUE(read_picture(folder.path("picture")).picture->same_pixels(picture));
     }
 }
 
