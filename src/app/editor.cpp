@@ -90,6 +90,7 @@ void Editor::offer_recovery() {
 void Editor::redraw(Present present) {
     // The canvas draws nothing outside its viewport, so the frame around it can be there first.
     screen->clear();
+    parts_->surroundings.show(parts_->documents.current(), parts_->canvas);
     parts_->canvas.draw(toolbox->state(), canvas_settings(*options));
     parts_->panes.draw(parts_->pointer);
     if (present == Present::yes) {

@@ -7,6 +7,7 @@
 #include "app/recorder.h"
 #include "app/redraw.h"
 #include "app/selection_desk.h"
+#include "app/surroundings.h"
 #include "app/window_panes.h"
 #include "base/input.h"
 #include "canvas/canvas_view.h"
@@ -51,6 +52,7 @@ struct Editor_Parts {
     Documents documents;
     Recorder recorder;
     Selection_Desk desk;
+    Surroundings surroundings;
     Window_Panes panes;
     Journal_Keeper journal;
 };

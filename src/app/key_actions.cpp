@@ -50,6 +50,21 @@ void toggle_grid(Editor_Parts& editor) {
     }
 }
 
+void toggle_surroundings(Editor_Parts& editor) {
+    constexpr const char* name = "Neighbours in the map";
+    const Tileset_Document& document = editor.documents.current();
+    if (document.map() == nullptr) {
+        editor.panes.hint_lines().report({name, "This set has no map yet: see Tools, Map editor."});
+        return;
+    }
+    editor.canvas.toggle_surroundings();
+    const bool is_there = document.uses_of_current() > 0;
+    editor.panes.hint_lines().report({name, !editor.canvas.shows_surroundings()
+                                                ? "They do not show around the tile."
+                                            : is_there ? "They show around the tile."
+                                                       : "The map does not have this tile."});
+}
+
 } // namespace
 
 Command carry_out(Editor_Parts& editor, Key_Action action) {
@@ -61,6 +76,7 @@ Command carry_out(Editor_Parts& editor, Key_Action action) {
     case Key_Action::smaller_brush: return brush_size_command(-1);
     case Key_Action::larger_brush: return brush_size_command(1);
     case Key_Action::toggle_grid: toggle_grid(editor); break;
+    case Key_Action::toggle_surroundings: toggle_surroundings(editor); break;
     case Key_Action::eraser: tool_commands::select_eraser(editor); break;
     case Key_Action::export_again: file_commands::export_again(editor); break;
     case Key_Action::none: break;

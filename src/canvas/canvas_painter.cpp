@@ -3,6 +3,7 @@
 #include "color/translucency.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace quadrelle {
 
@@ -75,6 +76,9 @@ void Canvas_Painter::paint(const Canvas_Picture& picture, const Pixel_Rows& targ
     for (int row = rows.first; row < rows.end; ++row) {
         paint_row(picture, columns, row, target);
     }
+    if (picture.around != nullptr) {
+        paint_around(picture, target);
+    }
     if (columns.first < columns.end && rows.first < rows.end) {
         for (const Selection_Outline& outline : picture.outlines) {
             paint_outline(picture, outline, columns, rows, target);
@@ -114,6 +118,35 @@ void Canvas_Painter::paint_outline(const Canvas_Picture& picture, const Selectio
             }
             if (!selection.contains({column + 1, row})) {
                 draw_marker(vertical, {x + edge - vertical.size.width, y}, target);
+            }
+        }
+    }
+}
+
+// Paler than the tile, and without a grid: nothing can be drawn there.
+void Canvas_Painter::paint_around(const Canvas_Picture& picture, const Pixel_Rows& target) {
+    constexpr std::uint8_t veil_alpha = 90;
+    Color veil = picture.surround;
+    veil.a = veil_alpha;
+    const int edge = picture.pixel_size;
+    const Point margin{(picture.around->width() - picture.tile->width()) / 2,
+                       (picture.around->height() - picture.tile->height()) / 2};
+    const Point start{picture.origin.x - margin.x * edge, picture.origin.y - margin.y * edge};
+    const Range columns{first_cell(start.x, edge),
+                        end_cell(start.x, edge, target.size.width, picture.around->width())};
+    const int last_row = end_cell(start.y, edge, target.size.height, picture.around->height());
+    for (int row = first_cell(start.y, edge); row < last_row; ++row) {
+        for (int column = columns.first; column < columns.end; ++column) {
+            const Color color = picture.around->get_pixel(column, row);
+            if (color.a == 0 || !picture.tile->is_outside(column - margin.x, row - margin.y)) {
+                continue;
+            }
+            const Color shown = blended_over(veil, blended_over(color, picture.surround));
+            const int left = std::max(start.x + column * edge, 0);
+            const int right = std::min(start.x + (column + 1) * edge, target.size.width);
+            const int bottom = std::min(start.y + (row + 1) * edge, target.size.height);
+            for (int y = std::max(start.y + row * edge, 0); y < bottom; ++y) {
+                std::fill(target.row(y) + left, target.row(y) + right, shown);
             }
         }
     }

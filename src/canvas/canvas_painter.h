@@ -44,6 +44,8 @@ struct Canvas_Picture {
     int grid_intensity = 0;
     Size checker{1, 1}; // in tile pixels
     Color surround;
+    // What lies around the tile, which is in its middle; null for nothing.
+    const Tile* around = nullptr;
     // What is not selected is dimmed; null for no selection.
     const Selection* selection = nullptr;
     // Shown as it would look when plotted; null for none.
@@ -75,6 +77,7 @@ private:
         Color grid;
     };
     void paint_row(const Canvas_Picture& picture, Range columns, int row, const Pixel_Rows& target);
+    static void paint_around(const Canvas_Picture& picture, const Pixel_Rows& target);
     void compose_lines(const Canvas_Picture& picture, Range columns, int row);
     static void paint_outline(const Canvas_Picture& picture, const Selection_Outline& outline, Range columns,
                               Range rows, const Pixel_Rows& target);

@@ -224,6 +224,7 @@ Canvas_Picture Canvas_View::picture(const Tool_State& tools, const Canvas_Settin
     picture.grid_intensity = shows_grid_ ? settings.grid_intensity : 0;
     picture.checker = settings.checker;
     picture.surround = standard_color(Standard_Color::dark_frame);
+    picture.around = tile_ == nullptr ? nullptr : surroundings_.get();
     const Cell_Edges* const seam = edges_.of(Edge_Family::seam, pixel_size_);
     if (horizontal_seam_shift_ != no_seam_shift && seam != nullptr) {
         picture.column_marker = &seam->vertical.front();

@@ -20,6 +20,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace quadrelle {
 
@@ -135,6 +136,12 @@ public:
     void toggle_grid() { shows_grid_ = !shows_grid_; }
     void show_grid() { shows_grid_ = true; }
 
+    // What lies around the tile in a map shows too, or not. The picture is larger than the tile by as much at
+    // opposite sides; null for nothing.
+    void toggle_surroundings() { shows_surroundings_ = !shows_surroundings_; }
+    [[nodiscard]] bool shows_surroundings() const { return shows_surroundings_; }
+    void set_surroundings(std::unique_ptr<const Tile> picture) { surroundings_ = std::move(picture); }
+
     // Where in the tile that is, to the window pixel.
     [[nodiscard]] Tile_Position exact_position(Point position) const;
     // The handle of what floats that is there, while the tool in use shows them.
@@ -187,6 +194,8 @@ private:
     Tile* tile_ = nullptr;
     int pixel_size_;
     bool shows_grid_ = true;
+    bool shows_surroundings_ = true;
+    std::unique_ptr<const Tile> surroundings_;
     Point origin_{window_layout::canvas.x, window_layout::canvas.y};
     int horizontal_seam_shift_ = no_seam_shift;
     int vertical_seam_shift_ = no_seam_shift;

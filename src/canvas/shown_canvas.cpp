@@ -26,6 +26,7 @@ Shown_Canvas::Look Shown_Canvas::look_of(const Canvas_Picture& picture) {
               .grid_intensity = picture.grid_intensity,
               .checker = picture.checker,
               .surround = picture.surround,
+              .around = picture.around == nullptr ? 0 : picture.around->version(),
               .is_dimmed = picture.selection != nullptr,
               .outlines = {},
               .column_marker = picture.column_marker,

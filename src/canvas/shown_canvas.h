@@ -28,6 +28,7 @@ private:
         int grid_intensity = 0;
         Size checker;
         Color surround;
+        std::uint64_t around = 0; // the version of that picture
         bool is_dimmed = false;
         std::vector<const Cell_Edges*> outlines;
         const Cell_Marker* column_marker = nullptr;

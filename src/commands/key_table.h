@@ -22,6 +22,7 @@ enum class Key_Action : std::int32_t {
     smaller_brush,
     larger_brush,
     toggle_grid,
+    toggle_surroundings,
     eraser,
     export_again,
 };
@@ -68,6 +69,7 @@ constexpr std::array table = std::to_array<Key_Row>({
     {Modifier::none,    '0',               "0",         Command::center_tile_on_view, Key_Action::none,          "",                  acts_once},
     {Modifier::none,    key::keypad_0,     "Keypad 0",  Command::center_tile_on_view, Key_Action::none,          "",                  acts_once},
     {Modifier::none,    'g',               "g",         Command::none,                Key_Action::toggle_grid,   "Grid on and off",   acts_once},
+    {Modifier::shift,   'g',               "G",         Command::none,                Key_Action::toggle_surroundings, "Neighbours in the map", acts_once},
     {Modifier::none,    'e',               "e",         Command::none,                Key_Action::eraser,        "Eraser",            acts_once},
     {Modifier::none,    'n',               "n",         Command::line,                Key_Action::none,          "",                  acts_once},
     {Modifier::none,    'u',               "u",         Command::rectangle,           Key_Action::none,          "",                  acts_once},

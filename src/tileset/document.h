@@ -53,6 +53,10 @@ public:
     // What the map editor stands at, from the first time on that it was opened, as long as the tiles have
     // their size.
     [[nodiscard]] Map_Desk& map_desk();
+    // Returns the place of the map that the user went to last, if there is one.
+    [[nodiscard]] std::optional<Map_Point> map_place() const {
+        return map_desk_ ? map_desk_->place : std::nullopt;
+    }
     // Returns how many places of the map the current tile is in.
     [[nodiscard]] int uses_of_current() const;
     [[nodiscard]] const std::string& file_name() const { return file_name_; }

@@ -1,4 +1,6 @@
 #include "app/window_panes.h"
+#include "color/standard_colors.h"
+#include "color/translucency.h"
 #include "commands/menu_table.h"
 #include "map/map_file.h"
 #include "map/map_strokes.h"
@@ -173,6 +175,32 @@ TEST_F(Map_Editor_Test, its_places_are_told_before_a_tile_is_deleted) {
         EXPECT_EQ(editor->panes().hint_lines().lines().back(), "The map has it at 5 places.");
     });
     play(script().key(key::escape));
+}
+
+// They show around the tile on the canvas, as they are drawn, and where the user went to.
+TEST_F(Map_Editor_Test, neighbours_show_around_the_tile) {
+    make_tiles(4);
+    const auto right_of_tile = [] {
+        const Point point = cell(24 + 3, 5);
+        const Picture picture = window_picture();
+        return picture.at(static_cast<std::size_t>(point.y * screen->size().width + point.x));
+    };
+    const Color surround = standard_color(Standard_Color::dark_frame);
+    const auto paler = [&](Color color) {
+        return blended_over({surround.r, surround.g, surround.b, 90}, color).word();
+    };
+    script().key(key::enter).click(at(10, 10)).click(at(20, 20)).click(in_list(3)).click(at(11, 10));
+    script().click(in_list(2)).click(at(21, 20));
+    edit_map();
+    EXPECT_EQ(right_of_tile(), paler({120, 100, 200}));
+    document().tileset().tile_at(3).fill({1, 2, 3});
+    editor->redraw(Present::yes);
+    EXPECT_EQ(right_of_tile(), paler({1, 2, 3}));
+    document().map_desk().place = Map_Point{20, 20};
+    editor->redraw(Present::yes);
+    EXPECT_EQ(right_of_tile(), paler({80, 100, 200}));
+    play(script().key('g', Modifier::shift));
+    EXPECT_EQ(right_of_tile(), surround.word());
 }
 
 // What floats is in the tile that the map shows, as it is in an exported one.
