@@ -54,27 +54,40 @@ void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& pa
 }
 
 void Map_Painter::paint(const Map_Picture& picture, const Rectangle& part, const Pixel_Rows& target) {
-    const Map_Camera& camera = picture.camera;
     find_stretches(picture, part);
     const Cell_Pixels pixels(picture.tiles);
-    const bool has_grid = picture.grid == Map_Grid::shown && has_room_for_grid(camera);
-    const int end = stretches_.empty() ? 0 : stretches_.back().end;
-    int row_above = camera.cell_at({0, part.y - 1}).y;
+    const bool has_grid = picture.grid == Map_Grid::shown && has_room_for_grid(picture.camera);
+    const int begin = stretches_.empty() ? part.width : stretches_.front().begin;
+    const int end = stretches_.empty() ? part.width : stretches_.back().end;
+    Row_Look before = look_of(picture, part.y - 1);
     for (int y = 0; y < part.height; ++y) {
         Color* const row = target.row(y);
-        const int cell_row = camera.cell_at({0, part.y + y}).y;
-        const bool is_inside = cell_row >= picture.area.y && cell_row < picture.area.bottom() && end > 0;
-        std::fill_n(row, is_inside ? stretches_.front().begin : part.width, surround);
+        Row_Look look = look_of(picture, part.y + y);
+        look.is_edge = has_grid && look.cell_row != before.cell_row;
+        if (y > 0 && look == before) {
+            std::copy_n(target.row(y - 1), part.width, row);
+            continue;
+        }
+        before = look;
+        const bool is_inside = look.cell_row >= picture.area.y && look.cell_row < picture.area.bottom();
+        std::fill_n(row, is_inside ? begin : part.width, surround);
         if (is_inside) {
             std::fill(row + end, row + part.width, surround);
-            const int tile_y = camera.pixel_at({0, part.y + y}).y - cell_row * camera.tile().height;
-            paint_row(picture.row(cell_row), pixels, tile_y, part.y + y, row);
+            paint_row(picture.row(look.cell_row), Cell_Pixels::Lines(pixels, look.tile_y),
+                      checkers_[look.checkers], row);
         }
         if (is_inside && has_grid) {
-            paint_grid(cell_row != row_above, row);
+            paint_grid(look.is_edge, row);
         }
-        row_above = cell_row;
     }
+}
+
+// Of a row of the view.
+Map_Painter::Row_Look Map_Painter::look_of(const Map_Picture& picture, int y) {
+    const Map_Camera& camera = picture.camera;
+    const int cell_row = camera.cell_at({0, y}).y;
+    return {cell_row, camera.pixel_at({0, y}).y - cell_row * camera.tile().height,
+            static_cast<std::size_t>(std::max(y, 0) / checker_edge % 2), false};
 }
 
 void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
@@ -84,18 +97,23 @@ void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
     }
 }
 
-void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels& pixels, int tile_y, int y,
-                            Color* row) const {
-    const Color* const checkers = checkers_[static_cast<std::size_t>(y / checker_edge % 2)].data();
+void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
+                            std::span<const Color> checkers, Color* row) const {
+    if (stretches_.empty()) {
+        return;
+    }
+    const auto begin = static_cast<std::size_t>(stretches_.front().begin);
+    std::ranges::copy(checkers.subspan(begin, static_cast<std::size_t>(stretches_.back().end) - begin),
+                      row + begin);
+    const int* const tile_x = tile_x_.data();
     for (const Stretch& stretch : stretches_) {
-        const Oriented_Pixels from = pixels.of(cells[stretch.column]);
-        if (from.first == nullptr) {
-            std::copy(checkers + stretch.begin, checkers + stretch.end, row + stretch.begin);
+        const Cell_Pixels::Line line = lines.of(cells[stretch.column]);
+        if (line.first == nullptr) {
             continue;
         }
-        const Color* const line = from.first + tile_y * from.step_y;
         for (int x = stretch.begin; x < stretch.end; ++x) {
-            row[x] = blended_over(line[tile_x_[static_cast<std::size_t>(x)] * from.step_x], checkers[x]);
+            const Color color = line.first[tile_x[x] * line.step];
+            row[x] = blended_over(color, row[x]);
         }
     }
 }

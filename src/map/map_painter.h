@@ -48,8 +48,19 @@ private:
         int end = 0;
         bool has_edge = false; // the cell begins there too
     };
+    // What a row of the view shows: two of which all is the same look the same.
+    struct Row_Look {
+        int cell_row = 0;
+        int tile_y = 0;           // within the cell
+        std::size_t checkers = 0; // which of both kinds
+        bool is_edge = false;     // the grid has a line there
+
+        bool operator==(const Row_Look&) const = default;
+    };
+    [[nodiscard]] static Row_Look look_of(const Map_Picture& picture, int y);
     void find_stretches(const Map_Picture& picture, const Rectangle& part);
-    void paint_row(const Map_Cell* cells, const Cell_Pixels& pixels, int tile_y, int y, Color* row) const;
+    void paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines, std::span<const Color> checkers,
+                   Color* row) const;
     void paint_grid(bool is_cell_edge, Color* row) const;
 
     std::vector<Stretch> stretches_;

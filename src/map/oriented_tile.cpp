@@ -41,4 +41,12 @@ Cell_Pixels::Cell_Pixels(Tile_Pictures tiles) {
     }
 }
 
+Cell_Pixels::Lines::Lines(const Cell_Pixels& pixels, int y) : tiles_(pixels.first_pixels_) {
+    for (std::size_t i = 0; i < first_.size(); ++i) {
+        const Orientation_Steps& steps = pixels.steps_.at(i);
+        first_.at(i) = steps.first + y * steps.step_y;
+        step_.at(i) = steps.step_x;
+    }
+}
+
 } // namespace quadrelle

@@ -42,6 +42,28 @@ public:
         return {first_pixels_[index] + steps.first, steps.step_x, steps.step_y};
     }
 
+    // One row of the cells: pixels beside each other, a step apart. None of a cell that shows nothing.
+    struct Line {
+        const Color* first = nullptr;
+        std::ptrdiff_t step = 0;
+    };
+    class Lines {
+    public:
+        Lines(const Cell_Pixels& pixels, int y);
+
+        [[nodiscard]] Line of(Map_Cell cell) const {
+            const auto index = static_cast<std::size_t>(cell.tile());
+            const std::size_t orientation = cell.orientation_index();
+            return index >= tiles_.size() ? Line{}
+                                          : Line{tiles_[index] + first_[orientation], step_[orientation]};
+        }
+
+    private:
+        std::span<const Color* const> tiles_;
+        std::array<std::ptrdiff_t, Map_Cell::orientation_count> first_;
+        std::array<std::ptrdiff_t, Map_Cell::orientation_count> step_;
+    };
+
 private:
     struct Orientation_Steps {
         std::ptrdiff_t first = 0;

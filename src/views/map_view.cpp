@@ -23,16 +23,16 @@ void Map_View::take_tiles(const Tileset& tileset) {
     forget();
 }
 
-Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay) const {
+// The cells go into memory that is there already: for a million of them anew it would take a while to come.
+Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay) {
     const Tile_Map& map = map_.map();
-    Map_Picture picture{camera, tiles_, grid, camera.seen_cells(map.size()), {}};
+    Map_Picture picture{camera, tiles_, grid, camera.seen_cells(map.size()), std::move(spare_cells_)};
     const Rectangle& seen = picture.area;
-    picture.cells.reserve(static_cast<std::size_t>(seen.width) * static_cast<std::size_t>(seen.height));
+    picture.cells.clear();
     for (int y = seen.y; y < seen.bottom(); ++y) {
-        for (const Map_Cell cell :
-             map.row(y).subspan(static_cast<std::size_t>(seen.x), static_cast<std::size_t>(seen.width))) {
-            picture.cells.push_back(cell);
-        }
+        const auto row =
+            map.row(y).subspan(static_cast<std::size_t>(seen.x), static_cast<std::size_t>(seen.width));
+        picture.cells.insert(picture.cells.end(), row.begin(), row.end());
     }
     for (const Map_Run& run : overlay.runs) {
         const Rectangle part = intersection(seen, {run.first.x, run.first.y, run.length, 1});
@@ -72,6 +72,7 @@ void Map_View::draw(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& 
     if (!part.is_empty()) {
         texture_.update_part(part, [&](const Pixel_Rows& target) { painter_.paint(picture, part, target); });
     }
+    spare_cells_ = shown_ ? std::move(shown_->cells) : std::vector<Map_Cell>();
     shown_ = std::move(picture);
     texture_.draw_at(corner_of(area));
 }

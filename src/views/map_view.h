@@ -33,8 +33,7 @@ public:
     void take_tiles(const Tileset& tileset);
 
 private:
-    [[nodiscard]] Map_Picture picture_of(const Map_Camera& camera, Map_Grid grid,
-                                         const Map_Overlay& overlay) const;
+    [[nodiscard]] Map_Picture picture_of(const Map_Camera& camera, Map_Grid grid, const Map_Overlay& overlay);
     // In pixels of the view.
     [[nodiscard]] Rectangle changed_part(const Map_Picture& picture) const;
 
@@ -42,6 +41,7 @@ private:
     std::vector<const Tile*> tiles_;
     Map_Painter painter_;
     std::optional<Map_Picture> shown_;
+    std::vector<Map_Cell> spare_cells_;
     Opaque_Texture texture_;
 };
 

@@ -1,8 +1,13 @@
 #include "app/usable_commands.h"
+#include "app/window_panes.h"
 #include "base/debug_monitor.h"
 #include "color/palette_store.h"
 #include "commands/command_table.h"
+#include "screen/screen.h"
 #include "tests/whole/program_test.h"
+
+#include <map>
+#include <set>
 
 namespace quadrelle::testing {
 namespace {
@@ -71,7 +76,51 @@ protected:
         const bool has_asked = !execute_and_escape(command).empty();
         return has_asked || window_picture() != before || window_title() != title || asked_file();
     }
+
+    bool answers_click(Point point, Command tool) {
+        prepare(tool, point);
+        answer_files(File_Answer_State::cancelled);
+        const Picture before = window_picture();
+        bool has_asked = false;
+        script().set_afterwards([&](std::string_view /*loop*/) {
+            has_asked = true;
+            script().key(key::escape);
+        });
+        play(script().click(point));
+        script().set_afterwards({});
+        return has_asked || window_picture() != before || asked_file();
+    }
+
+    // What icons and buttons in the window stand for, each with a point of it. Beside them there is the tool.
+    static std::map<Command, Point> buttons_in_window(Command tool) {
+        std::map<Command, Point> buttons;
+        for (int y = 0; y < screen->size().height; y += 5) {
+            for (int x = 0; x < screen->size().width; x += 5) {
+                const Pointed thing = editor->panes().pointed({x, y});
+                const Command* const command = std::get_if<Command>(&thing);
+                if (command != nullptr && *command != tool) {
+                    buttons.try_emplace(*command, Point{x, y});
+                }
+            }
+        }
+        return buttons;
+    }
 };
+
+// Those that are named do nothing to a set with a single strip in the middle of the view.
+TEST_F(Every_Command_Test, every_icon_and_button_answers_a_click) {
+    std::set<Command> met{Command::center_tile_on_view, Command::previous_tile_strip,
+                          Command::next_tile_strip, Command::rewind_strip, Command::forward_strip};
+    for (const Command tool : {Command::pen, Command::rectangle_selector}) {
+        prepare(tool, {5, 5});
+        for (const auto& [command, point] : buttons_in_window(tool)) {
+            if (met.insert(command).second) {
+                EXPECT_TRUE(answers_click(point, tool)) << row_of(command).name;
+            }
+        }
+    }
+    EXPECT_GT(met.size(), 30U);
+}
 
 // Those that are named do nothing at all, or nothing to a set with a single strip in the middle of the view,
 // or only what is so already.

@@ -277,6 +277,36 @@ TEST_F(Map_Editor_Test, is_saved_with_its_set_and_replaces_no_strange_file_unask
     EXPECT_EQ(document().map(), nullptr);
 }
 
+TEST_F(Map_Editor_Test, every_button_does_something) {
+    make_tiles(2);
+    for (const Map_Action_Row& row : map_action_table) {
+        // A tile that was placed, another one taken back.
+        document().set_map(Tile_Map({60, 40}));
+        script().click(at(10, 10)).click(at(12, 10)).key('z', Modifier::control).click(in_list(1));
+        edit_map();
+        document().map_desk().tool = row.id == Map_Action::pen ? Map_Tool::fill : Map_Tool::pen;
+        const Map_Desk before = document().map_desk();
+        const std::uint64_t version = map().version();
+        bool has_asked = false;
+        bool has_stayed = false;
+        answer_files(File_Answer_State::cancelled);
+        script().set_afterwards([&](std::string_view loop) {
+            has_asked = has_asked || loop != "map editor";
+            has_stayed = true;
+            script().key(key::escape);
+        });
+        script().press(middle_of(row.id));
+        execute(Command::map_editor);
+        script().set_afterwards({});
+        const Map_Desk& now = document().map_desk();
+        EXPECT_TRUE(!has_stayed || has_asked || asked_file() || map().version() != version ||
+                    now.tool != before.tool || now.use != before.use || now.stamp != before.stamp ||
+                    now.camera != before.camera || now.shows_grid != before.shows_grid ||
+                    now.shows_uses != before.shows_uses)
+            << row.label;
+    }
+}
+
 TEST_F(Map_Editor_Test, a_map_is_taken_away_when_the_user_says_so) {
     make_tiles(1);
     script().key(key::enter).click(middle_of(Map_Action::remove)).key(key::escape);
