@@ -2,6 +2,7 @@
 
 #include "color/standard_colors.h"
 #include "color/translucency.h"
+#include "map/checker_blend.h"
 
 #include <algorithm>
 
@@ -12,6 +13,8 @@ namespace {
 constexpr Color surround = standard_color(Standard_Color::dark_frame);
 constexpr int checker_edge = 6;
 constexpr Color grid_color{0, 0, 0, 90};
+// To go through cells one by one takes longer than through their pixels where there are few in each.
+constexpr int narrow_cell = 4;
 // In smaller cells lines would hide more than they show.
 constexpr int smallest_cell_with_grid = 8;
 
@@ -30,11 +33,12 @@ void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& pa
     const Map_Camera& camera = picture.camera;
     stretches_.clear();
     tile_x_.assign(static_cast<std::size_t>(part.width), 0);
+    column_.assign(static_cast<std::size_t>(part.width), 0);
     for (int kind = 0; kind < 2; ++kind) {
-        std::vector<Color>& checkers = checkers_[static_cast<std::size_t>(kind)];
+        std::vector<std::uint8_t>& checkers = checkers_.at(static_cast<std::size_t>(kind));
         checkers.clear();
         for (int x = part.x; x < part.right(); ++x) {
-            checkers.push_back(checkerboard_color(x, kind * checker_edge, {checker_edge, checker_edge}));
+            checkers.push_back(checker_at(x, kind * checker_edge));
         }
     }
     for (int i = 0; i < picture.area.width; ++i) {
@@ -47,6 +51,7 @@ void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& pa
         }
         stretches_.push_back({i, begin, end, cell.x >= part.x});
         for (int x = begin; x < end; ++x) {
+            column_[static_cast<std::size_t>(x)] = i;
             tile_x_[static_cast<std::size_t>(x)] =
                 camera.pixel_at({part.x + x, 0}).x - column * camera.tile().width;
         }
@@ -69,7 +74,8 @@ void Map_Painter::paint(const Map_Picture& picture, const Rectangle& part, const
             continue;
         }
         before = look;
-        const bool is_inside = look.cell_row >= picture.area.y && look.cell_row < picture.area.bottom();
+        const bool is_inside =
+            look.cell_row >= picture.area.y && look.cell_row < picture.area.bottom() && !stretches_.empty();
         std::fill_n(row, is_inside ? begin : part.width, surround);
         if (is_inside) {
             std::fill(row + end, row + part.width, surround);
@@ -98,22 +104,24 @@ void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
 }
 
 void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
-                            std::span<const Color> checkers, Color* row) const {
-    if (stretches_.empty()) {
+                            std::span<const std::uint8_t> checkers, Color* row) const {
+    const int* const tile_x = tile_x_.data();
+    const auto paint_pixel = [&](int x, const Cell_Pixels::Line& line) {
+        row[x] = over_checker(line.first[tile_x[x] * line.step], checkers[static_cast<std::size_t>(x)]);
+    };
+    const int begin = stretches_.front().begin;
+    const int end = stretches_.back().end;
+    if (end - begin < narrow_cell * static_cast<int>(stretches_.size())) {
+        const int* const column = column_.data();
+        for (int x = begin; x < end; ++x) {
+            paint_pixel(x, lines.of(cells[column[x]]));
+        }
         return;
     }
-    const auto begin = static_cast<std::size_t>(stretches_.front().begin);
-    std::ranges::copy(checkers.subspan(begin, static_cast<std::size_t>(stretches_.back().end) - begin),
-                      row + begin);
-    const int* const tile_x = tile_x_.data();
     for (const Stretch& stretch : stretches_) {
         const Cell_Pixels::Line line = lines.of(cells[stretch.column]);
-        if (line.first == nullptr) {
-            continue;
-        }
         for (int x = stretch.begin; x < stretch.end; ++x) {
-            const Color color = line.first[tile_x[x] * line.step];
-            row[x] = blended_over(color, row[x]);
+            paint_pixel(x, line);
         }
     }
 }
@@ -122,11 +130,12 @@ Map_Rows::Map_Rows(const Tile_Map& map, Tile_Pictures tiles, Size tile)
     : map_(map), tile_(tile), pixels_(tiles) {}
 
 void Map_Rows::write(int y, std::span<Color> row) const {
+    const Cell_Pixels::Lines lines(pixels_, y % tile_.height);
     Color* pixel = row.data();
     for (const Map_Cell cell : map_.row(y / tile_.height)) {
-        const Oriented_Pixels from = pixels_.of(cell);
+        const Cell_Pixels::Line line = lines.of(cell);
         for (int x = 0; x < tile_.width; ++x) {
-            *pixel++ = from.first == nullptr ? Color{0, 0, 0, 0} : from.at(x, y % tile_.height);
+            *pixel++ = line.first[x * line.step];
         }
     }
 }

@@ -59,13 +59,14 @@ private:
     };
     [[nodiscard]] static Row_Look look_of(const Map_Picture& picture, int y);
     void find_stretches(const Map_Picture& picture, const Rectangle& part);
-    void paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines, std::span<const Color> checkers,
-                   Color* row) const;
+    void paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
+                   std::span<const std::uint8_t> checkers, Color* row) const;
     void paint_grid(bool is_cell_edge, Color* row) const;
 
     std::vector<Stretch> stretches_;
-    // Of rows of both kinds, squares that begin dark and squares that begin light.
-    std::array<std::vector<Color>, 2> checkers_;
+    // The colours of the board, in rows of both kinds.
+    std::array<std::vector<std::uint8_t>, 2> checkers_;
+    std::vector<int> column_; // of the cells, for each pixel of a row
     std::vector<int> tile_x_; // which pixel of its tile each pixel of a row shows
 };
 

@@ -5,6 +5,12 @@
 
 namespace quadrelle {
 
+namespace {
+
+constexpr Color nothing{0, 0, 0, 0};
+
+} // namespace
+
 Oriented_Pixels oriented(const Tile& tile, Orientation orientation) {
     const std::ptrdiff_t width = tile.width();
     Oriented_Pixels pixels{tile.pixels().data(), 1, width};
@@ -34,6 +40,7 @@ Cell_Pixels::Cell_Pixels(Tile_Pictures tiles) {
     for (const Tile* tile : tiles) {
         first_pixels_.push_back(tile->pixels().data());
     }
+    first_pixels_.push_back(&nothing);
     for (std::uint32_t i = 0; i < steps_.size() && !tiles.empty(); ++i) {
         const Map_Cell cell = Map_Cell::of_word((i << 29U) | 1U);
         const Oriented_Pixels pixels = oriented(*tiles.front(), cell.orientation());
@@ -42,7 +49,7 @@ Cell_Pixels::Cell_Pixels(Tile_Pictures tiles) {
 }
 
 Cell_Pixels::Lines::Lines(const Cell_Pixels& pixels, int y) : tiles_(pixels.first_pixels_) {
-    for (std::size_t i = 0; i < first_.size(); ++i) {
+    for (std::size_t i = 0; i < pixels.steps_.size(); ++i) {
         const Orientation_Steps& steps = pixels.steps_.at(i);
         first_.at(i) = steps.first + y * steps.step_y;
         step_.at(i) = steps.step_x;

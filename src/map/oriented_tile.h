@@ -33,16 +33,8 @@ class Cell_Pixels {
 public:
     explicit Cell_Pixels(Tile_Pictures tiles);
 
-    [[nodiscard]] Oriented_Pixels of(Map_Cell cell) const {
-        const auto index = static_cast<std::size_t>(cell.tile());
-        if (index >= first_pixels_.size()) {
-            return {};
-        }
-        const Orientation_Steps& steps = steps_[cell.orientation_index()];
-        return {first_pixels_[index] + steps.first, steps.step_x, steps.step_y};
-    }
-
-    // One row of the cells: pixels beside each other, a step apart. None of a cell that shows nothing.
+    // One row of the cells: pixels beside each other, a step apart. A cell that shows nothing is transparent
+    // black.
     struct Line {
         const Color* first = nullptr;
         std::ptrdiff_t step = 0;
@@ -51,17 +43,20 @@ public:
     public:
         Lines(const Cell_Pixels& pixels, int y);
 
+        // Without a branch, which would often be guessed wrong.
         [[nodiscard]] Line of(Map_Cell cell) const {
-            const auto index = static_cast<std::size_t>(cell.tile());
-            const std::size_t orientation = cell.orientation_index();
-            return index >= tiles_.size() ? Line{}
-                                          : Line{tiles_[index] + first_[orientation], step_[orientation]};
+            const auto tile = static_cast<std::size_t>(cell.tile());
+            const bool is_shown = tile < tiles_.size() - 1;
+            const std::size_t index = is_shown ? tile : tiles_.size() - 1;
+            const std::size_t way = is_shown ? cell.orientation_index() : Map_Cell::orientation_count;
+            return {tiles_[index] + first_[way], step_[way]};
         }
 
     private:
         std::span<const Color* const> tiles_;
-        std::array<std::ptrdiff_t, Map_Cell::orientation_count> first_;
-        std::array<std::ptrdiff_t, Map_Cell::orientation_count> step_;
+        // The last ones are those of nothing.
+        std::array<std::ptrdiff_t, Map_Cell::orientation_count + 1> first_{};
+        std::array<std::ptrdiff_t, Map_Cell::orientation_count + 1> step_{};
     };
 
 private:
@@ -71,7 +66,7 @@ private:
         std::ptrdiff_t step_y = 0;
     };
 
-    std::vector<const Color*> first_pixels_;
+    std::vector<const Color*> first_pixels_; // behind those of all tiles a transparent one
     std::array<Orientation_Steps, Map_Cell::orientation_count> steps_;
 };
 
