@@ -103,6 +103,14 @@ drag() {
     settle
 }
 
+# The pixels of a picture, each as eight digits on a line of its own: red, green, blue, alpha.
+pixels_of() { convert "$1" -depth 8 rgba:- | od -An -tx1 -v -w4 | tr -d ' '; }
+# The pixels of a picture are those on the lines of a file.
+expect_pixels() {
+    pixels_of "$1" >"$work/seen"
+    cmp "$work/seen" "$2" || fail "another program sees other pixels in $1"
+}
+
 ask_to_quit() { part=$middle shown xdotool key Escape; }
 confirm_quit() {
     xdotool key Return
