@@ -68,6 +68,8 @@ void remove_folder(const std::string& name);
 
 extern const char path_separator;
 [[nodiscard]] std::string current_directory();
+// The folder for what nobody keeps.
+[[nodiscard]] std::string temporary_folder();
 [[nodiscard]] bool change_directory(const std::string& name);
 // The number of this process; no other one that runs on the machine has it.
 [[nodiscard]] unsigned long process_number();

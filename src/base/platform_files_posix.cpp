@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -136,6 +137,11 @@ std::string current_directory() {
     }
     directory.resize(directory.find('\0'));
     return directory;
+}
+
+std::string temporary_folder() {
+    const char* const named = std::getenv("TMPDIR");
+    return named != nullptr && *named != '\0' ? named : "/tmp";
 }
 
 bool change_directory(const std::string& name) {

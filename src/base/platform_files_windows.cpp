@@ -125,6 +125,13 @@ std::string current_directory() {
     return directory.empty() ? "." : narrow(directory);
 }
 
+std::string temporary_folder() {
+    std::wstring folder(longest_path, L'\0');
+    const DWORD length = GetTempPathW(longest_path, folder.data());
+    folder.resize(length < longest_path ? length : 0);
+    return folder.empty() ? "." : narrow(folder);
+}
+
 bool change_directory(const std::string& name) {
     return SetCurrentDirectoryW(wide(name).c_str()) != 0;
 }

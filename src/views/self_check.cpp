@@ -4,6 +4,7 @@
 #include "base/block_file.h"
 #include "base/data_directory.h"
 #include "base/debug_monitor.h"
+#include "base/file_names.h"
 #include "base/platform_files.h"
 #include "base/version.h"
 #include "screen/screen.h"
@@ -97,19 +98,23 @@ Finding check_fonts() {
     return {true, "all " + std::to_string(font_count) + " have their letters."};
 }
 
-// A file in the data folder that is gone again after the check.
+// A file that is gone again after the check.
 class Scratch_File {
 public:
+    explicit Scratch_File(const std::string& folder)
+        : path_(joined_path(folder, "quadrelle-test-" + std::to_string(process_number()) + ".qdl")) {}
+    Scratch_File(const Scratch_File&) = delete;
+    Scratch_File& operator=(const Scratch_File&) = delete;
     ~Scratch_File() { remove_file(path_); }
     [[nodiscard]] const std::string& path() const { return path_; }
 
 private:
-    std::string path_ = data_directory().path("quadrelle-test-" + std::to_string(process_number()) + ".qdl");
+    std::string path_;
 };
 
 Finding check_data_folder() {
     const std::string folder = data_directory().path("");
-    const Scratch_File scratch;
+    const Scratch_File scratch(folder);
     const std::array<std::uint8_t, 4> bytes{1, 2, 3, 4};
     if (write_file(scratch.path(), bytes) < 0) {
         return {false, folder + " cannot be written: options, palettes and brushes will not be kept."};
@@ -153,8 +158,9 @@ bool comes_back(const Tileset& tileset, const std::string& path) {
     return loaded.outcome == Load_Outcome::loaded && is_equal(tileset, *loaded.tileset);
 }
 
+// Not in the data folder: that it cannot be written is another fault, which was told.
 Finding check_saving() {
-    const Scratch_File scratch;
+    const Scratch_File scratch(temporary_folder());
     if (!comes_back(patterned_set(), scratch.path())) {
         return {false, "a set that was saved did not come back as it was."};
     }

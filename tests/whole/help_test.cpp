@@ -81,7 +81,7 @@ TEST_F(Help_Test, the_test_of_the_installation_tells_what_works_and_what_does_no
     std::filesystem::remove_all(folder().native_path() / "data");
     script().key(key::escape);
     execute(Command::test);
-    EXPECT_EQ(last_line(), "2 of 7 did not work.");
+    EXPECT_EQ(last_line(), "1 of 7 did not work.");
     EXPECT_TRUE((message_log->lines().end() - 5)->starts_with("  FAULT  Data folder: "));
 }
 
