@@ -20,10 +20,19 @@ void Edited_Map::give_ids() {
 
 Tile_Map Edited_Map::indexed_map() const {
     Tile_Map result(map_);
-    for (Map_Cell& cell : result.cells()) {
-        cell = indexed(cell);
-    }
+    give_indices(result.cells());
     return result;
+}
+
+// For a whole view of cells, each frame: what an id becomes is looked up once for all of them.
+void Edited_Map::give_indices(std::span<Map_Cell> cells) const {
+    std::vector<int> indices{-1};
+    for (int id = 0; id < ids_.count(); ++id) {
+        indices.push_back(ids_.index_of(id));
+    }
+    for (Map_Cell& cell : cells) {
+        cell = cell.with_number(indices[static_cast<std::size_t>(cell.tile() + 1)]);
+    }
 }
 
 int Edited_Map::uses_of(int index) const {

@@ -27,6 +27,8 @@ public:
     // Returns the cell, or the map, with indices.
     [[nodiscard]] Map_Cell indexed(Map_Cell cell) const { return cell.with_tile(ids_.index_of(cell.tile())); }
     [[nodiscard]] Tile_Map indexed_map() const;
+    // Gives all these cells indices in the place of ids.
+    void give_indices(std::span<Map_Cell> cells) const;
     // Counts each change of the cells.
     [[nodiscard]] std::uint64_t version() const { return version_; }
     // Returns how often the map has the tile. They are counted once for all tiles, until the next change.

@@ -66,6 +66,11 @@ public:
     [[nodiscard]] constexpr Map_Cell with_tile(int tile) const {
         return is_empty() ? *this : Map_Cell(tile, orientation());
     }
+    // The same with another number; -1 makes it empty, and is what an empty one is given.
+    [[nodiscard]] constexpr Map_Cell with_number(int tile) const {
+        const std::uint32_t orientation = word_ & ~(swapped_bit - 1U);
+        return of_word(orientation | (static_cast<std::uint32_t>(tile) + 1U));
+    }
     [[nodiscard]] constexpr Map_Cell with(Orientation orientation) const {
         return is_empty() ? *this : Map_Cell(tile(), orientation);
     }

@@ -106,8 +106,9 @@ void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
 void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
                             std::span<const std::uint8_t> checkers, Color* row) const {
     const int* const tile_x = tile_x_.data();
-    const auto paint_pixel = [&](int x, const Cell_Pixels::Line& line) {
-        row[x] = over_checker(line.first[tile_x[x] * line.step], checkers[static_cast<std::size_t>(x)]);
+    const std::uint8_t* const checker = checkers.data();
+    const auto paint_pixel = [=](int x, Cell_Pixels::Line line) {
+        row[x] = over_checker(line.first[tile_x[x] * line.step], checker[x]);
     };
     const int begin = stretches_.front().begin;
     const int end = stretches_.back().end;

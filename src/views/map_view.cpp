@@ -40,9 +40,7 @@ Map_Picture Map_View::picture_of(const Map_Camera& camera, Map_Grid grid, const 
             overlay.pattern->place({part.x, part.y}, picture.cells_from({part.x, part.y}, part.width));
         }
     }
-    for (Map_Cell& cell : picture.cells) {
-        cell = map_.indexed(cell);
-    }
+    map_.give_indices(picture.cells);
     return picture;
 }
 
