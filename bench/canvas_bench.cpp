@@ -13,7 +13,9 @@
 #include <SDL3/SDL.h>
 
 #include <algorithm>
+#include <chrono>
 #include <string_view>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -244,6 +246,25 @@ void undo_step(benchmark::State& state) {
     }
 }
 
+// What a finished stroke costs until the journal has taken it over, in a set of 256 tiles.
+void keep_stroke(benchmark::State& state) {
+    const int edge = static_cast<int>(state.range(0));
+    editor->documents().new_document({edge, edge});
+    Tileset& tileset = editor->documents().current().tileset();
+    while (tileset.add_tile()) {}
+    tileset.select(0);
+    editor->documents().mark_changed();
+    int step = 0;
+    for (auto _ : state) {
+        tileset.current_tile()->set_pixel_at(step++, {200, 30, 40});
+        const Clock::time_point start = Clock::now();
+        editor->documents().mark_changed();
+        state.SetIterationTime(seconds_since(start));
+        // As long as nobody draws: the disk has time.
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
 BENCHMARK(frame)->Args({24, 21})->Args({64, 8})->Args({255, 3})->Unit(benchmark::kMicrosecond);
 // The time of a stroke is that of one motion, so few of them make up no time.
 BENCHMARK(stroke_motion)
@@ -259,6 +280,13 @@ BENCHMARK(next_tile)->Arg(24)->Arg(64)->Arg(255)->Unit(benchmark::kMicrosecond);
 BENCHMARK(change_tile)->Arg(24)->Arg(64)->Arg(255)->Unit(benchmark::kMicrosecond);
 // The names of untitled sets come to an end.
 BENCHMARK(new_set)->Arg(256)->Iterations(100)->Unit(benchmark::kMicrosecond);
+BENCHMARK(keep_stroke)
+    ->Arg(24)
+    ->Arg(64)
+    ->Arg(255)
+    ->UseManualTime()
+    ->Iterations(200)
+    ->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "app/key_press.h"
 #include "app/mouse_press.h"
 #include "app/recovery.h"
+#include "base/data_directory.h"
 #include "base/debug_monitor.h"
 #include "color/palette_list.h"
 #include "commands/command_table.h"
@@ -73,6 +74,12 @@ bool Editor::show_first_frame() {
     }
     parts_->panes.size_preview();
     tool_colors->reset();
+    if (data_directory().is_shared()) {
+        parts_->panes.hint_lines().report_lastingly(
+            {"A second Quadrelle",
+             "Another one runs in this folder. This one keeps a brush pad and unsaved work "
+             "of its own."});
+    }
     if (const std::string note = palette_list->take_note(); !note.empty()) {
         trace(note);
         parts_->panes.hint_lines().report_lastingly({"Palettes", note});

@@ -36,6 +36,7 @@ void enter_data() {
     if (!data_directory().enter(Data_Directory::inside)) {
         fatal("Unable to open 'data' directory.");
     }
+    data_directory().claim();
 }
 
 } // namespace
@@ -66,6 +67,7 @@ void shut_down_application() {
     data_directory().enter(Data_Directory::inside);
     palette_store.reset();
     toolbox.reset();
+    data_directory().give_back();
     data_directory().leave();
     dialogs.reset();
     screen.reset();

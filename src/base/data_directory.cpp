@@ -26,6 +26,10 @@ void Data_Directory::leave() {
     }
 }
 
+void Data_Directory::claim() {
+    lock_ = File_Lock::of_folder(current_directory());
+}
+
 std::string Data_Directory::path(const std::string& file_name) const {
     if (index_ == inside) {
         return file_name;

@@ -2,6 +2,9 @@
 
 // Whether the process stands in the program's folder or in "data" below it.
 
+#include "base/file_lock.h"
+
+#include <memory>
 #include <string>
 
 namespace quadrelle {
@@ -18,11 +21,19 @@ public:
     void leave();
     [[nodiscard]] int index() const { return index_; }
 
+    // Takes "data" for this program, which stands in it, until it gives it back.
+    void claim();
+    void give_back() { lock_.reset(); }
+    // Whether another program had it when this one started: each keeps to its own files then, where both
+    // would write the same ones.
+    [[nodiscard]] bool is_shared() const { return lock_ && lock_->is_held_elsewhere(); }
+
     // Returns the name that opens a data file from where the process stands.
     [[nodiscard]] std::string path(const std::string& file_name) const;
 
 private:
     int index_ = outside;
+    std::unique_ptr<File_Lock> lock_;
 };
 
 // Returns the one of this process.

@@ -13,6 +13,8 @@ class File_Lock {
 public:
     // Makes the file if it is missing, in a folder that is there.
     explicit File_Lock(const std::string& path);
+    // Of the folder itself, which stays as it is where the system lets folders be locked.
+    [[nodiscard]] static std::unique_ptr<File_Lock> of_folder(const std::string& path);
     ~File_Lock();
     File_Lock(const File_Lock&) = delete;
     File_Lock& operator=(const File_Lock&) = delete;

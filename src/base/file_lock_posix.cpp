@@ -12,6 +12,12 @@ namespace quadrelle {
 
 namespace {
 
+int open_to_lock(const std::string& path) {
+    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+    return descriptor < 0 && errno == EISDIR ? open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)
+                                             : descriptor;
+}
+
 // Whoever had the lock has removed the file in the meantime.
 bool is_still_there(int descriptor, const std::string& path) {
     struct stat locked = {};
@@ -25,7 +31,7 @@ bool is_still_there(int descriptor, const std::string& path) {
 File_Lock::File_Lock(const std::string& path) : path_(path) {
     constexpr int most_attempts = 20;
     for (int i = 0; i < most_attempts && !is_taken() && !is_held_elsewhere_; ++i) {
-        const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_CLOEXEC, 0666);
+        const int descriptor = open_to_lock(path);
         if (descriptor < 0) {
             return;
         }
@@ -39,8 +45,13 @@ File_Lock::File_Lock(const std::string& path) : path_(path) {
     }
 }
 
+std::unique_ptr<File_Lock> File_Lock::of_folder(const std::string& path) {
+    return std::make_unique<File_Lock>(path);
+}
+
 File_Lock::~File_Lock() {
     if (is_taken()) {
+        // No folder goes by this.
         unlink(path_.c_str());
         close(static_cast<int>(handle_));
     }

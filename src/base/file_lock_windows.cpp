@@ -29,6 +29,10 @@ File_Lock::File_Lock(const std::string& path) : path_(path) {
     }
 }
 
+std::unique_ptr<File_Lock> File_Lock::of_folder(const std::string& path) {
+    return std::make_unique<File_Lock>(path + "\\in-use.lock");
+}
+
 File_Lock::~File_Lock() {
     if (is_taken()) {
         CloseHandle(reinterpret_cast<HANDLE>(handle_));

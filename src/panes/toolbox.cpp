@@ -44,12 +44,18 @@ Tool_Color_Panes color_panes_of(Tool tool) {
     return tool == Tool::dropper ? Tool_Color_Panes::both_colors : Tool_Color_Panes::none;
 }
 
+constexpr const char* brush_pad_file = "brushpad.dat";
+
+// The second program of a folder does not overwrite what the first one keeps.
 std::string brush_pad_path() {
-    return data_directory().path("brushpad.dat");
+    return data_directory().path(data_directory().is_shared() ? "brushpad2.dat" : brush_pad_file);
 }
 
+// Where that has no pad of its own yet it begins with the other one.
 void load_brush_pad(Brush_Pad& pad) {
-    Block_File file(brush_pad_path());
+    Block_File own(brush_pad_path());
+    Block_File common(data_directory().path(brush_pad_file));
+    Block_File& file = own.open_read() ? own : common;
     if (file.open_read()) {
         Data_Stream record;
         record.load_from(file);

@@ -55,6 +55,8 @@ public:
 
     // Answers whether all that was handed over is on the disk. What is not is tried again with the next sets.
     bool write(const std::vector<Handed_Set>& sets);
+    // Nothing more is written; what is there stays.
+    void give_up() { is_given_up_ = true; }
     // There is nothing left to recover; what comes later begins a new file.
     void remove();
 

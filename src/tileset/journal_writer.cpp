@@ -3,6 +3,7 @@
 #include "base/end_signals.h"
 
 #include <chrono>
+#include <exception>
 #include <utility>
 
 namespace quadrelle {
@@ -43,6 +44,16 @@ bool Journal_Writer::has_failed() {
     return has_failed_;
 }
 
+// Without memory for it the program goes on without a journal, and says so.
+bool Journal_Writer::write(const std::vector<Handed_Set>& sets) {
+    try {
+        return file_.write(sets);
+    } catch (const std::exception&) {
+        file_.give_up();
+        return false;
+    }
+}
+
 void Journal_Writer::run() {
     take_no_signals();
     std::unique_lock lock(mutex_);
@@ -54,7 +65,7 @@ void Journal_Writer::run() {
         std::vector<Handed_Set> sets = std::exchange(waiting_, {});
         is_writing_ = true;
         lock.unlock();
-        const bool is_done = file_.write(sets);
+        const bool is_done = write(sets);
         sets.clear();
         lock.lock();
         has_failed_ = !is_done;

@@ -29,6 +29,7 @@ public:
 
 private:
     void run();
+    bool write(const std::vector<Handed_Set>& sets);
 
     Journal_File file_; // the thread's, while that runs
     std::mutex mutex_;

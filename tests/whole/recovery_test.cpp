@@ -1,6 +1,7 @@
 // What was not saved when the program was ended in the midst of something is there at the next start.
 
 #include "app/start_up.h"
+#include "app/window_panes.h"
 #include "base/fatal.h"
 #include "base/file_lock.h"
 #include "base/platform_files.h"
@@ -163,6 +164,32 @@ TEST_F(Recovery_Test, sets_a_damaged_journal_aside_and_takes_what_is_whole) {
     editor->offer_recovery();
     EXPECT_EQ(tile_pixel(5, 5), white);
     EXPECT_EQ(stored(path + ".damaged"), bytes);
+}
+
+TEST_F(Recovery_Test, leaves_the_files_of_another_program_alone) {
+    const std::string pad = folder().data_path("brushpad.dat");
+    const auto keep_a_brush = [](const Art& picture) {
+        EXPECT_TRUE(tools().use_as_brush(make_tile(picture), make_tile({"##"})));
+        EXPECT_TRUE(tools().move_to_pad());
+    };
+    keep_a_brush({"#."});
+    end_and_start();
+    const Bytes first = stored(pad);
+    ASSERT_FALSE(first.empty());
+    shut_down_application();
+    const std::unique_ptr<File_Lock> other = File_Lock::of_folder(folder().data_path(""));
+    ASSERT_TRUE(other->is_taken());
+    start_application();
+    ASSERT_TRUE(editor->show_first_frame());
+    EXPECT_EQ(editor->panes().hint_lines().lines().front(), "A second Quadrelle");
+    EXPECT_EQ(tools().brush_pad.brushes().size(), 1U);
+    keep_a_brush({".#"});
+    shut_down_application();
+    EXPECT_EQ(stored(pad), first);
+    // That one again, later.
+    start_application();
+    ASSERT_TRUE(editor->show_first_frame());
+    EXPECT_EQ(tools().brush_pad.brushes().size(), 2U);
 }
 
 #ifndef _WIN32
