@@ -91,6 +91,7 @@ void Journal_Keeper::follow(const Tileset_Document& document) {
 void Journal_Keeper::take_as_saved(const Tileset_Document& document, Followed_Set& followed) {
     followed = {};
     followed.changes = document.changes();
+    followed.name = document.file_name();
     if (document.is_named()) {
         const Tileset& tileset = document.tileset();
         for (int i = 0; i < tileset.count(); ++i) {
@@ -142,6 +143,11 @@ std::shared_ptr<const Tile> Journal_Keeper::current_as_saved(const Tileset_Docum
 }
 
 void Journal_Keeper::hand_over(const Tileset_Document& document, Followed_Set& followed) {
+    if (followed.name != document.file_name() && !followed.in_file.empty()) {
+        // The file that has them is another one.
+        followed.in_file.clear();
+        followed.versions.clear();
+    }
     const Tileset& tileset = document.tileset();
     const std::shared_ptr<const Tile> as_saved = current_as_saved(document);
     Handed_Set handed;
@@ -158,8 +164,7 @@ void Journal_Keeper::hand_over(const Tileset_Document& document, Followed_Set& f
     }
     for (const int index : places_to_hand(handed, followed)) {
         const bool is_current = as_saved && index == tileset.current_index();
-        handed.tiles.push_back(
-            {index, is_current ? as_saved : std::make_shared<const Tile>(tileset.tile_at(index))});
+        handed.tiles.push_back({index, is_current ? as_saved : copy_of(document, index)});
     }
     hand_map(document, handed, followed);
     followed.is_told = true;
@@ -167,6 +172,16 @@ void Journal_Keeper::hand_over(const Tileset_Document& document, Followed_Set& f
     followed.name = handed.name;
     followed.versions = handed.versions;
     writer_.add(std::move(handed));
+}
+
+// After a stroke the history has one already, which stays as it is.
+std::shared_ptr<const Tile> Journal_Keeper::copy_of(const Tileset_Document& document, int index) {
+    const Tile& tile = document.tileset().tile_at(index);
+    const Undo_Entry* const entry = document.history().current();
+    if (entry != nullptr && entry->snapshot->tile.version() == tile.version()) {
+        return {entry->snapshot, &entry->snapshot->tile};
+    }
+    return std::make_shared<const Tile>(tile);
 }
 
 // What is not told of yet, and then as many as there is time for of those that the file has. The others are

@@ -52,8 +52,9 @@ private:
     };
 
     void follow(const Tileset_Document& document);
-    void take_as_saved(const Tileset_Document& document, Followed_Set& followed);
+    static void take_as_saved(const Tileset_Document& document, Followed_Set& followed);
     void hand_over(const Tileset_Document& document, Followed_Set& followed);
+    [[nodiscard]] static std::shared_ptr<const Tile> copy_of(const Tileset_Document& document, int index);
     [[nodiscard]] static std::vector<int> places_to_hand(Handed_Set& handed, Followed_Set& followed);
     static void hand_map(const Tileset_Document& document, Handed_Set& handed, Followed_Set& followed);
     void forget_closed();

@@ -8,8 +8,10 @@
 namespace quadrelle {
 
 Undo_Entry undo_entry_of(const Tileset& tileset, Command kind, Tool_In_Hand tool, Work_State work) {
-    return {kind, std::make_unique<const Tile_Snapshot>(*tileset.current_tile()), tileset.current_index(),
-            tool, std::move(work)};
+    const Tile& tile = *tileset.current_tile();
+    static_cast<void>(tile.version()); // known, it goes along
+    return {kind, std::make_shared<const Tile_Snapshot>(tile), tileset.current_index(), tool,
+            std::move(work)};
 }
 
 Undo_History::Undo_History(int capacity) : capacity_(capacity) {}

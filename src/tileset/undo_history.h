@@ -18,8 +18,8 @@ class Tileset;
 
 // The tile after an edit.
 struct Undo_Entry {
-    Command kind = Command::none; // what was done; of a stroke the command of its tool
-    std::unique_ptr<const Tile_Snapshot> snapshot;
+    Command kind = Command::none;                  // what was done; of a stroke the command of its tool
+    std::shared_ptr<const Tile_Snapshot> snapshot; // of the same version as the tile was
     int tile_index = 0;
     Tool_In_Hand tool; // when the entry was made
     Work_State work;   // what was selected and what floated over the tile
