@@ -81,7 +81,7 @@ std::optional<std::string> write(const Seen_Document& seen, Export_Record record
         desk.settle_to_save();
     }
     if (!is_written) {
-        dialogs->message("Note", "Could not save the file.");
+        dialogs->file_message("Could not save the file.", record.path);
         return std::nullopt;
     }
     std::string path = record.path;

@@ -1,10 +1,12 @@
 #include "app/documents.h"
 
+#include "app/document_saving.h"
 #include "base/debug_monitor.h"
 #include "base/file_names.h"
+#include "base/platform_files.h"
 #include "map/map_file.h"
 #include "screen/screen.h"
-#include "tileset/document_file.h"
+#include "tileset/previous_copy.h"
 #include "tools/options.h"
 #include "ui/dialogs.h"
 #include "views/ask_for_file.h"
@@ -56,8 +58,9 @@ std::string text_of_failure(Save_Outcome outcome, const std::string& map_name) {
 }
 
 void tell_failure(Save_Outcome outcome, const std::string& path) {
-    dialogs->message("Note", text_of_failure(outcome, file_part(map_path(path))) +
-                                 "\rCheck out write access properties.");
+    const std::string map = map_path(path);
+    dialogs->file_message(text_of_failure(outcome, file_part(map)) + "\rCheck out write access properties.",
+                          outcome == Save_Outcome::failed ? path : map);
 }
 
 // A map that is not shown as it was is never hidden.
@@ -174,13 +177,18 @@ bool Documents::load_document(const std::string& path) {
 }
 
 std::optional<std::string> Documents::ask_where_to_save(Save_As save_as) const {
-    if (save_as == Save_As::no && current().is_named()) {
+    const Kept_Files copies = previous_copies();
+    const bool is_copy = copies.holds(current().file_name());
+    if (save_as == Save_As::no && current().is_named() && !is_copy) {
         const std::string& path = current().file_name();
-        return confirms_save() && confirms_map(path) ? std::optional(path) : std::nullopt;
+        const bool is_confirmed =
+            confirms_save() && confirms_changes_of_others(current()) && confirms_map(path);
+        return is_confirmed ? std::optional(path) : std::nullopt;
     }
-    std::string path = current().file_name();
-    const bool is_chosen = choose_file(File_Dialog_Kind::save_tileset, path);
-    return is_chosen && confirms_map(path) ? std::optional(path) : std::nullopt;
+    // What is kept of other files does not last.
+    std::string path = is_copy ? copies.original_name(current().file_name()) : current().file_name();
+    const bool is_chosen = choose_file(File_Dialog_Kind::save_tileset, path) && confirms_map(path);
+    return is_chosen ? std::optional(path) : std::nullopt;
 }
 
 // There may be anything: other programs have files with that ending too.
@@ -198,8 +206,10 @@ bool Documents::confirms_map(const std::string& path) const {
 bool Documents::save_document(const std::string& path) {
     Tileset_Document& document = current();
     document.set_file(path);
-    const Save_Outcome outcome = quadrelle::save_document(document);
+    const Saving saving = save_keeping_previous(document);
+    const Save_Outcome outcome = saving.outcome;
     const bool is_saved = outcome == Save_Outcome::saved;
+    lacks_previous_copy_ = !saving.is_previous_kept;
     trace((is_saved ? "Saved " : "Could not save ") + path);
     if (is_saved) {
         document.clear_modified();
@@ -210,6 +220,11 @@ bool Documents::save_document(const std::string& path) {
         tell_failure(outcome, path);
     }
     return is_saved;
+}
+
+std::string Documents::what_was_saved() const {
+    return "Saved and verified: " + current().file_name() +
+           (lacks_previous_copy_ ? "\rWhat it held before could not be kept in data/previous." : "");
 }
 
 bool Documents::confirms_save() const {
@@ -280,6 +295,33 @@ bool Documents::go_to(std::size_t index) {
     leaving_();
     make_current(index);
     return true;
+}
+
+bool Documents::go_to_file(const std::string& path) {
+    const std::optional<std::size_t> found = find_file(path);
+    if (found) {
+        go_to(*found);
+    }
+    return found.has_value();
+}
+
+bool Documents::is_open_twice() const {
+    const std::optional<std::size_t> found = find_file(current().file_name());
+    return found && *found != current_;
+}
+
+// The first one whose file that is, by whichever name.
+std::optional<std::size_t> Documents::find_file(const std::string& path) const {
+    const auto whole = [](const std::string& name) {
+        return resolved_path(current_directory(), resolve_links(name));
+    };
+    const std::string wanted = whole(path);
+    for (std::size_t i = 0; i < documents_.size(); ++i) {
+        if (documents_[i]->is_named() && whole(documents_[i]->file_name()) == wanted) {
+            return i;
+        }
+    }
+    return std::nullopt;
 }
 
 bool Documents::go_to_next() {

@@ -55,6 +55,8 @@ public:
     [[nodiscard]] std::optional<std::string> ask_where_to_save(Save_As save_as) const;
     // The document belongs to that file from now on. Tells the user what failed. True when it was done.
     bool save_document(const std::string& path);
+    // Returns what the last save that was done has to tell the user.
+    [[nodiscard]] std::string what_was_saved() const;
     // Asks first when there is something to lose. There is always a document afterwards.
     bool close_document();
 
@@ -64,6 +66,10 @@ public:
     void draw_tabs() const;
     // Goes on from the last one to the first. False without another document.
     bool go_to_next();
+    // The document that belongs to that file becomes the current one. False where it is not open.
+    bool go_to_file(const std::string& path);
+    // Returns whether another document belongs to the file of the current one.
+    [[nodiscard]] bool is_open_twice() const;
     // True when another document's tab was hit; that document is the current one then.
     bool click_tab(Point point);
     // Returns the document whose tab is at `point`, or null.
@@ -73,6 +79,7 @@ private:
     void add(std::unique_ptr<Tileset_Document> document);
     void make_current(std::size_t index);
     bool go_to(std::size_t index);
+    [[nodiscard]] std::optional<std::size_t> find_file(const std::string& path) const;
     void refresh_titles();
     void tell_watcher() const;
     [[nodiscard]] bool confirms_save() const;
@@ -84,6 +91,7 @@ private:
     std::vector<std::unique_ptr<Tileset_Document>> documents_;
     std::size_t current_ = 0;
     int untitled_counter_ = 0;
+    bool lacks_previous_copy_ = false; // of what was saved over last
     Document_Tabs tabs_;
 };
 

@@ -30,7 +30,7 @@ Outcome save_document(Editor_Parts& editor, Save_As save_as) {
         return Outcome::refused;
     }
     editor.report(save_as == Save_As::yes ? Command::save_as : Command::save,
-                  "Saved in " + editor.documents.current().file_name());
+                  editor.documents.what_was_saved());
     return Outcome::done;
 }
 

@@ -36,11 +36,11 @@ bool make_map(Editor_Parts& editor) {
 }
 
 std::string save(Editor_Parts& editor) {
-    const Tileset_Document& document = editor.documents.current();
     if (file_commands::save(editor) == Outcome::done) {
-        return "Saved in " + document.file_name();
+        return editor.documents.what_was_saved();
     }
-    return document.is_modified() ? "It is not saved." : "Nothing has changed since it was saved.";
+    return editor.documents.current().is_modified() ? "It is not saved."
+                                                    : "Nothing has changed since it was saved.";
 }
 
 // As a click in the strip: the tile comes into view as it is.

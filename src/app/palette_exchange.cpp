@@ -67,7 +67,7 @@ void save(Editor_Parts& editor, File_Dialog_Kind kind, std::span<const std::uint
         return;
     }
     if (content.empty() || write_file(path, content) < 0) {
-        dialogs->message("Note", "Could not save the file.");
+        dialogs->file_message("Could not save the file.", path);
     } else {
         editor.panes.report_palette("Saved in " + path);
     }

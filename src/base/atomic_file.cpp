@@ -75,7 +75,7 @@ bool Atomic_File::write(std::span<const std::uint8_t> bytes) {
     return !failed_;
 }
 
-bool Atomic_File::commit() {
+bool Atomic_File::commit(const Check& is_right) {
     if (failed_ || !file_) {
         return false;
     }
@@ -83,7 +83,8 @@ bool Atomic_File::commit() {
     if (!flush_to_disk(file_.get())) {
         return false;
     }
-    const bool done = close_file(std::exchange(file_, nullptr)) && replace_file(temporary_, target_);
+    const bool done = close_file(std::exchange(file_, nullptr)) && (!is_right || is_right(temporary_)) &&
+                      replace_file(temporary_, target_);
     if (!done) {
         remove_file(temporary_);
         return false;

@@ -5,6 +5,7 @@
 #include "base/file_handle.h"
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 
@@ -22,8 +23,11 @@ public:
     [[nodiscard]] bool is_open() const { return file_ != nullptr; }
     // A failure is remembered: after it `commit` fails too.
     bool write(std::span<const std::uint8_t> bytes);
+    // Is given the name of what was written, while that is not yet in the place of the old file, and answers
+    // whether it is right.
+    using Check = std::function<bool(const std::string& written)>;
     // Answers whether the new file is on the disk under its name; nothing may be written after it.
-    [[nodiscard]] bool commit();
+    [[nodiscard]] bool commit(const Check& is_right = {});
 
 private:
     std::string target_;

@@ -25,8 +25,12 @@ bool Block_File::open_write() {
     return is_open();
 }
 
+bool Block_File::try_read_block(std::span<std::uint8_t> buffer) {
+    return file_ != nullptr && read_bytes(file_.get(), buffer) == buffer.size();
+}
+
 void Block_File::read_block(std::span<std::uint8_t> buffer) {
-    if (!file_ || read_bytes(file_.get(), buffer) != buffer.size()) {
+    if (!try_read_block(buffer)) {
         fatal("Unable to load block from ", path_);
     }
 }

@@ -21,6 +21,8 @@ public:
     // empties the file.
     [[nodiscard]] bool open_read();
     [[nodiscard]] bool open_write();
+    // Fills the buffer, or answers false when the file holds less.
+    [[nodiscard]] bool try_read_block(std::span<std::uint8_t> buffer);
     // Fills the buffer; fatal when the file holds less.
     void read_block(std::span<std::uint8_t> buffer);
     // Answers whether the block was taken; a full disk may show only at `close`.

@@ -4,6 +4,9 @@
 
 #include <SDL3/SDL_filesystem.h>
 
+#include <cerrno>
+#include <system_error>
+
 namespace quadrelle {
 
 namespace {
@@ -11,8 +14,27 @@ namespace {
 // Of the thread that has set it: a test counts its own operations.
 thread_local File_Fault_Hook fault_hook = nullptr;
 
+// Each thread has its own.
+std::string& fault() {
+    thread_local std::string last_fault;
+    return last_fault;
+}
+
 bool is_made_to_fail() {
-    return fault_hook != nullptr && fault_hook();
+    const bool fails = fault_hook != nullptr && fault_hook();
+    if (fails) {
+        errno = EIO;
+    }
+    return fails;
+}
+
+// Hands on what an operation answers, after the platform was asked why it failed.
+bool noted(bool is_done) {
+    if (!is_done) {
+        const int number = platform::last_fault();
+        fault() = number == 0 ? std::string() : std::generic_category().message(number);
+    }
+    return is_done;
 }
 
 Path_Kind kind_of(SDL_PathType type) {
@@ -41,11 +63,19 @@ void set_file_fault_hook(File_Fault_Hook hook) {
     fault_hook = hook;
 }
 
+std::string last_file_fault() {
+    return fault();
+}
+
+void set_file_fault(std::string_view what) {
+    fault() = what;
+}
+
 File_Handle open_file(const std::string& name, File_Mode mode) {
-    if (mode != File_Mode::read && is_made_to_fail()) {
-        return nullptr;
-    }
-    return platform::open_regular_file(name, mode);
+    const bool fails = mode != File_Mode::read && is_made_to_fail();
+    File_Handle file = fails ? nullptr : platform::open_regular_file(name, mode);
+    noted(file != nullptr);
+    return file;
 }
 
 std::int64_t file_size(std::FILE* file) {
@@ -60,21 +90,25 @@ bool write_bytes(std::FILE* file, std::span<const std::uint8_t> bytes) {
     // A disk that runs full takes a part.
     const std::size_t accepted = is_made_to_fail() ? bytes.size() / 2 : bytes.size();
     const std::size_t written = bytes.empty() ? 0 : std::fwrite(bytes.data(), 1, accepted, file);
-    return written == bytes.size();
+    return noted(written == bytes.size());
 }
 
 bool flush_to_disk(std::FILE* file) {
-    return !is_made_to_fail() && std::fflush(file) == 0 && platform::synchronize(file);
+    return noted(!is_made_to_fail() && std::fflush(file) == 0 && platform::synchronize(file));
 }
 
 bool close_file(File_Handle file) {
     const bool fails = is_made_to_fail();
     const bool closed = std::fclose(file.release()) == 0;
-    return closed && !fails;
+    return noted(closed && !fails);
 }
 
 bool replace_file(const std::string& from, const std::string& to) {
-    return !is_made_to_fail() && platform::replace_file(from, to);
+    return noted(!is_made_to_fail() && platform::replace_file(from, to));
+}
+
+bool can_replace(const std::string& name) {
+    return noted(platform::can_replace(name));
 }
 
 Path_Kind path_kind(const std::string& name) {

@@ -10,9 +10,16 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quadrelle {
+
+// Returns why the operation on a file that failed last did so, as the system says it; empty when it did not
+// say.
+[[nodiscard]] std::string last_file_fault();
+// To be called by whoever finds a fault of a file that no operation has told of.
+void set_file_fault(std::string_view what);
 
 // Opens regular files only, in binary mode: it never waits for a pipe or a device. Returns null when it
 // cannot.
@@ -29,6 +36,9 @@ namespace quadrelle {
 
 // Replaces in one step: at any time there is either the whole old or the whole new file under the name `to`.
 [[nodiscard]] bool replace_file(const std::string& from, const std::string& to);
+// Gives the file one name more, under which it stays when another file takes the place of the first. Not
+// everywhere can that be done.
+[[nodiscard]] bool link_file(const std::string& from, const std::string& to);
 bool remove_file(const std::string& name);
 // Whether there is no such file yet, or a regular one that may be written to.
 [[nodiscard]] bool can_replace(const std::string& name);
@@ -42,6 +52,19 @@ void flush_folder(const std::string& folder);
 [[nodiscard]] std::string resolve_links(const std::string& name);
 // Returns the name's part up to and including the last separator; it may be empty.
 [[nodiscard]] std::string folder_part(const std::string& name);
+
+// What changes of a file when something is written to it; of a symbolic link that of the file. The time is in
+// units of the platform.
+struct File_State {
+    std::int64_t size = 0;
+    std::int64_t modified = 0;
+
+    bool operator==(const File_State&) const = default;
+};
+// None where there is no regular file.
+[[nodiscard]] std::optional<File_State> file_state(const std::string& name);
+// The file counts as written to just now.
+void touch_file(const std::string& name);
 
 // Symbolic links are followed; one that leads nowhere is nothing.
 enum class Path_Kind { nothing, file, folder, other };

@@ -33,14 +33,22 @@ const char* stream_mode(File_Mode mode) {
     }
 }
 
-bool is_regular(int descriptor) {
-    struct stat status = {};
-    return fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
+// Why something that is no regular file cannot be written to or read.
+int fault_of_kind(mode_t mode) {
+    return S_ISDIR(mode) ? EISDIR : EINVAL;
 }
 
 // Emptied only when it is known to be a regular file.
 bool prepare(int descriptor, File_Mode mode) {
-    return is_regular(descriptor) && (mode != File_Mode::write || ftruncate(descriptor, 0) == 0);
+    struct stat status = {};
+    if (fstat(descriptor, &status) != 0) {
+        return false;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        errno = fault_of_kind(status.st_mode);
+        return false;
+    }
+    return mode != File_Mode::write || ftruncate(descriptor, 0) == 0;
 }
 
 // Empty for anything but a symbolic link.
@@ -66,7 +74,9 @@ File_Handle platform::open_regular_file(const std::string& name, File_Mode mode)
         file = fdopen(descriptor, stream_mode(mode));
     }
     if (file == nullptr) {
+        const int fault = errno;
         close(descriptor);
+        errno = fault;
     }
     return File_Handle(file);
 }
@@ -85,16 +95,45 @@ bool platform::replace_file(const std::string& from, const std::string& to) {
     return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
+int platform::last_fault() {
+    return errno;
+}
+
+bool link_file(const std::string& from, const std::string& to) {
+    return link(from.c_str(), to.c_str()) == 0;
+}
+
 bool remove_file(const std::string& name) {
     return unlink(name.c_str()) == 0;
 }
 
-bool can_replace(const std::string& name) {
+bool platform::can_replace(const std::string& name) {
     struct stat status = {};
     if (stat(name.c_str(), &status) != 0) {
         return errno == ENOENT;
     }
-    return S_ISREG(status.st_mode) && access(name.c_str(), W_OK) == 0;
+    if (!S_ISREG(status.st_mode)) {
+        errno = fault_of_kind(status.st_mode);
+        return false;
+    }
+    return access(name.c_str(), W_OK) == 0;
+}
+
+std::optional<File_State> file_state(const std::string& name) {
+    struct stat status = {};
+    if (stat(name.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        return std::nullopt;
+    }
+#ifdef __APPLE__
+    const timespec modified = status.st_mtimespec;
+#else
+    const timespec modified = status.st_mtim;
+#endif
+    return File_State{status.st_size, std::int64_t{modified.tv_sec} * 1'000'000'000 + modified.tv_nsec};
+}
+
+void touch_file(const std::string& name) {
+    utimensat(AT_FDCWD, name.c_str(), nullptr, 0);
 }
 
 void take_permissions(std::FILE* file, const std::string& name) {

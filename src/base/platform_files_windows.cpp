@@ -3,6 +3,7 @@
 #include "base/platform_files.h"
 #include "base/platform_files_backend.h"
 
+#include <cerrno>
 #include <fcntl.h>
 #include <io.h>
 #include <share.h>
@@ -84,16 +85,57 @@ bool platform::replace_file(const std::string& from, const std::string& to) {
     return MoveFileExW(wide(from).c_str(), wide(to).c_str(), options) != 0;
 }
 
+int platform::last_fault() {
+    switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND: return ENOENT;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_WRITE_PROTECT: return EACCES;
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL: return ENOSPC;
+    default: return 0;
+    }
+}
+
+bool link_file(const std::string& from, const std::string& to) {
+    return CreateHardLinkW(wide(to).c_str(), wide(from).c_str(), nullptr) != 0;
+}
+
 bool remove_file(const std::string& name) {
     return DeleteFileW(wide(name).c_str()) != 0;
 }
 
-bool can_replace(const std::string& name) {
+bool platform::can_replace(const std::string& name) {
     const DWORD attributes = GetFileAttributesW(wide(name).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         return GetLastError() == ERROR_FILE_NOT_FOUND;
     }
     return (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DEVICE)) == 0;
+}
+
+std::optional<File_State> file_state(const std::string& name) {
+    WIN32_FILE_ATTRIBUTE_DATA data = {};
+    if (GetFileAttributesExW(wide(name).c_str(), GetFileExInfoStandard, &data) == 0 ||
+        (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+        return std::nullopt;
+    }
+    const auto joined = [](DWORD high, DWORD low) {
+        return static_cast<std::int64_t>(high) << 32 | static_cast<std::int64_t>(low);
+    };
+    return File_State{joined(data.nFileSizeHigh, data.nFileSizeLow),
+                      joined(data.ftLastWriteTime.dwHighDateTime, data.ftLastWriteTime.dwLowDateTime)};
+}
+
+void touch_file(const std::string& name) {
+    const HANDLE file = CreateFileW(wide(name).c_str(), FILE_WRITE_ATTRIBUTES, FILE_SHARE_READ, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    if (file != INVALID_HANDLE_VALUE) {
+        FILETIME now = {};
+        GetSystemTimeAsFileTime(&now);
+        SetFileTime(file, nullptr, nullptr, &now);
+        CloseHandle(file);
+    }
 }
 
 void take_permissions(std::FILE*, const std::string&) {}

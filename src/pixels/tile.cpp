@@ -120,11 +120,11 @@ void Tile::replace_alpha(std::uint8_t from, std::uint8_t to) {
 
 void Tile::read_pixels(std::span<const std::uint8_t> bytes) {
     const std::size_t count = std::min(pixels_.size(), bytes.size() / bytes_per_pixel);
-    const std::uint8_t* source = bytes.data();
     change_pixels([&](std::span<Color> pixels) {
-        for (Color& pixel : pixels.first(count)) {
-            pixel = {source[3], source[2], source[1], source[0]};
-            source += bytes_per_pixel;
+        for (std::size_t i = 0; i < count; ++i) {
+            std::uint32_t turned = 0;
+            std::memcpy(&turned, &bytes[i * bytes_per_pixel], bytes_per_pixel);
+            pixels[i] = std::bit_cast<Color>(std::rotr(turned, 8));
         }
     });
 }

@@ -12,6 +12,7 @@
 #include <SDL3/SDL.h>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -247,10 +248,28 @@ std::unique_ptr<Texture> Screen::make_header(std::string_view title, Header_Styl
                                          : sprites_->make_passive_pane_header(width, title);
 }
 
+namespace {
+
+// Window systems refuse anything else, but names of files may hold it.
+std::string valid_utf8(const std::string& text) {
+    std::string valid;
+    const char* rest = text.c_str();
+    std::size_t length = text.size();
+    while (length > 0) {
+        const Uint32 code = SDL_StepUTF8(&rest, &length);
+        std::array<char, 5> character{};
+        SDL_UCS4ToUTF8(code < ' ' ? ' ' : code, character.data());
+        valid += character.data();
+    }
+    return valid;
+}
+
+} // namespace
+
 void Screen::set_title(std::string_view text) {
     std::string title(product_name);
     title.append(" ").append(product_version).append(" - ").append(text);
-    window_.set_title(title);
+    window_.set_title(valid_utf8(title));
 }
 
 void Screen::set_relative_mouse_mode(bool on) {

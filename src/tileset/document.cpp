@@ -20,6 +20,9 @@ Tileset_Document::Tileset_Document(std::string file_name, Tileset tileset)
       versions_(tileset_.tile_size()) {}
 
 void Tileset_Document::set_file(const std::string& path) {
+    if (path != file_name_) {
+        own_file_.reset();
+    }
     file_name_ = path;
     is_named_ = true;
 }

@@ -3,6 +3,7 @@
 // One open tileset: its tiles, their history, versions and strip, the map that is laid out with them, the
 // file they belong to, and whether they are saved.
 
+#include "base/file_stamp.h"
 #include "commands/command.h"
 #include "map/edited_map.h"
 #include "map/map_desk.h"
@@ -20,6 +21,12 @@
 #include <utility>
 
 namespace quadrelle {
+
+// What the document's file was like when it was loaded or saved last.
+struct Own_File {
+    File_Stamp stamp;
+    std::int64_t surplus = 0; // bytes behind its tiles, which saving would take away
+};
 
 class Tileset_Document {
 public:
@@ -62,6 +69,9 @@ public:
     [[nodiscard]] const std::string& file_name() const { return file_name_; }
     // The document has a file of its own from now on.
     void set_file(const std::string& path);
+    // None before the file was loaded or saved under its present name.
+    [[nodiscard]] const std::optional<Own_File>& own_file() const { return own_file_; }
+    void set_own_file(const Own_File& file) { own_file_ = file; }
 
     // No other document of this run has it.
     [[nodiscard]] std::uint32_t number() const { return number_; }
@@ -119,6 +129,7 @@ private:
     std::string map_file_;
     // Pictures of deleted tiles that the map knew, by their numbers there; those with the highest are kept.
     std::map<int, Tile> gone_tiles_;
+    std::optional<Own_File> own_file_;
     bool is_modified_ = false;
     bool is_named_ = false;
 };

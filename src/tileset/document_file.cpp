@@ -35,9 +35,13 @@ void find_map(Loaded_Document& loaded, const std::string& path) {
     }
 }
 
-Save_Outcome save_tiles(const Tileset_Document& document) {
-    return save_tileset(document.tileset(), document.file_name()) >= 0 ? Save_Outcome::saved
-                                                                       : Save_Outcome::failed;
+Save_Outcome save_tiles(Tileset_Document& document) {
+    File_Stamp stamp;
+    if (save_tileset(document.tileset(), document.file_name(), &stamp) < 0) {
+        return Save_Outcome::failed;
+    }
+    document.set_own_file({stamp});
+    return Save_Outcome::saved;
 }
 
 Save_Outcome save_without_map(Tileset_Document& document) {
@@ -57,6 +61,7 @@ Loaded_Document load_document(const std::string& path) {
     if (loaded.outcome == Load_Outcome::loaded) {
         result.document = std::make_unique<Tileset_Document>(path, std::move(*loaded.tileset));
         result.document->set_file(path);
+        result.document->set_own_file({loaded.stamp, loaded.surplus});
         find_map(result, map_path(path));
     }
     return result;

@@ -13,7 +13,7 @@ constexpr int label_drop = 3;
 
 constexpr bool stands_high(Button_Type type) {
     return type == Button_Type::ok || type == Button_Type::cancel || type == Button_Type::left ||
-           type == Button_Type::right;
+           type == Button_Type::right || type == Button_Type::overwrite;
 }
 
 } // namespace
@@ -39,7 +39,7 @@ void Button_Dialog_Item::draw() const {
         return;
     }
     draw_button(area, {font, row().label, label_drop}, usable);
-    if (type_ == Button_Type::ok) {
+    if (event() == Dialog_Event_Kind::accept) {
         draw_default_mark(area);
     }
 }

@@ -30,6 +30,7 @@ enum class Button_Type : std::int32_t {
     right,
     set,
     copy,
+    overwrite,
     count
 };
 
@@ -66,6 +67,7 @@ constexpr std::array button_table = {
     Button_Row{Button_Type::right,         "Right",         Sprite::count,               {85, 27}, Dialog_Event_Kind::right},
     Button_Row{Button_Type::set,           "Set",           Sprite::count,               {65, 27}, Dialog_Event_Kind::unknown},
     Button_Row{Button_Type::copy,          "Copy",          Sprite::count,               {70, 27}, Dialog_Event_Kind::unknown},
+    Button_Row{Button_Type::overwrite,     "Overwrite",     Sprite::count,               {115, 27}, Dialog_Event_Kind::accept},
 };
 // clang-format on
 

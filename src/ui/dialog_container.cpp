@@ -4,7 +4,6 @@
 #include "base/data_directory.h"
 #include "base/data_stream.h"
 #include "screen/screen.h"
-#include "ui/button_dialog_item.h"
 #include "ui/held_button.h"
 #include "ui/modal_dialog.h"
 #include "ui/text_dialog.h"
@@ -19,9 +18,9 @@ namespace {
 constexpr int narrowest = 100;
 constexpr int button_row_height = 27;
 
-Dialog_Row make_button_row() {
+Dialog_Row make_button_row(Button_Type accepting) {
     Dialog_Row row;
-    row.add<Button_Dialog_Item>(Item_Id{}, Button_Type::ok);
+    row.add<Button_Dialog_Item>(Item_Id{}, accepting);
     return row;
 }
 
@@ -49,11 +48,15 @@ void Dialog_Container::add_message(std::string_view text) {
 }
 
 void Dialog_Container::finish_ok() {
-    finish(make_button_row());
+    finish(make_button_row(Button_Type::ok));
 }
 
 void Dialog_Container::finish_ok_cancel() {
-    Dialog_Row buttons = make_button_row();
+    finish_ok_cancel(Button_Type::ok);
+}
+
+void Dialog_Container::finish_ok_cancel(Button_Type accepting) {
+    Dialog_Row buttons = make_button_row(accepting);
     buttons.add<Button_Dialog_Item>(Item_Id{}, Button_Type::cancel);
     finish(std::move(buttons));
 }

@@ -6,6 +6,7 @@
 #include "base/wheel_steps.h"
 #include "screen/events.h"
 #include "screen/sprite_table.h"
+#include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialog_rows.h"
 
@@ -29,6 +30,8 @@ public:
     // Adds the last row: everything else is added before.
     void finish_ok();
     void finish_ok_cancel();
+    // The first button accepts, whatever it is called.
+    void finish_ok_cancel(Button_Type accepting);
 
     // Returns true when accepted; the items are then saved. Cancel restores numbers and choices, but
     // deliberately not ticks; every other end leaves all items as they are.

@@ -31,12 +31,17 @@ bool tell(std::string_view what) {
     return false;
 }
 
+bool tell_of_file(std::string_view what, const std::string& path) {
+    dialogs->file_message(what, path);
+    return false;
+}
+
 bool save_picture(const Tile_Map& map, const Tileset& tileset, const std::string& path) {
     const std::vector<const Tile*> tiles = tileset.tiles();
     const Map_Rows rows(map, tiles, tileset.tile_size());
     const auto write = has_extension(path, "bmp") ? write_bitmap_rows : write_png_rows;
     return write(path, rows.size(), [&rows](int y, std::span<Color> row) { rows.write(y, row); }) ||
-           tell("Could not save the file.");
+           tell_of_file("Could not save the file.", path);
 }
 
 // All tiles row by row.
@@ -75,7 +80,7 @@ bool export_tmx(const Tileset_Document& document, const std::string& path) {
     const std::span<const std::uint8_t> bytes(reinterpret_cast<const std::uint8_t*>(text.data()),
                                               text.size());
     return save_picture(map_of_tiles(tileset, columns), tileset, picture) &&
-           (write_file(path, bytes) >= 0 || tell("Could not save the file."));
+           (write_file(path, bytes) >= 0 || tell_of_file("Could not save the file.", path));
 }
 
 // Nothing where it cannot be read, or is larger than any map is.
@@ -115,7 +120,7 @@ std::optional<Tile_Map> import_map(const Tileset_Document& document) {
     }
     const std::optional<std::string> text = text_of_file(path);
     if (!text) {
-        tell("Could not read the file.");
+        tell_of_file("Could not read the file.", path);
         return std::nullopt;
     }
     Read_Tmx read = read_tmx(*text, document.tileset().tile_size(), document.tileset().count());

@@ -6,6 +6,7 @@
 #include "screen/events.h"
 #include "screen/screen.h"
 #include "screen/text_input.h"
+#include "tileset/previous_copy.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialog_frame.h"
 #include "ui/dialogs.h"
@@ -33,6 +34,7 @@ constexpr int list_height = 15 * line + 2;
 constexpr int label_width = 60;
 constexpr int name_height = 29;
 constexpr int middle_button_width = 120;
+constexpr int place_button_width = 155;
 constexpr std::size_t longest_name = 4000;
 constexpr int text_drop = 3;
 constexpr int all_rows = std::numeric_limits<int>::max() / 2;
@@ -52,9 +54,10 @@ struct Layout {
           field{label.right(), label.y, frame.right() - gap - label.right(), name_height},
           buttons{frame.x + gap, field.bottom() + gap, frame.width - 2 * gap, text_button_height},
           middle_button{frame.x + (frame.width - middle_button_width) / 2, buttons.y, middle_button_width,
-                        text_button_height} {}
+                        text_button_height},
+          place_button{middle_button.right() + gap, buttons.y, place_button_width, text_button_height} {}
 
-    Rectangle path, list, note, label, field, buttons, middle_button;
+    Rectangle path, list, note, label, field, buttons, middle_button, place_button;
 };
 
 class Own_Chooser {
@@ -86,6 +89,12 @@ private:
         return request_.direction == File_Direction::open && std::string_view(request_.pattern) != "*";
     }
     void toggle_all_files();
+    // Sets that were saved over lie in a place of their own.
+    [[nodiscard]] bool can_list_previous() const {
+        return request_.direction == File_Direction::open && std::string_view(request_.pattern) == "qdl";
+    }
+    [[nodiscard]] bool lists_previous() const { return listing_.folder() == previous_copies().folder(); }
+    void toggle_previous();
 
     File_Request request_;
     Folder_Listing listing_;
@@ -98,6 +107,7 @@ private:
     Part focus_;
     bool lists_all_ = false;
     bool is_row_chosen_ = false; // by the user, who may mean it by Ok
+    std::string folder_before_;  // the copies were listed
     std::string note_;           // why the last attempt led nowhere
     File_Answer answer_{File_Answer_State::cancelled, {}};
 };
@@ -161,6 +171,9 @@ void Own_Chooser::draw() {
     } else if (can_list_all()) {
         const std::string label = lists_all_ ? "Only ." + std::string(request_.pattern) : "All files";
         draw_button(layout_.middle_button, {font, label, text_drop});
+    }
+    if (can_list_previous()) {
+        draw_button(layout_.place_button, {font, lists_previous() ? "Back" : "Previous copies", text_drop});
     }
     cancel_.draw();
 }
@@ -254,6 +267,9 @@ Loop_Step Own_Chooser::press(const Input_Event& event) {
             toggle_all_files();
         }
     }
+    if (can_list_previous() && layout_.place_button.contains(point)) {
+        toggle_previous();
+    }
     return cancel_.area.contains(point) ? Loop_Step::end : Loop_Step::go_on;
 }
 
@@ -327,7 +343,8 @@ Loop_Step Own_Chooser::choose(const std::string& path) {
     if (!note_.empty() || (replaces && !dialogs->ask(request_.title, "Save over existing file?"))) {
         return Loop_Step::go_on;
     }
-    last_folder() = parent_folder(chosen);
+    // Whoever has taken a copy goes on where he was.
+    last_folder() = lists_previous() ? folder_before_ : parent_folder(chosen);
     answer_ = {File_Answer_State::chosen, chosen};
     return Loop_Step::end;
 }
@@ -339,6 +356,16 @@ void Own_Chooser::toggle_all_files() {
     static_cast<void>(listing_.open_nearest(folder));
     list_.reset();
     is_row_chosen_ = false;
+}
+
+void Own_Chooser::toggle_previous() {
+    const std::string place = lists_previous() ? folder_before_ : previous_copies().folder();
+    if (path_kind(place) != Path_Kind::folder) {
+        note_ = "No set has been saved over yet.";
+        return;
+    }
+    folder_before_ = listing_.folder();
+    enter(place);
 }
 
 // Enters the folder that was made, so that what is saved next goes there.

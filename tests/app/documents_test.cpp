@@ -3,7 +3,9 @@
 #include "app/window_panes.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
+#include "tileset/previous_copy.h"
 #include "tileset/tileset_file.h"
+#include "ui/button_dialog_item.h"
 #include "ui/dialog_container.h"
 
 namespace quadrelle::testing {
@@ -74,13 +76,14 @@ TEST_F(Documents_Test, failed_save_keeps_the_name_and_the_mark) {
     draw_pixel(2, 3);
     const std::string path = in_folder("missing/tiles.qdl");
     choose(path);
-    expect_message("Note", save_failed).key(key::enter);
+    const std::string note = save_failed + "\r" + path + "\rNo such file or directory";
+    expect_message("Note", note).key(key::enter);
     execute(Command::save_as);
     EXPECT_TRUE(document().is_named());
     EXPECT_EQ(window_title(), product + path + "*");
 
     answer_files(File_Answer_State::cancelled);
-    expect_message("Note", save_failed).key(key::enter);
+    expect_message("Note", note).key(key::enter);
     execute(Command::save);
     EXPECT_EQ(asked_file(), std::nullopt);
     EXPECT_TRUE(document().is_modified());
@@ -152,9 +155,13 @@ TEST_F(Documents_Test, load_opens_the_same_tiles_as_another_document) {
 
 TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
     store(in_folder("wrong.qdl"), Bytes(100, 'Q'));
-    for (const char* file : {"wrong.qdl", "missing.qdl", ""}) {
+    const std::array<std::array<const char*, 2>, 3> files{
+        {{"wrong.qdl", "It does not begin as a set of tiles does"},
+         {"missing.qdl", "No such file or directory"},
+         {"", "Is a directory"}}};
+    for (const auto& [file, why] : files) {
         choose(in_folder(file));
-        expect_message("Note", load_failed).key(key::enter);
+        expect_message("Note", load_failed + "\r" + in_folder(file) + "\r" + why).key(key::enter);
         execute(Command::load);
     }
     answer_files(File_Answer_State::cancelled);
@@ -162,6 +169,71 @@ TEST_F(Documents_Test, load_refuses_what_is_no_tileset) {
     EXPECT_EQ(document().history().entries().size(), 1U);
     EXPECT_EQ(documents().count(), 1);
     EXPECT_EQ(window_title(), product + "untitled0.qdl");
+}
+
+TEST_F(Documents_Test, what_others_wrote_is_not_overwritten_without_a_question) {
+    const std::string path = save_as("tiles.qdl");
+    const Bytes before = stored(path);
+    choose(path);
+    execute(Command::load);
+    draw_pixel(1, 1);
+    execute(Command::save);
+    const Bytes from_tab = stored(path);
+    ASSERT_TRUE(documents().close_document());
+    draw_pixel(2, 2);
+    const auto expect_overwriting = [&]() -> Script& {
+        return expect_question(
+            "Save",
+            "tiles.qdl has been written by another program or from another tab\rsince it was "
+            "loaded or saved here. Overwrite that?",
+            Button_Type::overwrite);
+    };
+    expect_overwriting().key(key::escape);
+    execute(Command::save);
+    EXPECT_EQ(stored(path), from_tab);
+    EXPECT_TRUE(document().is_modified());
+    expect_overwriting().key(key::enter);
+    execute(Command::save);
+    EXPECT_NE(stored(path), from_tab);
+    EXPECT_EQ(stored(previous_copies().path_for(path)), from_tab);
+    // What was only touched is the same, and what was removed is no loss.
+    for (const bool is_removed : {false, true}) {
+        std::filesystem::last_write_time(native(path), std::filesystem::file_time_type::clock::now());
+        is_removed&& std::filesystem::remove(native(path));
+        draw_pixel(3, 3 + (is_removed ? 1 : 0));
+        execute(Command::save);
+        EXPECT_FALSE(document().is_modified());
+    }
+    EXPECT_NE(stored(path), before);
+}
+
+TEST_F(Documents_Test, what_a_file_holds_behind_its_tiles_is_told_and_kept) {
+    const std::string path = save_as("tiles.qdl");
+    Bytes longer = stored(path);
+    longer.resize(longer.size() + 500, 7);
+    store(path, longer);
+    choose(path);
+    execute(Command::load);
+    play(script().motion({300, 300}).motion({310, 300}));
+    EXPECT_NE(editor->panes().hint_lines().lines().at(1).find("500 bytes more"), std::string::npos);
+    // Without a place for the copy nothing is cut.
+    store_text(folder().data_path("previous"), "no folder");
+    draw_pixel(1, 1);
+    script().key(key::enter);
+    execute(Command::save);
+    EXPECT_EQ(stored(path), longer);
+    std::filesystem::remove(native(folder().data_path("previous")));
+    for (int i = 0; i < 2; ++i) {
+        draw_pixel(2, 2 + i);
+        execute(Command::save);
+        EXPECT_EQ(stored(path).size(), longer.size() - 500);
+    }
+    EXPECT_EQ(stored(previous_copies().path_for(in_folder("tiles.whole.qdl"))), longer);
+}
+
+TEST_F(Documents_Test, name_that_is_no_text_makes_a_valid_title) {
+    documents().save_document(in_folder("a\xff\xc3\n.qdl"));
+    EXPECT_EQ(window_title(), product + in_folder("a\uFFFD\uFFFD .qdl"));
 }
 
 // The dialog is built anew each time it is shown; this one has the same layout.

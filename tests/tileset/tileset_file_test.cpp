@@ -1,9 +1,12 @@
 #include "tileset/tileset_file.h"
 
+#include "base/platform_files.h"
 #include "tests/support/files.h"
 #include "tests/support/tiles.h"
 
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 
 #ifndef _WIN32
 #include <sys/resource.h>
@@ -166,6 +169,39 @@ TEST(Tileset_File, a_failure_at_any_operation_leaves_the_old_file) {
     const Tileset tileset = large_tileset();
     const auto save = [&](const std::string& path) { return save_tileset(tileset, path) > 0; };
     EXPECT_EQ(failures_of(save), 5) << "two blocks, flushing, closing and replacing";
+}
+
+namespace {
+
+// The folder of the file that is being saved, and how many operations come before it is closed.
+std::filesystem::path folder_to_damage;
+int operations_before_closing = 0;
+
+// What is written gets another last byte when it is complete.
+bool damage_what_is_written() {
+    if (operations_before_closing-- == 0) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder_to_damage)) {
+            if (entry.path().extension() == ".tmp") {
+                std::fstream file(entry.path(), std::ios::in | std::ios::out | std::ios::binary);
+                file.seekp(-1, std::ios::end).put('?');
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+TEST(Tileset_File, what_reached_the_disk_otherwise_leaves_the_old_file) {
+    const Old_File old;
+    folder_to_damage = old.folder.native_path();
+    for (const int operations : {4, 5}) {
+        operations_before_closing = operations;
+        set_file_fault_hook(damage_what_is_written);
+        const std::int64_t saved = save_tileset(large_tileset(), old.path);
+        set_file_fault_hook(nullptr);
+        EXPECT_EQ(saved == -1, operations == 4);
+    }
 }
 
 #ifndef _WIN32

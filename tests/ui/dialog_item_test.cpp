@@ -71,7 +71,8 @@ TEST_F(Dialog_Item_Test, buttons_answer_for_their_hosts_and_hang_beside_text) {
         Button_Dialog_Item button({1, 42}, kind.id);
         button.set_position({100, 200});
         const bool is_high = kind.id == Button_Type::ok || kind.id == Button_Type::cancel ||
-                             kind.id == Button_Type::left || kind.id == Button_Type::right;
+                             kind.id == Button_Type::left || kind.id == Button_Type::right ||
+                             kind.id == Button_Type::overwrite;
         EXPECT_EQ(button.area.y, is_high ? 200 : 202) << kind.label;
         EXPECT_EQ(button.click({100, 203}), (Dialog_Event{kind.event, 42})) << kind.label;
         EXPECT_EQ(button.click({99, 203}), Dialog_Event{}) << kind.label;

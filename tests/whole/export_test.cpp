@@ -66,7 +66,9 @@ TEST_F(Export_Test, tells_what_failed) {
     execute(Command::export_bitmap);
     answer_with("no folder/never");
     script().key(key::enter);
-    expect_message("Note", "Could not save the file.").key(key::enter);
+    expect_message("Note", "Could not save the file.\r" + folder().data_path("no folder/never.bmp") +
+                               "\rNo such file or directory")
+        .key(key::enter);
     execute(Command::export_bitmap);
     EXPECT_FALSE(document().is_modified());
 }

@@ -467,9 +467,9 @@ TEST_F(Key_Test, commands_tell_what_nothing_else_shows) {
         return File_Answer{File_Answer_State::chosen, path};
     });
     play(script().motion({300, 100}).key('s', Modifier::control).pause(0).motion({400, 100}));
-    EXPECT_EQ(report(), "Saved in " + path);
+    EXPECT_EQ(report(), "Saved and verified: " + path);
     play(script().motion({401, 100}));
-    EXPECT_NE(report(), "Saved in " + path);
+    EXPECT_NE(report(), "Saved and verified: " + path);
     expect_reports({{Command::save, "Nothing has changed since it was saved."}});
     execute(Command::pen);
     const Point store_button{110, 619};

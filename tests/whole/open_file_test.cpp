@@ -87,6 +87,19 @@ TEST_F(Open_File_Test, several_files_come_one_after_the_other_also_over_a_dialog
     EXPECT_EQ(window_title(), "Quadrelle 0.90 - untitled2.qdl*");
 }
 
+TEST_F(Open_File_Test, a_set_that_is_open_and_dropped_comes_into_view) {
+    const std::string set = folder().data_path("set.qdl");
+    store(set, {'Q', 'D', 'L', '\n', 0, 1, 1, 1, 0, 0, 0, 9, 8, 7, 6});
+    play(script().drop_file(set).key(key::tab, Modifier::control).drop_file(set));
+    EXPECT_EQ(editor->documents().count(), 2);
+    EXPECT_EQ(document().file_name(), set);
+    // To choose it opens it once more, and says so.
+    answer_files(File_Answer_State::chosen, set);
+    execute(Command::load);
+    EXPECT_EQ(editor->documents().count(), 3);
+    EXPECT_TRUE(editor->documents().is_open_twice());
+}
+
 TEST_F(Open_File_Test, load_takes_pictures_and_tells_what_is_wrong_with_a_file) {
     answer_files(File_Answer_State::chosen, stored_picture("sheet.png", sheet()));
     script().key(key::enter);
@@ -94,13 +107,16 @@ TEST_F(Open_File_Test, load_takes_pictures_and_tells_what_is_wrong_with_a_file) 
     EXPECT_EQ(document().tileset().count(), 5);
     const std::string path = folder().data_path("other.txt");
     using Bytes = std::vector<std::uint8_t>;
+    const std::string load_failed =
+        "Error occurred in tileset loading. This file may not be in Quadrelle format.\r";
     for (const auto& [bytes, text] :
          {std::pair{Bytes{'Q', 'D', 'L', '\n', 0, 9, 9, 1, 0, 0, 0},
-                    "Error occurred in tileset loading. This file may not be in Quadrelle format."},
-          std::pair{Bytes{'n', 'o'},
-                    "Error occurred in tileset loading. This file may not be in Quadrelle format."},
-          std::pair{Bytes{'B', 'M', 1}, "The picture is damaged, or of a kind that is not known."},
-          std::pair{encode_png(Tile(1, 8193)), "The picture is larger than 8192 x 8192 pixels."}}) {
+                    load_failed + path + "\rIt ends before its last tile does"},
+          std::pair{Bytes{'n', 'o'}, load_failed + path + "\rIt does not begin as a set of tiles does"},
+          std::pair{Bytes{'B', 'M', 1},
+                    std::string("The picture is damaged, or of a kind that is not known.")},
+          std::pair{encode_png(Tile(1, 8193)),
+                    std::string("The picture is larger than 8192 x 8192 pixels.")}}) {
         store(path, bytes);
         script().drop_file(path);
         expect_message("Note", text).key(key::enter);

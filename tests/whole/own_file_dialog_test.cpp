@@ -179,6 +179,27 @@ TEST_F(File_Chooser_Test, lists_files_of_every_kind_where_that_is_wanted) {
     EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), in_art("a.png"));
 }
 
+TEST_F(File_Chooser_Test, previous_copies_have_a_place_and_are_saved_elsewhere) {
+    constexpr Point previous_copies_button{740, 580};
+    script().press(previous_copies_button).key(key::escape);
+    EXPECT_EQ(ask(File_Dialog_Kind::load_tileset), "cancelled");
+    for (int i = 0; i < 2; ++i) {
+        document().mark_changed();
+        document().tileset().current_tile()->fill(i == 0 ? red : white);
+        text("twice").key(key::enter);
+        i == 0 ? script() : script().key('y');
+        execute(Command::save_as);
+    }
+    script().press(previous_copies_button).press(previous_copies_button).press(previous_copies_button);
+    script().click(row(1)).press(row(1));
+    execute(Command::load);
+    EXPECT_EQ(tile_pixel(1, 1), red);
+    document().mark_changed();
+    script().key(key::enter).key('y');
+    execute(Command::save);
+    EXPECT_EQ(document().file_name(), in_art("twice.qdl"));
+}
+
 TEST_F(File_Chooser_Test, scrolls_through_many_files) {
     for (int i = 0; i < 400; ++i) {
         store(in_art(std::to_string(1000 + i) + ".qdl"), {});

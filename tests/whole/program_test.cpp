@@ -98,11 +98,11 @@ int Program_Test::count_in_preview(Color color) {
 }
 
 Script& Program_Test::expect_message(const std::string& title, const std::string& text) {
-    return expect_dialog({title, text, false, {}});
+    return expect_dialog({title, text, std::nullopt, {}});
 }
 
-Script& Program_Test::expect_question(const std::string& title, const std::string& text) {
-    return expect_dialog({title, text, true, {}});
+Script& Program_Test::expect_question(const std::string& title, const std::string& text, Button_Type yes) {
+    return expect_dialog({title, text, yes, {}});
 }
 
 Script& Program_Test::expect_loop(const std::string& name) {
@@ -176,8 +176,8 @@ void Program_Test::compare(const Shown_Dialog& shown) {
             screen->fill_rect({0, 0, screen->size().width, screen->size().height}, background);
         });
         script_->check([&] { picture = window_picture(); }).key(key::escape);
-        if (shown.is_question) {
-            EXPECT_FALSE(dialogs->ask(shown.title, shown.text));
+        if (shown.yes) {
+            EXPECT_FALSE(dialogs->ask(shown.title, shown.text, *shown.yes));
         } else {
             dialogs->message(shown.title, shown.text);
         }

@@ -11,6 +11,7 @@
 #include "tests/support/window_test.h"
 #include "tools/options.h"
 #include "tools/tool_state.h"
+#include "ui/button_dialog_item.h"
 #include "views/ask_for_file.h"
 
 #include <cstdint>
@@ -57,7 +58,8 @@ protected:
 
     // At this step of the script the window shows a dialog with exactly this title and text.
     Script& expect_message(const std::string& title, const std::string& text);
-    Script& expect_question(const std::string& title, const std::string& text);
+    Script& expect_question(const std::string& title, const std::string& text,
+                            Button_Type yes = Button_Type::ok);
     // At this step the loop with that name waits.
     Script& expect_loop(const std::string& name);
 
@@ -78,7 +80,7 @@ private:
     struct Shown_Dialog {
         std::string title;
         std::string text;
-        bool is_question = false;
+        std::optional<Button_Type> yes; // of a question
         Picture window;
     };
 

@@ -1,0 +1,71 @@
+#include "tileset/previous_copy.h"
+
+#include "base/atomic_file.h"
+#include "base/data_directory.h"
+#include "base/file_names.h"
+#include "base/platform_files.h"
+
+#include <span>
+#include <utility>
+#include <vector>
+
+namespace quadrelle {
+
+namespace {
+
+constexpr Kept_Files::Limits limits{100, std::int64_t{256} << 20U};
+constexpr std::size_t block_size = std::size_t{1} << 20U;
+
+bool copy_file(const std::string& from, const std::string& to) {
+    const File_Handle source = open_file(from, File_Mode::read);
+    Atomic_File target(to);
+    std::vector<std::uint8_t> block(source ? block_size : 0);
+    std::int64_t copied = 0;
+    while (const std::size_t size = source ? read_bytes(source.get(), block) : 0) {
+        target.write(std::span(block).first(size));
+        copied += static_cast<std::int64_t>(size);
+    }
+    return source && copied == file_size(source.get()) && target.commit();
+}
+
+} // namespace
+
+Kept_Files previous_copies() {
+    return {data_directory().path("previous"), "qdl", limits};
+}
+
+// A second name costs nothing, however large the file is: what is saved takes the place of the first one.
+Previous_Copy::Previous_Copy(const std::string& file, Place place)
+    : copies_(previous_copies()),
+      path_(copies_.path_for(place == Place::usual ? file : with_extension(file, "whole.qdl"))) {
+    const std::string source = resolve_links(file);
+    if (path_kind(source) == Path_Kind::nothing) {
+        return;
+    }
+    const std::string temporary = path_ + ".new";
+    remove_file(temporary);
+    is_safe_ = copies_.make_folder() && (link_file(source, temporary) || copy_file(source, temporary));
+    temporary_ = is_safe_ ? temporary : std::string();
+}
+
+Previous_Copy::~Previous_Copy() {
+    if (!temporary_.empty()) {
+        remove_file(temporary_);
+    }
+}
+
+bool Previous_Copy::keep() {
+    if (temporary_.empty()) {
+        return true;
+    }
+    if (!replace_file(temporary_, path_)) {
+        return false;
+    }
+    temporary_.clear();
+    // Its age is that of the copy, not that of what is in it.
+    touch_file(path_);
+    copies_.keep_to_limits();
+    return true;
+}
+
+} // namespace quadrelle
