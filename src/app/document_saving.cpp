@@ -3,6 +3,7 @@
 #include "base/file_names.h"
 #include "base/file_stamp.h"
 #include "base/platform_files.h"
+#include "tileset/history_file.h"
 #include "tileset/previous_copy.h"
 #include "ui/button_dialog_item.h"
 #include "ui/dialogs.h"
@@ -30,6 +31,9 @@ Saving save_keeping_previous(Tileset_Document& document) {
     }
     const Save_Outcome outcome = save_document(document);
     const bool are_tiles_saved = outcome == Save_Outcome::saved || outcome == Save_Outcome::map_failed;
+    if (are_tiles_saved) {
+        keep_history(document);
+    }
     return {outcome, are_tiles_saved && previous.is_safe() && previous.keep()};
 }
 

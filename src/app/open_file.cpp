@@ -6,6 +6,7 @@
 #include "base/platform_files.h"
 #include "color/palette_formats.h"
 #include "pixels/picture_formats.h"
+#include "tileset/history_file.h"
 #include "tileset/tileset_file.h"
 #include "ui/dialogs.h"
 #include "views/picture_dialog.h"
@@ -72,7 +73,12 @@ bool open_set(Editor_Parts& editor, const std::string& path, File_Origin origin)
         return false;
     }
     editor.leave_selection();
-    editor.recorder.record(Command::change_tile);
+    if (bring_history_back(editor.documents.current())) {
+        editor.report(Command::load,
+                      "Its history is back: undo goes on where it was when the set was saved.");
+    } else {
+        editor.recorder.record(Command::change_tile);
+    }
     tell_what_to_know(editor);
     return true;
 }

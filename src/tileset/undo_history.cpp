@@ -32,6 +32,12 @@ void Undo_History::clear() {
     forgotten_ = 0;
 }
 
+void Undo_History::restore(std::vector<Undo_Entry> entries, int position) {
+    entries_ = std::move(entries);
+    position_ = position;
+    forgotten_ = 0;
+}
+
 void Undo_History::reset(const Tileset& tileset) {
     clear();
     if (tileset.has_tiles()) {

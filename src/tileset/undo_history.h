@@ -44,6 +44,8 @@ public:
     // Lets the entry that is added next take the place of the current one, unless that is the first.
     void give_up_current() { position_ -= position_ > 0 ? 1 : 0; }
     void clear();
+    // Takes the place of all; the position is that of one of the entries.
+    void restore(std::vector<Undo_Entry> entries, int position);
     // Nothing but the current tile is left: the floor that undoing ends at. Without tiles, nothing.
     void reset(const Tileset& tileset);
     // Both return the entry to restore, or null, with nothing changed, at the first and at the last one.

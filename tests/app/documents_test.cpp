@@ -207,6 +207,33 @@ TEST_F(Documents_Test, what_others_wrote_is_not_overwritten_without_a_question) 
     EXPECT_NE(stored(path), before);
 }
 
+TEST_F(Documents_Test, undo_and_redo_of_a_saved_set_come_back_when_it_is_loaded) {
+    draw_pixel(1, 1);
+    execute(Command::add_new_tile);
+    draw_pixel(2, 2);
+    draw_pixel(3, 3);
+    execute(Command::undo);
+    const std::string path = save_as("tiles.qdl");
+    const std::size_t count = document().history().entries().size();
+    ASSERT_TRUE(documents().close_document());
+    choose(path);
+    execute(Command::load);
+    EXPECT_EQ(document().history().entries().size(), count);
+    EXPECT_FALSE(document().is_modified());
+    execute(Command::redo);
+    EXPECT_EQ(document().tileset().current_index(), 1);
+    EXPECT_EQ(tile_pixel(3, 3), white);
+    execute(Command::undo);
+    execute(Command::undo);
+    EXPECT_EQ(tile_pixel(2, 2), black);
+    // Of a file that is another one since, there is nothing to undo.
+    Bytes bytes = stored(path);
+    bytes.back() ^= 1U;
+    store(path, bytes);
+    execute(Command::load);
+    EXPECT_EQ(document().history().entries().size(), 1U);
+}
+
 TEST_F(Documents_Test, what_a_file_holds_behind_its_tiles_is_told_and_kept) {
     const std::string path = save_as("tiles.qdl");
     Bytes longer = stored(path);
