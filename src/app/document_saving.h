@@ -16,7 +16,8 @@ struct Saving {
     Save_Outcome outcome = Save_Outcome::failed;
     bool is_previous_kept = false; // also where there was nothing before
 };
-// Keeps what the file held before, and the history beside it. Where that is more than the document has, nothing is saved without it.
+// Keeps what the file held before, and the history beside it. Where that is more than the document has,
+// nothing is saved without it.
 [[nodiscard]] Saving save_keeping_previous(Tileset_Document& document);
 
 } // namespace quadrelle

@@ -271,7 +271,12 @@ void Documents::refresh_titles() {
     for (const auto& document : documents_) {
         paths.push_back(document->file_name());
     }
-    std::vector<std::string> titles = short_names(paths);
+    // A set that changes keeps its name, and to find what tells many names apart takes a while.
+    if (paths != paths_) {
+        names_ = short_names(paths);
+        paths_ = std::move(paths);
+    }
+    std::vector<std::string> titles = names_;
     for (std::size_t i = 0; i < titles.size(); ++i) {
         titles[i] += documents_[i]->change_mark();
     }

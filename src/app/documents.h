@@ -93,6 +93,8 @@ private:
     int untitled_counter_ = 0;
     bool lacks_previous_copy_ = false; // of what was saved over last
     Document_Tabs tabs_;
+    std::vector<std::string> paths_; // that the names on the tabs were made for
+    std::vector<std::string> names_;
 };
 
 } // namespace quadrelle

@@ -9,6 +9,7 @@
 #include "app/recovery.h"
 #include "base/data_directory.h"
 #include "base/debug_monitor.h"
+#include "base/platform_files.h"
 #include "color/palette_list.h"
 #include "commands/command_table.h"
 #include "panes/tool_color_panel.h"
@@ -30,6 +31,16 @@ std::unique_ptr<Editor> editor;
 namespace {
 
 constexpr Size first_tile_size{24, 24};
+
+// Not only at the end, which may come suddenly.
+void keep_brush_pad(Editor_Parts& parts) {
+    if (!toolbox->keep_brush_pad()) {
+        parts.panes.hint_lines().report_lastingly(
+            {"Brush pad", data_directory().path("brushpad.dat") +
+                              " cannot be written: the brushes last until the program ends. " +
+                              last_file_fault() + "."});
+    }
+}
 
 } // namespace
 
@@ -122,6 +133,7 @@ void Editor::handle_one_event() {
     show_pixel_under(parts_->canvas, parts_->pointer);
     show_shape(parts_->canvas);
     keep_journal();
+    keep_brush_pad(*parts_);
 }
 
 void Editor::keep_journal() {

@@ -37,6 +37,7 @@ void enter_data() {
         fatal("Unable to open 'data' directory.");
     }
     data_directory().claim();
+    data_directory().hold();
 }
 
 } // namespace
@@ -69,6 +70,7 @@ void shut_down_application() {
     toolbox.reset();
     data_directory().give_back();
     data_directory().leave();
+    data_directory().let_go();
     dialogs.reset();
     screen.reset();
     message_log.reset();

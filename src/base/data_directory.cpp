@@ -17,6 +17,9 @@ bool Data_Directory::enter(int row) {
         return false;
     }
     index_ = row;
+    if (row == inside && held_ && held_->enter()) {
+        return true;
+    }
     return change_directory(folders[static_cast<std::size_t>(row)]);
 }
 
@@ -30,9 +33,16 @@ void Data_Directory::claim() {
     lock_ = File_Lock::of_folder(current_directory());
 }
 
+void Data_Directory::hold() {
+    held_ = std::make_unique<Held_Folder>();
+}
+
 std::string Data_Directory::path(const std::string& file_name) const {
     if (index_ == inside) {
         return file_name;
+    }
+    if (const std::string held = held_ ? held_->path() : std::string(); !held.empty()) {
+        return held + path_separator + file_name;
     }
     return current_directory() + path_separator + folders[inside] + path_separator + file_name;
 }

@@ -3,6 +3,7 @@
 // Whether the process stands in the program's folder or in "data" below it.
 
 #include "base/file_lock.h"
+#include "base/platform_files.h"
 
 #include <memory>
 #include <string>
@@ -19,6 +20,10 @@ public:
     // counts as entered in the second case too.
     bool enter(int row);
     void leave();
+    // From now on, until it is let go, the folder that is entered is meant, whatever it is called and
+    // whatever else is called "data".
+    void hold();
+    void let_go() { held_.reset(); }
     [[nodiscard]] int index() const { return index_; }
 
     // Takes "data" for this program, which stands in it, until it gives it back.
@@ -34,6 +39,7 @@ public:
 private:
     int index_ = outside;
     std::unique_ptr<File_Lock> lock_;
+    std::unique_ptr<Held_Folder> held_;
 };
 
 // Returns the one of this process.

@@ -94,6 +94,23 @@ extern const char path_separator;
 // The folder for what nobody keeps.
 [[nodiscard]] std::string temporary_folder();
 [[nodiscard]] bool change_directory(const std::string& name);
+// The folder that was the current one when this was made, whatever it is called since.
+class Held_Folder {
+public:
+    Held_Folder();
+    Held_Folder(const Held_Folder&) = delete;
+    Held_Folder& operator=(const Held_Folder&) = delete;
+    ~Held_Folder();
+
+    // Returns its present name from the root on; empty when it is gone, or nobody knows.
+    [[nodiscard]] std::string path() const;
+    // Makes it the current one.
+    [[nodiscard]] bool enter() const;
+
+private:
+    std::string name_then_;
+    int descriptor_ = -1; // where the platform has them
+};
 // The number of this process; no other one that runs on the machine has it.
 [[nodiscard]] unsigned long process_number();
 [[nodiscard]] bool is_running(unsigned long process);

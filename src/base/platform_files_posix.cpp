@@ -187,6 +187,30 @@ bool change_directory(const std::string& name) {
     return chdir(name.c_str()) == 0;
 }
 
+Held_Folder::Held_Folder()
+    : name_then_(current_directory()), descriptor_(open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {}
+
+Held_Folder::~Held_Folder() {
+    if (descriptor_ >= 0) {
+        close(descriptor_);
+    }
+}
+
+// Only some systems know the name of what is open; else it may still have the old one.
+std::string Held_Folder::path() const {
+    std::string name = link_target("/proc/self/fd/" + std::to_string(descriptor_));
+    name = name.empty() ? name_then_ : name;
+    struct stat held = {};
+    struct stat named = {};
+    const bool is_there = fstat(descriptor_, &held) == 0 && stat(name.c_str(), &named) == 0 &&
+                          held.st_ino == named.st_ino && held.st_dev == named.st_dev;
+    return is_there ? name : std::string();
+}
+
+bool Held_Folder::enter() const {
+    return fchdir(descriptor_) == 0;
+}
+
 unsigned long process_number() {
     return static_cast<unsigned long>(getpid());
 }

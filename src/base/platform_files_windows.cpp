@@ -178,6 +178,18 @@ bool change_directory(const std::string& name) {
     return SetCurrentDirectoryW(wide(name).c_str()) != 0;
 }
 
+Held_Folder::Held_Folder() : name_then_(current_directory()) {}
+
+Held_Folder::~Held_Folder() = default;
+
+std::string Held_Folder::path() const {
+    return name_then_;
+}
+
+bool Held_Folder::enter() const {
+    return change_directory(name_then_);
+}
+
 unsigned long process_number() {
     return GetCurrentProcessId();
 }

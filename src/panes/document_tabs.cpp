@@ -43,6 +43,16 @@ void draw_tint(const Rectangle& tab, Color tint) {
 Document_Tabs::Document_Tabs() = default;
 Document_Tabs::~Document_Tabs() = default;
 
+std::shared_ptr<const Texture> Document_Tabs::label_of(const std::string& title, bool is_current) {
+    const auto found = std::ranges::find_if(
+        labels_, [&](const Label& label) { return label.is_current == is_current && label.title == title; });
+    if (found == labels_.end()) {
+        labels_.push_back({title, is_current, make_label(title, is_current)});
+        return labels_.back().texture;
+    }
+    return found->texture;
+}
+
 // Scrolled no further than the current one needs, so that a tab stays where it was clicked; room at the end
 // is used. However many documents are open, labels are made only for the tabs that have room.
 void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t current) {
@@ -51,7 +61,7 @@ void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t 
     current_ = static_cast<int>(current);
     int room = row.width;
     const auto add = [&](std::size_t place, std::size_t document) {
-        auto label = make_label(titles[document], document == current);
+        auto label = label_of(titles[document], document == current);
         const int width = label->size().width;
         if (width > room) {
             return false;
@@ -74,6 +84,7 @@ void Document_Tabs::set_titles(std::span<const std::string> titles, std::size_t 
         --first;
     }
     first_shown_ = first;
+    std::erase_if(labels_, [](const Label& label) { return label.texture.use_count() == 1; });
     int x = row.x;
     for (Tab& tab : tabs_) {
         tab.area.x = x;

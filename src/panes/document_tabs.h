@@ -30,12 +30,20 @@ private:
     struct Tab {
         int document = 0;
         Rectangle area;
-        std::unique_ptr<Texture> label;
+        std::shared_ptr<const Texture> label;
     };
+    // A label is drawn once as long as it shows.
+    struct Label {
+        std::string title;
+        bool is_current;
+        std::shared_ptr<const Texture> texture;
+    };
+    [[nodiscard]] std::shared_ptr<const Texture> label_of(const std::string& title, bool is_current);
     [[nodiscard]] bool hides_first() const;
     [[nodiscard]] bool hides_last() const;
 
     std::vector<Tab> tabs_; // those that show
+    std::vector<Label> labels_;
     std::size_t first_shown_ = 0;
     int document_count_ = 0;
     int current_ = 0;

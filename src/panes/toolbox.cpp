@@ -15,6 +15,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace quadrelle {
 
@@ -63,10 +64,10 @@ void load_brush_pad(Brush_Pad& pad) {
     }
 }
 
-void save_brush_pad(const Brush_Pad& pad) {
+bool save_brush_pad(const Brush_Pad& pad) {
     Data_Stream record;
     pad.save(record);
-    static_cast<void>(record.save_to(brush_pad_path()));
+    return record.save_to(brush_pad_path());
 }
 
 } // namespace
@@ -79,9 +80,21 @@ Toolbox::Toolbox(Point position) : position_(position) {
 
 Toolbox::~Toolbox() {
     if (state_.brush_pad.changed()) {
-        save_brush_pad(state_.brush_pad);
+        static_cast<void>(save_brush_pad(state_.brush_pad));
     }
     tool_colors.reset();
+}
+
+bool Toolbox::keep_brush_pad() {
+    Brush_Pad& pad = state_.brush_pad;
+    if (!pad.changed() || std::exchange(tried_revision_, pad.revision()) == pad.revision()) {
+        return true;
+    }
+    if (!save_brush_pad(pad)) {
+        return false;
+    }
+    pad.clear_changed();
+    return true;
 }
 
 Rectangle Toolbox::entry_area(std::size_t index) const {

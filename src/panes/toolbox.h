@@ -25,6 +25,9 @@ public:
     explicit Toolbox(Point position);
     // Writes the brush pad when it was changed; says nothing when it cannot.
     ~Toolbox();
+    // Writes the brush pad where it was changed since it was written, or tried to. Answers false when it
+    // cannot.
+    bool keep_brush_pad();
 
     [[nodiscard]] const Tool_State& state() const { return state_; }
     // It may be changed at any time: the panes read it anew whenever they are shown.
@@ -77,6 +80,7 @@ private:
     Tool_State state_;
     Brush_Selector brush_selector_;
     Tool_Option_Panes option_panes_;
+    int tried_revision_ = 0; // of the brush pad, when it was to be written last
     Brush_Pad_Panes brush_pad_panes_;
 };
 

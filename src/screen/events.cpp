@@ -4,6 +4,7 @@
 
 #include <SDL3/SDL.h>
 
+#include <algorithm>
 #include <deque>
 #include <string>
 #include <utility>
@@ -241,13 +242,31 @@ void follow_pointer(std::string_view loop, const std::function<void()>& draw,
                }});
 }
 
+namespace {
+
+Idle_Outcome outcome_of(const SDL_Event& event) {
+    if (event.type == SDL_EVENT_QUIT) {
+        return Idle_Outcome::quit_wanted;
+    }
+    const bool is_escape = event.type == SDL_EVENT_KEY_DOWN && event.key.key == SDLK_ESCAPE;
+    return is_escape ? Idle_Outcome::escape_pressed : Idle_Outcome::events_taken;
+}
+
+} // namespace
+
+void keep_quit() {
+    SDL_Event quit{};
+    quit.type = SDL_EVENT_QUIT;
+    SDL_PushEvent(&quit);
+}
+
 Idle_Outcome idle(std::string_view loop) {
     tell_watcher(loop);
     Idle_Outcome outcome = Idle_Outcome::nothing_happened;
     SDL_Event event{};
     while (SDL_PollEvent(&event)) {
         note(event);
-        outcome = Idle_Outcome::events_taken;
+        outcome = std::max(outcome, outcome_of(event));
     }
     taken().pointer_was_lost = true;
     SDL_Delay(idle_milliseconds);

@@ -56,10 +56,14 @@ void run_modal(const Modal_Loop& loop);
 void follow_pointer(std::string_view loop, const std::function<void()>& draw,
                     const std::function<void(const Input_Event& motion)>& follow);
 
-enum class Idle_Outcome { nothing_happened, events_taken };
+// What came of the events: the user may have pressed Escape among others, or asked for the end of the
+// program.
+enum class Idle_Outcome { nothing_happened, events_taken, escape_pressed, quit_wanted };
 
 // Takes every event that waits and sleeps a moment, for loops whose end comes from outside of the queue.
 Idle_Outcome idle(std::string_view loop);
+// Has the request to quit come once more, for the loop that goes on.
+void keep_quit();
 
 // Whether Ctrl went down, in whichever loop that was, and no key came up since, nor was it forgotten.
 [[nodiscard]] bool is_control_pressed();

@@ -1,7 +1,7 @@
 #include "tileset/history_file.h"
 
-#include "base/fingerprint.h"
 #include "base/data_directory.h"
+#include "base/fingerprint.h"
 #include "base/platform_files.h"
 #include "tileset/document.h"
 #include "tileset/history_code.h"

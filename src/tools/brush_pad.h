@@ -61,6 +61,8 @@ public:
 
     // Whether the board differs from that of the file.
     [[nodiscard]] bool changed() const { return changed_; }
+    // It is in the file now.
+    void clear_changed() { changed_ = false; }
     // The number is another one whenever the board or the current brush was changed.
     [[nodiscard]] int revision() const { return revision_; }
 

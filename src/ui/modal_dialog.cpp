@@ -84,9 +84,16 @@ void draw_behind_dialog() {
 } // namespace
 
 void show_backdrop() {
+    show_over_backdrop({});
+}
+
+void show_over_backdrop(const Draw_Function& draw) {
     draw_behind_dialog();
     if (!shown().dialogs.empty()) {
         shown().dialogs.back()();
+    }
+    if (draw) {
+        draw();
     }
     screen->present();
 }

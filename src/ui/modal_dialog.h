@@ -15,6 +15,8 @@ using Draw_Function = std::function<void()>;
 void set_backdrop(Draw_Function draw);
 // Draws and presents the backdrop and every open dialog.
 void show_backdrop();
+// Does the same, and draws something over all of it.
+void show_over_backdrop(const Draw_Function& draw);
 
 // Which keys accept a dialog; the keypad has an Enter too. Where names are typed, y is a letter.
 enum class Dialog_Keys { enter, enter_or_y };

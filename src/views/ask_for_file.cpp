@@ -46,16 +46,18 @@ const File_Request& request_of(File_Dialog_Kind kind) {
     return file_dialog_table.at(static_cast<std::size_t>(kind)).request;
 }
 
-// Asks in the best way that works. One that failed is not tried again.
+// Asks in the best way that works. One that failed, or that the user has given up, is not tried again.
 class Working_Dialog {
 public:
     File_Answer operator()(File_Dialog_Kind kind, const std::string& proposed) {
         while (way_ != Way::own) {
             File_Answer answer = ask_system_dialog(request_of(kind));
-            if (answer.state != File_Answer_State::failed || system_has_file_dialogs) {
+            const bool has_failed = answer.state == File_Answer_State::failed && !system_has_file_dialogs;
+            if (!has_failed && answer.state != File_Answer_State::given_up) {
                 return answer;
             }
-            way_ = way_ == Way::system && prefer_helper_dialog() ? Way::helper : Way::own;
+            const bool has_helper = has_failed && way_ == Way::system && prefer_helper_dialog();
+            way_ = has_helper ? Way::helper : Way::own;
         }
         return ask_own_dialog(kind, proposed);
     }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <utility>
 
 namespace quadrelle {
 
@@ -104,6 +105,10 @@ void File_List::draw(Focused focused) {
     for (int row = bar_.first(); row < bar_.end(); ++row) {
         draw_row(static_cast<std::size_t>(row), focused.row);
     }
+    // Of folders with thousands of sets, only what is seen takes memory.
+    std::erase_if(first_tiles_, [this](const auto& kept) {
+        return std::cmp_less(kept.first, bar_.first()) || std::cmp_greater_equal(kept.first, bar_.end());
+    });
     bar_.draw();
     screen->draw_outline(area_, standard_color(focused.list == Focus::yes ? Standard_Color::highlight
                                                                           : Standard_Color::frame));

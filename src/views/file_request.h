@@ -17,7 +17,8 @@ struct File_Request {
     const char* forced_extension; // of what is saved; none when empty
 };
 
-enum class File_Answer_State : int { pending = -1, chosen = 0, failed = 1, cancelled = 2 };
+// What was given up has not answered yet, and may never do.
+enum class File_Answer_State : int { pending = -1, chosen = 0, failed = 1, cancelled = 2, given_up = 3 };
 
 struct File_Answer {
     File_Answer_State state = File_Answer_State::pending;

@@ -1,7 +1,6 @@
 #include "views/system_file_dialog.h"
 
-#include "screen/events.h"
-#include "ui/modal_dialog.h"
+#include "views/dialog_wait.h"
 
 #include <SDL3/SDL_dialog.h>
 #include <SDL3/SDL_hints.h>
@@ -64,10 +63,10 @@ File_Answer ask_system_dialog(const File_Request& request) {
     const SDL_DialogFileFilter filter{request.filter_label, request.pattern};
     const auto answer = std::make_shared<Shared_Answer>();
     show_dialog(request.direction, filter, answer);
-    while (answer->state == File_Answer_State::pending) {
-        if (idle("file dialog") == Idle_Outcome::events_taken) {
-            show_backdrop();
-        }
+    switch (wait_for_dialog([&answer] { return answer->state != File_Answer_State::pending; })) {
+    case Wait_End::given_up: return {File_Answer_State::given_up, {}};
+    case Wait_End::quit: return {File_Answer_State::cancelled, {}};
+    case Wait_End::answered: break;
     }
     return {answer->state, answer->path};
 }

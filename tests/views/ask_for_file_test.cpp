@@ -1,8 +1,10 @@
 #include "views/ask_for_file.h"
 
 #include "base/file_names.h"
+#include "screen/events.h"
 #include "tests/support/files.h"
 #include "tests/support/window_test.h"
+#include "views/dialog_wait.h"
 
 namespace quadrelle::testing {
 namespace {
@@ -41,6 +43,24 @@ protected:
         return std::nullopt;
     }
 };
+
+TEST_F(File_Dialog_Test, that_never_answers_is_given_up_by_escape_and_keeps_a_quit) {
+    Script script;
+    const auto never = [] { return false; };
+    EXPECT_EQ(wait_for_dialog([] { return true; }), Wait_End::answered);
+    const Color before = pixel_at({616, 332});
+    script.pause(0).check([&] { EXPECT_NE(pixel_at({616, 332}), before) << "a box tells of it"; });
+    script.key(key::escape);
+    EXPECT_EQ(wait_for_dialog(never, 0), Wait_End::given_up);
+    // Before anybody is told, Escape may have been meant for something else; a quit is kept.
+    bool is_answered = false;
+    script.key(key::escape).quit().check([&] { is_answered = true; }).pause(0);
+    EXPECT_EQ(wait_for_dialog([&] { return is_answered; }), Wait_End::answered);
+    EXPECT_EQ(wait_event("after it").kind, Input_Kind::quit);
+    script.pause(0).quit();
+    EXPECT_EQ(wait_for_dialog(never, 0), Wait_End::quit);
+    EXPECT_EQ(wait_event("after it").kind, Input_Kind::quit);
+}
 
 TEST_F(File_Dialog_Test, forces_the_extension_only_where_something_is_saved) {
     const File_Answer answer{File_Answer_State::chosen, "/a/b.c.txt"};

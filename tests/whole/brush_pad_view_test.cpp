@@ -3,6 +3,7 @@
 #include "tests/whole/program_test.h"
 
 #include "app/start_up.h"
+#include "app/window_panes.h"
 #include "commands/menu_table.h"
 
 namespace quadrelle::testing {
@@ -243,6 +244,31 @@ TEST_F(Brush_Pad_View_Test, a_click_on_the_pad_chooses_a_brush) {
     choose_in_edit_menu(Command::delete_brush);
     EXPECT_EQ(tools().brush().owner(), Brush_Owner::pen);
     EXPECT_FALSE(tools().brush_pad.has_current());
+}
+
+TEST_F(Brush_Pad_View_Test, pad_is_written_at_once_into_the_folder_of_the_start) {
+    const std::filesystem::path home = folder().native_path();
+    std::filesystem::create_directory(home / "data" / "brushpad.dat");
+    paint_gradient();
+    lay_on_pad({3, 3}, {6, 5});
+    play(script().motion({300, 300}));
+    EXPECT_NE(editor->panes().hint_lines().lines().at(1).find("brushpad.dat cannot be written"),
+              std::string::npos);
+    std::filesystem::remove(home / "data" / "brushpad.dat");
+    std::filesystem::rename(home / "data", home / "moved");
+    std::filesystem::create_directory(home / "data");
+    lay_on_pad({8, 8}, {9, 9});
+    play(script().motion({310, 300}));
+    EXPECT_TRUE(std::filesystem::exists(home / "moved" / "brushpad.dat"));
+    lay_on_pad({1, 1}, {2, 2});
+    document().clear_modified();
+    std::filesystem::remove(home / "moved" / "brushpad.dat");
+    shut_down_application();
+    EXPECT_TRUE(std::filesystem::exists(home / "moved" / "brushpad.dat"));
+    std::filesystem::remove(home / "data");
+    std::filesystem::rename(home / "moved", home / "data");
+    start_application();
+    ASSERT_TRUE(editor->show_first_frame());
 }
 
 TEST_F(Brush_Pad_View_Test, pad_is_kept_until_the_next_start) {
