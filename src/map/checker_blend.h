@@ -6,6 +6,7 @@
 #include "color/translucency.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 namespace quadrelle {

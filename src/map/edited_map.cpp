@@ -31,7 +31,8 @@ void Edited_Map::give_indices(std::span<Map_Cell> cells) const {
         indices.push_back(ids_.index_of(id));
     }
     for (Map_Cell& cell : cells) {
-        cell = cell.with_number(indices[static_cast<std::size_t>(cell.tile() + 1)]);
+        const int place = cell.tile() + 1;
+        cell = cell.with_number(indices[static_cast<std::size_t>(place)]);
     }
 }
 
@@ -39,12 +40,13 @@ int Edited_Map::uses_of(int index) const {
     if (uses_version_ != version_) {
         uses_.assign(static_cast<std::size_t>(ids_.count()) + 1, 0);
         for (const Map_Cell cell : map_.cells()) {
-            ++uses_[static_cast<std::size_t>(cell.tile() + 1)];
+            const int place = cell.tile() + 1;
+            ++uses_[static_cast<std::size_t>(place)];
         }
         uses_version_ = version_;
     }
-    const auto place = static_cast<std::size_t>(ids_.known_id_of(index) + 1);
-    return place == 0 || place >= uses_.size() ? 0 : uses_[place];
+    const int place = ids_.known_id_of(index) + 1;
+    return place == 0 || place >= static_cast<int>(uses_.size()) ? 0 : uses_[static_cast<std::size_t>(place)];
 }
 
 void Edited_Map::begin() {

@@ -7,6 +7,7 @@
 #include "map/tile_map.h"
 
 #include <cstddef>
+#include <utility>
 
 namespace quadrelle {
 
