@@ -14,7 +14,7 @@ if(test_sources)
         <span> <string> <string_view> <vector>)
     quadrelle_options(quadrelle_tests)
     # A test program compiles faster unoptimised, and what takes time in it is the library.
-    target_compile_options(quadrelle_tests PRIVATE $<$<CONFIG:Debug>:-O0>)
+    target_compile_options(quadrelle_tests PRIVATE $<$<CONFIG:Debug>:-O0> $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>)
     add_dependencies(quadrelle_tests quadrelle)
     if(TARGET compose_sheet)
         add_dependencies(quadrelle_tests compose_sheet)

@@ -209,7 +209,7 @@ TEST_F(Key_Test, dialogs_come_by_their_keys) {
 
 // Plus, asterisk and digits stand elsewhere on each keyboard; a key that makes none of them stays what it is.
 TEST_F(Key_Test, a_character_counts_whatever_makes_it) {
-    const auto press_code = [this](SDL_Scancode code, SDL_Keymod held) {
+    const auto press_code = [](SDL_Scancode code, SDL_Keymod held) {
         SDL_Event event{};
         event.type = SDL_EVENT_KEY_DOWN;
         event.key.scancode = code;
@@ -387,7 +387,7 @@ protected:
 TEST_F(Dragged_Selection, with_control_a_copy_of_it_floats) {
     drag(SDL_KMOD_LCTRL, {3, 3}, {3, 3});
     EXPECT_EQ(tools().tool, Tool::rectangle_selector);
-    script().check([this] { hold(SDL_KMOD_LCTRL); }).press(cell(3, 3)).motion(cell(9, 9));
+    script().check([] { hold(SDL_KMOD_LCTRL); }).press(cell(3, 3)).motion(cell(9, 9));
     play(script().key(key::escape).release(cell(9, 9)));
     EXPECT_EQ(tools().tool, Tool::rectangle_selector);
     EXPECT_EQ(new_steps(), 0U);
