@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -206,7 +205,7 @@ private:
             return nullptr;
         }
         std::vector<Color> pixels(count);
-        std::memcpy(static_cast<void*>(pixels.data()), bytes.data(), bytes.size());
+        std::copy(bytes.begin(), bytes.end(), reinterpret_cast<std::uint8_t*>(pixels.data()));
         return std::make_shared<const Tile>(size, std::move(pixels));
     }
 
