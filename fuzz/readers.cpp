@@ -5,12 +5,15 @@
 #include "base/checksum.h"
 #include "base/data_stream.h"
 #include "base/fatal.h"
+#include "base/fingerprint.h"
 #include "base/packed_bytes.h"
 #include "color/palette_formats.h"
 #include "color/palette_store.h"
 #include "map/map_file.h"
 #include "map/tmx.h"
 #include "pixels/picture_formats.h"
+#include "tileset/history_code.h"
+#include "tileset/history_file.h"
 #include "tileset/journal_record.h"
 #include "tileset/tileset_file.h"
 #include "tools/brush_pad.h"
@@ -21,6 +24,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -102,6 +106,19 @@ void read_journal_file(Bytes bytes) {
     }
 }
 
+// A history of two tiles of 4 x 3, without its last word, which is its fingerprint.
+void read_history(Bytes bytes) {
+    Tileset tileset({4, 3});
+    for (int i = 0; i < 2; ++i) {
+        tileset.append_loaded(std::make_unique<Tile>(4, 3));
+    }
+    std::vector<std::uint8_t> file(bytes.begin(), bytes.end());
+    History_Writer seal;
+    seal.word(fingerprint_of(bytes));
+    pack_bytes(file, seal.bytes());
+    static_cast<void>(decode_history(file, File_Stamp(), tileset));
+}
+
 void read_tmx_file(Bytes bytes) {
     static_cast<void>(read_tmx(text_of(bytes), {8, 8}, 30));
 }
@@ -155,6 +172,7 @@ constexpr std::array readers = std::to_array<Reader>({
     {"palette", read_palettes},
     {"map", read_map_file},
     {"journal", read_journal_file},
+    {"history", read_history},
     {"tmx", read_tmx_file},
     {"png", [](Bytes bytes) { static_cast<void>(decode_png(bytes, largest_edge)); }},
     {"bmp", [](Bytes bytes) { static_cast<void>(decode_bitmap(bytes, largest_edge)); }},

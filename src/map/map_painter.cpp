@@ -12,7 +12,8 @@ namespace {
 
 constexpr Color surround = standard_color(Standard_Color::dark_frame);
 constexpr int checker_edge = 6;
-constexpr Color grid_color{0, 0, 0, 90};
+constexpr Color grid_on_light{0, 0, 0, 90};
+constexpr Color grid_on_dark{255, 255, 255, 60};
 // To go through cells one by one takes longer than through their pixels where there are few in each.
 constexpr int narrow_cell = 4;
 // In smaller cells lines would hide more than they show.
@@ -23,8 +24,11 @@ bool has_room_for_grid(const Map_Camera& camera) {
     return std::min(cell.width, cell.height) >= smallest_cell_with_grid;
 }
 
-void darken(Color& pixel) {
-    pixel = blended_over(grid_color, pixel);
+// The line is seen on every tile.
+void draw_line_over(Color& pixel) {
+    constexpr int darkest_light = 3 * 64;
+    const bool is_dark = pixel.r + pixel.g + pixel.b < darkest_light;
+    pixel = blended_over(is_dark ? grid_on_dark : grid_on_light, pixel);
 }
 
 } // namespace
@@ -99,7 +103,7 @@ Map_Painter::Row_Look Map_Painter::look_of(const Map_Picture& picture, int y) {
 void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
     for (const Stretch& stretch : stretches_) {
         const int end = is_cell_edge ? stretch.end : stretch.begin + (stretch.has_edge ? 1 : 0);
-        std::for_each(row + stretch.begin, row + end, darken);
+        std::for_each(row + stretch.begin, row + end, draw_line_over);
     }
 }
 

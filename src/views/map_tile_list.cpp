@@ -38,8 +38,7 @@ std::string short_number(int number) {
 } // namespace
 
 Map_Tile_List::Map_Tile_List(const Tileset& tileset)
-    : tileset_(tileset), pane_(below_title(tiles), "Tiles"),
-      checkerboard_(make_checkerboard({list.width, list.height})), shown_(cells_in_view) {}
+    : tileset_(tileset), pane_(below_title(tiles), "Tiles"), shown_(cells_in_view) {}
 
 int Map_Tile_List::tile_at(Point point) const {
     if (!list.contains(point)) {
@@ -82,12 +81,13 @@ Rectangle Map_Tile_List::cell_of(int tile) const {
 
 void Map_Tile_List::draw(const std::function<Listed_Tile(int tile)>& look_of, std::string_view text_below) {
     pane_.draw();
-    screen->draw_texture(*checkerboard_, corner_of(list));
+    screen->fill_rect(list, standard_color(Standard_Color::dark_frame));
     const int first = first_row_ * list_columns;
     const int end = std::min(tileset_.count(), first + cells_in_view);
     const Size shown = fitted(tileset_.tile_size(), {list_cell - 2, list_cell - 2});
     for (int tile = first; tile < end; ++tile) {
         const Rectangle cell = cell_of(tile);
+        draw_checkerboard(cell);
         shown_[static_cast<std::size_t>(tile - first)].draw(tileset_.tile_at(tile), centred(shown, cell));
         draw_look(look_of(tile), cell);
     }

@@ -7,7 +7,6 @@
 #include "ui/text_pane.h"
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -45,7 +44,6 @@ private:
 
     const Tileset& tileset_;
     Text_Pane pane_;
-    std::unique_ptr<Texture> checkerboard_;
     std::vector<Shown_Tile> shown_;
     int first_row_ = 0;
 };
