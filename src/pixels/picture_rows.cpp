@@ -1,10 +1,10 @@
 #include "pixels/picture_rows.h"
 
 #include "base/atomic_file.h"
+#include "pixels/png_attempt.h"
 
 #include <png.h>
 
-#include <csetjmp>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -72,7 +72,7 @@ public:
     [[nodiscard]] bool begin(Block_Writer& file, Size size) {
         // Few colours in short repeats: filters would hide them from the compression.
         constexpr int quick = 4;
-        return info_ != nullptr && attempt([&] {
+        return info_ != nullptr && attempt_png(png_, [&] {
                    png_set_user_limits(png_, PNG_UINT_31_MAX, PNG_UINT_31_MAX);
                    png_set_write_fn(png_, &file, give_bytes, flush_nothing);
                    png_set_compression_level(png_, quick);
@@ -85,22 +85,13 @@ public:
                });
     }
     [[nodiscard]] bool write_row(std::span<const Color> row) {
-        return attempt([&] { png_write_row(png_, reinterpret_cast<png_const_bytep>(row.data())); });
+        return attempt_png(png_, [&] { png_write_row(png_, reinterpret_cast<png_const_bytep>(row.data())); });
     }
     [[nodiscard]] bool end() {
-        return attempt([&] { png_write_end(png_, info_); });
+        return attempt_png(png_, [&] { png_write_end(png_, info_); });
     }
 
 private:
-    template <typename Step>
-    bool attempt(Step step) {
-        if (setjmp(png_jmpbuf(png_)) != 0) {
-            return false;
-        }
-        step();
-        return true;
-    }
-
     png_structp png_;
     png_infop info_;
 };

@@ -1,12 +1,12 @@
 // PNG, by libpng. It reports an error by a long jump, which may leave no C++ object behind: each call that
-// can fail is made by `Png_Reader::attempt`.
+// can fail is made by `attempt_png`.
 
 #include "pixels/picture_formats.h"
+#include "pixels/png_attempt.h"
 
 #include <png.h>
 
 #include <algorithm>
-#include <csetjmp>
 #include <limits>
 #include <utility>
 
@@ -46,14 +46,6 @@ public:
     [[nodiscard]] png_uint_32 height() const { return png_get_image_height(png_, info_); }
 
 private:
-    template <typename Step>
-    bool attempt(Step step) {
-        if (setjmp(png_jmpbuf(png_)) != 0) {
-            return false;
-        }
-        step();
-        return true;
-    }
     void ask_for_colors();
 
     Picture_Bytes rest_;
@@ -62,7 +54,7 @@ private:
 };
 
 bool Png_Reader::read_header() {
-    return info_ != nullptr && attempt([this] {
+    return info_ != nullptr && attempt_png(png_, [this] {
                constexpr png_uint_32 any_size = std::numeric_limits<std::int32_t>::max();
                png_set_user_limits(png_, any_size, any_size);
                // Texts, profiles and the like are skipped: unpacked they may be as large as their writer
@@ -85,7 +77,7 @@ void Png_Reader::ask_for_colors() {
 
 std::vector<Color> Png_Reader::read_pixels() {
     int passes = 0;
-    const bool can_begin = attempt([&] {
+    const bool can_begin = attempt_png(png_, [&] {
         ask_for_colors();
         passes = png_set_interlace_handling(png_);
         png_read_update_info(png_, info_);
@@ -101,7 +93,7 @@ std::vector<Color> Png_Reader::read_pixels() {
                 pixels.resize((y + 1) * row_length);
             }
             auto* const row = reinterpret_cast<png_bytep>(&pixels[y * row_length]);
-            if (!attempt([&] { png_read_row(png_, row, nullptr); })) {
+            if (!attempt_png(png_, [&] { png_read_row(png_, row, nullptr); })) {
                 return {};
             }
         }
