@@ -100,7 +100,8 @@ bool Editor::show_first_frame() {
 }
 
 void Editor::offer_recovery() {
-    if (recover_journals(*parts_)) {
+    const bool tells_error = tell_last_error();
+    if (recover_journals(*parts_) || tells_error) {
         redraw(Present::yes);
     }
 }

@@ -2,12 +2,16 @@
 
 #include "app/editor_parts.h"
 #include "base/data_directory.h"
+#include "base/error_note.h"
 #include "base/file_lock.h"
 #include "base/file_names.h"
 #include "base/platform_files.h"
+#include "base/text_lines.h"
 #include "tileset/journal_file.h"
 #include "tileset/recovered_document.h"
 #include "ui/dialogs.h"
+#include "ui/shown_text.h"
+#include "ui/wrapped_text.h"
 #include "views/recovery_dialog.h"
 
 #include <algorithm>
@@ -97,6 +101,23 @@ bool take(Editor_Parts& editor, std::vector<std::unique_ptr<Tileset_Document>> d
 }
 
 } // namespace
+
+bool tell_last_error() {
+    constexpr int width = 700;
+    constexpr std::size_t most_lines = 16;
+    const std::string note = take_error_note();
+    if (note.empty()) {
+        return false;
+    }
+    std::string text = "When it ran last, the program ended with this error.";
+    Text_Lines lines(note);
+    while (const std::optional<std::string_view> line = lines.next()) {
+        text += "\r" + shown_text(*line);
+    }
+    dialogs->message("Note", joined_lines(first_lines(Font::regular, wrapped_text(Font::regular, text, width),
+                                                      most_lines, width)));
+    return true;
+}
 
 bool recover_journals(Editor_Parts& editor) {
     const std::string folder = data_directory().path("journal");

@@ -4,7 +4,9 @@
 #include "base/data_directory.h"
 #include "base/debug_monitor.h"
 #include "base/end_signals.h"
+#include "base/error_note.h"
 #include "base/fatal.h"
+#include "base/platform_files.h"
 #include "color/color_data.h"
 #include "color/palette_list.h"
 #include "color/palette_store.h"
@@ -34,7 +36,7 @@ void start_video() {
 
 void enter_data() {
     if (!data_directory().enter(Data_Directory::inside)) {
-        fatal("Unable to open 'data' directory.");
+        fatal("Unable to open 'data' directory.", Faulty_File{"data", Remedy::unpack_again});
     }
     data_directory().claim();
     data_directory().hold();
@@ -43,6 +45,7 @@ void enter_data() {
 } // namespace
 
 void start_application() {
+    keep_error_note_in(current_directory());
     start_video();
     message_log = std::make_unique<Debug_Monitor>();
     enter_data();

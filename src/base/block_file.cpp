@@ -1,7 +1,6 @@
 #include "base/block_file.h"
 
 #include "base/atomic_file.h"
-#include "base/fatal.h"
 #include "base/platform_files.h"
 
 #include <algorithm>
@@ -29,9 +28,9 @@ bool Block_File::try_read_block(std::span<std::uint8_t> buffer) {
     return file_ != nullptr && read_bytes(file_.get(), buffer) == buffer.size();
 }
 
-void Block_File::read_block(std::span<std::uint8_t> buffer) {
+void Block_File::read_block(std::span<std::uint8_t> buffer, Remedy remedy) {
     if (!try_read_block(buffer)) {
-        fatal("Unable to load block from ", path_);
+        fatal("Unable to load block from ", path_, {path_, remedy});
     }
 }
 
@@ -67,7 +66,7 @@ bool read_file(const std::string& path, std::span<std::uint8_t> buffer) {
 
 void read_file_or_die(const std::string& path, std::span<std::uint8_t> buffer) {
     if (!read_file(path, buffer)) {
-        fatal("Unable to load file ", path);
+        fatal("Unable to load file ", path, {path, Remedy::put_copy});
     }
 }
 

@@ -2,6 +2,7 @@
 
 // A binary file that is read and written in whole blocks.
 
+#include "base/fatal.h"
 #include "base/file_handle.h"
 
 #include <cstdint>
@@ -23,8 +24,8 @@ public:
     [[nodiscard]] bool open_write();
     // Fills the buffer, or answers false when the file holds less.
     [[nodiscard]] bool try_read_block(std::span<std::uint8_t> buffer);
-    // Fills the buffer; fatal when the file holds less.
-    void read_block(std::span<std::uint8_t> buffer);
+    // Fills the buffer; fatal when the file holds less, with what a person can do about that.
+    void read_block(std::span<std::uint8_t> buffer, Remedy remedy = Remedy::put_copy);
     // Answers whether the block was taken; a full disk may show only at `close`.
     bool write_block(std::span<const std::uint8_t> block);
     // Counts the bytes from the current position to the end, 0 when closed. Whoever takes memory for a length

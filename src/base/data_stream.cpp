@@ -175,7 +175,7 @@ bool Data_Stream::save_to(const std::string& path) {
 void Data_Stream::load_from(Block_File& file) {
     position_ = 0;
     std::array<std::uint8_t, length_size> prefix{};
-    file.read_block(prefix);
+    file.read_block(prefix, Remedy::remove);
     std::int64_t length = 0;
     for (std::size_t i = 0; i < prefix.size(); ++i) {
         length |= std::int64_t{prefix[i]} << (8 * i);
@@ -184,7 +184,7 @@ void Data_Stream::load_from(Block_File& file) {
         // A length beyond the end of the file asks for one byte more than there is: enough to be found short.
         const std::int64_t enough = std::max<std::int64_t>(file.remaining(), 0) + 1;
         text_.resize(static_cast<std::size_t>(std::min(length, enough)));
-        file.read_block(bytes_of(text_));
+        file.read_block(bytes_of(text_), Remedy::remove);
     }
 }
 

@@ -60,7 +60,7 @@ Sprite_Sheet::Sprite_Sheet() : surface_("pool.bmp", default_color_key), texture_
         glyphs_.at(static_cast<std::size_t>(font.id)) = scan_glyphs(surface_, font);
     }
     if (!holds_all()) {
-        fatal("Could not load SDL surface from %s.", "pool.bmp");
+        fatal("Could not load SDL surface from %s.", "pool.bmp", {"pool.bmp", Remedy::unpack_again});
     }
 }
 

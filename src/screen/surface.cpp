@@ -67,7 +67,7 @@ Surface::Surface(const std::string& file_name, std::optional<Rgba_Quad> key) {
     const Handle bitmap(holds_its_pixels(file_name) ? SDL_LoadBMP(file_name.c_str()) : nullptr);
     if (!bitmap) {
         // The placeholder is printed as it stands: the file name follows as the detail.
-        fatal("Could not load SDL surface from %s.", file_name);
+        fatal("Could not load SDL surface from %s.", file_name, {file_name, Remedy::unpack_again});
     }
     make({bitmap->w, bitmap->h});
     take_bitmap(*bitmap);

@@ -21,7 +21,6 @@ expect_error() {
 # Fails unless the pixels of the diagonal that are named are white.
 recover_dots() {
     local dot color
-    start_editor
     part=$middle shown xdotool key Return
     move 300 620
     settle
@@ -44,6 +43,7 @@ kill -9 "$server"
 expect_error
 
 export DISPLAY=$own_display
+start_editor
 recover_dots 3
 draw_dot 5
 printf 'QDL\n\0\10\10\5\0\0\0' >"$work/short.qdl"
@@ -53,6 +53,8 @@ move 40 88 # Load
 settle
 xdotool click 1
 expect_error
-[ "$(cat "$work/output")" = "Error: Unable to load block from  $work/short.qdl!" ] || fail "$(cat "$work/output")"
+[ "$(sed -n 1p "$work/output")" = "Error: Unable to load block from  $work/short.qdl!" ] || fail "$(cat "$work/output")"
+start_editor
+part=$middle shown xdotool key Return # the note on the error
 recover_dots 3 5
 quit_editor

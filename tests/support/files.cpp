@@ -9,6 +9,7 @@
 #include <iterator>
 #include <random>
 
+#include <fcntl.h>
 #ifdef _WIN32
 #include <io.h>
 #else
@@ -126,11 +127,13 @@ int failures_of(const std::function<bool(const std::string& path)>& save) {
     return failures;
 }
 
-void send_output_to_standard_error() {
+void send_output_alone_to_standard_error() {
 #ifdef _WIN32
     _dup2(_fileno(stderr), _fileno(stdout));
+    _dup2(_open("NUL", _O_WRONLY), _fileno(stderr));
 #else
     dup2(fileno(stderr), fileno(stdout));
+    dup2(open("/dev/null", O_WRONLY), fileno(stderr));
 #endif
 }
 

@@ -84,8 +84,8 @@ public:
 // as it was; returns how often that was. Only creating is tried again, under another name.
 [[nodiscard]] int failures_of(const std::function<bool(const std::string& path)>& save);
 
-// Death tests read standard error, fatal errors go to standard output.
-void send_output_to_standard_error();
+// Death tests read standard error: they get what goes to standard output, and nothing else.
+void send_output_alone_to_standard_error();
 
 } // namespace quadrelle::testing
 
@@ -93,7 +93,7 @@ void send_output_to_standard_error();
 #define EXPECT_FATAL(statement, text)                                                                        \
     EXPECT_EXIT(                                                                                             \
         {                                                                                                    \
-            quadrelle::testing::send_output_to_standard_error();                                             \
+            quadrelle::testing::send_output_alone_to_standard_error();                                       \
             statement;                                                                                       \
         },                                                                                                   \
         ::testing::ExitedWithCode(1), ::testing::Eq("Error: " + std::string(text) + "!\n"))

@@ -118,6 +118,16 @@ TEST_F(Recovery_Test, brings_back_all_sets_as_a_save_would_write_them) {
     EXPECT_FALSE(std::filesystem::exists(journals()));
 }
 
+TEST_F(Recovery_Test, tells_once_of_the_error_that_ended_the_last_run) {
+    const std::string note = folder().path("quadrelle-error.txt");
+    store_text(note, "Error: Unable to load file  a\xc3\xa9.qdl!\nDelete it:\n/a\n");
+    expect_message("Note", "When it ran last, the program ended with this error.\r"
+                           "Error: Unable to load file  ae.qdl!\rDelete it:\r/a");
+    recover();
+    EXPECT_FALSE(std::filesystem::exists(native(note)));
+    editor->offer_recovery();
+}
+
 TEST_F(Recovery_Test, asks_again_until_there_is_an_answer) {
     play(script().click(cell(3, 4)));
     kill_and_start();

@@ -28,10 +28,17 @@ protected:
                                     built_program().string() + "' > output 2> errors";
         return std::system(command.c_str()) / 256;
     }
-    void expect_fatal(const std::string& text) const {
+    // A person reads the same line, what to do, and with which file, which is named as it is in the folder.
+    void expect_fatal(const std::string& text, const std::string& file) const {
+        const std::string line = "Error: " + text + "!\n";
         EXPECT_EQ(run(), 1);
-        EXPECT_EQ(stored_text(path("output")), "Error: " + text + "!\n");
-        EXPECT_EQ(stored_text(path("errors")), "");
+        EXPECT_EQ(stored_text(path("output")), line);
+        const std::string errors = stored_text(path("errors"));
+        EXPECT_TRUE(errors.starts_with(line));
+        EXPECT_TRUE(errors.ends_with(":\n" + std::filesystem::canonical(folder_.native_path()).string() +
+                                     "/data" + file + "\n"))
+            << errors;
+        EXPECT_EQ(stored_text(path("quadrelle-error.txt")), errors);
     }
 
 private:
@@ -40,21 +47,21 @@ private:
 
 TEST_F(Start_Up_Process, ends_without_the_data_folder) {
     std::filesystem::remove_all(native(path("data")));
-    expect_fatal("Unable to open 'data' directory.");
+    expect_fatal("Unable to open 'data' directory.", "");
     put("data", "a file in its place");
-    expect_fatal("Unable to open 'data' directory.");
+    expect_fatal("Unable to open 'data' directory.", "");
 }
 
 TEST_F(Start_Up_Process, ends_without_a_usable_sheet) {
     put("data/pool.bmp", "BM, but nothing else");
-    expect_fatal("Could not load SDL surface from %s. pool.bmp");
+    expect_fatal("Could not load SDL surface from %s. pool.bmp", "/pool.bmp");
     // A picture of one pixel holds no sprite.
     put("data/pool.bmp",
         "BM" + std::string("\x3a\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0", 28) +
             std::string(24, '\0') + "abc" + '\0');
-    expect_fatal("Could not load SDL surface from %s. pool.bmp");
+    expect_fatal("Could not load SDL surface from %s. pool.bmp", "/pool.bmp");
     std::filesystem::remove(native(path("data/pool.bmp")));
-    expect_fatal("Could not load SDL surface from %s. pool.bmp");
+    expect_fatal("Could not load SDL surface from %s. pool.bmp", "/pool.bmp");
 }
 
 TEST_F(Start_Up_Process, ends_when_a_data_file_is_shorter_than_it_says) {
@@ -64,11 +71,12 @@ TEST_F(Start_Up_Process, ends_when_a_data_file_is_shorter_than_it_says) {
                       8),
           std::string("\xff\xff\xff\xff:", 5), std::string("\1\0", 2), std::string()}) {
         put("data/palette.dat", cut);
-        expect_fatal("Unable to load block from  palette.dat");
+        expect_fatal("Unable to load block from  palette.dat", "/palette.dat");
         std::filesystem::remove(native(path("data/palette.dat")));
         put("data/options.dlg", cut);
         expect_fatal("Unable to load block from  " +
-                     std::filesystem::canonical(native(path("data/options.dlg"))).string());
+                         std::filesystem::canonical(native(path("data/options.dlg"))).string(),
+                     "/options.dlg");
         std::filesystem::remove(native(path("data/options.dlg")));
     }
 }
