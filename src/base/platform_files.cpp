@@ -107,6 +107,10 @@ bool replace_file(const std::string& from, const std::string& to) {
     return noted(!is_made_to_fail() && platform::replace_file(from, to));
 }
 
+bool link_file(const std::string& from, const std::string& to) {
+    return noted(!is_made_to_fail() && platform::link_file(from, to));
+}
+
 bool can_replace(const std::string& name) {
     return noted(platform::can_replace(name));
 }
@@ -132,7 +136,7 @@ void remove_folder(const std::string& name) {
 }
 
 bool make_folder(const std::string& name) {
-    return SDL_CreateDirectory(name.c_str());
+    return noted(!is_made_to_fail() && SDL_CreateDirectory(name.c_str()));
 }
 
 std::optional<std::vector<Folder_Entry>> folder_entries(const std::string& folder) {

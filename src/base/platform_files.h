@@ -116,7 +116,8 @@ private:
 [[nodiscard]] bool is_running(unsigned long process);
 
 // A hook for tests: it is asked before every operation that can fail while a file is written (creating,
-// writing, flushing, closing, replacing); the answer true makes it fail. Null, the default, asks nobody.
+// writing, flushing, closing, replacing, a second name, a new folder); the answer true makes it fail. Null,
+// the default, asks nobody.
 using File_Fault_Hook = bool (*)();
 void set_file_fault_hook(File_Fault_Hook hook);
 

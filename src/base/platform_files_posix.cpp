@@ -99,7 +99,7 @@ int platform::last_fault() {
     return errno;
 }
 
-bool link_file(const std::string& from, const std::string& to) {
+bool platform::link_file(const std::string& from, const std::string& to) {
     return link(from.c_str(), to.c_str()) == 0;
 }
 

@@ -98,7 +98,7 @@ int platform::last_fault() {
     }
 }
 
-bool link_file(const std::string& from, const std::string& to) {
+bool platform::link_file(const std::string& from, const std::string& to) {
     return CreateHardLinkW(wide(to).c_str(), wide(from).c_str(), nullptr) != 0;
 }
 

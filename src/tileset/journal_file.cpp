@@ -56,7 +56,11 @@ bool replace_journal(const std::string& path, const Bytes& bytes) {
     remove_file(anew);
     File_Handle file = open_file(anew, File_Mode::create);
     const bool is_written = file && write_bytes(file.get(), bytes) && flush_to_disk(file.get());
-    return file && close_file(std::move(file)) && is_written && replace_file(anew, path);
+    const bool is_done = file && close_file(std::move(file)) && is_written && replace_file(anew, path);
+    if (!is_done) {
+        remove_file(anew);
+    }
+    return is_done;
 }
 
 } // namespace

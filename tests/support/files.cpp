@@ -86,16 +86,25 @@ void Old_File::expect_untouched() const {
 
 namespace {
 
-int operations_left = 0;
+int operations_done = 0;
+int failing_operation = 0;
+int second_failing_operation = 0;
+
+bool is_failing_operation() {
+    const int operation = operations_done++;
+    return operation == failing_operation || operation == second_failing_operation;
+}
 
 } // namespace
 
-Fault::Fault(int operation, Kind kind) {
-    operations_left = operation;
+Fault::Fault(int operation, Kind kind, int second) {
+    operations_done = 0;
+    failing_operation = operation;
+    second_failing_operation = second;
     if (kind == Kind::failure) {
-        set_file_fault_hook([] { return operations_left-- == 0; });
+        set_file_fault_hook(is_failing_operation);
     } else {
-        set_file_fault_hook([] { return operations_left-- == 0 && std::raise(SIGTERM) == 0; });
+        set_file_fault_hook([] { return is_failing_operation() && std::raise(SIGTERM) == 0; });
     }
 }
 
@@ -104,27 +113,7 @@ Fault::~Fault() {
 }
 
 bool Fault::is_reached() {
-    return operations_left < 0;
-}
-
-int failures_of(const std::function<bool(const std::string& path)>& save) {
-    int failures = 0;
-    bool is_reached = true;
-    for (int operation = 0; is_reached; ++operation) {
-        const Old_File old;
-        const Fault fault(operation);
-        const bool is_saved = save(old.path);
-        is_reached = Fault::is_reached();
-        if (is_saved) {
-            EXPECT_TRUE(operation == 0 || !is_reached) << operation;
-            EXPECT_EQ(old.folder.entry_count(), 1);
-            EXPECT_NE(stored(old.path), old.bytes);
-        } else {
-            ++failures;
-            old.expect_untouched();
-        }
-    }
-    return failures;
+    return operations_done > failing_operation;
 }
 
 void send_output_alone_to_standard_error() {

@@ -68,21 +68,18 @@ struct Old_File {
     void expect_untouched() const;
 };
 
-// The file operation with that number, from 0, fails while this lives, or kills the process.
+// The file operation with that number, from 0, fails while this lives, or kills the process. A second one may
+// fail too.
 class Fault {
 public:
     enum class Kind { failure, kill };
-    explicit Fault(int operation, Kind kind = Kind::failure);
+    explicit Fault(int operation, Kind kind = Kind::failure, int second = -1);
     Fault(const Fault&) = delete;
     Fault& operator=(const Fault&) = delete;
     ~Fault();
 
     [[nodiscard]] static bool is_reached();
 };
-
-// Lets every operation fail in its turn of a function that saves over an old file, which then has to be left
-// as it was; returns how often that was. Only creating is tried again, under another name.
-[[nodiscard]] int failures_of(const std::function<bool(const std::string& path)>& save);
 
 // Death tests read standard error: they get what goes to standard output, and nothing else.
 void send_output_alone_to_standard_error();

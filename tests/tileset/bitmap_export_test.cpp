@@ -56,11 +56,5 @@ TEST(Bitmap_Export, file_shows_sixteen_rows_of_tiles_and_black_cells_behind_them
     }
 }
 
-TEST(Bitmap_Export, write_that_fails_anywhere_leaves_the_old_file) {
-    const Tile picture = export_picture(*make_tileset({24, 24}, 3));
-    EXPECT_GT(failures_of([&](const std::string& path) { return save_bitmap(picture, path); }), 3);
-    EXPECT_FALSE(save_bitmap(picture, "no folder/new.bmp"));
-}
-
 } // namespace
 } // namespace quadrelle::testing

@@ -165,12 +165,6 @@ TEST(Tileset_File, enormous_counts_take_neither_time_nor_memory) {
     }
 }
 
-TEST(Tileset_File, a_failure_at_any_operation_leaves_the_old_file) {
-    const Tileset tileset = large_tileset();
-    const auto save = [&](const std::string& path) { return save_tileset(tileset, path) > 0; };
-    EXPECT_EQ(failures_of(save), 5) << "two blocks, flushing, closing and replacing";
-}
-
 namespace {
 
 // The folder of the file that is being saved, and how many operations come before it is closed.
