@@ -5,6 +5,7 @@
 #include "base/data_directory.h"
 #include "base/fatal.h"
 #include "canvas/canvas_view.h"
+#include "map/map_file.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -44,6 +45,18 @@ std::vector<std::size_t> new_places(const Versions& versions, const Versions& be
         std::erase_if(places, [&](std::size_t i) { return known.contains(versions[i]); });
     }
     return places;
+}
+
+Known_Files files_of(const Tileset_Document& document) {
+    Known_Files files;
+    if (const std::optional<Own_File>& own = document.own_file()) {
+        files.set = own->stamp;
+        files.surplus = own->surplus;
+    }
+    if (document.map_file() == map_path(document.file_name())) {
+        files.map = document.map_stamp();
+    }
+    return files;
 }
 
 std::vector<int> indices_of(const Tile_Ids& ids) {
@@ -154,6 +167,7 @@ void Journal_Keeper::hand_over(const Tileset_Document& document, Followed_Set& f
     handed.number = document.number();
     handed.name = document.file_name();
     handed.is_named = document.is_named();
+    handed.files = files_of(document);
     handed.tile_size = tileset.tile_size();
     handed.versions.reserve(static_cast<std::size_t>(tileset.count()));
     for (int i = 0; i < tileset.count(); ++i) {

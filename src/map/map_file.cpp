@@ -2,6 +2,7 @@
 
 #include "base/checksum.h"
 #include "base/file_names.h"
+#include "base/fingerprint.h"
 #include "base/platform_files.h"
 #include "map/map_code.h"
 
@@ -119,16 +120,17 @@ Read_Map read_map(const std::string& path) {
     if (path_kind(path) == Path_Kind::nothing) {
         return {};
     }
+    const File_State file_then = file_state(path).value_or(File_State{});
     const File_Handle file = open_file(path, File_Mode::read);
     const std::int64_t size = file ? file_size(file.get()) : -1;
     if (size < 0 || size > largest_file) {
-        return {Map_File_State::unreadable, std::nullopt};
+        return {Map_File_State::unreadable, std::nullopt, {}};
     }
     std::vector<std::uint8_t> bytes(static_cast<std::size_t>(size));
     bytes.resize(read_bytes(file.get(), bytes));
     std::optional<Stored_Map> map = decode_map(bytes);
     const Map_File_State state = map ? Map_File_State::read : Map_File_State::unreadable;
-    return {state, std::move(map)};
+    return {state, std::move(map), {file_then, fingerprint_of(bytes)}};
 }
 
 } // namespace quadrelle

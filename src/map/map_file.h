@@ -2,6 +2,7 @@
 
 // Maps in files of their own, beside the tileset that they are laid out with.
 
+#include "base/file_stamp.h"
 #include "map/map_fit.h"
 
 #include <cstdint>
@@ -25,6 +26,7 @@ enum class Map_File_State { missing, read, unreadable };
 struct Read_Map {
     Map_File_State state = Map_File_State::missing;
     std::optional<Stored_Map> map; // present when it was read
+    File_Stamp stamp;              // then too
 };
 
 [[nodiscard]] Read_Map read_map(const std::string& path);

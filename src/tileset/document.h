@@ -54,9 +54,13 @@ public:
     // when there is no step.
     bool undo_map();
     bool redo_map();
-    // The file that the map was read from or written to last; empty without one.
+    // The file that the map was read from or written to last; empty without one. Its stamp is that of then.
     [[nodiscard]] const std::string& map_file() const { return map_file_; }
-    void set_map_file(const std::string& path) { map_file_ = path; }
+    [[nodiscard]] const std::optional<File_Stamp>& map_stamp() const { return map_stamp_; }
+    void set_map_file(const std::string& path, const std::optional<File_Stamp>& stamp = {}) {
+        map_file_ = path;
+        map_stamp_ = stamp;
+    }
     // What the map editor stands at, from the first time on that it was opened, as long as the tiles have
     // their size.
     [[nodiscard]] Map_Desk& map_desk();
@@ -127,6 +131,7 @@ private:
     std::unique_ptr<Edited_Map> map_;
     std::unique_ptr<Map_Desk> map_desk_;
     std::string map_file_;
+    std::optional<File_Stamp> map_stamp_;
     // Pictures of deleted tiles that the map knew, by their numbers there; those with the highest are kept.
     std::map<int, Tile> gone_tiles_;
     std::optional<Own_File> own_file_;

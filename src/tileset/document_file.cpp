@@ -1,12 +1,15 @@
 #include "tileset/document_file.h"
 
 #include "base/atomic_file.h"
+#include "base/fingerprint.h"
 #include "base/platform_files.h"
 #include "map/map_file.h"
 #include "map/map_fit.h"
 #include "tileset/tileset_file.h"
 
+#include <cstdint>
 #include <utility>
+#include <vector>
 
 namespace quadrelle {
 
@@ -29,7 +32,9 @@ void find_map(Loaded_Document& loaded, const std::string& path) {
     loaded.emptied = map.emptied;
     document.set_map(*std::move(map.map));
     // What has lost places takes the place of the whole one only when the user says so.
-    document.set_map_file(map.emptied == 0 ? path : "");
+    if (map.emptied == 0) {
+        document.set_map_file(path, read.stamp);
+    }
     if (map.has_other_tiles) {
         document.mark_changed();
     }
@@ -72,8 +77,10 @@ Save_Outcome save_document(Tileset_Document& document) {
         return save_without_map(document);
     }
     const std::string path = map_path(document.file_name());
+    const std::vector<std::uint8_t> bytes =
+        encode_map(document.map()->indexed_map(), sums_of(document.tileset().tiles()));
     Atomic_File map_file(path);
-    if (!map_file.write(encode_map(document.map()->indexed_map(), sums_of(document.tileset().tiles())))) {
+    if (!map_file.write(bytes)) {
         return Save_Outcome::map_refused;
     }
     if (save_tiles(document) != Save_Outcome::saved) {
@@ -82,7 +89,7 @@ Save_Outcome save_document(Tileset_Document& document) {
     if (!map_file.commit()) {
         return Save_Outcome::map_failed;
     }
-    document.set_map_file(path);
+    document.set_map_file(path, File_Stamp{file_state(path).value_or(File_State{}), fingerprint_of(bytes)});
     return Save_Outcome::saved;
 }
 

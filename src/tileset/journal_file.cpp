@@ -217,6 +217,7 @@ Bytes Journal_File::change_record(const Handed_Set& set) {
     change.number = set.number;
     change.name = set.name;
     change.is_named = set.is_named;
+    change.files = set.files;
     change.tile_size = set.tile_size;
     change.has_map = set.has_map;
     change.tiles.reserve(set.versions.size());

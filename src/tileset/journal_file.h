@@ -31,6 +31,7 @@ struct Handed_Set {
     bool is_over = false; // nothing of it is unsaved any more, and all else here is empty
     std::string name;
     bool is_named = false;
+    Known_Files files;
     Size tile_size;
     std::vector<std::uint64_t> versions; // no two of them the same
     std::vector<Handed_Tile> tiles;      // in the order of the indices

@@ -24,11 +24,58 @@ enum class Record_Kind : std::uint32_t { change = 1, end = 2 };
 constexpr int largest_edge = 255;
 constexpr int most_tiles = 1 << 24;
 
-enum Set_Flag : unsigned { named = 1, has_map = 2, map_follows = 4 };
+enum Set_Flag : unsigned { named = 1, has_map = 2, map_follows = 4, knows_file = 8, knows_map_file = 16 };
 
 std::uint8_t flags_of(const Set_Change& change) {
     return static_cast<std::uint8_t>((change.is_named ? named : 0U) | (change.has_map ? has_map : 0U) |
-                                     (change.map ? map_follows : 0U));
+                                     (change.map ? map_follows : 0U) | (change.files.set ? knows_file : 0U) |
+                                     (change.files.map ? knows_map_file : 0U));
+}
+
+void pack_long(Bytes& bytes, std::uint64_t number) {
+    pack_word(bytes, static_cast<std::uint32_t>(number));
+    pack_word(bytes, static_cast<std::uint32_t>(number >> 32U));
+}
+
+std::uint64_t read_long(Packed_Reader& reader) {
+    const std::uint64_t low = reader.word();
+    return low | std::uint64_t{reader.word()} << 32U;
+}
+
+void pack_stamp(Bytes& bytes, const File_Stamp& stamp) {
+    pack_long(bytes, static_cast<std::uint64_t>(stamp.state.size));
+    pack_long(bytes, static_cast<std::uint64_t>(stamp.state.modified));
+    pack_long(bytes, stamp.fingerprint);
+}
+
+File_Stamp read_stamp(Packed_Reader& reader) {
+    File_Stamp stamp;
+    stamp.state.size = static_cast<std::int64_t>(read_long(reader));
+    stamp.state.modified = static_cast<std::int64_t>(read_long(reader));
+    stamp.fingerprint = read_long(reader);
+    return stamp;
+}
+
+void pack_files(Bytes& bytes, const Known_Files& files) {
+    if (files.set) {
+        pack_stamp(bytes, *files.set);
+        pack_long(bytes, static_cast<std::uint64_t>(files.surplus));
+    }
+    if (files.map) {
+        pack_stamp(bytes, *files.map);
+    }
+}
+
+Known_Files read_files(Packed_Reader& reader, unsigned flags) {
+    Known_Files files;
+    if ((flags & knows_file) != 0) {
+        files.set = read_stamp(reader);
+        files.surplus = static_cast<std::int64_t>(read_long(reader));
+    }
+    if ((flags & knows_map_file) != 0) {
+        files.map = read_stamp(reader);
+    }
+    return files;
 }
 
 Bytes record(Record_Kind kind, const Bytes& contents) {
@@ -107,6 +154,7 @@ Bytes record_of(const Set_Change& change) {
     pack_word(contents, change.number);
     pack_byte(contents, flags_of(change));
     pack_text(contents, change.name);
+    pack_files(contents, change.files);
     packed(change.tile_size.width, contents);
     packed(change.tile_size.height, contents);
     packed(static_cast<int>(change.tiles.size()), contents);
@@ -127,7 +175,8 @@ Bytes end_record_of(Set_Number number) {
 Bytes journal_of(const Journal_Sets& sets) {
     Bytes bytes = journal_head();
     for (const auto& [number, set] : sets) {
-        Set_Change change{number, set.name, set.is_named, set.tile_size, {}, set.map != nullptr, set.map};
+        Set_Change change{number,        set.name, set.is_named,       set.files,
+                          set.tile_size, {},       set.map != nullptr, set.map};
         change.tiles.reserve(set.tiles.size());
         for (const Journal_Tile& tile : set.tiles) {
             change.tiles.push_back(tile.picture
@@ -242,6 +291,7 @@ bool apply_change(std::span<const std::uint8_t> contents, Journal_Sets& sets) {
     Journal_Set set;
     set.is_named = (flags & named) != 0;
     set.name = reader.text();
+    set.files = read_files(reader, flags);
     set.tile_size.width = reader.number(largest_edge);
     set.tile_size.height = reader.number(largest_edge);
     const int count = reader.number(most_tiles);

@@ -6,6 +6,7 @@
 // A record tells what a set is after a gesture. Of tiles that the record before it has told of already it
 // names the place there, or only the part that is different; so it is about as long as what was drawn.
 
+#include "base/file_stamp.h"
 #include "base/geometry.h"
 #include "base/packed_bytes.h"
 #include "pixels/tile.h"
@@ -13,6 +14,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -27,9 +29,17 @@ struct Journal_Tile {
     int index_in_file = 0;
 };
 
+// What the files of a set were like when the program read or wrote them last.
+struct Known_Files {
+    std::optional<File_Stamp> set;
+    std::int64_t surplus = 0; // what the set's file holds behind its tiles
+    std::optional<File_Stamp> map;
+};
+
 struct Journal_Set {
     std::string name;
     bool is_named = false;
+    Known_Files files; // older journals tell nothing of them
     Size tile_size;
     std::vector<Journal_Tile> tiles;
     std::shared_ptr<const Bytes> map; // null without one
@@ -52,6 +62,7 @@ struct Set_Change {
     Set_Number number = 0;
     std::string name;
     bool is_named = false;
+    Known_Files files;
     Size tile_size;
     std::vector<Tile_Change> tiles; // all that the set has then
     bool has_map = false;

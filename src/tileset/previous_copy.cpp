@@ -4,6 +4,7 @@
 #include "base/data_directory.h"
 #include "base/file_names.h"
 #include "base/platform_files.h"
+#include "map/map_file.h"
 
 #include <span>
 #include <utility>
@@ -35,28 +36,27 @@ Kept_Files previous_copies() {
 }
 
 // A second name costs nothing, however large the file is: what is saved takes the place of the first one.
-Previous_Copy::Previous_Copy(const std::string& file, Place place)
-    : copies_(previous_copies()),
-      path_(copies_.path_for(place == Place::usual ? file : with_extension(file, "whole.qdl"))) {
+Previous_Copy::Copy::Copy(const std::string& file, std::string path) : path_(std::move(path)) {
     const std::string source = resolve_links(file);
     if (path_kind(source) == Path_Kind::nothing) {
         return;
     }
     const std::string temporary = path_ + ".new";
     remove_file(temporary);
-    is_safe_ = copies_.make_folder() && (link_file(source, temporary) || copy_file(source, temporary));
+    is_safe_ =
+        make_folder(folder_part(path_)) && (link_file(source, temporary) || copy_file(source, temporary));
     temporary_ = is_safe_ ? temporary : std::string();
 }
 
-Previous_Copy::~Previous_Copy() {
+Previous_Copy::Copy::~Copy() {
     if (!temporary_.empty()) {
         remove_file(temporary_);
     }
 }
 
-bool Previous_Copy::keep() {
+bool Previous_Copy::Copy::keep() {
     if (temporary_.empty()) {
-        return true;
+        return is_safe_;
     }
     if (!replace_file(temporary_, path_)) {
         return false;
@@ -64,8 +64,27 @@ bool Previous_Copy::keep() {
     temporary_.clear();
     // Its age is that of the copy, not that of what is in it.
     touch_file(path_);
-    copies_.keep_to_limits();
     return true;
+}
+
+void Previous_Copy::Copy::drop_older() const {
+    remove_file(path_);
+}
+
+Previous_Copy::Previous_Copy(const std::string& file, const std::string& map_file, Place place)
+    : copies_(previous_copies()),
+      path_(copies_.path_for(place == Place::usual ? file : with_extension(file, "whole.qdl"))),
+      set_(file, path_), map_(map_file, map_path(path_)) {}
+
+bool Previous_Copy::keep() {
+    if (!set_.is_empty() && map_.is_empty()) {
+        map_.drop_older();
+    }
+    const bool is_set_kept = set_.keep();
+    const bool is_map_kept = map_.keep();
+    copies_.keep_to_limits();
+    Kept_Files(copies_.folder(), "map", limits).keep_to_limits();
+    return is_set_kept && is_map_kept;
 }
 
 } // namespace quadrelle

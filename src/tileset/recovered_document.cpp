@@ -38,21 +38,30 @@ Tileset tileset_of(const Journal_Set& set) {
     return tileset;
 }
 
+// A file that is no map of this set is still not replaced without a question. Older journals do not tell
+// which one is.
+void give_files(Tileset_Document& document, const Journal_Set& set) {
+    document.set_file(set.name);
+    const std::string map_file = map_path(set.name);
+    if (set.files.set) {
+        document.set_own_file({*set.files.set, set.files.surplus});
+    }
+    if (set.files.map || (!set.files.set && set.map && read_map(map_file).map)) {
+        document.set_map_file(map_file, set.files.map);
+    }
+}
+
 } // namespace
 
 std::unique_ptr<Tileset_Document> recovered_document(const Journal_Set& set) {
     auto document = std::make_unique<Tileset_Document>(set.name, tileset_of(set));
     if (set.is_named) {
-        document->set_file(set.name);
+        give_files(*document, set);
     }
     std::optional<Tile_Map> map =
         set.map ? unpacked_map(*set.map, document->tileset().count()) : std::nullopt;
     if (map) {
         document->set_map(*std::move(map));
-        // A file that is no map is still not replaced without a question.
-        if (set.is_named && read_map(map_path(set.name)).map) {
-            document->set_map_file(map_path(set.name));
-        }
     }
     document->history().reset(document->tileset());
     document->mark_changed();

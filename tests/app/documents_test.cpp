@@ -1,6 +1,7 @@
 #include "app/documents.h"
 
 #include "app/window_panes.h"
+#include "map/map_file.h"
 #include "screen/screen.h"
 #include "tests/whole/program_test.h"
 #include "tileset/previous_copy.h"
@@ -205,6 +206,44 @@ TEST_F(Documents_Test, what_others_wrote_is_not_overwritten_without_a_question) 
         EXPECT_FALSE(document().is_modified());
     }
     EXPECT_NE(stored(path), before);
+}
+
+// The map is asked for and kept with its set, and loaded with the copy of it.
+TEST_F(Documents_Test, what_others_wrote_into_the_map_is_not_overwritten_without_a_question) {
+    document().set_map(Tile_Map({3, 4}));
+    const std::string path = save_as("level.qdl");
+    const std::string map = in_folder("level.map");
+    const Bytes first = stored(map);
+    store(map, {'x'});
+    document().set_map(Tile_Map({5, 6}));
+    draw_pixel(1, 1);
+    expect_question("Save",
+                    "level.map has been written by another program or from another tab\rsince it was "
+                    "loaded or saved here. Overwrite that?",
+                    Button_Type::overwrite)
+        .key(key::enter);
+    execute(Command::save);
+    const std::string copy = previous_copies().path_for(path);
+    EXPECT_EQ(stored(map_path(copy)), (Bytes{'x'}));
+    store(map, first);
+    store(path, stored(copy));
+    document().remove_map();
+    draw_pixel(2, 2);
+    expect_question("Save",
+                    "level.qdl and level.map have been written by another program or from another "
+                    "tab\rsince it was loaded or saved here. Overwrite that?",
+                    Button_Type::overwrite)
+        .key(key::enter);
+    execute(Command::save);
+    EXPECT_FALSE(std::filesystem::exists(native(map)));
+    choose(copy);
+    execute(Command::load);
+    ASSERT_NE(document().map(), nullptr);
+    EXPECT_EQ(document().map()->map().size(), (Size{3, 4}));
+    ASSERT_TRUE(documents().close_document());
+    draw_pixel(3, 3);
+    execute(Command::save);
+    EXPECT_FALSE(std::filesystem::exists(native(map_path(copy)))) << "it was without a map";
 }
 
 TEST_F(Documents_Test, undo_and_redo_of_a_saved_set_come_back_when_it_is_loaded) {

@@ -176,6 +176,26 @@ TEST_F(Recovery_Test, sets_a_damaged_journal_aside_and_takes_what_is_whole) {
     EXPECT_EQ(stored(path + ".damaged"), bytes);
 }
 
+TEST_F(Recovery_Test, knows_what_the_files_of_a_set_were_like) {
+    const std::string path = folder().path("set.qdl");
+    answer_files(File_Answer_State::chosen, path);
+    document().set_map(Tile_Map({2, 2}));
+    execute(Command::save);
+    play(script().click(cell(3, 4)));
+    for (const char* const changed : {"set.map has", "set.qdl and set.map have"}) {
+        kill_and_start();
+        recover();
+        store(folder().path(changed[4] == 'm' ? "set.map" : "set.qdl"), {'x'});
+        expect_question("Save",
+                        changed + std::string(" been written by another program or from another tab\r"
+                                              "since it was loaded or saved here. Overwrite that?"),
+                        Button_Type::overwrite)
+            .key(key::escape);
+        execute(Command::save);
+        EXPECT_TRUE(document().is_modified());
+    }
+}
+
 TEST_F(Recovery_Test, leaves_the_files_of_another_program_alone) {
     const std::string pad = folder().data_path("brushpad.dat");
     const auto keep_a_brush = [](const Art& picture) {
