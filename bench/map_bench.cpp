@@ -62,6 +62,27 @@ void map_frame(benchmark::State& state) {
     }
 }
 
+// The same with what a fill of all would place laid over it.
+void map_frame_with_preview(benchmark::State& state) {
+    const Tileset tileset = tiles_of(24);
+    Edited_Map map(many_coloured_map());
+    Map_View shown(map, tileset);
+    Map_Camera camera({view.width, view.height}, tileset.tile_size());
+    camera.centre(largest);
+    camera.zoom(static_cast<int>(state.range(0)) - static_cast<int>(real_size_scale), {view.width / 2, 100});
+    const Map_Stamp stamp{{2, 1}, {{Map_Cell(map.ids().id_of(0))}, {Map_Cell(map.ids().id_of(1))}}};
+    Map_Overlay overlay{{}, Map_Pattern(stamp, Stamp_Use::at_random, {0, 0}, 1)};
+    for (int y = 0; y < largest.height; ++y) {
+        overlay.runs.push_back({{0, y}, largest.width});
+    }
+    for (auto _ : state) {
+        camera.move({7, 5});
+        screen->clear();
+        shown.draw(camera, Map_Grid::shown, overlay);
+        screen->present();
+    }
+}
+
 void map_fill(benchmark::State& state) {
     Edited_Map map{Tile_Map(largest)};
     const Map_Stamp stamp{{2, 1}, {{Map_Cell(map.ids().id_of(0))}, {Map_Cell(map.ids().id_of(1))}}};
@@ -84,6 +105,7 @@ void map_open(benchmark::State& state) {
 }
 
 BENCHMARK(map_frame)->ArgsProduct({{6, 24, 64}, {0, 2, 3, 4, 10}})->Unit(benchmark::kMillisecond);
+BENCHMARK(map_frame_with_preview)->Arg(0)->Arg(2)->Arg(3)->Unit(benchmark::kMillisecond);
 BENCHMARK(map_fill)->Unit(benchmark::kMillisecond);
 BENCHMARK(map_open)->Unit(benchmark::kMillisecond);
 

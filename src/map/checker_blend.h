@@ -1,50 +1,40 @@
 #pragma once
 
-// Lays pixels over the squares of the board as `blended_over` does, but without asking what each pixel is
-// like: where opaque and translucent ones alternate, a wrong guess takes longer than the blending.
+// Lays a row of pixels over the squares of the board as `blended_over` does, but without asking what each
+// pixel is like: where opaque and translucent ones alternate, a wrong guess takes longer than the blending,
+// and the compiler does several at once.
 
 #include "color/translucency.h"
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace quadrelle {
 
-// Returns the number of the colour of the board, 0 or 1, at that point of it.
-[[nodiscard]] constexpr std::uint8_t checker_at(int x, int y) {
-    return checkerboard_color(x, y) == standard_color(Standard_Color::checker_light) ? 1 : 0;
+// Both colours of the board are grey. Returns how light it is at that point of it.
+[[nodiscard]] constexpr std::uint32_t board_grey(int x, int y) {
+    return checkerboard_color(x, y).g;
 }
+static_assert(standard_color(Standard_Color::checker_light).is_grey() &&
+              standard_color(Standard_Color::checker_dark).is_grey());
 
-namespace checker_blend {
-
-using Words = std::array<std::array<std::uint32_t, 256>, 2>;
-
-// What shows of each of both colours below each alpha.
-constexpr Words below = [] {
-    Words words{};
-    for (int alpha = 0; alpha < 256; ++alpha) {
-        const auto index = static_cast<std::size_t>(alpha);
-        const Color nothing(0, 0, 0, alpha);
-        words[0][index] = blended_over(nothing, standard_color(Standard_Color::checker_dark)).word();
-        words[1][index] = blended_over(nothing, standard_color(Standard_Color::checker_light)).word();
+// Both rows are of one length: the words of colours, which become opaque, and the greys of the board.
+inline void lay_over_board(std::span<std::uint32_t> words, std::span<const std::uint32_t> greys) {
+    // Two numbers of 16 bits, each divided by 255 and rounded down.
+    const auto divided = [](std::uint32_t pair) {
+        return (pair + 0x10001U + (pair >> 8U & 0xff00ffU)) >> 8U & 0xff00ffU;
+    };
+    std::uint32_t* const pixels = words.data();
+    const std::uint32_t* const board = greys.data();
+    const std::size_t count = words.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint32_t alpha = pixels[i] >> 24U;
+        const std::uint32_t red_and_blue = divided((pixels[i] & 0xff00ffU) * alpha);
+        const std::uint32_t green = divided((pixels[i] >> 8U & 0xffU) * alpha);
+        const std::uint32_t below = divided(board[i] * (255 - alpha));
+        pixels[i] = (red_and_blue | green << 8U) + (below | below << 8U | below << 16U | 0xff000000U);
     }
-    return words;
-}();
-
-// Two numbers of 16 bits, each divided by 255 and rounded down.
-[[nodiscard]] constexpr std::uint32_t divided(std::uint32_t pair) {
-    return (pair + 0x10001U + (pair >> 8U & 0xff00ffU)) >> 8U & 0xff00ffU;
-}
-
-} // namespace checker_blend
-
-[[nodiscard]] constexpr Color over_checker(Color color, std::uint8_t checker) {
-    const std::uint32_t word = color.word();
-    const std::uint32_t alpha = word >> 24U;
-    const std::uint32_t red_and_blue = checker_blend::divided((word & 0xff00ffU) * alpha);
-    const std::uint32_t green = checker_blend::divided((word >> 8U & 0xffU) * alpha);
-    return Color::from_word((red_and_blue | green << 8U) + checker_blend::below[checker][alpha]);
 }
 
 } // namespace quadrelle

@@ -5,6 +5,8 @@
 #include "map/checker_blend.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstring>
 
 namespace quadrelle {
 
@@ -38,11 +40,12 @@ void Map_Painter::find_stretches(const Map_Picture& picture, const Rectangle& pa
     stretches_.clear();
     tile_x_.assign(static_cast<std::size_t>(part.width), 0);
     column_.assign(static_cast<std::size_t>(part.width), 0);
+    words_.resize(static_cast<std::size_t>(part.width));
     for (int kind = 0; kind < 2; ++kind) {
-        std::vector<std::uint8_t>& checkers = checkers_.at(static_cast<std::size_t>(kind));
-        checkers.clear();
+        std::vector<std::uint32_t>& greys = board_.at(static_cast<std::size_t>(kind));
+        greys.clear();
         for (int x = part.x; x < part.right(); ++x) {
-            checkers.push_back(checker_at(x, kind * checker_edge));
+            greys.push_back(board_grey(x, kind * checker_edge));
         }
     }
     for (int i = 0; i < picture.area.width; ++i) {
@@ -83,8 +86,8 @@ void Map_Painter::paint(const Map_Picture& picture, const Rectangle& part, const
         std::fill_n(row, is_inside ? begin : part.width, surround);
         if (is_inside) {
             std::fill(row + end, row + part.width, surround);
-            paint_row(picture.row(look.cell_row), Cell_Pixels::Lines(pixels, look.tile_y),
-                      checkers_[look.checkers], row);
+            paint_row(picture.row(look.cell_row), Cell_Pixels::Lines(pixels, look.tile_y), board_[look.board],
+                      row);
         }
         if (is_inside && has_grid) {
             paint_grid(look.is_edge, row);
@@ -108,27 +111,31 @@ void Map_Painter::paint_grid(bool is_cell_edge, Color* row) const {
 }
 
 void Map_Painter::paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
-                            std::span<const std::uint8_t> checkers, Color* row) const {
+                            std::span<const std::uint32_t> board, Color* row) {
     const int* const tile_x = tile_x_.data();
-    const std::uint8_t* const checker = checkers.data();
-    const auto paint_pixel = [=](int x, Cell_Pixels::Line line) {
-        row[x] = over_checker(line.first[tile_x[x] * line.step], checker[x]);
-    };
+    std::uint32_t* const words = words_.data();
     const int begin = stretches_.front().begin;
     const int end = stretches_.back().end;
+    const auto take_pixel = [=](int x, Cell_Pixels::Line line) {
+        words[x] = std::bit_cast<std::uint32_t>(line.first[tile_x[x] * line.step]);
+    };
     if (end - begin < narrow_cell * static_cast<int>(stretches_.size())) {
         const int* const column = column_.data();
         for (int x = begin; x < end; ++x) {
-            paint_pixel(x, lines.of(cells[column[x]]));
+            take_pixel(x, lines.of(cells[column[x]]));
         }
-        return;
-    }
-    for (const Stretch& stretch : stretches_) {
-        const Cell_Pixels::Line line = lines.of(cells[stretch.column]);
-        for (int x = stretch.begin; x < stretch.end; ++x) {
-            paint_pixel(x, line);
+    } else {
+        for (const Stretch& stretch : stretches_) {
+            const Cell_Pixels::Line line = lines.of(cells[stretch.column]);
+            for (int x = stretch.begin; x < stretch.end; ++x) {
+                take_pixel(x, line);
+            }
         }
     }
+    const auto first = static_cast<std::size_t>(begin);
+    const auto count = static_cast<std::size_t>(end - begin);
+    lay_over_board(std::span(words_).subspan(first, count), board.subspan(first, count));
+    std::memcpy(static_cast<void*>(row + begin), words + begin, count * sizeof(Color));
 }
 
 Map_Rows::Map_Rows(const Tile_Map& map, Tile_Pictures tiles, Size tile)

@@ -51,23 +51,24 @@ private:
     // What a row of the view shows: two of which all is the same look the same.
     struct Row_Look {
         int cell_row = 0;
-        int tile_y = 0;           // within the cell
-        std::size_t checkers = 0; // which of both kinds
-        bool is_edge = false;     // the grid has a line there
+        int tile_y = 0;        // within the cell
+        std::size_t board = 0; // which of both kinds
+        bool is_edge = false;  // the grid has a line there
 
         bool operator==(const Row_Look&) const = default;
     };
     [[nodiscard]] static Row_Look look_of(const Map_Picture& picture, int y);
     void find_stretches(const Map_Picture& picture, const Rectangle& part);
     void paint_row(const Map_Cell* cells, const Cell_Pixels::Lines& lines,
-                   std::span<const std::uint8_t> checkers, Color* row) const;
+                   std::span<const std::uint32_t> board, Color* row);
     void paint_grid(bool is_cell_edge, Color* row) const;
 
     std::vector<Stretch> stretches_;
-    // The colours of the board, in rows of both kinds.
-    std::array<std::vector<std::uint8_t>, 2> checkers_;
-    std::vector<int> column_; // of the cells, for each pixel of a row
-    std::vector<int> tile_x_; // which pixel of its tile each pixel of a row shows
+    // The greys of the board, in rows of both kinds.
+    std::array<std::vector<std::uint32_t>, 2> board_;
+    std::vector<std::uint32_t> words_; // of the pixels of a row
+    std::vector<int> column_;          // of the cells, for each pixel of a row
+    std::vector<int> tile_x_;          // which pixel of its tile each pixel of a row shows
 };
 
 // The whole map in its real size, row by row. Borrows map and tiles.
