@@ -160,6 +160,10 @@ void Editor::handle(const Input_Event& event) {
         break;
     case Input_Kind::button_press:
         parts_->pointer = event.pointer;
+        if (parts_->has_come_by_click && event.clicks > 2) {
+            break;
+        }
+        parts_->has_come_by_click = false;
         parts_->clicks = event.clicks;
         parts_->panes.hint_lines().end_report();
         press(press_mouse(*parts_));

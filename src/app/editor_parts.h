@@ -45,6 +45,8 @@ struct Editor_Parts {
     Redraw redraw;
     Pointer_State pointer = pointer_nowhere;
     int clicks = 0; // of the press that is answered: 2 for that of a double click
+    // The second of two clicks brought a tile into view: one more was none that was meant to draw on it.
+    bool has_come_by_click = false;
     bool is_quit_requested = false;
     std::string file_to_load; // which nobody has to be asked about
     Size shown_tile_size;

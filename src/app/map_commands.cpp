@@ -73,6 +73,7 @@ Outcome edit(Editor_Parts& editor) {
     Map_Editor map_editor(document, links);
     if (const std::optional<Map_Visit> visit = map_editor.run()) {
         go_to_tile(editor, visit->tile);
+        editor.has_come_by_click = true;
     }
     if (map_editor.is_map_unwanted()) {
         document.remove_map();

@@ -142,11 +142,15 @@ void Canvas_View::undo_seam_shifts() {
 }
 
 void Canvas_View::restore_seam_shifts(Tile_Point shifts) {
-    if (shifts.x != seam_shifts().x) {
-        toggle_seam_shift(Seam::horizontal);
-    }
-    if (shifts.y != seam_shifts().y) {
-        toggle_seam_shift(Seam::vertical);
+    const Tile_Point now = seam_shifts();
+    restore_seam_shift(Seam::horizontal, now.x, shifts.x);
+    restore_seam_shift(Seam::vertical, now.y, shifts.y);
+}
+
+void Canvas_View::restore_seam_shift(Seam seam, int now, int shift) {
+    if (shift != now) {
+        shift_pixels(seam, shift - now);
+        seam_shift(seam) = shift > 0 ? shift : no_seam_shift;
     }
 }
 

@@ -88,7 +88,8 @@ public:
     [[nodiscard]] Tile_Point seam_shifts() const {
         return {std::max(horizontal_seam_shift_, 0), std::max(vertical_seam_shift_, 0)};
     }
-    // Makes the shifts what they were once, for a tile of the same size.
+    // Makes the shifts what they were once, for a tile of the same size. What floats goes with the pixels,
+    // also out of reach.
     void restore_seam_shifts(Tile_Point shifts);
     // Does the work on the tile as it really is; the work leaves its size and keeps it on view.
     void with_tile_in_place(const std::function<void()>& work);
@@ -170,6 +171,7 @@ private:
     };
 
     void undo_seam_shift(Seam seam);
+    void restore_seam_shift(Seam seam, int now, int shift);
     // The pixels of the tile and all that belongs to them, right or down, or back where negative.
     void shift_pixels(Seam seam, int shift);
     [[nodiscard]] int& seam_shift(Seam seam) {

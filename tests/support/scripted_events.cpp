@@ -140,9 +140,9 @@ Script& Script::click(Point position, Mouse_Button button) {
     return press(position, button).release(position, button);
 }
 
-Script& Script::second_press(Point position) {
+Script& Script::second_press(Point position, std::uint8_t clicks) {
     SDL_Event event = button_event(SDL_EVENT_MOUSE_BUTTON_DOWN, position, SDL_BUTTON_LEFT);
-    event.button.clicks = 2;
+    event.button.clicks = clicks;
     return add_event(event);
 }
 

@@ -6,6 +6,7 @@
 #include "base/input.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <string>
@@ -42,8 +43,8 @@ public:
     Script& at_once(std::size_t count);
     // Press and release.
     Script& click(Point position, Mouse_Button button = Mouse_Button::left);
-    // The second of two clicks, without its release.
-    Script& second_press(Point position);
+    // The second of two quick clicks, or a later one, without its release.
+    Script& second_press(Point position, std::uint8_t clicks = 2);
     // Pressed at the first point, moved to each of the others, and released at the last one.
     Script& drag(const std::vector<Point>& points, Mouse_Button button = Mouse_Button::left);
     Script& wheel(float amount, Point at = {});

@@ -120,6 +120,11 @@ TEST_F(Map_Editor_Test, a_double_click_goes_to_the_tile_that_was_there) {
     EXPECT_EQ(document().tileset().current_index(), 2);
     EXPECT_EQ(tile_at(10, 10), 2);
     EXPECT_TRUE(map().history().can_redo());
+    // A third click is no stroke, the next one is.
+    play(script().second_press(cell(3, 3), 3).release(cell(3, 3)));
+    EXPECT_EQ(tile_pixel(3, 3), Color(80, 100, 200));
+    play(script().click(cell(3, 3)));
+    EXPECT_NE(tile_pixel(3, 3), Color(80, 100, 200));
 
     // A key between two clicks makes them two presses.
     script().click(at(10, 10)).key('z', Modifier::control).second_press(at(10, 10)).release(at(10, 10));

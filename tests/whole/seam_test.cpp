@@ -117,6 +117,20 @@ TEST_F(Seam_Test, a_copy_that_floats_stays_in_reach) {
     EXPECT_EQ(work.paste()->position, (Tile_Point{14, 14}));
 }
 
+// It would drop somewhere else, if it came into reach.
+TEST_F(Seam_Test, what_was_lifted_comes_back_where_it_was_seen) {
+    execute(Command::work_selection);
+    execute(Command::horizontal_seam_tool);
+    Work_Area& work = canvas().work_area();
+    work.select(selected_rectangle({24, 24}, {15, 4}, {23, 8}), Selection_Change::add);
+    play(script().drag({cell(17, 6), cell(23, 6)}));
+    ASSERT_EQ(work.paste()->position, (Tile_Point{21, 4}));
+    execute(Command::horizontal_seam_tool);
+    execute(Command::undo);
+    EXPECT_EQ(work.paste()->position, (Tile_Point{21, 4}));
+    EXPECT_EQ(canvas().horizontal_seam_shift(), 12);
+}
+
 // Across the edge that the shift brought into the middle.
 TEST_F(Seam_Test, a_selection_is_mirrored_about_its_own_middle_meanwhile) {
     execute(Command::horizontal_seam_tool);
