@@ -1,26 +1,17 @@
+#include "byte_file.h"
 #include "picture_files.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <fstream>
 #include <vector>
 
 namespace quadrelle {
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
 constexpr std::size_t file_header_size = 14;
 constexpr std::size_t picture_header_size = 40;
 constexpr std::size_t largest_palette = 256;
 constexpr unsigned pixels_per_metre = 2835;
-
-void put_number(Bytes& bytes, std::size_t value, int count) {
-    for (int i = 0; i < count; ++i) {
-        bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-    }
-}
 
 void put_colour(Bytes& bytes, Rgb colour) {
     bytes.push_back(colour.b);
@@ -91,11 +82,7 @@ Bytes encode_bmp(const Sheet_Picture& sheet) {
 } // namespace
 
 bool write_bmp(const Sheet_Picture& sheet, const std::filesystem::path& path) {
-    const Bytes bytes = encode_bmp(sheet);
-    std::ofstream stream(path, std::ios::binary);
-    stream.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    stream.close();
-    return stream.good();
+    return write_bytes(encode_bmp(sheet), path);
 }
 
 } // namespace quadrelle
