@@ -1,22 +1,11 @@
 #ifdef _WIN32
 
 #include "base/file_lock.h"
+#include "base/names_windows.h"
 
 #include <windows.h>
 
 namespace quadrelle {
-
-namespace {
-
-std::wstring wide(const std::string& text) {
-    const int size = static_cast<int>(text.size());
-    const int length = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
-    std::wstring result(static_cast<std::size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, result.data(), length);
-    return result;
-}
-
-} // namespace
 
 // Shared with nobody, and gone when it is closed.
 File_Lock::File_Lock(const std::string& path) : path_(path) {

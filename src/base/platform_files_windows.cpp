@@ -1,5 +1,6 @@
 #ifdef _WIN32
 
+#include "base/names_windows.h"
 #include "base/platform_files.h"
 #include "base/platform_files_backend.h"
 
@@ -8,6 +9,7 @@
 #include <io.h>
 #include <share.h>
 #include <sys/stat.h>
+#include <vector>
 #include <windows.h>
 
 namespace quadrelle {
@@ -15,23 +17,6 @@ namespace quadrelle {
 namespace {
 
 constexpr DWORD longest_path = 32768;
-
-// Empty for a name that is no UTF-8.
-std::wstring wide(const std::string& text) {
-    const int size = static_cast<int>(text.size());
-    const int length = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, nullptr, 0);
-    std::wstring result(static_cast<std::size_t>(length), L'\0');
-    MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, text.data(), size, result.data(), length);
-    return result;
-}
-
-std::string narrow(const std::wstring& text) {
-    const int size = static_cast<int>(text.size());
-    const int length = WideCharToMultiByte(CP_UTF8, 0, text.data(), size, nullptr, 0, nullptr, nullptr);
-    std::string result(static_cast<std::size_t>(length), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, text.data(), size, result.data(), length, nullptr, nullptr);
-    return result;
-}
 
 int flags(File_Mode mode) {
     switch (mode) {
@@ -138,7 +123,29 @@ void touch_file(const std::string& name) {
     }
 }
 
-void take_permissions(std::FILE*, const std::string&) {}
+// Who may do what with the file, as it is: nothing is inherited anew.
+void take_permissions(std::FILE* file, const std::string& name) {
+    const std::wstring path = wide(name);
+    DWORD size = 0;
+    GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<std::uint8_t> descriptor(size);
+    if (GetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), size, &size) == 0) {
+        return;
+    }
+    SECURITY_DESCRIPTOR_CONTROL control = 0;
+    DWORD revision = 0;
+    if (GetSecurityDescriptorControl(descriptor.data(), &control, &revision) != 0 &&
+        (control & SE_DACL_AUTO_INHERITED) != 0) {
+        constexpr SECURITY_DESCRIPTOR_CONTROL keep_inherited = SE_DACL_AUTO_INHERIT_REQ;
+        SetSecurityDescriptorControl(descriptor.data(), keep_inherited, keep_inherited);
+    }
+    const HANDLE opened = ReOpenFile(handle_of(_fileno(file)), WRITE_DAC,
+                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, 0);
+    if (opened != INVALID_HANDLE_VALUE) {
+        SetKernelObjectSecurity(opened, DACL_SECURITY_INFORMATION, descriptor.data());
+        CloseHandle(opened);
+    }
+}
 
 // Replacing a file writes through to the disk.
 void flush_folder(const std::string&) {}
