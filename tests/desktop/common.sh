@@ -36,7 +36,7 @@ fail() {
 }
 
 start_editor() {
-    (cd "$work/run" && exec env -u DBUS_SESSION_BUS_ADDRESS PATH="${program_path:-$work/bin:$PATH}" \
+    (cd "${run_folder:-$work/run}" && exec env -u DBUS_SESSION_BUS_ADDRESS PATH="${program_path:-$work/bin:$PATH}" \
         SDL_VIDEO_DRIVER=x11 "$QUADRELLE_PROGRAM") >"$work/output" 2>&1 &
     editor_pid=$!
     editor_window=$(timeout 20 xdotool search --sync --onlyvisible --name '^Quadrelle') || fail "there is no window"
