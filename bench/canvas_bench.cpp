@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <functional>
 #include <string_view>
 #include <thread>
 #include <utility>
@@ -246,8 +247,22 @@ void undo_step(benchmark::State& state) {
     }
 }
 
-// What a finished stroke costs until the journal has taken it over, in a set of 256 tiles. Of the strokes the
-// median; between two of them the disk has time.
+// What it costs until the journal has taken over what `change` has done. Of 200 changes the median; between
+// two of them the disk has time.
+double median_of_keeping(const std::function<void(int number)>& change) {
+    std::vector<double> seconds;
+    for (int number = 0; number < 200; ++number) {
+        change(number);
+        const Clock::time_point start = Clock::now();
+        editor->documents().mark_changed();
+        seconds.push_back(seconds_since(start));
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    std::ranges::sort(seconds);
+    return seconds.at(seconds.size() / 2);
+}
+
+// A finished stroke, in a set of 256 tiles.
 void keep_stroke(benchmark::State& state) {
     const int edge = static_cast<int>(state.range(0));
     editor->documents().new_document({edge, edge});
@@ -256,17 +271,24 @@ void keep_stroke(benchmark::State& state) {
     document.tileset().select(0);
     editor->documents().mark_changed();
     for (auto _ : state) {
-        std::vector<double> seconds;
-        for (int stroke = 0; stroke < 200; ++stroke) {
-            document.tileset().current_tile()->set_pixel_at(stroke, {200, 30, 40});
+        state.SetIterationTime(median_of_keeping([&](int number) {
+            document.tileset().current_tile()->set_pixel_at(number, {200, 30, 40});
             document.record(Command::pen, {}, {});
-            const Clock::time_point start = Clock::now();
-            editor->documents().mark_changed();
-            seconds.push_back(seconds_since(start));
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-        }
-        std::ranges::sort(seconds);
-        state.SetIterationTime(seconds.at(seconds.size() / 2));
+        }));
+    }
+}
+
+// A gesture on the largest map.
+void keep_map_gesture(benchmark::State& state) {
+    editor->documents().new_document({8, 8});
+    Edited_Map& map = editor->documents().current().set_map(Tile_Map({largest_map_edge, largest_map_edge}));
+    editor->documents().mark_changed();
+    for (auto _ : state) {
+        state.SetIterationTime(median_of_keeping([&](int number) {
+            map.begin();
+            map.set({number, number}, Map_Cell(0));
+            map.commit();
+        }));
     }
 }
 
@@ -292,6 +314,7 @@ BENCHMARK(keep_stroke)
     ->UseManualTime()
     ->Iterations(2)
     ->Unit(benchmark::kMicrosecond);
+BENCHMARK(keep_map_gesture)->UseManualTime()->Iterations(2)->Unit(benchmark::kMicrosecond);
 BENCHMARK(undo_step)->Arg(64)->Unit(benchmark::kMicrosecond);
 
 } // namespace

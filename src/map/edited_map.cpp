@@ -151,7 +151,7 @@ int Edited_Map::tile_deleted(int index) {
 
 void Edited_Map::ask_for_gone(const Bring_Back& bring_back) {
     std::set<int> gone;
-    for (const Map_Cell cell : map_.cells()) {
+    for (const Map_Cell cell : std::as_const(map_).cells()) {
         if (!cell.is_empty() && ids_.index_of(cell.tile()) < 0) {
             gone.insert(cell.tile());
         }

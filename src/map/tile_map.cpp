@@ -5,7 +5,8 @@
 namespace quadrelle {
 
 Tile_Map::Tile_Map(Size size)
-    : size_(size), cells_(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height)) {}
+    : size_(size), cells_(std::make_shared<Cells>(static_cast<std::size_t>(size.width) *
+                                                  static_cast<std::size_t>(size.height))) {}
 
 Tile_Map Tile_Map::resized(const Map_Sides& sides) const {
     Tile_Map result(quadrelle::resized(size_, sides));

@@ -5,8 +5,11 @@
 #include "base/geometry.h"
 #include "map/map_cell.h"
 
+#include <atomic>
 #include <cstddef>
+#include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace quadrelle {
@@ -40,6 +43,7 @@ struct Map_Sides {
     return {size.width + sides.left + sides.right, size.height + sides.top + sides.bottom};
 }
 
+// A copy shares its cells with the map until one of both is changed: another thread may read it meanwhile.
 class Tile_Map {
 public:
     // Every cell is empty. The size must be one of a map.
@@ -50,34 +54,46 @@ public:
     [[nodiscard]] bool contains(Map_Point point) const { return area().contains({point.x, point.y}); }
     // Nothing lies outside.
     [[nodiscard]] Map_Cell at(Map_Point point) const {
-        return contains(point) ? cells_[offset(point)] : Map_Cell();
+        return contains(point) ? (*cells_)[offset(point)] : Map_Cell();
     }
     // Nothing happens outside.
     void set(Map_Point point, Map_Cell cell) {
         if (contains(point)) {
-            cells_[offset(point)] = cell;
+            own_cells()[offset(point)] = cell;
         }
     }
     // Row by row from the top.
-    [[nodiscard]] std::span<const Map_Cell> cells() const { return cells_; }
-    [[nodiscard]] std::span<Map_Cell> cells() { return cells_; }
+    [[nodiscard]] std::span<const Map_Cell> cells() const { return *cells_; }
+    [[nodiscard]] std::span<Map_Cell> cells() { return own_cells(); }
     [[nodiscard]] std::span<const Map_Cell> row(int y) const {
-        return cells().subspan(offset({0, y}), static_cast<std::size_t>(size_.width));
+        return std::as_const(*this).cells().subspan(offset({0, y}), static_cast<std::size_t>(size_.width));
     }
 
     // The size that comes of it must be one of a map.
     [[nodiscard]] Tile_Map resized(const Map_Sides& sides) const;
 
-    bool operator==(const Tile_Map&) const = default;
+    bool operator==(const Tile_Map& other) const {
+        return size_ == other.size_ && (cells_ == other.cells_ || *cells_ == *other.cells_);
+    }
 
 private:
+    using Cells = std::vector<Map_Cell>;
+
+    // Whoever gives the cells back on another thread has read them before.
+    [[nodiscard]] Cells& own_cells() {
+        if (cells_.use_count() > 1) {
+            cells_ = std::make_shared<Cells>(*cells_);
+        }
+        std::atomic_thread_fence(std::memory_order_acquire);
+        return *cells_;
+    }
     [[nodiscard]] std::size_t offset(Map_Point point) const {
         return static_cast<std::size_t>(point.y) * static_cast<std::size_t>(size_.width) +
                static_cast<std::size_t>(point.x);
     }
 
     Size size_;
-    std::vector<Map_Cell> cells_;
+    std::shared_ptr<Cells> cells_;
 };
 
 } // namespace quadrelle
