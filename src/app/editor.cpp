@@ -85,11 +85,12 @@ bool Editor::show_first_frame() {
     }
     parts_->panes.size_preview();
     tool_colors->reset();
-    if (data_directory().is_shared()) {
+    if (const int number = data_directory().program_number(); number > 1) {
+        const bool is_second = number == 2;
         parts_->panes.hint_lines().report_lastingly(
-            {"A second Quadrelle",
-             "Another one runs in this folder. This one keeps a brush pad and unsaved work "
-             "of its own."});
+            {is_second ? "A second Quadrelle" : "One more Quadrelle",
+             std::string(is_second ? "Another one runs" : "Others run") +
+                 " in this folder. This one keeps a brush pad and unsaved work of its own."});
     }
     if (const std::string note = palette_list->take_note(); !note.empty()) {
         trace(note);

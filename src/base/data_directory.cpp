@@ -29,8 +29,17 @@ void Data_Directory::leave() {
     }
 }
 
+// The first one has the folder itself, the others a file each.
 void Data_Directory::claim() {
-    lock_ = File_Lock::of_folder(current_directory());
+    constexpr int most_programs = 100;
+    const std::string folder = current_directory();
+    lock_ = File_Lock::of_folder(folder);
+    program_number_ = 1;
+    while (lock_->is_held_elsewhere() && program_number_ < most_programs) {
+        ++program_number_;
+        lock_ = std::make_unique<File_Lock>(folder + path_separator + "program" +
+                                            std::to_string(program_number_) + ".lock");
+    }
 }
 
 void Data_Directory::hold() {

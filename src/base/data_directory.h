@@ -29,15 +29,16 @@ public:
     // Takes "data" for this program, which stands in it, until it gives it back.
     void claim();
     void give_back() { lock_.reset(); }
-    // Whether another program had it when this one started: each keeps to its own files then, where both
-    // would write the same ones.
-    [[nodiscard]] bool is_shared() const { return lock_ && lock_->is_held_elsewhere(); }
+    // From 1: which one of those this is that run in "data". Each keeps to its own files where several would
+    // write the same ones, and has a number that no other one has meanwhile.
+    [[nodiscard]] int program_number() const { return program_number_; }
 
     // Returns the name that opens a data file from where the process stands.
     [[nodiscard]] std::string path(const std::string& file_name) const;
 
 private:
     int index_ = outside;
+    int program_number_ = 1;
     std::unique_ptr<File_Lock> lock_;
     std::unique_ptr<Held_Folder> held_;
 };

@@ -47,9 +47,10 @@ Tool_Color_Panes color_panes_of(Tool tool) {
 
 constexpr const char* brush_pad_file = "brushpad.dat";
 
-// The second program of a folder does not overwrite what the first one keeps.
+// The other programs of a folder do not overwrite what the first one keeps.
 std::string brush_pad_path() {
-    return data_directory().path(data_directory().is_shared() ? "brushpad2.dat" : brush_pad_file);
+    const int number = data_directory().program_number();
+    return data_directory().path(number == 1 ? brush_pad_file : "brushpad" + std::to_string(number) + ".dat");
 }
 
 // Where that has no pad of its own yet it begins with the other one.
