@@ -5,6 +5,7 @@
 #include "base/error_note.h"
 #include "base/file_lock.h"
 #include "base/file_names.h"
+#include "base/kept_files.h"
 #include "base/platform_files.h"
 #include "base/text_lines.h"
 #include "tileset/journal_file.h"
@@ -18,6 +19,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -65,12 +67,24 @@ std::vector<std::unique_ptr<Tileset_Document>> documents_of(const std::vector<Fo
     return documents;
 }
 
-// A damaged one is kept under another name.
+constexpr std::string_view damaged_ending = ".damaged";
+constexpr Kept_Limits damaged_limits{20, std::int64_t{64} << 20U};
+
+// A damaged one is kept under another name, after what is whole in it was taken. It was written to just now,
+// as it were, so that those found later push it out and not the other way round.
 void remove(const Found_Journal& journal) {
     remove_file(journal_rest_path(journal.path));
-    if (!journal.read.is_damaged || !replace_file(journal.path, journal.path + ".damaged")) {
+    if (!journal.read.is_damaged) {
         remove_file(journal.path);
+    } else if (const std::string aside = journal.path + std::string(damaged_ending);
+               replace_file(journal.path, aside)) {
+        touch_file(aside);
     }
+}
+
+void limit_damaged(const std::string& folder) {
+    keep_newest_files(
+        folder, [](std::string_view name) { return name.ends_with(damaged_ending); }, damaged_limits);
 }
 
 bool tell_damage(const std::vector<Found_Journal>& journals) {
@@ -132,6 +146,7 @@ bool recover_journals(Editor_Parts& editor) {
     }
     if (is_over) {
         std::ranges::for_each(journals, remove);
+        limit_damaged(folder);
     }
     const bool tells = is_over && tell_damage(journals);
     return asks || tells;

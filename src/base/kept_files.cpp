@@ -5,6 +5,7 @@
 #include "base/platform_files.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -43,7 +44,7 @@ struct Kept {
 
 } // namespace
 
-Kept_Files::Kept_Files(std::string folder, std::string extension, Limits limits)
+Kept_Files::Kept_Files(std::string folder, std::string extension, Kept_Limits limits)
     : folder_(std::move(folder)), extension_(std::move(extension)), limits_(limits) {}
 
 std::string Kept_Files::path_for(const std::string& file) const {
@@ -72,10 +73,16 @@ bool Kept_Files::make_folder() const {
 }
 
 void Kept_Files::keep_to_limits() const {
+    keep_newest_files(
+        folder_, [this](std::string_view name) { return is_kept_name(name, extension_); }, limits_);
+}
+
+void keep_newest_files(const std::string& folder, const std::function<bool(std::string_view name)>& is_meant,
+                       Kept_Limits limits) {
     std::vector<Kept> kept;
-    for (const std::string& name : folder_names(folder_)) {
-        const std::string path = joined_path(folder_, name);
-        if (const auto state = file_state(path); state && is_kept_name(name, extension_)) {
+    for (const std::string& name : folder_names(folder)) {
+        const std::string path = joined_path(folder, name);
+        if (const auto state = is_meant(name) ? file_state(path) : std::nullopt) {
             kept.push_back({path, *state});
         }
     }
@@ -83,7 +90,7 @@ void Kept_Files::keep_to_limits() const {
     std::int64_t bytes = 0;
     for (std::size_t i = 0; i < kept.size(); ++i) {
         bytes += kept[i].state.size;
-        if (i > 0 && (i >= limits_.files || bytes > limits_.bytes)) {
+        if (i > 0 && (i >= limits.files || bytes > limits.bytes)) {
             remove_file(kept[i].path);
         }
     }

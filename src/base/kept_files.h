@@ -5,18 +5,25 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <string_view>
 
 namespace quadrelle {
 
+struct Kept_Limits {
+    std::size_t files;
+    std::int64_t bytes;
+};
+// Removes the oldest of those files of a folder that are meant until the others are within the limits; the
+// newest one stays in any case.
+void keep_newest_files(const std::string& folder, const std::function<bool(std::string_view name)>& is_meant,
+                       Kept_Limits limits);
+
 class Kept_Files {
 public:
-    struct Limits {
-        std::size_t files;
-        std::int64_t bytes;
-    };
     // Neither has to be there.
-    Kept_Files(std::string folder, std::string extension, Limits limits);
+    Kept_Files(std::string folder, std::string extension, Kept_Limits limits);
 
     [[nodiscard]] const std::string& folder() const { return folder_; }
     // Returns the path of what is kept for that file. It has the file's name in it, and the same for all
@@ -34,7 +41,7 @@ public:
 private:
     std::string folder_;
     std::string extension_;
-    Limits limits_;
+    Kept_Limits limits_;
 };
 
 } // namespace quadrelle

@@ -16,7 +16,7 @@ namespace {
 constexpr std::uint64_t magic = 0x01'4f444e554c4451U; // "QDLUNDO" and the version, the lowest byte first
 constexpr std::size_t word_bytes = 8;
 constexpr std::int64_t farthest = std::int64_t{1} << 20U; // that something floats away from its tile
-constexpr Kept_Files::Limits limits{200, std::int64_t{64} << 20U};
+constexpr Kept_Limits limits{200, std::int64_t{64} << 20U};
 constexpr std::int64_t largest_file = limits.bytes;
 
 Size read_size(History_Reader& from) {

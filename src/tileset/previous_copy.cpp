@@ -14,7 +14,7 @@ namespace quadrelle {
 
 namespace {
 
-constexpr Kept_Files::Limits limits{100, std::int64_t{256} << 20U};
+constexpr Kept_Limits limits{100, std::int64_t{256} << 20U};
 constexpr std::size_t block_size = std::size_t{1} << 20U;
 
 bool copy_file(const std::string& from, const std::string& to) {

@@ -169,10 +169,14 @@ TEST_F(Recovery_Test, sets_a_damaged_journal_aside_and_takes_what_is_whole) {
     Bytes bytes = stored(path);
     bytes.at(0) ^= 1;
     store(path, bytes);
+    for (int i = 0; i < 30; ++i) {
+        store_text(folder().data_path("journal/" + std::to_string(i) + ".journal.damaged"), "older");
+    }
     script().key(key::enter);
     expect_loop("dialog \"Note\"").key(key::enter);
     editor->offer_recovery();
     EXPECT_EQ(tile_pixel(5, 5), white);
+    EXPECT_EQ(files().size(), 20U + 2U) << "damaged ones, the new one and its lock";
     EXPECT_EQ(stored(path + ".damaged"), bytes);
 }
 
@@ -216,6 +220,15 @@ TEST_F(Recovery_Test, leaves_the_files_of_another_program_alone) {
     keep_a_brush({".#"});
     shut_down_application();
     EXPECT_EQ(stored(pad), first);
+    {
+        const File_Lock second(folder().data_path("program2.lock"));
+        start_application();
+        ASSERT_TRUE(editor->show_first_frame());
+        EXPECT_EQ(editor->panes().hint_lines().lines().front(), "One more Quadrelle");
+        keep_a_brush({"##"});
+        shut_down_application();
+        EXPECT_TRUE(std::filesystem::exists(native(folder().data_path("brushpad3.dat"))));
+    }
     // That one again, later.
     start_application();
     ASSERT_TRUE(editor->show_first_frame());
