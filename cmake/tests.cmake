@@ -41,8 +41,12 @@ elseif(desktop_tests AND TARGET quadrelle)
     quadrelle_options(drop_files)
     foreach(script ${desktop_tests})
         get_filename_component(name ${script} NAME_WE)
+        set(display 1280x800x24)
+        if(name STREQUAL large_screen)
+            set(display 3840x2160x24)
+        endif()
         add_test(NAME desktop.${name}
-            COMMAND ${XVFB_RUN} -a -s "-screen 0 1280x800x24" bash ${script}
+            COMMAND ${XVFB_RUN} -a -s "-screen 0 ${display}" bash ${script}
             WORKING_DIRECTORY ${CMAKE_SOURCE_DIR})
         set_tests_properties(desktop.${name} PROPERTIES
             LABELS desktop TIMEOUT 300 RESOURCE_LOCK display

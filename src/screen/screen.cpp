@@ -289,9 +289,8 @@ void Screen::warp_mouse(Point position) {
 }
 
 Pointer_State Screen::read_pointer() const {
-    Pointer_State pointer;
-    SDL_GetMouseState(&pointer.x, &pointer.y);
-    return pointer;
+    const Window_View::Position position = window_.pointer();
+    return {position.x, position.y, Mouse_Button::none};
 }
 
 std::string Screen::renderer_name() const {

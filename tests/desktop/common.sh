@@ -81,7 +81,10 @@ shown() {
     wait_until is_still "$before" || fail "nothing was seen of: $*"
 }
 
-move() { xdotool mousemove --window "$editor_window" "$1" "$2"; }
+# In a window that shows all of it "zoom" times as large, and beside a margin.
+move() {
+    xdotool mousemove --window "$editor_window" $(($1 * ${zoom:-1} + ${margin_x:-0})) $(($2 * ${zoom:-1} + ${margin_y:-0}))
+}
 click() {
     move "$1" "$2"
     settle
