@@ -29,8 +29,8 @@ remove() {
     echo "Quadrelle is removed. What you made is still in $home."
 }
 
-# A path as the value of "Exec" wants it; the first two rounds are for sed's own replacement.
-quoted() { printf '%s' "$1" | sed 's/[\\"`$]/\\\\&/g; s/%/%%/g'; }
+# A path between the quotes of "Exec": escaped for them, and that once more as all values are.
+quoted() { printf '%s' "$1" | sed 's/\\/\\\\\\\\/g; s/["`$]/\\\\&/g; s/%/%%/g'; }
 
 install() {
     mkdir -p "$home/data" "${command%/*}" "$share/mime/packages"
