@@ -43,6 +43,11 @@ for name in empty "Größe 漢字"; do
     [ ! -e "$own" ] || fail "there is a folder of the user's own besides"
 done
 
+mkdir "$work/deb"
+dpkg-deb -x "$(echo "$QUADRELLE_SOURCE_DIR"/build/packages/quadrelle_*_amd64.deb)" "$work/deb"
+QUADRELLE_PROGRAM=$work/deb/usr/bin/quadrelle
+draw_and_save deb "$work/deb/usr/lib/quadrelle/data"
+
 in_new_home() { env HOME="$work/new home" "$@"; }
 in_new_home sh "$work"/empty/*/install.sh >"$work/output"
 QUADRELLE_PROGRAM="$work/new home/.local/bin/quadrelle"
