@@ -81,6 +81,12 @@ Journal_Keeper::~Journal_Keeper() {
 }
 
 void Journal_Keeper::follow() {
+    if (writer_.take_loss()) {
+        // All of it is told anew.
+        for (auto& [number, followed] : followed_) {
+            followed = {};
+        }
+    }
     for (const auto& document : documents_.all()) {
         follow(*document);
     }

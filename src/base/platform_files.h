@@ -40,6 +40,9 @@ void set_file_fault(std::string_view what);
 // everywhere can that be done.
 [[nodiscard]] bool link_file(const std::string& from, const std::string& to);
 bool remove_file(const std::string& name);
+// Whether somebody has removed the file that is open, so that what is written to it is lost. Where the
+// platform does not let that happen nobody has.
+[[nodiscard]] bool is_removed(std::FILE* file);
 // Whether there is no such file yet, or a regular one that may be written to.
 [[nodiscard]] bool can_replace(const std::string& name);
 // Where the platform has them, the open file takes the owner, as far as that is allowed, and the permission

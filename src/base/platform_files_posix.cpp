@@ -107,6 +107,11 @@ bool remove_file(const std::string& name) {
     return unlink(name.c_str()) == 0;
 }
 
+bool is_removed(std::FILE* file) {
+    struct stat status = {};
+    return fstat(fileno(file), &status) == 0 && status.st_nlink == 0;
+}
+
 bool platform::can_replace(const std::string& name) {
     struct stat status = {};
     if (stat(name.c_str(), &status) != 0) {

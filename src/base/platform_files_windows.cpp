@@ -91,6 +91,10 @@ bool remove_file(const std::string& name) {
     return DeleteFileW(wide(name).c_str()) != 0;
 }
 
+bool is_removed(std::FILE* /*file*/) {
+    return false;
+}
+
 bool platform::can_replace(const std::string& name) {
     const DWORD attributes = GetFileAttributesW(wide(name).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {

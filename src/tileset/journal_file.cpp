@@ -78,6 +78,11 @@ Journal_File::Journal_File(std::string folder) : folder_(std::move(folder)) {}
 Journal_File::~Journal_File() = default;
 
 bool Journal_File::write(const std::vector<Handed_Set>& sets) {
+    is_lost_ = file_ && is_removed(file_.get());
+    if (is_lost_) {
+        remove();
+        return true;
+    }
     for (const Handed_Set& set : sets) {
         note(set);
     }

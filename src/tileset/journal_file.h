@@ -56,6 +56,8 @@ public:
 
     // Answers whether all that was handed over is on the disk. What is not is tried again with the next sets.
     bool write(const std::vector<Handed_Set>& sets);
+    // Whether the file was found removed with that: nothing was written, and all has to be handed over anew.
+    [[nodiscard]] bool is_lost() const { return is_lost_; }
     // Nothing more is written; what is there stays.
     void give_up() { is_given_up_ = true; }
     // There is nothing left to recover; what comes later begins a new file.
@@ -86,6 +88,7 @@ private:
     std::string path_;
     std::unique_ptr<File_Lock> lock_;
     File_Handle file_;
+    bool is_lost_ = false;
     bool is_cut_ = false;      // something was written in part
     bool is_given_up_ = false; // more than is worth keeping could not be written
     std::size_t size_ = 0;

@@ -44,6 +44,14 @@ bool Journal_Writer::has_failed() {
     return has_failed_;
 }
 
+bool Journal_Writer::take_loss() {
+    const std::lock_guard lock(mutex_);
+    if (is_lost_) {
+        waiting_.clear();
+    }
+    return std::exchange(is_lost_, false);
+}
+
 // Without memory for it the program goes on without a journal, and says so.
 bool Journal_Writer::write(const std::vector<Handed_Set>& sets) {
     try {
@@ -63,12 +71,17 @@ void Journal_Writer::run() {
             return;
         }
         std::vector<Handed_Set> sets = std::exchange(waiting_, {});
+        if (is_lost_) {
+            is_idle_.notify_all();
+            continue;
+        }
         is_writing_ = true;
         lock.unlock();
         const bool is_done = write(sets);
         sets.clear();
         lock.lock();
         has_failed_ = !is_done;
+        is_lost_ = file_.is_lost();
         is_writing_ = false;
         is_idle_.notify_all();
     }

@@ -26,6 +26,8 @@ public:
     void drain();
     // Whether the last sets could not be written.
     [[nodiscard]] bool has_failed();
+    // Whether somebody has removed the journal since this was asked last. What was added before is lost.
+    [[nodiscard]] bool take_loss();
 
 private:
     void run();
@@ -39,6 +41,7 @@ private:
     bool is_writing_ = false;
     bool is_ending_ = false;
     bool has_failed_ = false;
+    bool is_lost_ = false; // what is added means nothing until that was taken
     std::thread thread_;
 };
 

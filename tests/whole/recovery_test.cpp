@@ -10,6 +10,8 @@
 #include "tileset/journal_file.h"
 #include "tileset/tileset_file.h"
 
+#include <SDL3/SDL_timer.h>
+
 #include <csignal>
 
 namespace quadrelle::testing {
@@ -179,6 +181,28 @@ TEST_F(Recovery_Test, sets_a_damaged_journal_aside_and_takes_what_is_whole) {
     EXPECT_EQ(files().size(), 20U + 2U) << "damaged ones, the new one and its lock";
     EXPECT_EQ(stored(path + ".damaged"), bytes);
 }
+
+#ifndef _WIN32
+TEST_F(Recovery_Test, begins_a_new_journal_where_somebody_has_removed_it) {
+    play(script().click(cell(3, 4)));
+    execute(Command::add_new_tile);
+    const auto move_until_there_is_a_journal = [this] {
+        for (int i = 0; i < 1000 && journal().empty(); ++i) {
+            play(script().motion(cell(i % 20, 6)));
+            SDL_Delay(2);
+        }
+    };
+    move_until_there_is_a_journal();
+    std::filesystem::remove_all(journals());
+    play(script().click(cell(5, 5)));
+    move_until_there_is_a_journal();
+    kill_and_start();
+    recover();
+    ASSERT_EQ(document().tileset().count(), 2);
+    EXPECT_EQ(document().tileset().tile_at(0).get_pixel(3, 4), white);
+    EXPECT_EQ(document().tileset().tile_at(1).get_pixel(5, 5), white);
+}
+#endif
 
 TEST_F(Recovery_Test, knows_what_the_files_of_a_set_were_like) {
     const std::string path = folder().path("set.qdl");
