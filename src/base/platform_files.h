@@ -24,6 +24,9 @@ void set_file_fault(std::string_view what);
 // Opens regular files only, in binary mode: it never waits for a pipe or a device. Returns null when it
 // cannot.
 [[nodiscard]] File_Handle open_file(const std::string& name, File_Mode mode);
+// Opens a new file for reading and writing that has no name, or goes when it is closed. Returns null when it
+// cannot.
+[[nodiscard]] File_Handle open_scratch_file();
 // Counts the bytes from the start to the end; -1 when that is unknown.
 [[nodiscard]] std::int64_t file_size(std::FILE* file);
 // Returns how many bytes were there to read.

@@ -188,6 +188,10 @@ std::string temporary_folder() {
     return named != nullptr && *named != '\0' ? named : "/tmp";
 }
 
+File_Handle open_scratch_file() {
+    return File_Handle(std::tmpfile());
+}
+
 bool change_directory(const std::string& name) {
     return chdir(name.c_str()) == 0;
 }

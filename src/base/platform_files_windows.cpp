@@ -185,6 +185,15 @@ std::string temporary_folder() {
     return folder.empty() ? "." : narrow(folder);
 }
 
+// `tmpfile` would ask for a place in the root of the drive.
+File_Handle open_scratch_file() {
+    std::wstring name(MAX_PATH, L'\0');
+    if (GetTempFileNameW(wide(temporary_folder()).c_str(), L"qdl", 0, name.data()) == 0) {
+        return nullptr;
+    }
+    return File_Handle(_wfopen(name.c_str(), L"w+bTD"));
+}
+
 bool change_directory(const std::string& name) {
     return SetCurrentDirectoryW(wide(name).c_str()) != 0;
 }

@@ -38,14 +38,27 @@ bool Map_History::add(const Tile_Map& before, const Tile_Map& after, const Map_S
     push(Map_Step(after, before, {-sides.left, -sides.top, -sides.right, -sides.bottom}));
     position_ = steps_.size();
     origin_ = {origin_.x + sides.left, origin_.y + sides.top};
-    forget_too_many();
+    make_room();
     return true;
 }
 
-void Map_History::forget_too_many() {
+void Map_History::put_aside(Map_Step& step) {
+    bytes_ -= step.memory_size();
+    step.put_aside(scratch_);
+    bytes_ += step.memory_size();
+}
+
+// First what the newest step made impossible, then what is farthest away.
+void Map_History::make_room() {
     while (bytes_ > most_bytes && !forgotten_.empty()) {
         bytes_ -= forgotten_.back().memory_size();
         forgotten_.pop_back();
+    }
+    for (std::size_t i = steps_.size(); bytes_ > most_bytes && i > position_ + 1; --i) {
+        put_aside(steps_[i - 1]);
+    }
+    for (std::size_t i = 0; bytes_ > most_bytes && i + 1 < position_; ++i) {
+        put_aside(steps_[i]);
     }
     while (bytes_ > most_bytes && position_ + 1 < steps_.size()) {
         pop_back();
@@ -70,7 +83,7 @@ bool Map_History::undo(Tile_Map& map) {
     }
     forget_what_newest_forgot();
     pass(--position_, map);
-    forget_too_many();
+    make_room();
     return true;
 }
 
@@ -80,7 +93,7 @@ bool Map_History::redo(Tile_Map& map) {
     }
     forget_what_newest_forgot();
     pass(position_++, map);
-    forget_too_many();
+    make_room();
     return true;
 }
 

@@ -7,13 +7,14 @@
 
 #include <cstddef>
 #include <deque>
+#include <memory>
 
 namespace quadrelle {
 
 class Map_History {
 public:
-    // Without a limit on steps: beyond so many bytes those that are farthest away are forgotten, but never
-    // the nearest.
+    // Without a limit on steps: beyond so many bytes those that are farthest away go to the disk, and are
+    // forgotten when it does not take them, but never the nearest.
     static constexpr std::size_t most_bytes = std::size_t{10} << 20U;
 
     // What was undone and not redone is forgotten. The sides say where the size has changed. False, with
@@ -38,7 +39,8 @@ private:
     void pop_front();
     void pass(std::size_t index, Tile_Map& map);
     void forget_what_newest_forgot();
-    void forget_too_many();
+    void make_room();
+    void put_aside(Map_Step& step);
 
     // Each leads to the map before it where it can be undone, and to the one behind it else.
     std::deque<Map_Step> steps_;
@@ -46,6 +48,7 @@ private:
     std::deque<Map_Step> forgotten_; // by the newest step
     std::size_t bytes_ = 0;          // of them all
     Map_Point origin_;
+    std::shared_ptr<Scratch_File> scratch_ = std::make_shared<Scratch_File>();
 };
 
 } // namespace quadrelle

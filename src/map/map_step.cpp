@@ -72,6 +72,12 @@ Map_Step::Map_Step(const Tile_Map& from, const Tile_Map& to, const Map_Sides& si
       changes_(sides == Map_Sides{} ? changes_between(from.cells(), to.cells())
                                     : changes_between(from.resized(sides).cells(), to.cells())) {}
 
+// Small ones would not make much room.
+bool Map_Step::put_aside(const std::shared_ptr<Scratch_File>& file) {
+    constexpr std::size_t smallest = 4096;
+    return changes_.kept_size() >= smallest && changes_.put_aside(file);
+}
+
 Map_Step Map_Step::apply(Tile_Map& map) const {
     if (sides_ == Map_Sides{}) {
         return Map_Step(exchange_runs(changes_.bytes(), map.cells()));

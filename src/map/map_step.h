@@ -7,6 +7,7 @@
 #include "map/tile_map.h"
 
 #include <cstddef>
+#include <memory>
 #include <utility>
 
 namespace quadrelle {
@@ -19,6 +20,8 @@ public:
     // Leads the map on, which must be as the first one was, and returns the way back.
     [[nodiscard]] Map_Step apply(Tile_Map& map) const;
     [[nodiscard]] const Map_Sides& sides() const { return sides_; }
+    // Lets the file keep it where it is large. False where it does not.
+    bool put_aside(const std::shared_ptr<Scratch_File>& file);
     [[nodiscard]] std::size_t memory_size() const { return sizeof(*this) + changes_.kept_size(); }
 
 private:

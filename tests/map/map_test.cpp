@@ -1,3 +1,4 @@
+#include "base/platform_files.h"
 #include "color/translucency.h"
 #include "map/edited_map.h"
 #include "map/map_painter.h"
@@ -318,19 +319,33 @@ TEST(Map_History, keeps_large_steps_in_few_bytes) {
     EXPECT_LT(map.history().bytes(), 4 * Map_History::most_bytes / 200);
 }
 
-TEST(Map_History, forgets_the_oldest_steps_rather_than_take_all_memory) {
-    Edited_Map map(Tile_Map({1000, 1000}));
-    std::mt19937 random(2);
-    for (int step = 0; step < 12; ++step) {
-        map.begin();
-        for (int i = 0; i < 200000; ++i) {
-            map.set({static_cast<int>(random() % 1000), static_cast<int>(random() % 1000)},
-                    Map_Cell(map.ids().id_of(static_cast<int>(random() % 200))));
+// They go to the disk, and are forgotten where it takes none.
+TEST(Map_History, the_oldest_steps_do_not_take_all_memory) {
+    for (const bool is_disk_full : {false, true}) {
+        set_file_fault_hook(is_disk_full ? [] { return true; } : File_Fault_Hook{});
+        std::vector<Tile_Map> maps;
+        Edited_Map map(Tile_Map({1000, 1000}));
+        std::mt19937 random(2);
+        for (int step = 0; step < 8; ++step) {
+            maps.push_back(map.map());
+            map.begin();
+            for (Map_Cell& cell : map.row_to_change({0, 0}, 1'000'000)) {
+                const auto number = static_cast<std::uint32_t>(random());
+                cell = Map_Cell(map.ids().id_of(static_cast<int>(number % 4000)),
+                                {number > 1U << 31U, number % 2 == 0, number % 3 == 0});
+            }
+            ASSERT_TRUE(map.commit());
+            ASSERT_LE(map.history().bytes(), Map_History::most_bytes);
         }
-        ASSERT_TRUE(map.commit());
-        ASSERT_LE(map.history().bytes(), Map_History::most_bytes);
+        int steps = 0;
+        for (; map.undo(); ++steps, maps.pop_back()) {
+            ASSERT_EQ(map.map(), maps.back());
+            ASSERT_LE(map.history().bytes(), Map_History::most_bytes);
+        }
+        EXPECT_EQ(maps.empty(), !is_disk_full);
+        EXPECT_GT(steps, 0);
+        set_file_fault_hook(nullptr);
     }
-    EXPECT_TRUE(map.undo());
 }
 
 // Seen from a tile as it is drawn, whichever way it lies in the map.
