@@ -4,10 +4,18 @@
 #include "app/editor.h"
 #include "canvas/canvas_view.h"
 
+#include <ctime>
+
 namespace quadrelle {
 
 double bench::seconds_since(Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+double bench::thread_seconds() {
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
 void bench::show_tile(Canvas_Case canvas) {

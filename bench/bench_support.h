@@ -9,6 +9,8 @@ namespace quadrelle::bench {
 using Clock = std::chrono::steady_clock;
 
 [[nodiscard]] double seconds_since(Clock::time_point start);
+// The processor time that this thread has taken so far: others may take its place meanwhile.
+[[nodiscard]] double thread_seconds();
 
 struct Canvas_Case {
     int tile_edge;

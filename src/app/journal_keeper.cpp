@@ -80,17 +80,29 @@ Journal_Keeper::~Journal_Keeper() {
     set_last_act({});
 }
 
+// Only the current document is changed. With hundreds of them it takes a while to look at all.
 void Journal_Keeper::follow() {
-    if (writer_.take_loss()) {
+    const Tileset_Document& current = documents_.current();
+    const bool is_lost = writer_.take_loss();
+    if (is_lost) {
         // All of it is told anew.
         for (auto& [number, followed] : followed_) {
             followed = {};
         }
     }
+    if (!is_lost && is_rest_told_ && current_ == current.number() &&
+        followed_.size() == documents_.all().size()) {
+        follow(current);
+        return;
+    }
+    current_ = current.number();
     for (const auto& document : documents_.all()) {
         follow(*document);
     }
     forget_closed();
+    is_rest_told_ = std::ranges::all_of(followed_, [this](const auto& entry) {
+        return entry.first == current_ || !entry.second.is_told || entry.second.in_file.empty();
+    });
 }
 
 void Journal_Keeper::follow(const Tileset_Document& document) {

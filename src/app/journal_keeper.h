@@ -66,6 +66,8 @@ private:
     const Canvas_View& canvas_;
     const Selection_Desk& desk_;
     std::map<Set_Number, Followed_Set> followed_;
+    Set_Number current_ = 0;
+    bool is_rest_told_ = false; // all of the other sets
     Journal_Writer writer_;
 };
 
