@@ -110,16 +110,10 @@ Outcome arrange_select(Editor_Parts& editor) {
 Outcome view_tile_array(Editor_Parts& editor) {
     Tileset& tileset = editor.documents.current().tileset();
     Canvas_View& canvas = editor.canvas;
-    const bool has_horizontal_shift = canvas.horizontal_seam_shift() != no_seam_shift;
-    const bool has_vertical_shift = canvas.vertical_seam_shift() != no_seam_shift;
-    canvas.undo_seam_shifts();
+    const Tile_Point shifts = canvas.seam_shifts();
+    canvas.restore_seam_shifts({});
     const std::optional<int> clicked = show_tile_array(tileset);
-    if (has_horizontal_shift) {
-        canvas.toggle_seam_shift(Seam::horizontal);
-    }
-    if (has_vertical_shift) {
-        canvas.toggle_seam_shift(Seam::vertical);
-    }
+    canvas.restore_seam_shifts(shifts);
     if (clicked && *clicked != tileset.current_index()) {
         editor.recorder.step([&] {
             editor.documents.go_to_tile(*clicked);

@@ -125,6 +125,9 @@ TEST_F(Seam_Test, what_was_lifted_comes_back_where_it_was_seen) {
     work.select(selected_rectangle({24, 24}, {15, 4}, {23, 8}), Selection_Change::add);
     play(script().drag({cell(17, 6), cell(23, 6)}));
     ASSERT_EQ(work.paste()->position, (Tile_Point{21, 4}));
+    script().key(key::escape);
+    execute(Command::view_tile_array);
+    EXPECT_EQ(work.paste()->position, (Tile_Point{21, 4}));
     execute(Command::horizontal_seam_tool);
     execute(Command::undo);
     EXPECT_EQ(work.paste()->position, (Tile_Point{21, 4}));
