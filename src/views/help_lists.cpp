@@ -50,7 +50,7 @@ constexpr std::array mouse_rows = std::to_array<Mouse_Row>({
     {"Click on a tile below, in View tile array", "goes to that tile"},
     {"Buttons of Tileset navigation",        "page through the tiles along the bottom, or go to the tile before or after"},
     {"Left, middle button in Arrange/Select", "chooses the primary, the secondary tile"},
-    {"Left, right button in Map editor",     "places tiles; picks one, or several by a drag"},
+    {"Left, right button in Map editor",     "places tiles; picks one, or several by a drag; a double click goes to the tile"},
     {"Click on a tab",                       "goes to that tileset; arrows beside the tabs lead to hidden ones"},
     {"Click in Previous copies",             "makes a copy the one that is pasted; a double click pastes it, a right click removes it"},
     {"Click on a menu",                      "opens it; a click elsewhere, or any key, closes it"},
