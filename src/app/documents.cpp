@@ -259,6 +259,12 @@ void Documents::mark_changed() {
     tell_watcher();
 }
 
+void Documents::mark_unchanged() {
+    current().clear_modified();
+    refresh_titles();
+    tell_watcher();
+}
+
 void Documents::tell_watcher() const {
     if (watcher_) {
         watcher_();

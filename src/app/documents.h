@@ -62,6 +62,8 @@ public:
 
     // Marks the current document and shows that in its title.
     void mark_changed();
+    // It is as its file is after all.
+    void mark_unchanged();
 
     void draw_tabs() const;
     // Goes on from the last one to the first. False without another document.

@@ -69,6 +69,12 @@ Outcome edit(Editor_Parts& editor) {
     editor.desk.settle_to_save();
     editor.undo_seam_shifts();
     const Map_Editor_Links links{[&editor] { editor.documents.mark_changed(); },
+                                 [&editor](bool was_modified) {
+                                     editor.documents.mark_changed();
+                                     if (!was_modified) {
+                                         editor.documents.mark_unchanged();
+                                     }
+                                 },
                                  [&editor] { return save(editor); }};
     Map_Editor map_editor(document, links);
     if (const std::optional<Map_Visit> visit = map_editor.run()) {

@@ -199,10 +199,6 @@ Color alpha_moved(Color color) {
     return {color.g, color.b, color.a, color.r};
 }
 
-std::size_t digit_count(std::string_view word) {
-    return word.size() - (word.starts_with('#') ? 1 : 0);
-}
-
 Palette_Reading read_hex_text(Text_Lines lines, std::string name, Alpha_Place alpha) {
     constexpr std::string_view name_comment = ";Palette Name:";
     std::vector<Color> colors;
@@ -220,7 +216,7 @@ Palette_Reading read_hex_text(Text_Lines lines, std::string name, Alpha_Place al
             if (!color) {
                 return refused_line(lines, word);
             }
-            const bool is_moved = alpha == Alpha_Place::first && digit_count(word) == 8;
+            const bool is_moved = alpha == Alpha_Place::first && word.size() == 8;
             colors.push_back(is_moved ? alpha_moved(*color) : *color);
         }
     }

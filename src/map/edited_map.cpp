@@ -162,7 +162,7 @@ void Edited_Map::ask_for_gone(const Bring_Back& bring_back) {
             ids_.returned(id, index);
         }
     }
-    empty_gone();
+    left_empty_ = empty_gone();
 }
 
 int Edited_Map::empty_gone() {

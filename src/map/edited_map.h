@@ -57,6 +57,8 @@ public:
     using Bring_Back = std::function<int(int id)>;
     bool undo(const Bring_Back& bring_back = {});
     bool redo(const Bring_Back& bring_back = {});
+    // Returns how many places the last of both left empty, as their tiles did not come back.
+    [[nodiscard]] int left_empty() const { return left_empty_; }
     // Takes the step that was just made back as if it had never been, also for what can be redone.
     bool take_back();
     [[nodiscard]] const Map_History& history() const { return history_; }
@@ -80,6 +82,7 @@ private:
     Tile_Map map_;
     std::optional<Tile_Map> before_;
     Map_History history_;
+    int left_empty_ = 0;
     std::uint64_t version_ = 0;
     mutable std::vector<int> uses_; // of each id, behind those of nothing
     mutable std::optional<std::uint64_t> uses_version_;

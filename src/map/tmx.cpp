@@ -60,6 +60,11 @@ private:
             fault_ = "It is no map.";
         } else if (tag.name == "tileset") {
             take_tileset(tag);
+            is_in_tileset_ = !tag.is_whole;
+        } else if (tag.name == "/tileset") {
+            is_in_tileset_ = false;
+        } else if (is_in_tileset_) {
+            return; // shapes of tiles, and the like
         } else if (tag.name == "layer") {
             require(++layers_ == 1, "It has several layers.");
         } else if (tag.name == "data") {
@@ -147,6 +152,7 @@ private:
     bool has_cells_ = false;
     bool has_ended_ = false;
     bool has_more_ = false;
+    bool is_in_tileset_ = false;
     std::string fault_;
 };
 

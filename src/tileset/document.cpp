@@ -2,6 +2,7 @@
 
 #include "selection/transforms.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quadrelle {
@@ -111,21 +112,21 @@ void Tileset_Document::forget_in_map(int index, const Tile& picture) {
         return;
     }
     if (const int id = map_->ids().known_id_of(index); id >= 0) {
-        gone_tiles_.emplace(id, picture);
+        gone_tiles_.push_back({id, picture});
     }
     if (gone_tiles_.size() > most_gone_tiles) {
-        gone_tiles_.erase(gone_tiles_.begin());
+        gone_tiles_.pop_front();
     }
     map_->tile_deleted(index);
 }
 
 int Tileset_Document::bring_tile_back(int id) {
-    const auto found = gone_tiles_.find(id);
+    const auto found = std::ranges::find(gone_tiles_, id, &Gone_Tile::id);
     if (found == gone_tiles_.end() || tileset_.is_full()) {
         return -1;
     }
     auto tile = std::make_unique<Tile>(tileset_.tile_width(), tileset_.tile_height());
-    found->second.resample_into(*tile);
+    found->picture.resample_into(*tile);
     gone_tiles_.erase(found);
     tileset_.append_loaded(std::move(tile));
     return tileset_.count() - 1;

@@ -14,7 +14,7 @@
 #include "tileset/undo_history.h"
 
 #include <cstdint>
-#include <map>
+#include <list>
 #include <memory>
 #include <optional>
 #include <string>
@@ -132,8 +132,12 @@ private:
     std::unique_ptr<Map_Desk> map_desk_;
     std::string map_file_;
     std::optional<File_Stamp> map_stamp_;
-    // Pictures of deleted tiles that the map knew, by their numbers there; those with the highest are kept.
-    std::map<int, Tile> gone_tiles_;
+    // Deleted tiles that the map knew, with their numbers there; those that went last are kept.
+    struct Gone_Tile {
+        int id;
+        Tile picture;
+    };
+    std::list<Gone_Tile> gone_tiles_;
     std::optional<Own_File> own_file_;
     bool is_modified_ = false;
     bool is_named_ = false;

@@ -28,6 +28,8 @@ class Tileset_Document;
 // What the map editor leaves to others.
 struct Map_Editor_Links {
     std::function<void()> note_change; // the map is another one than before
+    // The last change was none: the map is as it was before, when the document was modified, or was not.
+    std::function<void(bool was_modified)> note_taken_back;
     std::function<std::string()> save; // returns what came of it
 };
 
@@ -48,6 +50,13 @@ public:
     [[nodiscard]] bool is_map_unwanted() const { return is_map_unwanted_; }
 
 private:
+    // The first of what may become two clicks; all else that happens ends that.
+    struct First_Click {
+        Map_Point place;
+        bool has_placed = false;
+        bool was_modified = false; // the document, before
+    };
+
     void draw();
     void draw_outlines() const;
     void draw_hint() const;
@@ -74,7 +83,8 @@ private:
     void place(Map_Point cell);
     void take_stamp(Map_Point cell);
     void pan();
-    Loop_Step visit(Map_Point cell, bool has_placed);
+    Loop_Step visit(const First_Click& first);
+    void find_position();
 
     Loop_Step act(Map_Action action);
     Loop_Step ask_to_remove();
@@ -106,11 +116,6 @@ private:
     std::optional<Rectangle> taken_; // the cells that a drag takes
     Wheel_Steps wheel_;
     bool is_placing_ = false;
-    // The first of what may become two clicks; all else that happens ends that.
-    struct First_Click {
-        Map_Point place;
-        bool has_placed = false;
-    };
     std::optional<First_Click> first_click_;
     // What a fill reaches: of that version of the map.
     std::vector<Map_Run> region_;

@@ -44,19 +44,25 @@ Map_Gesture Map_Editor::gesture() {
             [this](Point point) {
                 pointer_ = point;
                 report_.clear();
-                if (is_over_map()) {
-                    position_ = cell_at(point);
-                }
+                find_position();
             },
             show_backdrop};
 }
 
 Loop_Step Map_Editor::handle_key(const Input_Event& event) {
     if (pan_by_key(event.chord)) {
+        find_position();
         return Loop_Step::go_on;
     }
     const std::optional<Map_Action> action = action_of_key(event);
     return action ? act(*action) : Loop_Step::go_on;
+}
+
+// The pointer may rest while the map moves below it.
+void Map_Editor::find_position() {
+    if (is_over_map()) {
+        position_ = cell_at(pointer_);
+    }
 }
 
 // By a cell at least, so that small ones go by as fast as large ones.
@@ -78,9 +84,7 @@ bool Map_Editor::pan_by_key(Key_Chord chord) {
 void Map_Editor::zoom(int steps, Point about) {
     camera().zoom(steps, about);
     camera().keep_in_view(map_.map().size());
-    if (is_over_map()) {
-        position_ = cell_at(pointer_);
-    }
+    find_position();
 }
 
 void Map_Editor::turn_wheel(const Input_Event& event) {
@@ -113,7 +117,7 @@ Loop_Step Map_Editor::press(const Input_Event& event) {
     const std::optional<First_Click> first_click = std::exchange(first_click_, std::nullopt);
     if (is_over_map() && event.pointer.button == Mouse_Button::left && event.clicks == 2 && first_click &&
         first_click->place == position_) {
-        return visit(position_, first_click->has_placed);
+        return visit(*first_click);
     }
     if (is_over_map()) {
         press_on_map(event);
@@ -164,6 +168,7 @@ void Map_Editor::press_on_map(const Input_Event& event) {
 }
 
 void Map_Editor::place(Map_Point cell) {
+    const bool was_modified = document_.is_modified();
     is_placing_ = true;
     const bool is_changed = place_while_held(map_, pattern(cell), tool(), cell, gesture());
     is_placing_ = false;
@@ -172,14 +177,16 @@ void Map_Editor::place(Map_Point cell) {
         links_.note_change();
     }
     if (position_ == cell) {
-        first_click_ = {cell, is_changed};
+        first_click_ = {cell, is_changed, was_modified};
     }
 }
 
 // The first of the two clicks was none that was meant to place something.
-Loop_Step Map_Editor::visit(Map_Point cell, bool has_placed) {
-    if (has_placed) {
+Loop_Step Map_Editor::visit(const First_Click& first) {
+    const Map_Point cell = first.place;
+    if (first.has_placed) {
         map_.take_back();
+        links_.note_taken_back(first.was_modified);
     }
     const int tile = map_.indexed(map_.map().at(cell)).tile();
     if (tile < 0 || tile >= tileset_.count()) {
@@ -257,6 +264,7 @@ Loop_Step Map_Editor::act(Map_Action action) {
     }
     follow_origin(origin);
     camera().keep_in_view(map_.map().size());
+    find_position();
     return Loop_Step::go_on;
 }
 
@@ -267,6 +275,10 @@ void Map_Editor::step_back_or_on(bool (Tileset_Document::*step)(), std::string_v
     if (tileset_.count() > tiles) {
         view_.take_tiles(tileset_);
         report_ = "The deleted tile is back, behind all others.";
+    }
+    if (map_.left_empty() > 0) {
+        report_ = std::to_string(map_.left_empty()) +
+                  " places stay empty: their tiles were deleted too long ago, or the set is full.";
     }
 }
 

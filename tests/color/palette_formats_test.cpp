@@ -38,6 +38,7 @@ TEST(Palette_Formats_Test, takes_what_other_programs_write) {
               "a.txt",
               "Dusk",
               {{1, 2, 3, 128}, {255, 128, 0}}},
+             {"#01020380", "a.txt", "a", {{1, 2, 3, 128}}},
              {"80010203\nff8000", "a.txt", "a", {{1, 2, 3, 128}, {255, 128, 0}}},
              {"JASC-PAL\r\n0100\r\n2\r\n\r\n1 2 3\r\n255 128 0\r\n",
               "a.pal",

@@ -126,11 +126,36 @@ TEST_F(Map_Editor_Test, a_double_click_goes_to_the_tile_that_was_there) {
     play(script().click(cell(3, 3)));
     EXPECT_NE(tile_pixel(3, 3), Color(80, 100, 200));
 
+    // To go there is no change.
+    document().clear_modified();
+    script().click(in_list(1)).click(at(10, 10)).second_press(at(10, 10));
+    execute(Command::map_editor);
+    EXPECT_FALSE(document().is_modified());
+
     // A key between two clicks makes them two presses.
     script().click(at(10, 10)).key('z', Modifier::control).second_press(at(10, 10)).release(at(10, 10));
     edit_map();
     EXPECT_EQ(tile_at(10, 10), 1);
     EXPECT_EQ(document().tileset().current_index(), 2);
+}
+
+TEST_F(Map_Editor_Test, tiles_that_were_deleted_last_come_back_with_their_places) {
+    make_tiles(70);
+    script().key(key::enter);
+    edit_map();
+    for (int tile = 0; tile < 70; ++tile) {
+        static_cast<void>(map().ids().id_of(tile));
+    }
+    script().click(in_list(5)).click(at(14, 10));
+    edit_map();
+    for (int tile = 69; tile >= 5; --tile) {
+        document().tileset().select(tile);
+        execute(Command::delete_tile);
+    }
+    EXPECT_EQ(tile_at(14, 10), -1);
+    script().key('z', Modifier::control);
+    edit_map();
+    EXPECT_EQ(tile_at(14, 10), 5);
 }
 
 TEST_F(Map_Editor_Test, shows_the_same_pictures_whatever_becomes_of_the_tiles) {
