@@ -42,7 +42,7 @@ void draw_and_record(int run) {
 }
 
 std::string file_of_many_tiles(unsigned count) {
-    const std::string path = std::filesystem::temp_directory_path() / "quadrelle_bench_many.qdl";
+    std::string path = (std::filesystem::temp_directory_path() / "quadrelle_bench_many.qdl").string();
     std::string bytes("QDL\n\0\1\1", 7);
     for (unsigned shift = 0; shift < 32; shift += 8) {
         bytes += static_cast<char>(count >> shift);
