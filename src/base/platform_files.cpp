@@ -1,8 +1,10 @@
 #include "base/platform_files.h"
 
 #include "base/platform_files_backend.h"
+#include "base/thread_end.h"
 
 #include <SDL3/SDL_filesystem.h>
+#include <SDL3/SDL_thread.h>
 
 #include <cerrno>
 #include <system_error>
@@ -160,6 +162,10 @@ std::string folder_part(const std::string& name) {
     const char* const separators = path_separator == '\\' ? "\\/:" : "/";
     const std::size_t end = name.find_last_of(separators);
     return end == std::string::npos ? std::string() : name.substr(0, end + 1);
+}
+
+void release_thread_memory() {
+    SDL_CleanupTLS();
 }
 
 } // namespace quadrelle

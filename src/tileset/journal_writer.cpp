@@ -1,6 +1,7 @@
 #include "tileset/journal_writer.h"
 
 #include "base/end_signals.h"
+#include "base/thread_end.h"
 
 #include <chrono>
 #include <exception>
@@ -68,6 +69,7 @@ void Journal_Writer::run() {
     while (true) {
         has_work_.wait(lock, [this] { return is_ending_ || !waiting_.empty(); });
         if (is_ending_) {
+            release_thread_memory();
             return;
         }
         std::vector<Handed_Set> sets = std::exchange(waiting_, {});
