@@ -15,7 +15,7 @@ class Map_History {
 public:
     // Without a limit on steps: beyond so many bytes those that are farthest away go to the disk, and are
     // forgotten when it does not take them, but never the nearest.
-    static constexpr std::size_t most_bytes = std::size_t{10} << 20U;
+    static constexpr std::size_t most_bytes = std::size_t{8} << 20U;
 
     // What was undone and not redone is forgotten. The sides say where the size has changed. False, with
     // nothing added, where both are the same.
