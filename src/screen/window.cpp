@@ -76,6 +76,12 @@ Size room_on_display(SDL_Window* window) {
     return {std::max(usable.w - left - right, 1), std::max(usable.h - top - bottom, 1)};
 }
 
+// The system answers 0 when it does not know.
+float density_of(SDL_Window* window) {
+    const float density = SDL_GetWindowPixelDensity(window);
+    return density > 0 ? density : 1;
+}
+
 bool counts_in_pixels() {
     const char* const driver = SDL_GetCurrentVideoDriver();
     return driver == nullptr || std::string_view(driver) != "wayland";
@@ -149,8 +155,7 @@ Window_View::Position Window::in_drawing(Window_View::Position in_system) const 
 // A size that the system does not give is made good by the view.
 void Window::fit_to_display() {
     fits_display_ = true;
-    density_ = SDL_GetWindowPixelDensity(window_.get());
-    density_ = density_ > 0 ? density_ : 1;
+    density_ = density_of(window_.get());
     const Size wanted = wanted_window(size_, SDL_GetWindowDisplayScale(window_.get()),
                                       times(room_on_display(window_.get()), density_));
     const Size in_system = times(wanted, 1 / density_);
@@ -174,7 +179,7 @@ Pixel_Rows Window::pixels() {
         return own_pixels();
     }
     view_ = Window_View(size_, {surface->w, surface->h});
-    density_ = SDL_GetWindowPixelDensity(window_.get());
+    density_ = density_of(window_.get());
     if (!view_.is_plain() || !has_layout_of_colors(*surface)) {
         return own_pixels();
     }

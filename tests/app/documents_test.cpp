@@ -21,6 +21,11 @@ const std::string close_question = "Current tileset is not saved. Close it anywa
 
 class Documents_Test : public Program_Test {
 protected:
+    // Of files that others have written to.
+    Script& expect_overwriting(const std::string& who_wrote) {
+        return expect_question("Save", who_wrote + "since it was loaded or saved here. Overwrite that?",
+                               Button_Type::overwrite);
+    }
     static Documents& documents() { return editor->documents(); }
     static std::string name() { return document().file_name(); }
 
@@ -182,25 +187,21 @@ TEST_F(Documents_Test, what_others_wrote_is_not_overwritten_without_a_question) 
     const Bytes from_tab = stored(path);
     ASSERT_TRUE(documents().close_document());
     draw_pixel(2, 2);
-    const auto expect_overwriting = [&]() -> Script& {
-        return expect_question(
-            "Save",
-            "tiles.qdl has been written by another program or from another tab\rsince it was "
-            "loaded or saved here. Overwrite that?",
-            Button_Type::overwrite);
-    };
-    expect_overwriting().key(key::escape);
+    expect_overwriting("tiles.qdl has been written by another program or from another tab\r")
+        .key(key::escape);
     execute(Command::save);
     EXPECT_EQ(stored(path), from_tab);
     EXPECT_TRUE(document().is_modified());
-    expect_overwriting().key(key::enter);
+    expect_overwriting("tiles.qdl has been written by another program or from another tab\r").key(key::enter);
     execute(Command::save);
     EXPECT_NE(stored(path), from_tab);
     EXPECT_EQ(stored(previous_copies().path_for(path)), from_tab);
     // What was only touched is the same, and what was removed is no loss.
     for (const bool is_removed : {false, true}) {
         std::filesystem::last_write_time(native(path), std::filesystem::file_time_type::clock::now());
-        is_removed&& std::filesystem::remove(native(path));
+        if (is_removed) {
+            std::filesystem::remove(native(path));
+        }
         draw_pixel(3, 3 + (is_removed ? 1 : 0));
         execute(Command::save);
         EXPECT_FALSE(document().is_modified());
@@ -217,11 +218,7 @@ TEST_F(Documents_Test, what_others_wrote_into_the_map_is_not_overwritten_without
     store(map, {'x'});
     document().set_map(Tile_Map({5, 6}));
     draw_pixel(1, 1);
-    expect_question("Save",
-                    "level.map has been written by another program or from another tab\rsince it was "
-                    "loaded or saved here. Overwrite that?",
-                    Button_Type::overwrite)
-        .key(key::enter);
+    expect_overwriting("level.map has been written by another program or from another tab\r").key(key::enter);
     execute(Command::save);
     const std::string copy = previous_copies().path_for(path);
     EXPECT_EQ(stored(map_path(copy)), (Bytes{'x'}));
@@ -229,10 +226,7 @@ TEST_F(Documents_Test, what_others_wrote_into_the_map_is_not_overwritten_without
     store(path, stored(copy));
     document().remove_map();
     draw_pixel(2, 2);
-    expect_question("Save",
-                    "level.qdl and level.map have been written by another program or from another "
-                    "tab\rsince it was loaded or saved here. Overwrite that?",
-                    Button_Type::overwrite)
+    expect_overwriting("level.qdl and level.map have been written by another program or from another tab\r")
         .key(key::enter);
     execute(Command::save);
     EXPECT_FALSE(std::filesystem::exists(native(map)));
